@@ -1,0 +1,99 @@
+#include "PlainCamera.h"
+#include "Row.h"
+#include "Screen.h"
+#include "imageformat/ImageFormatWidget.h"
+#include "regions/RubberBandLabel.h"
+#include "ui_AOIWidget.h"
+#include "ui_AutoROIWidget.h"
+#include "ui_ImageFormatWidget.h"
+
+#include <algorithm>
+
+// Opening the page and painting it once, on cameras with few and with very many features.
+
+namespace {
+
+constexpr QSize windowSize(1000, 900);
+constexpr int pixelsWide = 5120;
+constexpr int pixelsHigh = 3840;
+
+template <typename Form> QWidget* formPage(const QString& groupName)
+{
+    auto* page = new QWidget;
+    Form().setupUi(page);
+    auto* group = page->findChild<QWidget*>(groupName);
+    group->layout()->addWidget(new RubberBandLabel(pixelsWide, pixelsHigh, Qt::blue, group));
+    return page;
+}
+
+/// What the page consists of, without a camera.
+QWidget* formsAlone(const QString& styleSheet)
+{
+    auto* page = new QWidget;
+    page->setStyleSheet(styleSheet);
+    Ui::ImageFormatWidget form;
+    form.setupUi(page);
+    form.tabWidget->addTab(formPage<Ui::AOIWidget>(QStringLiteral("gb_AOI")),
+                           QStringLiteral("AOI"));
+    form.tabWidget->addTab(formPage<Ui::AutoROIWidget>(QStringLiteral("gb_AutoROI")),
+                           QStringLiteral("Auto AOI"));
+    form.tabWidget->setCurrentIndex(0);
+    return page;
+}
+
+/// Holds the page that was opened last.
+class Desk
+{
+public:
+    void open(QWidget* page) { m_window = Screen::show(page, windowSize); }
+    void clear() { m_window.reset(); }
+
+private:
+    std::unique_ptr<QWidget> m_window;
+};
+
+Contest openingContest(int features)
+{
+    const auto camera = std::make_shared<PlainCamera>(cameraWith(features, 0));
+    const auto desk = std::make_shared<Desk>();
+    const auto openPage = [=] { desk->open(new ImageFormatWidget(camera->features(), nullptr)); };
+    const QString styleSheet = ImageFormatWidget(camera->features(), nullptr).styleSheet();
+    camera->resetCalls();
+    openPage();
+    const auto calls = static_cast<double>(camera->calls());
+    return {openPage,
+            [=] { desk->open(formsAlone(styleSheet)); },
+            {{"features", camera->features()->size()}, {"SDK-calls", calls}},
+            [desk] { desk->clear(); }};
+}
+
+double openingSeconds(int features)
+{
+    const PlainCamera camera(cameraWith(features, 0));
+    Desk desk;
+    std::vector<double> samples;
+    for (int i = 0; i < 15; ++i) {
+        desk.clear();
+        samples.push_back(
+            secondsOf([&] { desk.open(new ImageFormatWidget(camera.features(), nullptr)); }));
+    }
+    return percentilesOf(samples).p50;
+}
+
+} // namespace
+
+void addOpeningRows()
+{
+    const std::pair<int, std::optional<double>> rows[]
+        = {{50, std::nullopt}, {400, 2.0}, {1000, std::nullopt}, {5000, std::nullopt}};
+    for (const auto& [features, target] : rows)
+        addComparison("open/" + std::to_string(features), "the same forms without a camera", target,
+                      {40, 4}, [features = features] { return openingContest(features); });
+    addMeasurement("open/growth", "time a feature, 5000 against 1000", 1.2, [] {
+        // What a page costs without its features is taken off.
+        const double few = openingSeconds(50);
+        const double many = openingSeconds(1000) - few;
+        const double veryMany = openingSeconds(5000) - few;
+        return Measurement{veryMany / 4950.0 / (many / 950.0)};
+    });
+}

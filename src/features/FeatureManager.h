@@ -1,0 +1,141 @@
+#pragma once
+
+#include "features/IntegerState.h"
+#include "features/ZebFeatureWrapper.h"
+
+#include <QSharedPointer>
+#include <QString>
+#include <QStringList>
+#include <QVariant>
+#include <QVector>
+
+/// Typed access to the features of one camera by name.
+///
+/// Most operations take one or two alternative names, tried in order when the one before is
+/// missing, so that one page serves cameras of different generations. Names are compared byte by
+/// byte; the first feature of that name wins.
+///
+/// Nothing throws. What is missing or cannot be read has a fixed value: -1 for numbers, false,
+/// empty texts, data type unknown.
+class FeatureManager
+{
+public:
+    using Wrappers = QSharedPointer<QVector<ZebFeatureWrapperPtr>>;
+
+    explicit FeatureManager(const Wrappers& features);
+    virtual ~FeatureManager();
+
+    FeatureManager(const FeatureManager&) = delete;
+    FeatureManager& operator=(const FeatureManager&) = delete;
+
+    /// The value as a number, by the feature's data type; booleans are 0 or 1.
+    virtual double GetValue(const QString& name);
+    virtual double GetValue(const QString& name, const QString& alternative);
+    virtual double GetValue(const QString& name, const QString& alternative1,
+                            const QString& alternative2);
+    virtual QString GetStringValue(const QString& name);
+    virtual QString GetStringValue(const QString& name, const QString& alternative);
+    virtual bool IsWritable(const QString& name);
+    virtual bool IsWritable(const QString& name, const QString& alternative);
+    virtual bool IsWritable(const QString& name, const QString& alternative1,
+                            const QString& alternative2);
+    virtual bool IsReadable(const QString& name);
+    virtual double GetIncrement(const QString& name);
+    virtual double GetIncrement(const QString& name, const QString& alternative);
+    /// The camera's own name of the first candidate that exists.
+    virtual QString GetExistingName(const QStringList& candidates);
+    virtual QString GetDisplayName(const QString& name);
+    virtual QString GetDisplayName(const QString& name, const QString& alternative);
+    virtual QString GetDisplayName(const QString& name, const QString& alternative1,
+                                   const QString& alternative2);
+    virtual QString GetDisplayName(const QStringList& candidates);
+
+    /// Value, writability, range and increment as the camera reports them. A missing feature
+    /// leaves the outputs untouched, one that is no number sets the numbers to -1.
+    virtual double GetValueState(const QString& name, bool& writable, double& minimum,
+                                 double& maximum, double& increment);
+    virtual double GetValueState(const QString& name, const QString& alternative, bool& writable,
+                                 double& minimum, double& maximum, double& increment);
+    virtual double GetValueState(const QString& name, const QString& alternative1,
+                                 const QString& alternative2, bool& writable, double& minimum,
+                                 double& maximum, double& increment);
+
+    /// As GetValueState() without the writability, fit for an input field: the maximum of an
+    /// integer lies on a whole multiple of its increment (counted from 0, as SetValue() writes it),
+    /// and a float without an increment gets 0.01.
+    virtual double GetValueRange(const QString& name, double& minimum, double& maximum,
+                                 double& increment);
+    virtual double GetValueRange(const QString& name, const QString& alternative, double& minimum,
+                                 double& maximum, double& increment);
+    virtual double GetValueRange(const QString& name, const QString& alternative1,
+                                 const QString& alternative2, double& minimum, double& maximum,
+                                 double& increment);
+
+    virtual double GetValueLimits(const QString& name, double& minimum, double& maximum);
+    virtual double GetValueLimits(const QString& name, const QString& alternative, double& minimum,
+                                  double& maximum);
+    virtual double GetValueLimits(const QString& name, const QString& alternative1,
+                                  const QString& alternative2, double& minimum, double& maximum);
+
+    /// The text of a feature that can be written; empty for any other.
+    virtual QString GetWritableStringValue(const QString& name);
+    virtual QStringList GetEnumEntries(const QString& name);
+    virtual QStringList GetEnumEntries(const QString& name, const QString& alternative);
+    virtual bool HasFeature(const QString& name, const QString& alternative1,
+                            const QString& alternative2);
+    virtual bool HasFeature(const QString& name, const QString& alternative);
+    virtual bool HasFeature(const QString& name);
+    virtual bool IsFeatureWritable(const QString& name, const QString& alternative1,
+                                   const QString& alternative2);
+    virtual bool IsFeatureWritable(const QString& name, const QString& alternative);
+    virtual bool IsFeatureWritable(const QString& name);
+    virtual bool IsFloatFeature(const QString& name);
+    virtual bool IsFloatFeature(const QString& name, const QString& alternative);
+    virtual bool IsFloatFeature(const QString& name, const QString& alternative1,
+                                const QString& alternative2);
+
+    /// Writes a text or an enumeration entry and answers what the camera then reports under the
+    /// primary name, also when an alternative was written.
+    virtual QString SetStringValue(const QString& name, const QString& value);
+    virtual QString SetStringValue(const QString& name, const QString& alternative,
+                                   const QString& value);
+    virtual QString SetStringValue(const QString& name, const QString& alternative1,
+                                   const QString& alternative2, const QString& value);
+
+    /// Writes a number, aligned to the increment (counted from 0) and then clamped to the range,
+    /// and answers the value in effect afterwards. A boolean is set by any value above 0.
+    virtual double SetValue(const QString& name, double value);
+    virtual double SetValue(const QString& name, const QString& alternative, double value);
+    virtual double SetValue(const QString& name, const QString& alternative1,
+                            const QString& alternative2, double value);
+
+    virtual bool RunCommand(const QString& name);
+    virtual QString GetCategory(const QString& name);
+    virtual bool IsValueAvailable(const QString& name, const QString& value);
+    virtual QStringList GetSelectedFeatureNames(const QString& name);
+    virtual ZebFeatureDataType GetDataType(const QString& name);
+    virtual QString GetRepresentation(const QString& name);
+    /// Rich text for tool tips: description, type, range, increment and category.
+    virtual QString GetInformation(const QString& name);
+    virtual QStringList GetFeatureNames();
+
+    /// Writes any kind of value and runs commands. True when the feature exists, can be written and
+    /// the camera took the value.
+    virtual bool SetVariantValue(const QString& name, const QVariant& value);
+
+    virtual QString GetUnit(const QString& name);
+    virtual QString GetToolTip(const QString& name);
+    virtual QString GetDescription(const QString& name);
+
+    /// An integer without the detour by way of double, which loses digits beyond 2^53.
+    virtual IntegerState GetIntegerState(const QString& name, bool& writable);
+
+private:
+    /// Empty when no name matches.
+    ZebFeatureWrapperPtr find(const QString& name) const;
+    ZebFeatureWrapperPtr find(const QString& name, const QString& alternative1,
+                              const QString& alternative2 = {}) const;
+    ZebFeatureWrapperPtr findFirst(const QStringList& candidates) const;
+
+    Wrappers m_features;
+};

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "features/ZebFeatureWrapper.h"
+
+#include <QString>
+#include <QVariant>
+
+/// Writes of one feature, by its data type. Failures are logged under @p name and never retried,
+/// except where the functions say so.
+namespace FeatureWriting {
+
+struct Result
+{
+    double value; ///< What the camera holds afterwards.
+    bool taken;   ///< The camera accepted the value as it was given to it.
+};
+
+/// Numbers are aligned to the increment, counted from 0, and then clamped to the range; what is not
+/// writable is only read back. A float that the camera refuses is followed by one write of its
+/// present value on the increment. A feature that is no number answers @p value, not taken.
+Result writeNumber(ZebFeatureWrapper& feature, const QString& name, double value);
+
+bool writeText(ZebFeatureWrapper& feature, const QString& value);
+
+/// Any type: numbers as writeNumber(), whole numbers with all their 64 bits; texts and entries as
+/// text; bytes; commands run. False when the feature cannot be written or refuses.
+bool writeVariant(ZebFeatureWrapper& feature, const QString& name, const QVariant& value);
+
+} // namespace FeatureWriting

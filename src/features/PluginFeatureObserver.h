@@ -1,0 +1,24 @@
+#pragma once
+
+#include <ZebCPP/ZebCPP.h>
+
+#include <QObject>
+#include <QString>
+
+/// Turns the SDK's change notifications into a Qt signal.
+///
+/// The signal is emitted on the thread that the SDK notifies on. The object has no state, so
+/// notifications may come from several threads at once.
+class PluginFeatureObserver : public QObject, public ZebCPP::IFeatureObserver
+{
+    Q_OBJECT
+
+public:
+    PluginFeatureObserver() = default;
+
+    void FeatureChanged(const ZebCPP::FeaturePtr& feature) override;
+
+signals:
+    /// @p sValue is the value as text, empty when it could not be read.
+    void setChangedFeature(const QString& featureName, const QString& sValue);
+};

@@ -1,0 +1,68 @@
+#include "FeatureInfo.h"
+
+#include "features/NumberConversion.h"
+
+#include <cmath>
+
+QVariant toVariant(const FeatureValue& value)
+{
+    if (const auto* integer = std::get_if<std::int64_t>(&value))
+        return QVariant::fromValue<qint64>(*integer);
+    if (const auto* number = std::get_if<double>(&value))
+        return *number;
+    if (const auto* flag = std::get_if<bool>(&value))
+        return *flag;
+    return toText(value);
+}
+
+FeatureValue toFeatureValue(const QVariant& value)
+{
+    switch (static_cast<QMetaType::Type>(value.type())) {
+    case QMetaType::Bool:
+        return value.toBool();
+    case QMetaType::Int:
+    case QMetaType::LongLong:
+        return std::int64_t{value.toLongLong()};
+    case QMetaType::Double:
+        return value.toDouble();
+    default:
+        return value.toString().toStdString();
+    }
+}
+
+bool isSameValue(const QVariant& left, const QVariant& right)
+{
+    if (left.type() == QVariant::Double && right.type() == QVariant::Double)
+        return left.toDouble() == right.toDouble();
+    return left == right;
+}
+
+std::optional<double> toNumber(const std::optional<FeatureValue>& value)
+{
+    if (!value)
+        return {};
+    if (const auto* number = std::get_if<double>(&*value))
+        return std::isnan(*number) ? std::optional<double>() : *number;
+    if (const auto* integer = std::get_if<std::int64_t>(&*value))
+        return static_cast<double>(*integer);
+    if (const auto* flag = std::get_if<bool>(&*value))
+        return *flag ? 1.0 : 0.0;
+    return {};
+}
+
+std::optional<std::int64_t> toInteger(const std::optional<FeatureValue>& value)
+{
+    if (!value)
+        return {};
+    if (const auto* integer = std::get_if<std::int64_t>(&*value))
+        return *integer;
+    if (const auto number = toNumber(value))
+        return toInt64(*number);
+    return {};
+}
+
+QString toText(const FeatureValue& value)
+{
+    const auto* text = std::get_if<std::string>(&value);
+    return text ? QString::fromStdString(*text) : QString();
+}

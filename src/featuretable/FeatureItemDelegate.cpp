@@ -1,0 +1,167 @@
+#include "FeatureItemDelegate.h"
+
+#include "CellText.h"
+#include "DelegateWidget.h"
+#include "DelegateWidgetFactory.h"
+
+#include <QComboBox>
+#include <QDebug>
+#include <QPointer>
+#include <QPushButton>
+#include <QSpinBox>
+
+#include <algorithm>
+
+namespace {
+
+int heightOfEditors()
+{
+    return std::max({QComboBox().sizeHint().height(), QPushButton().sizeHint().height(),
+                     QSpinBox().sizeHint().height()});
+}
+
+// The view would not get the focus back by itself, for it is a control inside the editor that has
+// it.
+void returnFocus(const QWidget& editor)
+{
+    const QWidget* focused = editor.window()->focusWidget();
+    if (editor.isAncestorOf(focused) && editor.parentWidget())
+        editor.parentWidget()->setFocus();
+}
+
+} // namespace
+
+FeatureItemDelegate::FeatureItemDelegate(QWidget* table)
+    : QStyledItemDelegate(table)
+    , m_editorHeight(heightOfEditors())
+{
+}
+
+QWidget* FeatureItemDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem&,
+                                           const QModelIndex& index) const
+{
+    const QVariant data = index.data(Qt::UserRole);
+    const auto info = data.value<FeatureInfo>();
+    DelegateWidget* editor
+        = data.canConvert<FeatureInfo>() ? createDelegateWidget(info, parent) : nullptr;
+    if (!editor) {
+        qDebug() << "Cannot create delegate widget for " << QString::fromStdString(info.name);
+        return nullptr;
+    }
+    using Self = FeatureItemDelegate;
+    connect(editor, &DelegateWidget::editingFinished, this, &Self::commitAndCloseEditor);
+    connect(editor, &DelegateWidget::newBoolValueToSet, this, &Self::commitAndCloseEditor);
+    connect(editor, &DelegateWidget::newStringValueToSet, this, &Self::commitAndCloseEditor);
+    connect(editor, &DelegateWidget::newIntValueToSet, this, &Self::commitAndCloseEditor);
+    connect(editor, &DelegateWidget::sliderValueChanged, this, &Self::commitEditor);
+    connect(editor, &DelegateWidget::editingCancelled, this, &Self::onClose);
+    return editor;
+}
+
+void FeatureItemDelegate::setEditorData(QWidget* editor, const QModelIndex& index) const
+{
+    auto* widget = qobject_cast<DelegateWidget*>(editor);
+    if (!widget) {
+        qDebug() << "Unhandled class: " << editor->metaObject()->className();
+        return;
+    }
+    const auto info = index.data(Qt::UserRole).value<FeatureInfo>();
+    widget->fill(index.data(Qt::DisplayRole), toVariant(info.value));
+}
+
+void FeatureItemDelegate::setModelData(QWidget* editor, QAbstractItemModel* model,
+                                       const QModelIndex& index) const
+{
+    auto* widget = qobject_cast<DelegateWidget*>(editor);
+    if (!widget) {
+        qDebug() << "Unhandled class: " << editor->metaObject()->className();
+        return;
+    }
+    if (const QVariant value = widget->takeNewValue(); value.isValid())
+        model->setData(index, value, Qt::DisplayRole);
+}
+
+void FeatureItemDelegate::updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,
+                                               const QModelIndex&) const
+{
+    editor->setGeometry(option.rect);
+}
+
+QSize FeatureItemDelegate::sizeHint(const QStyleOptionViewItem& option,
+                                    const QModelIndex& index) const
+{
+    return QStyledItemDelegate::sizeHint(option, index).expandedTo({0, m_editorHeight});
+}
+
+void FeatureItemDelegate::commitEditor()
+{
+    if (auto* editor = qobject_cast<DelegateWidget*>(sender()))
+        emit commitData(editor);
+    else
+        qDebug() << "Cannot get sender widget.";
+}
+
+void FeatureItemDelegate::commitAndCloseEditor()
+{
+    const QPointer<DelegateWidget> editor = qobject_cast<DelegateWidget*>(sender());
+    if (!editor) {
+        qDebug() << "Cannot get sender widget.";
+        return;
+    }
+    // Whoever hears of the new value may close the editor.
+    const QPointer<FeatureItemDelegate> self(this);
+    emit commitData(editor);
+    if (self && editor)
+        closeEnded(editor);
+}
+
+void FeatureItemDelegate::onClose()
+{
+    DelegateWidget* editor = openEditor();
+    if (!editor)
+        return;
+    editor->end();
+    closeEnded(editor);
+}
+
+void FeatureItemDelegate::closeEnded(DelegateWidget* editor)
+{
+    // The change of focus is heard outside, too.
+    const QPointer<FeatureItemDelegate> self(this);
+    const QPointer<DelegateWidget> watched(editor);
+    returnFocus(*editor);
+    if (self && watched)
+        emit closeEditor(editor, NoHint);
+}
+
+QString FeatureItemDelegate::editedFeature() const
+{
+    const DelegateWidget* editor = openEditor();
+    return editor ? editor->featureName() : QString();
+}
+
+// An editor that has ended is closed and awaits its deletion.
+DelegateWidget* FeatureItemDelegate::openEditor() const
+{
+    const auto editors = parent()->findChildren<DelegateWidget*>();
+    const auto open = std::find_if(editors.begin(), editors.end(),
+                                   [](const DelegateWidget* each) { return !each->hasEnded(); });
+    return open == editors.end() ? nullptr : *open;
+}
+
+void FeatureItemDelegate::initStyleOption(QStyleOptionViewItem* option,
+                                          const QModelIndex& index) const
+{
+    QStyledItemDelegate::initStyleOption(option, index);
+    const QVariant info = index.data(Qt::UserRole);
+    if (info.canConvert<FeatureInfo>())
+        option->text = cellText(info.value<FeatureInfo>(), index.data(Qt::DisplayRole));
+}
+
+bool FeatureItemDelegate::eventFilter(QObject* watched, QEvent* event)
+{
+    // The editors look after keys and focus themselves; the base would commit a second time.
+    Q_UNUSED(watched)
+    Q_UNUSED(event)
+    return false;
+}

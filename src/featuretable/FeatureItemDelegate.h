@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QSize>
+#include <QStyledItemDelegate>
+
+class DelegateWidget;
+
+/// Draws the value cells and edits them in place, by the FeatureInfo that each carries under
+/// Qt::UserRole. Its parent is the table.
+class FeatureItemDelegate : public QStyledItemDelegate
+{
+    Q_OBJECT
+
+public:
+    explicit FeatureItemDelegate(QWidget* table);
+
+    QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option,
+                          const QModelIndex& index) const override;
+    void setEditorData(QWidget* editor, const QModelIndex& index) const override;
+    void setModelData(QWidget* editor, QAbstractItemModel* model,
+                      const QModelIndex& index) const override;
+    void updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,
+                              const QModelIndex& index) const override;
+    /// High enough for every kind of editor.
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+
+    bool isEditing() const { return openEditor() != nullptr; }
+    /// The name of the feature whose editor is open; empty when none is.
+    QString editedFeature() const;
+
+public slots:
+    /// Slots of the editors' signals.
+    void commitEditor();
+    void commitAndCloseEditor();
+    /// Closes an open editor without committing it.
+    void onClose();
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    DelegateWidget* openEditor() const;
+    void closeEnded(DelegateWidget* editor);
+
+    int m_editorHeight;
+};

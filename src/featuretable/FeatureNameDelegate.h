@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QStyledItemDelegate>
+
+/// Draws the feature names. Their dark green is meant for light backgrounds and is lightened on a
+/// dark one. Every name asks for the width of the longest, so that the column keeps its width while
+/// rows are scrolled or filtered, and the view has to measure visible rows only.
+///
+/// To be installed when the names are in the model; they are measured once for each font.
+class FeatureNameDelegate : public QStyledItemDelegate
+{
+    Q_OBJECT
+
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override;
+
+private:
+    mutable QFont m_measuredFont;
+    mutable int m_widestName = -1;
+};

@@ -1,0 +1,28 @@
+#include "FeatureValueItem.h"
+
+#include "CellText.h"
+
+#include <QSignalBlocker>
+#include <QTableWidget>
+
+QVariant FeatureValueItem::data(int role) const
+{
+    if (role != Qt::AccessibleTextRole)
+        return QTableWidgetItem::data(role);
+    const QVariant info = data(Qt::UserRole);
+    if (!info.canConvert<FeatureInfo>())
+        return data(Qt::DisplayRole);
+    return accessibleCellText(info.value<FeatureInfo>(), data(Qt::DisplayRole));
+}
+
+void FeatureValueItem::setData(int role, const QVariant& value)
+{
+    // The base keeps a value that QVariant takes for equal, and floating-point numbers are compared
+    // loosely there.
+    const bool isValue = role == Qt::DisplayRole || role == Qt::EditRole;
+    if (isValue && tableWidget() && data(role) == value) {
+        const QSignalBlocker blocker(tableWidget()->model());
+        QTableWidgetItem::setData(role, {});
+    }
+    QTableWidgetItem::setData(role, value);
+}

@@ -1,0 +1,291 @@
+#include "FeaturesTableWidget.h"
+
+#include "FeatureFilter.h"
+#include "FeatureInfoReading.h"
+#include "FeatureItemDelegate.h"
+#include "FeatureNameDelegate.h"
+#include "FeatureValueItem.h"
+#include "MyTableWidget.h"
+#include "features/FeatureManager.h"
+
+#include <QBrush>
+#include <QDebug>
+#include <QHeaderView>
+#include <QPointer>
+#include <QScopedValueRollback>
+#include <QSignalBlocker>
+#include <QVBoxLayout>
+
+namespace {
+
+QBrush nameBrush(bool writable)
+{
+    return QColor(writable ? QStringLiteral("#006400") : QStringLiteral("grey"));
+}
+
+class UpdatesSuspended
+{
+public:
+    explicit UpdatesSuspended(QWidget& widget)
+        : m_widget(widget)
+        , m_before(widget.updatesEnabled())
+    {
+        widget.setUpdatesEnabled(false);
+    }
+    ~UpdatesSuspended() { m_widget.setUpdatesEnabled(m_before); }
+
+    Q_DISABLE_COPY(UpdatesSuspended)
+
+private:
+    QWidget& m_widget;
+    const bool m_before;
+};
+
+void setEditable(QTableWidgetItem& item, bool editable)
+{
+    item.setFlags(item.flags().setFlag(Qt::ItemIsEditable, editable));
+}
+
+bool isEditable(const QTableWidgetItem& item)
+{
+    return item.flags().testFlag(Qt::ItemIsEditable);
+}
+
+} // namespace
+
+FeaturesTableWidget::FeaturesTableWidget(const QStringList& features, FeatureManager* manager,
+                                         QWidget* parent)
+    : QWidget(parent)
+    , m_manager(manager)
+    , m_table(new MyTableWidget(this))
+    , m_delegate(new FeatureItemDelegate(m_table))
+{
+    qRegisterMetaType<FeatureInfo>("FeatureInfo");
+    m_table->setObjectName(QStringLiteral("tblFeatures"));
+    auto* column = new QVBoxLayout;
+    column->setContentsMargins(2, 2, 2, 2);
+    column->addWidget(m_table);
+    setLayout(column);
+
+    m_table->setItemDelegateForColumn(ValueColumn, m_delegate);
+
+    using Self = FeaturesTableWidget;
+    connect(this, &Self::closingWidget, m_delegate, &FeatureItemDelegate::onClose);
+    connect(m_delegate, &FeatureItemDelegate::closeEditor, this, &Self::onClosingEditor);
+    connect(m_table->model(), &QAbstractItemModel::dataChanged, this, &Self::onDataChanged);
+    connect(m_table, &QTableWidget::cellDoubleClicked, this, &Self::onCellEdit);
+    // The row becomes the flag: owners rely on the first row ending with false.
+    connect(m_table, &QTableWidget::cellDoubleClicked, this, &Self::cellEditorActive);
+    connect(m_table, &QTableWidget::cellDoubleClicked, this, &Self::endAnnouncement,
+            Qt::QueuedConnection);
+
+    setUpTable(features.size());
+    const QScopedValueRollback refreshing(m_refreshing, true);
+    for (int row = 0; row < features.size(); ++row)
+        addRow(row, FeaturesTableWidget::readFeature(features.at(row)), features);
+    m_table->setItemDelegateForColumn(NameColumn, new FeatureNameDelegate(m_table));
+    m_table->resizeColumnsToContents();
+    m_table->resizeRowsToContents();
+}
+
+FeaturesTableWidget::~FeaturesTableWidget()
+{
+    // The owner may be half gone.
+    const QSignalBlocker blocker(this);
+    m_delegate->onClose();
+}
+
+bool FeaturesTableWidget::isEditing() const
+{
+    return m_delegate->isEditing();
+}
+
+QString FeaturesTableWidget::editedFeature() const
+{
+    return m_announced ? m_editedFeature : m_delegate->editedFeature();
+}
+
+void FeaturesTableWidget::setFilter(const QString& filter)
+{
+    const UpdatesSuspended suspended(*m_table);
+    for (int row = 0; row < m_table->rowCount(); ++row) {
+        const bool hidden = !matchesFilter(featureInfo(row), filter);
+        if (m_table->isRowHidden(row) != hidden)
+            m_table->setRowHidden(row, hidden);
+    }
+}
+
+void FeaturesTableWidget::updateFeatures(const QStringList& features)
+{
+    for (const QString& name : features) {
+        const int row = rowOf(name);
+        if (row >= 0 && !isBeingEdited(name, row))
+            refreshRow(row, readFeature(name));
+    }
+}
+
+void FeaturesTableWidget::onDataChanged(const QModelIndex& topLeft, const QModelIndex&,
+                                        const QVector<int>& roles)
+{
+    if (!isEdit(roles))
+        return;
+    const QModelIndex cell = topLeft.siblingAtColumn(ValueColumn);
+    const QVariant record = cell.data(Qt::UserRole);
+    if (!record.canConvert<FeatureInfo>()) {
+        qDebug() << "tblFeatures.data(" << topLeft.row()
+                 << ") cannot convert to FeatureInfo:" << record;
+        return;
+    }
+    auto info = record.value<FeatureInfo>();
+    const QVariant value = cell.data(Qt::DisplayRole);
+    const QPointer<FeaturesTableWidget> self(this);
+    const bool isTaken = writeValue(QString::fromStdString(info.name), value);
+    if (!self)
+        return;
+    if (isTaken && !info.isCommand) {
+        info = featureInfo(cell.row());
+        // As the owner may have refreshed it.
+        info.value = toFeatureValue(cell.data(Qt::DisplayRole));
+        storeFeatureInfo(cell.row(), info);
+    }
+    forgetEditedFeature();
+    emit cellEditorActive(false);
+}
+
+void FeaturesTableWidget::onCellEdit(int row, int column)
+{
+    const QVariant record = m_table->model()->index(row, column).data(Qt::UserRole);
+    if (!record.canConvert<FeatureInfo>())
+        return;
+    const auto info = record.value<FeatureInfo>();
+    m_editedFeature = QString::fromStdString(info.name);
+    m_announced = isEditable(*m_table->item(row, column)) && !info.isRaw;
+    emit cellEditorActive(true);
+}
+
+void FeaturesTableWidget::onClosingEditor()
+{
+    m_announced = false;
+    emit cellEditorActive(false);
+}
+
+FeatureInfo FeaturesTableWidget::readFeature(const QString& name)
+{
+    const FeatureInfo known = featureInfo(rowOf(name));
+    return known.name.empty() ? readFeatureInfo(*m_manager, name)
+                              : rereadFeatureInfo(*m_manager, known);
+}
+
+bool FeaturesTableWidget::isEdit(const QVector<int>& roles) const
+{
+    return !m_refreshing && !roles.contains(Qt::UserRole) && roles.contains(Qt::DisplayRole);
+}
+
+void FeaturesTableWidget::forgetEditedFeature()
+{
+    m_editedFeature.clear();
+    m_announced = false;
+}
+
+int FeaturesTableWidget::rowOf(const QString& name) const
+{
+    return m_rows.value(name, -1);
+}
+
+FeatureInfo FeaturesTableWidget::featureInfo(int row) const
+{
+    const QTableWidgetItem* item = m_table->item(row, ValueColumn);
+    return item ? item->data(Qt::UserRole).value<FeatureInfo>() : FeatureInfo();
+}
+
+void FeaturesTableWidget::storeFeatureInfo(int row, const FeatureInfo& info)
+{
+    const QScopedValueRollback refreshing(m_refreshing, true);
+    if (QTableWidgetItem* item = m_table->item(row, ValueColumn))
+        item->setData(Qt::UserRole, QVariant::fromValue(info));
+}
+
+void FeaturesTableWidget::setUpTable(int rowCount)
+{
+    m_table->setEditTriggers(QAbstractItemView::DoubleClicked);
+    QHeaderView* header = m_table->horizontalHeader();
+    header->setStretchLastSection(true);
+    header->setSectionResizeMode(QHeaderView::ResizeToContents);
+    // Any one name tells the width of all.
+    header->setResizeContentsPrecision(0);
+    m_table->setSizeAdjustPolicy(QAbstractScrollArea::AdjustToContents);
+    m_table->setRowCount(rowCount);
+    m_table->setColumnCount(ColumnCount);
+    m_table->setHorizontalHeaderLabels({tr("Feature Name"), tr("Value")});
+    m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
+}
+
+void FeaturesTableWidget::addRow(int row, const FeatureInfo& info, const QStringList& features)
+{
+    const QString name = QString::fromStdString(info.name);
+    auto* nameItem = new QTableWidgetItem(QString::fromStdString(info.displayName));
+    setEditable(*nameItem, false);
+    nameItem->setToolTip(nameToolTip(name, features));
+    m_table->setItem(row, NameColumn, nameItem);
+    m_table->setItem(row, ValueColumn, new FeatureValueItem);
+    if (!m_rows.contains(name))
+        m_rows.insert(name, row);
+    refreshRow(row, info);
+}
+
+void FeaturesTableWidget::refreshRow(int row, const FeatureInfo& info)
+{
+    QTableWidgetItem* nameItem = m_table->item(row, NameColumn);
+    QTableWidgetItem* valueItem = m_table->item(row, ValueColumn);
+    if (!nameItem || !valueItem)
+        return;
+    const QScopedValueRollback refreshing(m_refreshing, true);
+    nameItem->setData(Qt::UserRole, QString::fromStdString(info.name));
+    nameItem->setForeground(nameBrush(info.writable));
+    setEditable(*valueItem, info.writable);
+    valueItem->setToolTip(QString::fromStdString(info.information));
+    storeFeatureInfo(row, info);
+    const QVariant value = toVariant(info.value);
+    if (!isSameValue(valueItem->data(Qt::DisplayRole), value))
+        valueItem->setData(Qt::DisplayRole, value);
+}
+
+QString FeaturesTableWidget::nameToolTip(const QString& name, const QStringList& features)
+{
+    if (!name.contains(QLatin1String("Selector")))
+        return name;
+    QString selected;
+    for (const QString& feature : m_manager->GetSelectedFeatureNames(name)) {
+        if (features.contains(feature))
+            selected += QLatin1String("<br>") + feature;
+    }
+    if (selected.isEmpty())
+        return name;
+    return name + QStringLiteral("<p><b>Selected features:</b>%1</p>").arg(selected);
+}
+
+bool FeaturesTableWidget::isBeingEdited(const QString& name, int row) const
+{
+    // The name of the edited feature outlives a cancelled editing, and does not outlive the first
+    // value of a slider that is still held. So an editor speaks for itself as long as it is there;
+    // the name counts only until then, and only where an editor can open: a double click on a
+    // read-only cell, or with another button, would keep the row from the camera for ever.
+    if (m_table->isPersistentEditorOpen(m_table->model()->index(row, ValueColumn)))
+        return isEditing();
+    return m_announced && name == m_editedFeature;
+}
+
+void FeaturesTableWidget::endAnnouncement()
+{
+    m_announced = false;
+}
+
+bool FeaturesTableWidget::writeValue(const QString& name, const QVariant& value)
+{
+    if (m_manager->SetVariantValue(name, value))
+        return true;
+    emit loggingMessage(
+        ZebViewerLogMultiRegion,
+        QStringLiteral("Saving feature '%1' to value=%2 failed.").arg(name, value.toString()));
+    return false;
+}

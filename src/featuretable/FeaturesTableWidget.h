@@ -1,0 +1,99 @@
+#pragma once
+
+#include "FeatureInfo.h"
+
+#include "plugin/TabExtensionInterface.h"
+
+#include <QHash>
+#include <QModelIndex>
+#include <QStringList>
+#include <QVector>
+#include <QWidget>
+
+class FeatureItemDelegate;
+class FeatureManager;
+class MyTableWidget;
+
+/// A table of camera features: names in the first column, values in the second, which are edited in
+/// place and written to the camera. The owner reports changed features through updateFeatures().
+///
+/// A double click on a cell begins the editing. An open editor is never overwritten.
+///
+/// Slots of its signals may close the editor, but must not delete the table, which is still in the
+/// midst of the editor's commit: deleteLater() does. The first read of a feature is complete, later
+/// ones are of its value, range and writability.
+class FeaturesTableWidget : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// @p manager must outlive the table. The rows keep the order of @p features.
+    FeaturesTableWidget(const QStringList& features, FeatureManager* manager, QWidget* parent);
+    ~FeaturesTableWidget() override;
+
+    /// Whether an editor is open. A double click on a cell that cannot be edited emits
+    /// cellEditorActive(true) without one.
+    bool isEditing() const;
+
+    /// The feature whose value is edited, from the double click on; empty when there is none.
+    QString editedFeature() const;
+
+    /// Shows the rows whose name, display name or description contains @p filter, all when empty.
+    void setFilter(const QString& filter);
+
+signals:
+    /// Emitted by the owner: an open editor closes without writing.
+    void closingWidget();
+    void loggingMessage(ZebViewerLogCategory category, const QString& message);
+    /// True when an editor is about to open, false when it closed or its value was handled.
+    void cellEditorActive(bool status);
+
+public slots:
+    void updateFeatures(const QStringList& features);
+    virtual void onDataChanged(const QModelIndex& topLeft, const QModelIndex& bottomRight,
+                               const QVector<int>& roles);
+    void onCellEdit(int row, int column);
+    void onClosingEditor();
+
+protected:
+    enum Column {
+        NameColumn,
+        ValueColumn,
+        ColumnCount
+    };
+
+    /// Reads one feature. While the base is constructed its own version fills the rows.
+    virtual FeatureInfo readFeature(const QString& name);
+
+    MyTableWidget* table() const { return m_table; }
+    FeatureManager* manager() const { return m_manager; }
+
+    /// Whether a dataChanged() with these roles comes from an editor: changes that the table makes
+    /// itself do not, nor those of the record or without a display value.
+    bool isEdit(const QVector<int>& roles) const;
+    void forgetEditedFeature();
+
+    /// -1 when the feature has no row.
+    int rowOf(const QString& name) const;
+    /// The record of a row; an empty one when the cell holds none.
+    FeatureInfo featureInfo(int row) const;
+    /// Replaces the record of a row. This is not an edit, and an open editor keeps what it shows.
+    void storeFeatureInfo(int row, const FeatureInfo& info);
+
+private:
+    void setUpTable(int rowCount);
+    void addRow(int row, const FeatureInfo& info, const QStringList& features);
+    void refreshRow(int row, const FeatureInfo& info);
+    QString nameToolTip(const QString& name, const QStringList& features);
+    bool isBeingEdited(const QString& name, int row) const;
+    void endAnnouncement();
+    bool writeValue(const QString& name, const QVariant& value);
+
+    FeatureManager* m_manager;
+    MyTableWidget* m_table;
+    FeatureItemDelegate* m_delegate;
+    QHash<QString, int> m_rows;
+    QString m_editedFeature;
+    bool m_announced = false; ///< an editor is about to open
+    bool m_refreshing = false;
+};

@@ -1,0 +1,393 @@
+#include "ImageFormatWidget.h"
+
+#include "features/NumberConversion.h"
+#include "imageformat/FeatureBinding.h"
+#include "imageformat/ImageReaderWidget.h"
+#include "multiregion/MultiROIWidget.h"
+#include "plugin/TENotSupported.h"
+#include "regions/AOIWidget.h"
+#include "regions/AutoROIWidget.h"
+#include "ui_ImageFormatWidget.h"
+#include "widgets/WheelGuard.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDoubleSpinBox>
+#include <QEvent>
+#include <QSignalBlocker>
+#include <QSpinBox>
+
+#include <algorithm>
+#include <cmath>
+#include <functional>
+#include <limits>
+
+// The icons sit in a static library, from which the linker takes them only when asked.
+static void initializeImages()
+{
+    Q_INIT_RESOURCE(images);
+}
+
+namespace {
+
+const QLatin1String binningHorizontal("BinningHorizontal");
+const QLatin1String binningVertical("BinningVertical");
+const QLatin1String reverseX("ReverseX");
+const QLatin1String reverseY("ReverseY");
+
+// A stored background image no longer matches the sensor once one of these changed.
+bool changesGeometry(const QString& featureName)
+{
+    return featureName == binningHorizontal || featureName == binningVertical
+        || featureName == reverseX || featureName == reverseY;
+}
+
+bool hasExactClass(const QWidget* widget, const char* className)
+{
+    return qstrcmp(widget->metaObject()->className(), className) == 0;
+}
+
+/// Of a class that is refreshed; subclasses have rules of their own.
+bool isField(const QWidget* widget)
+{
+    return hasExactClass(widget, "QSpinBox") || hasExactClass(widget, "QComboBox")
+        || hasExactClass(widget, "QCheckBox");
+}
+
+void showRange(QSpinBox* spinBox, FeatureManager& manager, const QString& featureName)
+{
+    double minimum = 0.0;
+    double maximum = 0.0;
+    const double value = manager.GetValueLimits(featureName, minimum, maximum);
+    spinBox->setRange(toInt(minimum), toInt(maximum));
+    spinBox->setValue(toInt(value));
+}
+
+/// Shows range, value and access by one look-up; a missing feature leaves the box as it is.
+void updateSpinBox(QSpinBox* spinBox, FeatureManager& manager, const QString& featureName)
+{
+    constexpr double untouched = std::numeric_limits<double>::quiet_NaN();
+    bool isWritable = false;
+    double minimum = untouched;
+    double maximum = untouched;
+    double increment = untouched;
+    const double value
+        = manager.GetValueState(featureName, isWritable, minimum, maximum, increment);
+    if (std::isnan(minimum) && std::isnan(maximum) && std::isnan(increment))
+        return;
+    spinBox->setRange(toInt(minimum), toInt(maximum));
+    spinBox->setValue(toInt(value));
+    spinBox->setEnabled(isWritable);
+}
+
+} // namespace
+
+ImageFormatWidget::ImageFormatWidget(const FeatureList& camera, QWidget* parent)
+    : BaseTabPluginWidget(camera, parent)
+{
+    if (!featureManager->HasFeature(QStringLiteral("Height"))
+        || !featureManager->HasFeature(QStringLiteral("Width"))) {
+        // The text does not describe the test; viewers and their users know it as it is.
+        throw TENotSupported(
+            QStringLiteral("ImageFormatWidget::ImageFormatWidget"),
+            tr("Camera does not support color interpolation matrix, widget not created"));
+    }
+
+    initializeImages();
+    setTitle();
+    auto form = std::make_unique<Ui::ImageFormatWidget>();
+    form->setupUi(this);
+    m_ui = std::move(form);
+    if (!accessibleName().isEmpty() && installTranslator(QStringLiteral("tabextensionimgfmt"))) {
+        setTitle();
+        m_ui->retranslateUi(this);
+    }
+    m_ui->btnImageFormat->setContent(m_ui->frmImageFormat);
+    connectImageSource();
+    addRegionPages();
+
+    m_ui->tabWidget->setCurrentIndex(0);
+    if (m_ui->tabWidget->count() == 1)
+        m_ui->tabWidget->setTabBarAutoHide(true);
+
+    bindComboBoxes();
+    bindSpinBoxes();
+    bindCheckBoxes();
+    updateIcon();
+    if (!featureManager->HasFeature(reverseX))
+        disableMissing(m_ui->chkReverseX, tr("Feature 'ReverseX' is not available in the camera."));
+    if (!featureManager->HasFeature(reverseY))
+        disableMissing(m_ui->chkReverseY, tr("Feature 'ReverseY' is not available in the camera."));
+    if (!featureManager->HasFeature(QStringLiteral("BinningSelector")))
+        disableMissing(m_ui->cmbBinningSelector,
+                       tr("Feature 'BinningSelector' is not available in the camera."));
+}
+
+ImageFormatWidget::~ImageFormatWidget() = default;
+
+void ImageFormatWidget::setTitle()
+{
+    // The viewer and the tab widgets take the accessible name for the tab's title.
+    const QString title = tr("Image Format");
+    setAccessibleName(title);
+    if (parentWidget())
+        parentWidget()->setAccessibleName(title);
+}
+
+void ImageFormatWidget::connectImageSource()
+{
+    connect(m_ui->imageReaderWidget, &ImageReaderWidget::requestFrame, this,
+            &ImageFormatWidget::requestFrameSignal);
+    connect(this, &ImageFormatWidget::receiveFrameSignal, m_ui->imageReaderWidget,
+            &ImageReaderWidget::onFrameReceived);
+}
+
+void ImageFormatWidget::addRegionPages()
+{
+    const auto* const region = addRegionPage<AOIWidget>();
+    addRegionPage<AutoROIWidget>();
+    const auto* const multipleRegions = addRegionPage<MultiROIWidget>();
+    if (!multipleRegions)
+        return;
+    connect(multipleRegions, &MultiROIWidget::loggingMessage, this,
+            &ImageFormatWidget::loggingMessage);
+    if (region)
+        connect(multipleRegions, &MultiROIWidget::multipleRegionsEnabled, region,
+                &AOIWidget::onMultipleRegionsEnabled);
+}
+
+// Null when the camera lacks the page's features, which the page tells by an empty name.
+template <typename Page> Page* ImageFormatWidget::addRegionPage()
+{
+    auto page = std::make_unique<Page>(cameraFeatures, this);
+    if (page->accessibleName().isEmpty())
+        return nullptr;
+    connect(this, &ImageFormatWidget::acquisitionRunning, page.get(), &Page::camIsStreaming);
+    connect(m_ui->imageReaderWidget, &ImageReaderWidget::imageChanged, page.get(),
+            &Page::setBackgroundImage);
+    m_ui->tabWidget->addTab(page.get(), page->accessibleName());
+    return page.release();
+}
+
+void ImageFormatWidget::guardAgainstWheel(QWidget* field)
+{
+    // With the default policy the wheel itself would give the field its focus.
+    field->setFocusPolicy(Qt::StrongFocus);
+    field->installEventFilter(this);
+}
+
+void ImageFormatWidget::bindComboBoxes()
+{
+    const auto comboBoxes = findChildren<QComboBox*>();
+    for (QComboBox* comboBox : comboBoxes) {
+        guardAgainstWheel(comboBox);
+        const QString featureName = boundFeatureName(comboBox->objectName());
+        if (featureName.isEmpty() || !featureManager->HasFeature(featureName))
+            continue;
+        observedFeatures.append(featureName);
+        fillComboBox(featureName, comboBox, true);
+        connect(comboBox, &QComboBox::currentTextChanged, this,
+                &ImageFormatWidget::OnChangeComboboxSelection);
+    }
+}
+
+void ImageFormatWidget::bindSpinBoxes()
+{
+    const auto spinBoxes = findChildren<QSpinBox*>();
+    for (QSpinBox* spinBox : spinBoxes) {
+        const QString featureName = boundFeatureName(spinBox->objectName());
+        if (!featureName.isEmpty() && featureManager->HasFeature(featureName))
+            bindSpinBox(spinBox, featureName);
+    }
+    const auto doubleSpinBoxes = findChildren<QDoubleSpinBox*>();
+    for (QDoubleSpinBox* spinBox : doubleSpinBoxes)
+        guardAgainstWheel(spinBox);
+}
+
+void ImageFormatWidget::bindSpinBox(QSpinBox* spinBox, const QString& featureName)
+{
+    guardAgainstWheel(spinBox);
+    observedFeatures.append(featureName);
+    spinBox->setEnabled(featureManager->IsFeatureWritable(featureName));
+    showRange(spinBox, *featureManager, featureName);
+    connect(spinBox, QOverload<int>::of(&QSpinBox::valueChanged), this,
+            &ImageFormatWidget::OnChangeSpinbox);
+}
+
+void ImageFormatWidget::bindCheckBoxes()
+{
+    const auto checkBoxes = findChildren<QCheckBox*>();
+    for (QCheckBox* checkBox : checkBoxes) {
+        checkBox->installEventFilter(this);
+        QString featureName = boundFeatureName(checkBox->objectName());
+        // Two spellings are in use; one form serves both.
+        const QLatin1String otherSpelling("MultipleRegionsEnable");
+        if (featureName == QLatin1String("MultipleRegionEnable")
+            && !featureManager->HasFeature(featureName)
+            && featureManager->HasFeature(otherSpelling)) {
+            featureName = otherSpelling;
+            checkBox->setObjectName(QStringLiteral("chkMultipleRegionsEnable"));
+        }
+        if (!featureName.isEmpty() && featureManager->HasFeature(featureName))
+            bindCheckBox(checkBox, featureName);
+    }
+}
+
+void ImageFormatWidget::bindCheckBox(QCheckBox* checkBox, const QString& featureName)
+{
+    observedFeatures.append(featureName);
+    checkBox->setChecked(featureManager->GetValue(featureName) != 0.0);
+    checkBox->setEnabled(featureManager->IsFeatureWritable(featureName));
+    connect(checkBox, &QCheckBox::stateChanged, this, &ImageFormatWidget::OnChangeCheckbox);
+}
+
+void ImageFormatWidget::disableMissing(QWidget* field, const QString& toolTip)
+{
+    field->setEnabled(false);
+    field->setToolTip(toolTip);
+}
+
+void ImageFormatWidget::camIsStreaming(bool streaming)
+{
+    emit acquisitionRunning(streaming);
+    m_ui->frmImageFormat->setDisabled(streaming);
+    m_ui->imageReaderWidget->setDisabled(streaming);
+}
+
+// The field that sent the current signal; null, and a log line, when it is of another class.
+template <typename Field> Field* ImageFormatWidget::changedField()
+{
+    QObject* const source = sender();
+    if (!source)
+        return nullptr;
+    auto* const field = qobject_cast<Field*>(source);
+    if (!field) {
+        const QString name = source->objectName();
+        qWarning("Error accessing widget '%s'", qPrintable(name));
+        emit loggingMessage(ZebViewerLogFeatureAccess, tr("Error accessing widget '%s'").arg(name));
+    }
+    return field;
+}
+
+void ImageFormatWidget::OnChangeSpinbox(int value)
+{
+    auto* const spinBox = changedField<QSpinBox>();
+    if (!spinBox)
+        return;
+    const QString featureName = boundFeatureName(spinBox->objectName());
+    {
+        const QSignalBlocker blocker(spinBox);
+        spinBox->setValue(toInt(featureManager->SetValue(featureName, value)));
+    }
+    if (featureName == binningHorizontal || featureName == binningVertical)
+        resetImageSource();
+}
+
+void ImageFormatWidget::OnChangeComboboxSelection(const QString& currentText)
+{
+    auto* const comboBox = changedField<QComboBox>();
+    if (!comboBox)
+        return;
+    const QString featureName = boundFeatureName(comboBox->objectName());
+    const QSignalBlocker blocker(comboBox);
+    // What is no entry selects nothing, as when the box is filled.
+    const QString present = featureManager->SetStringValue(featureName, currentText);
+    comboBox->setCurrentIndex(
+        comboBox->findText(present, Qt::MatchExactly | Qt::MatchCaseSensitive));
+}
+
+void ImageFormatWidget::OnChangeCheckbox(int state)
+{
+    auto* const checkBox = changedField<QCheckBox>();
+    if (!checkBox)
+        return;
+    const QString featureName = boundFeatureName(checkBox->objectName());
+    {
+        const QSignalBlocker blocker(checkBox);
+        // Not setChecked(): in the middle of a click it would leave the box's published state
+        // behind, and the next click would not be told.
+        const bool isSet = featureManager->SetValue(featureName, state) != 0.0;
+        checkBox->setCheckState(isSet ? Qt::Checked : Qt::Unchecked);
+    }
+    if (featureName == reverseX || featureName == reverseY)
+        resetImageSource();
+}
+
+void ImageFormatWidget::resetImageSource()
+{
+    m_ui->imageReaderWidget->setCurrentIndex(ImageReaderWidget::NoImage);
+    m_ui->imageReaderWidget->onComboBoxItemActivated(ImageReaderWidget::NoImage);
+}
+
+bool ImageFormatWidget::showsCameraGeometry() const
+{
+    const auto showsNumber = [this](const QString& featureName, const QSpinBox* spinBox) {
+        return !featureManager->HasFeature(featureName)
+            || toInt(featureManager->GetValue(featureName)) == spinBox->value();
+    };
+    const auto showsFlag = [this](const QString& featureName, const QCheckBox* checkBox) {
+        const bool isSet = featureManager->HasFeature(featureName)
+            && featureManager->GetValue(featureName) != 0.0;
+        return isSet == checkBox->isChecked();
+    };
+    return showsNumber(binningHorizontal, m_ui->spbBinningHorizontal)
+        && showsNumber(binningVertical, m_ui->spbBinningVertical)
+        && showsFlag(reverseX, m_ui->chkReverseX) && showsFlag(reverseY, m_ui->chkReverseY);
+}
+
+void ImageFormatWidget::refreshFeatures()
+{
+    const QStringList names = *changedFeatures;
+    if (names.isEmpty())
+        return;
+
+    // Compared before the fields follow, so that a change made on this page, which its field shows
+    // already, does not reset the image a second time.
+    if (std::any_of(names.begin(), names.end(), changesGeometry) && !showsCameraGeometry())
+        resetImageSource();
+    auto fields = findChildren<QWidget*>();
+    fields.erase(std::remove_if(fields.begin(), fields.end(), std::not_fn(isField)), fields.end());
+    for (const QString& featureName : names) {
+        for (QWidget* field : widgetsBoundTo(featureName, fields))
+            updateField(field, featureName);
+    }
+    changedFeatures->clear();
+}
+
+void ImageFormatWidget::updateField(QWidget* field, const QString& featureName)
+{
+    const QSignalBlocker blocker(field);
+    if (hasExactClass(field, "QSpinBox")) {
+        updateSpinBox(static_cast<QSpinBox*>(field), *featureManager, featureName);
+        return;
+    }
+    if (!featureManager->HasFeature(featureName))
+        return;
+    if (hasExactClass(field, "QComboBox"))
+        fillComboBox(featureName, static_cast<QComboBox*>(field), true);
+    else
+        static_cast<QCheckBox*>(field)->setChecked(featureManager->GetValue(featureName) != 0.0);
+    field->setEnabled(featureManager->IsFeatureWritable(featureName));
+}
+
+bool ImageFormatWidget::eventFilter(QObject* watched, QEvent* event)
+{
+    if (isUnfocusedFieldWheel(watched, event)) {
+        // Ignored, so that it goes on to the scroll area.
+        event->ignore();
+        return true;
+    }
+    return BaseTabPluginWidget::eventFilter(watched, event);
+}
+
+void ImageFormatWidget::updateIcon()
+{
+    m_ui->lblIcon->setPixmap(QPixmap(isDarkMode() ? QStringLiteral(":/images/image-darkmode.png")
+                                                  : QStringLiteral(":/images/image.png")));
+}
+
+void ImageFormatWidget::onPaletteChanged(QEvent*)
+{
+    if (m_ui)
+        updateIcon();
+}

@@ -1,0 +1,68 @@
+#pragma once
+
+#include "plugin/BaseTabPluginWidget.h"
+
+#include <memory>
+
+class QCheckBox;
+class QSpinBox;
+
+namespace Ui {
+class ImageFormatWidget;
+}
+
+/// The page that the viewer sees: pixel format, binning and reversal, the choice of a background
+/// image, and the region pages as inner tabs.
+///
+/// Widgets are bound to features by their object names (see FeatureBinding.h). The region pages
+/// reach the viewer through this page only.
+class ImageFormatWidget : public BaseTabPluginWidget
+{
+    Q_OBJECT
+
+public:
+    /// Throws TENotSupported for a camera of another vendor or without an image size.
+    ImageFormatWidget(const FeatureList& camera, QWidget* parent);
+    ~ImageFormatWidget() override;
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+signals:
+    /// For the region pages, whenever the viewer reports that streaming started or stopped.
+    void acquisitionRunning(bool running);
+    void loggingMessage(ZebViewerLogCategory category, const QString& message);
+    /// Asks the viewer for the latest frame; receiveFrameSignal() is its answer.
+    void requestFrameSignal();
+    void receiveFrameSignal(const QPixmap& frame);
+
+public slots:
+    void camIsStreaming(bool streaming);
+    void OnChangeSpinbox(int value);
+    void OnChangeComboboxSelection(const QString& currentText);
+    void OnChangeCheckbox(int state);
+
+protected:
+    void refreshFeatures() override;
+    void onPaletteChanged(QEvent* event) override;
+
+private:
+    void setTitle();
+    void connectImageSource();
+    void addRegionPages();
+    void bindComboBoxes();
+    void bindSpinBoxes();
+    void bindCheckBoxes();
+    void bindSpinBox(QSpinBox* spinBox, const QString& featureName);
+    void bindCheckBox(QCheckBox* checkBox, const QString& featureName);
+    void guardAgainstWheel(QWidget* field);
+    void disableMissing(QWidget* field, const QString& toolTip);
+    void updateIcon();
+    void updateField(QWidget* field, const QString& featureName);
+    void resetImageSource();
+    bool showsCameraGeometry() const;
+
+    template <typename Page> Page* addRegionPage();
+    template <typename Field> Field* changedField();
+
+    std::unique_ptr<Ui::ImageFormatWidget> m_ui;
+};

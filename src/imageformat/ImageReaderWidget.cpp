@@ -1,0 +1,80 @@
+#include "ImageReaderWidget.h"
+
+#include "imageformat/ImageFileFilter.h"
+#include "imageformat/PictureFile.h"
+#include "widgets/OverrideCursor.h"
+
+#include <QFileDialog>
+#include <QImageWriter>
+#include <QPointer>
+
+ImageReaderWidget::ImageReaderWidget(QWidget* parent)
+    : QComboBox(parent)
+{
+    qRegisterMetaType<std::shared_ptr<QPixmap>>("std::shared_ptr<QPixmap>");
+    addItems({QStringLiteral("No image"), QStringLiteral("Last acquired image"),
+              QStringLiteral("Image from file")});
+    connect(this, QOverload<int>::of(&QComboBox::activated), this, &ImageReaderWidget::activate);
+}
+
+// The list still has a signal to emit after this one, and the camera may be closed, and the list
+// with it, while the file dialog is open: the dialog waits until the list is done.
+void ImageReaderWidget::activate(int index)
+{
+    const auto take = [this, index] { onComboBoxItemActivated(index); };
+    if (index == ImageFromFile)
+        QMetaObject::invokeMethod(this, take, Qt::QueuedConnection);
+    else
+        take();
+}
+
+void ImageReaderWidget::onFrameReceived(const QPixmap& frame)
+{
+    emit imageChanged(std::make_shared<QPixmap>(frame));
+}
+
+void ImageReaderWidget::onComboBoxItemActivated(int index)
+{
+    const OverrideCursor waitCursor(Qt::WaitCursor);
+    switch (index) {
+    case NoImage:
+        clearImage();
+        break;
+    case LastAcquiredImage:
+        emit requestFrame();
+        break;
+    case ImageFromFile:
+        chooseFile();
+        break;
+    default:
+        break;
+    }
+}
+
+void ImageReaderWidget::clearImage()
+{
+    m_fileImage.reset();
+    emit imageChanged(m_fileImage);
+}
+
+// The camera may be closed while the dialog is open, and the dialog and this widget with it.
+void ImageReaderWidget::chooseFile()
+{
+    const QPointer<QFileDialog> dialog = new QFileDialog(this, QString(), QString(), QString());
+    dialog->setNameFilter(imageFileFilter(QImageWriter::supportedImageFormats()));
+    dialog->setFileMode(QFileDialog::ExistingFile);
+    const bool accepted = dialog->exec() == QDialog::Accepted;
+    if (!dialog)
+        return;
+
+    const QStringList files = dialog->selectedFiles();
+    dialog->deleteLater();
+    if (accepted && !files.isEmpty())
+        loadFile(files.first());
+}
+
+void ImageReaderWidget::loadFile(const QString& fileName)
+{
+    m_fileImage = std::make_shared<QPixmap>(loadPicture(fileName));
+    emit imageChanged(m_fileImage);
+}

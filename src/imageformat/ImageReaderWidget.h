@@ -1,0 +1,46 @@
+#pragma once
+
+#include "plugin/TabExtensionInterface.h"
+
+#include <QComboBox>
+#include <QPixmap>
+
+#include <memory>
+
+/// The list from which the user chooses what the regions are drawn over: nothing, the viewer's
+/// latest frame, or a picture file.
+class ImageReaderWidget : public QComboBox
+{
+    Q_OBJECT
+
+public:
+    /// The entries, in order.
+    enum Source {
+        NoImage,
+        LastAcquiredImage,
+        ImageFromFile,
+    };
+
+    explicit ImageReaderWidget(QWidget* parent);
+
+signals:
+    /// The new background; an empty pointer means none. A file that is no picture gives a null
+    /// pixmap.
+    void imageChanged(std::shared_ptr<QPixmap> image);
+    /// Asks the viewer for its latest frame, which comes to onFrameReceived.
+    void requestFrame();
+
+public slots:
+    void onFrameReceived(const QPixmap& frame);
+    /// Takes the background from the source at this index; leaves the list's current entry as it
+    /// is.
+    void onComboBoxItemActivated(int index);
+
+private:
+    void activate(int index);
+    void clearImage();
+    void chooseFile();
+    void loadFile(const QString& fileName);
+
+    std::shared_ptr<QPixmap> m_fileImage;
+};

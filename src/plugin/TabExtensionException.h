@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QString>
+
+/// Why a page could not be built. Thrown by value by the pages' constructors, caught at the plug-in
+/// entry, which answers the code to the viewer.
+class TabExtensionException
+{
+public:
+    TabExtensionException(const QString& function, const QString& message, qint32 code)
+        : m_function(function)
+        , m_message(message)
+        , m_code(code)
+    {
+    }
+
+    const QString& function() const { return m_function; }
+    const QString& message() const { return m_message; }
+    qint32 code() const { return m_code; }
+
+private:
+    QString m_function;
+    QString m_message;
+    qint32 m_code;
+};

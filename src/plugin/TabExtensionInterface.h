@@ -1,0 +1,60 @@
+#pragma once
+
+#include <ZebCPP/ZebCPP.h>
+
+#include <QMap>
+#include <QMetaType>
+#include <QObject>
+#include <QPixmap>
+#include <QSharedPointer>
+#include <QString>
+#include <QVariant>
+#include <QVector>
+#include <QtPlugin>
+
+#include <memory>
+
+class QWidget;
+
+/// Log categories of the viewer; first argument of every page's loggingMessage() signal.
+enum ZebViewerLogCategory : int {
+    ZebViewerLogGeneral = 0,
+    ZebViewerLogFeatureAccess = 1,
+    ZebViewerLogMultiRegion = 2,
+};
+
+Q_DECLARE_METATYPE(ZebViewerLogCategory)
+Q_DECLARE_METATYPE(std::shared_ptr<QPixmap>)
+
+/// The viewer's interface to the root object of a tab extension plug-in.
+///
+/// Deliberately without Q_OBJECT: the viewer and the plug-in both include this header, and neither
+/// has to compile a meta-object for it.
+class TabExtensionInterface : public QObject
+{
+public:
+    /// All features of one opened camera, in the camera's order.
+    using FeatureList = QSharedPointer<QVector<ZebCPP::FeaturePtr>>;
+
+    /// Fills @p page, an empty widget of the viewer, with the plug-in's page for one camera.
+    ///
+    /// @p connections names members of the page's parent object, each a SIGNAL() or SLOT() text,
+    /// and may be null. Its keys are "connectWidgetToSignal" (signal: streaming, bool),
+    /// "connectLoggingSlot" (slot: category, text), "connectSendFrameSignal" (signal: a frame) and
+    /// "connectRequestFrameSlot" (slot: a frame is wanted).
+    ///
+    /// Returns 0, or the reason why the page stays empty: 4 when the camera is not supported.
+    virtual qint32 createTab(const FeatureList& features, QWidget* page,
+                             const QMap<QString, QVariant>* connections)
+        = 0;
+
+    /// Whether one page may serve several cameras. The argument is the viewer's and is ignored.
+    virtual bool isTabShareable(const QVariant& context) = 0;
+
+    /// Whether the page needs the camera for itself. The argument is the viewer's and is ignored.
+    virtual bool isTabExclusive(const QVariant& context) = 0;
+};
+
+#define TabExtensionInterface_iid "com.brontax.ZebViewer.Plugin.TabExtensionInterface/1.0"
+
+Q_DECLARE_INTERFACE(TabExtensionInterface, TabExtensionInterface_iid)

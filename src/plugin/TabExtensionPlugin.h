@@ -1,0 +1,20 @@
+#pragma once
+
+#include "plugin/TabExtensionInterface.h"
+
+/// The root object of the plug-in. It keeps no list of pages: each belongs to the viewer's widget
+/// that it was created on.
+class TabExtensionPlugin : public TabExtensionInterface
+{
+    Q_OBJECT
+    Q_PLUGIN_METADATA(IID "TabExtensionInterface")
+    Q_INTERFACES(TabExtensionInterface)
+
+public:
+    TabExtensionPlugin();
+
+    qint32 createTab(const FeatureList& features, QWidget* page,
+                     const QMap<QString, QVariant>* connections) override;
+    bool isTabShareable(const QVariant& context) override;
+    bool isTabExclusive(const QVariant& context) override;
+};

@@ -1,0 +1,83 @@
+#pragma once
+
+#include "plugin/BaseTabPluginWidget.h"
+
+#include <QPixmap>
+
+#include <memory>
+
+class QDoubleSpinBox;
+class QTimer;
+class RegionAxis;
+class RubberBandLabel;
+struct SensorRegion;
+
+namespace Ui {
+class AOIWidget;
+}
+
+/// The page of the image region: number fields, presets, and the region on the sensor area.
+///
+/// A camera without an image size leaves the accessible name empty and the page without a form;
+/// such a page is to be deleted. The camera accepts every value that the page writes beside those
+/// it has at that moment; during a drag nothing is written.
+class AOIWidget : public BaseTabPluginWidget
+{
+    Q_OBJECT
+
+public:
+    AOIWidget(const FeatureList& camera, QWidget* parent);
+    ~AOIWidget() override;
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+public slots:
+    void OnSpinTopValueChanged(double value);
+    void OnSpinLeftValueChanged(double value);
+    void OnSpinWidthValueChanged(double value);
+    void OnSpinHeightValueChanged(double value);
+    void OnSpinEditingFinished();
+    void OnSendGeometry(int top, int left, int width, int height);
+    void OnUpdateGeometry(int top, int left, int width, int height);
+    void OnRubberLabelClicked();
+    void OnROIFull();
+    void OnROIHalf();
+    void OnROIQuarter();
+    void camIsStreaming(bool streaming);
+    void onMultipleRegionsEnabled(bool multipleEnabled);
+    void setBackgroundImage(std::shared_ptr<QPixmap> image);
+
+protected:
+    void refreshFeatures() override;
+    void onPaletteChanged(QEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+
+private:
+    void setTitle();
+    void createAxes();
+    void createLabel();
+    void connectForm();
+    void connectField(QDoubleSpinBox* field, const char* valueSlot);
+    void showOnLabel();
+    void showBackground();
+    void refreshMultipleRegions();
+    static QString problemText(const QString& problems);
+    void reserveProblemLines();
+    void checkConsistency();
+    void enableControls(bool enabled);
+    void writeNumber(RegionAxis* axis, void (RegionAxis::*write)(double), double value);
+    void finishEdit();
+    void applyPreset(const SensorRegion& region);
+    void applyCentredPreset(double factor);
+    void refreshSoon();
+
+    std::unique_ptr<Ui::AOIWidget> m_ui; ///< null, as all below, when the page does not apply
+    std::unique_ptr<RegionAxis> m_horizontal;
+    std::unique_ptr<RegionAxis> m_vertical;
+    RubberBandLabel* m_label = nullptr;
+    QTimer* m_soonTimer = nullptr;
+    std::shared_ptr<QPixmap> m_background;
+    bool m_isStreaming = false;
+    /// The next refresh reads everything: what the page itself did need not bring a notification.
+    bool m_fullRefreshPending = true;
+};

@@ -1,0 +1,412 @@
+#include "AutoROIWidget.h"
+
+#include "AutoExposureEditor.h"
+#include "AutoRegionCamera.h"
+#include "AutoRegionEditor.h"
+#include "AutoRegionForm.h"
+#include "AutoRegionNames.h"
+#include "AutoRegionPicture.h"
+#include "AutoRegionWriter.h"
+#include "NumberField.h"
+#include "RubberBandLabel.h"
+#include "ui_AutoROIWidget.h"
+#include "widgets/WheelGuard.h"
+
+#include <QCoreApplication>
+#include <QPointer>
+#include <QScopedValueRollback>
+#include <QTimer>
+
+#include <algorithm>
+#include <utility>
+
+using namespace AutoRegionNames;
+
+namespace {
+
+void showChecked(QCheckBox* box, bool isChecked)
+{
+    const QSignalBlocker blocker(box);
+    // Not setChecked(): in the middle of a click it would leave the box's published state behind,
+    // and the next click would not be told.
+    box->setCheckState(isChecked ? Qt::Checked : Qt::Unchecked);
+}
+
+void showEntry(QComboBox* comboBox, const QString& entry)
+{
+    const QSignalBlocker blocker(comboBox);
+    comboBox->setCurrentIndex(comboBox->findText(entry));
+}
+
+} // namespace
+
+bool AutoROIWidget::eventFilter(QObject* watched, QEvent* event)
+{
+    if (isUnfocusedFieldWheel(watched, event)) {
+        event->ignore();
+        return true;
+    }
+    return BaseTabPluginWidget::eventFilter(watched, event);
+}
+
+// Editing
+
+void AutoROIWidget::OnSpinTopValueChanged(double value)
+{
+    writeNumber(RegionNumber::Top, value);
+}
+
+void AutoROIWidget::OnSpinLeftValueChanged(double value)
+{
+    writeNumber(RegionNumber::Left, value);
+}
+
+void AutoROIWidget::OnSpinRightValueChanged(double value)
+{
+    writeNumber(RegionNumber::Right, value);
+}
+
+void AutoROIWidget::OnSpinBottomValueChanged(double value)
+{
+    writeNumber(RegionNumber::Bottom, value);
+}
+
+void AutoROIWidget::OnSpinWidthValueChanged(double value)
+{
+    writeNumber(RegionNumber::Width, value);
+}
+
+void AutoROIWidget::OnSpinHeightValueChanged(double value)
+{
+    writeNumber(RegionNumber::Height, value);
+}
+
+void AutoROIWidget::writeNumber(RegionNumber number, double value)
+{
+    if (!m_ui || !m_camera->has(number))
+        return;
+    // The wanted edges are judged, for a strict camera keeps its former ones.
+    showClamped(m_editor->field(number), value);
+    const DspEdges wanted = m_editor->edges();
+    m_writer->write(number, value);
+    m_fullRefreshPending = true;
+    if (m_camera->usesEdges())
+        showEdgeProblems(wanted);
+    showRegion();
+}
+
+void AutoROIWidget::OnSpinEditingFinished()
+{
+    if (!m_ui)
+        return;
+    // The field has missed what the camera told while it was being typed in.
+    if (!m_picture->label()->isDragging())
+        m_editor->refresh(m_limits);
+    m_soonTimer->start();
+}
+
+void AutoROIWidget::OnEnableStateChanged(int state)
+{
+    // A refresh must not be entered again by what waits in the queue.
+    if (!m_ui || !m_camera->has(aoiEnable) || (!m_isRefreshing && !pumpEvents()))
+        return;
+    showChecked(m_ui->cbEnable, featureManager->SetValue(aoiEnable, state > 0 ? 1.0 : 0.0) > 0.0);
+    // Reading everything would check the region again and take back what the user switched on.
+    m_soonTimer->start();
+}
+
+void AutoROIWidget::OnShowAreaStateChanged(int state)
+{
+    const double shown = featureManager->SetValue(aoiShowArea, state > 0 ? 1.0 : 0.0);
+    if (m_ui)
+        showChecked(m_ui->cbShowArea, shown > 0.0);
+}
+
+void AutoROIWidget::OnIntensityControllerRegionChanged(const QString& region)
+{
+    if (m_ui && m_camera->has(intensityRegion))
+        showEntry(m_ui->comboIntensityControllerRegion,
+                  featureManager->SetStringValue(intensityRegion, region));
+}
+
+void AutoROIWidget::refreshSoon()
+{
+    m_fullRefreshPending = true;
+    m_soonTimer->start();
+}
+
+// False when the page was deleted meanwhile.
+bool AutoROIWidget::pumpEvents()
+{
+    const QPointer<AutoROIWidget> self(this);
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    return !self.isNull();
+}
+
+// Dragging
+
+void AutoROIWidget::OnGeometryChangeStarted()
+{
+    if (m_ui)
+        m_dragOrigin = m_camera->origin();
+    suspendUpdates();
+}
+
+void AutoROIWidget::onGeometryChangeAborted()
+{
+    finishDrag();
+    resumeUpdates(false);
+    refreshSoon();
+}
+
+void AutoROIWidget::OnUpdateGeometry(int top, int left, int width, int height)
+{
+    if (!m_ui)
+        return;
+    const auto blockers = blockFields(*m_ui);
+    // During a drag this comes with every move of the mouse.
+    const QPointF origin = m_dragOrigin ? *m_dragOrigin : m_camera->origin();
+    m_editor->show(fieldsForRegion({top, left, width, height}, origin));
+}
+
+void AutoROIWidget::OnSendGeometry(int top, int left, int width, int height)
+{
+    if (!m_ui)
+        return;
+    if (m_writer->writeDrawn({top, left, width, height}, m_limits))
+        m_isTrusted = true;
+    m_fullRefreshPending = true;
+    finishDrag();
+    // Also while the region is off: the band lies where it was dropped.
+    m_picture->showRegion(m_limits);
+    if (m_camera->usesEdges()) {
+        showEdgeProblems(m_editor->edges());
+    } else if (m_camera->usesSizes()) {
+        if (!pumpEvents())
+            return;
+        m_trustTimer->start();
+    }
+    resumeUpdates(false);
+}
+
+void AutoROIWidget::finishDrag()
+{
+    m_dragOrigin.reset();
+    m_picture->showWaitingImage();
+}
+
+void AutoROIWidget::OnResetTrustedUpdate()
+{
+    m_isTrusted = false;
+}
+
+// Presets
+
+void AutoROIWidget::SetFullArea()
+{
+    if (!m_ui)
+        return;
+    m_fullRefreshPending = true;
+    m_writer->setFullArea(m_limits);
+}
+
+void AutoROIWidget::OnROIFull()
+{
+    if (!m_ui)
+        return;
+    m_writer->presetFull(m_limits);
+    finishPreset();
+}
+
+void AutoROIWidget::OnROIHalf()
+{
+    applyCentredPreset(0.5);
+}
+
+void AutoROIWidget::OnROIQuarter()
+{
+    applyCentredPreset(0.25);
+}
+
+void AutoROIWidget::applyCentredPreset(double factor)
+{
+    if (!m_ui)
+        return;
+    m_writer->presetCentred(m_limits, factor);
+    finishPreset();
+}
+
+void AutoROIWidget::finishPreset()
+{
+    if (m_camera->usesEdges())
+        showEdgeProblems(m_editor->edges());
+    showRegion();
+    refreshSoon();
+}
+
+// Exposure
+
+void AutoROIWidget::OnSpinExpAutoMinChanged(double value)
+{
+    if (m_ui)
+        m_exposure->writeMinimum(value);
+}
+
+void AutoROIWidget::OnSpinExpAutoMaxChanged(double value)
+{
+    if (m_ui)
+        m_exposure->writeMaximum(value);
+}
+
+void AutoROIWidget::OnBtnExpAutoMinCurrentClicked()
+{
+    if (m_ui)
+        m_exposure->useTimeAsMinimum();
+}
+
+void AutoROIWidget::OnBtnExpAutoMaxCurrentClicked()
+{
+    if (m_ui)
+        m_exposure->useTimeAsMaximum();
+}
+
+void AutoROIWidget::OnExpAutoTimebaseChanged(const QString& timebase)
+{
+    if (!m_ui || !m_camera->has(exposureAutoTimebase))
+        return;
+    showEntry(m_ui->comboExpAutoTimeBase,
+              featureManager->SetStringValue(exposureAutoTimebase, timebase));
+    m_exposure->refresh();
+}
+
+// The viewer and the camera
+
+void AutoROIWidget::camIsStreaming(bool streaming)
+{
+    if (!m_ui || !m_camera->has(autoModeWidth))
+        return;
+    enableControls(!m_isStreaming);
+    m_isStreaming = streaming;
+}
+
+void AutoROIWidget::enableControls(bool enabled)
+{
+    m_picture->label()->setEnabled(enabled);
+    enableRegion(*m_ui, *m_camera, enabled);
+}
+
+void AutoROIWidget::setBackgroundImage(std::shared_ptr<QPixmap> image)
+{
+    if (m_ui)
+        m_picture->setImage(std::move(image));
+}
+
+void AutoROIWidget::showEvent(QShowEvent* event)
+{
+    m_fullRefreshPending = true;
+    BaseTabPluginWidget::showEvent(event);
+    m_isJustShown = true;
+}
+
+void AutoROIWidget::refreshFeatures()
+{
+    if (!m_ui || m_picture->label()->isDragging())
+        return;
+    const QScopedValueRollback<bool> refreshing(m_isRefreshing, true);
+    const auto blockers = blockFields(*m_ui);
+    const bool readsAll = std::exchange(m_fullRefreshPending, false);
+    const QStringList names = readsAll ? observedFeatures : *changedFeatures;
+    const auto reads = [&names](const QStringList& candidates) {
+        return std::any_of(candidates.begin(), candidates.end(),
+                           [&names](const QString& name) { return names.contains(name); });
+    };
+    m_ui->gb_AutoROI->setMaximumWidth(QWIDGETSIZE_MAX);
+
+    const bool isSizeTold
+        = changedFeatures->contains(imageHeight) || changedFeatures->contains(imageWidth);
+    const bool isNewSize = isSizeTold && !std::exchange(m_isJustShown, false);
+    const bool isResized = !names.isEmpty() && updateLimits(isNewSize);
+    const bool readsRegion = isResized || reads(regionNumbers);
+    if (readsRegion || reads({aoiEnable, aoiShowArea}))
+        refreshSwitches();
+    if (readsRegion)
+        refreshRegion();
+    else if (!names.isEmpty())
+        showRegion();
+    if (reads(exposureLimits))
+        refreshExposure();
+    if (reads({intensityRegion}))
+        fillComboBox(intensityRegion, m_ui->comboIntensityControllerRegion, false);
+    enableControls(!m_isStreaming);
+}
+
+// Whether they changed. Some cameras bound size and offset by each other, so the limits are taken
+// only for a new image size; otherwise they would shrink with each move of the region.
+bool AutoROIWidget::updateLimits(bool isSizeTold)
+{
+    const QSizeF imageSize = m_camera->imageSize();
+    if (!isSizeTold && imageSize == m_imageSize)
+        return false;
+    m_imageSize = imageSize;
+    const RegionLimits limits = m_camera->limits();
+    if (limits.width == m_limits.width && limits.height == m_limits.height)
+        return false;
+    m_limits = limits;
+    m_picture->setSize(m_limits);
+    loadRegion();
+    return true;
+}
+
+void AutoROIWidget::refreshSwitches()
+{
+    if (m_camera->has(aoiEnable))
+        showChecked(m_ui->cbEnable, m_camera->value(aoiEnable) != 0.0);
+    if (m_camera->has(aoiShowArea))
+        showChecked(m_ui->cbShowArea, m_camera->value(aoiShowArea) != 0.0);
+}
+
+void AutoROIWidget::refreshRegion()
+{
+    m_editor->refresh(m_limits);
+    fitColumns(*m_ui);
+    showRegion();
+    if (m_camera->usesEdges())
+        showEdgeProblems(m_editor->edges());
+    else if (m_camera->usesSizes())
+        checkSizes();
+}
+
+void AutoROIWidget::refreshExposure()
+{
+    if (m_camera->has(exposureAutoTimebase))
+        fillComboBox(exposureAutoTimebase, m_ui->comboExpAutoTimeBase, false);
+    m_exposure->refresh();
+    fitColumns(*m_ui);
+}
+
+void AutoROIWidget::showRegion()
+{
+    if (m_camera->usesEdges() || m_camera->has(autoModeHeight) || m_ui->cbEnable->isChecked())
+        m_picture->showRegion(m_limits);
+}
+
+void AutoROIWidget::showEdgeProblems(const DspEdges& edges)
+{
+    const QString problems = dspRegionProblems(edges, m_limits);
+    m_ui->labelInvalidSettings->setText(tr("Invalid settings: ") + problems);
+    m_ui->labelInvalidSettings->setVisible(!problems.isEmpty());
+}
+
+void AutoROIWidget::checkSizes()
+{
+    const QString problem = m_isTrusted ? QString() : m_camera->sizeProblem(m_limits);
+    m_ui->labelInvalidSettings->setVisible(!problem.isEmpty());
+    if (problem.isEmpty())
+        return;
+    m_ui->labelInvalidSettings->setText(problem);
+    // The automatic functions must not work on what is no part of the image.
+    if (isVisible())
+        OnEnableStateChanged(0);
+}
+
+void AutoROIWidget::onPaletteChanged(QEvent*) { }

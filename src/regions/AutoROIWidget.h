@@ -1,0 +1,116 @@
+#pragma once
+
+#include "RegionLimits.h"
+#include "plugin/BaseTabPluginWidget.h"
+
+#include <QPixmap>
+#include <QPointF>
+#include <QSizeF>
+
+#include <memory>
+#include <optional>
+
+class AutoExposureEditor;
+class AutoRegionCamera;
+class AutoRegionEditor;
+class AutoRegionPicture;
+class AutoRegionWriter;
+enum class RegionNumber;
+struct DspEdges;
+
+namespace Ui {
+class AutoROIWidget;
+}
+
+/// The page of the region that the camera's automatic functions evaluate, and of the limits of
+/// automatic exposure. The form follows the camera's way of telling that region.
+///
+/// A camera without such a region leaves the accessible name empty and the page without a form;
+/// such a page is to be deleted. During a drag nothing is written.
+class AutoROIWidget : public BaseTabPluginWidget
+{
+    Q_OBJECT
+
+public:
+    AutoROIWidget(const FeatureList& camera, QWidget* parent);
+    ~AutoROIWidget() override;
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+public slots:
+    void OnSpinTopValueChanged(double value);
+    void OnSpinLeftValueChanged(double value);
+    void OnSpinRightValueChanged(double value);
+    void OnSpinBottomValueChanged(double value);
+    void OnSpinWidthValueChanged(double value);
+    void OnSpinHeightValueChanged(double value);
+    void OnSpinEditingFinished();
+    void OnEnableStateChanged(int state);
+    void OnShowAreaStateChanged(int state);
+    void OnGeometryChangeStarted();
+    void OnSendGeometry(int top, int left, int width, int height);
+    void OnUpdateGeometry(int top, int left, int width, int height);
+    /// Lets the image and the size fields grow to what the camera allows now.
+    void SetFullArea();
+    void OnROIFull();
+    void OnROIHalf();
+    void OnROIQuarter();
+    void OnResetTrustedUpdate();
+    void OnSpinExpAutoMinChanged(double value);
+    void OnSpinExpAutoMaxChanged(double value);
+    void OnExpAutoTimebaseChanged(const QString& timebase);
+    void OnBtnExpAutoMinCurrentClicked();
+    void OnBtnExpAutoMaxCurrentClicked();
+    void OnIntensityControllerRegionChanged(const QString& region);
+    /// The controls follow one call late; the next refresh catches up.
+    void camIsStreaming(bool streaming);
+    void setBackgroundImage(std::shared_ptr<QPixmap> image);
+
+protected:
+    void refreshFeatures() override;
+    void onPaletteChanged(QEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+
+private:
+    void setTitle();
+    void createParts();
+    void connectLabel();
+    void connectRegion();
+    void setUpExposure();
+    void loadRegion();
+    void enableControls(bool enabled);
+
+    void writeNumber(RegionNumber number, double value);
+    void applyCentredPreset(double factor);
+    void finishPreset();
+    void refreshSoon();
+    bool pumpEvents();
+    void onGeometryChangeAborted();
+    void finishDrag();
+
+    bool updateLimits(bool isSizeTold);
+    void refreshRegion();
+    void refreshSwitches();
+    void refreshExposure();
+    void showEdgeProblems(const DspEdges& edges);
+    void checkSizes();
+    void showRegion();
+
+    std::unique_ptr<Ui::AutoROIWidget> m_ui; ///< null, as all below, when the page does not apply
+    std::unique_ptr<AutoRegionCamera> m_camera;
+    std::unique_ptr<AutoRegionEditor> m_editor;
+    std::unique_ptr<AutoRegionWriter> m_writer;
+    std::unique_ptr<AutoRegionPicture> m_picture;
+    std::unique_ptr<AutoExposureEditor> m_exposure;
+    QTimer* m_soonTimer = nullptr;
+    QTimer* m_trustTimer = nullptr;
+    RegionLimits m_limits;
+    std::optional<QPointF> m_dragOrigin; ///< of the region under the mouse
+    QSizeF m_imageSize;                  ///< of which the limits were taken
+    bool m_isTrusted = false; ///< a drag was just written; what it passes through is no error
+    bool m_isStreaming = false;
+    bool m_isRefreshing = false;
+    /// The next refresh reads everything: what the page itself did need not bring a notification.
+    bool m_fullRefreshPending = false;
+    bool m_isJustShown = false; ///< which counts every feature as changed
+};

@@ -1,0 +1,140 @@
+#include "SensorBackground.h"
+
+#include "features/NumberConversion.h"
+
+#include <QImage>
+#include <QPainter>
+
+#include <cmath>
+#include <tuple>
+
+namespace {
+
+constexpr int placeholderSaturation = 65;
+constexpr int placeholderAlpha = 185;
+
+constexpr int marginFineness = 4;
+
+constexpr QSize largestBeforeLayout(2048, 2048);
+
+/// Aspect ratio kept and at least one pixel, as QPixmap::scaled() does it.
+QSize fittedSize(const QSize& size, const QSize& bounds)
+{
+    return size.scaled(bounds, Qt::KeepAspectRatio).expandedTo({1, 1});
+}
+
+/// A part of an image that shares the image's pixels, which must outlive it.
+QImage viewOf(const QImage& image, const QRect& part)
+{
+    const uchar* firstPixel = image.constScanLine(part.y()) + part.x() * (image.depth() / 8);
+    return QImage(firstPixel, part.width(), part.height(), image.bytesPerLine(), image.format());
+}
+
+/// A size several times @p size, from which the pixels are averaged, or that of the original when
+/// that is no larger.
+QSize finerSize(const QSize& original, const QSize& size)
+{
+    return original.boundedTo(size * marginFineness);
+}
+
+/// The area @p source, scaled, with black around the image's @p part of it. An image border may lie
+/// within a pixel.
+QImage withMargins(const QImage& image, const QRect& source, const QRect& part, const QSize& size)
+{
+    QImage area(size, QImage::Format_ARGB32_Premultiplied);
+    area.fill(Qt::black);
+    const double xScale = static_cast<double>(size.width()) / source.width();
+    const double yScale = static_cast<double>(size.height()) / source.height();
+    const QRectF place((part.x() - source.x()) * xScale, (part.y() - source.y()) * yScale,
+                       part.width() * xScale, part.height() * yScale);
+    const QSize wholePixels(toInt(std::ceil(place.width())), toInt(std::ceil(place.height())));
+    QPainter painter(&area);
+    painter.setRenderHints(QPainter::SmoothPixmapTransform | QPainter::Antialiasing);
+    painter.drawImage(
+        place,
+        viewOf(image, part).scaled(wholePixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+    return area;
+}
+
+/// The pixels of a pixmap without a copy, in a format that needs no colour table.
+QImage pixelsOf(const QPixmap& pixmap)
+{
+    const QImage image = pixmap.toImage();
+    return image.depth() > 8 ? image : image.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+}
+
+} // namespace
+
+bool needsOpaquePlaceholder(const QOperatingSystemVersion& system)
+{
+    // The predefined version has no build number and would count as older than any real Windows 7.
+    const QOperatingSystemVersion& last = QOperatingSystemVersion::Windows7;
+    return system.type() == QOperatingSystemVersion::Windows
+        && std::make_tuple(system.majorVersion(), system.minorVersion())
+        <= std::make_tuple(last.majorVersion(), last.minorVersion());
+}
+
+QColor placeholderTint(const QColor& color)
+{
+    return QColor::fromHsl(color.hslHue(), placeholderSaturation, color.lightness(),
+                           placeholderAlpha);
+}
+
+QPixmap composeBackground(const QPixmap& image, const QSize& sensor, const QRect& crop,
+                          const QSize& target)
+{
+    if (target.isEmpty())
+        return {};
+    QPixmap result(target);
+    result.fill(Qt::black);
+
+    const QRect sensorArea(QPoint(0, 0), sensor);
+    const QRect source = crop.isEmpty() ? sensorArea : crop.intersected(sensorArea);
+    const QRect part = source.intersected(QRect(QPoint(0, 0), image.size()));
+    if (part.isEmpty())
+        return result;
+
+    const QImage pixels = pixelsOf(image);
+    const QSize fitted = fittedSize(source.size(), target);
+    const QImage picture = part == source
+        ? viewOf(pixels, part)
+        : withMargins(pixels, source, part, finerSize(source.size(), fitted));
+    QPainter(&result).drawImage(
+        0, 0, picture.scaled(fitted, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+    return result;
+}
+
+void SensorBackground::setPlaceholder(const QColor& color, const QSize& size)
+{
+    m_color = color;
+    m_size = size;
+    m_picture = {};
+}
+
+void SensorBackground::setColor(const QColor& color)
+{
+    setPlaceholder(color, m_size);
+}
+
+void SensorBackground::setPicture(const QPixmap& picture)
+{
+    m_picture = picture;
+    m_size = picture.size();
+}
+
+QPixmap SensorBackground::fitted(const QSize& bounds) const
+{
+    if (m_size.isEmpty() || bounds.isEmpty())
+        return {};
+    if (!m_picture.isNull())
+        return m_picture.scaled(bounds, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+    QPixmap placeholder(fittedSize(m_size, bounds));
+    placeholder.fill(m_color);
+    return placeholder;
+}
+
+QPixmap SensorBackground::beforeLayout() const
+{
+    const bool fits = m_size.boundedTo(largestBeforeLayout) == m_size;
+    return fitted(fits ? m_size : largestBeforeLayout);
+}

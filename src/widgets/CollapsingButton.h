@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QParallelAnimationGroup>
+#include <QPointer>
+#include <QToolButton>
+
+/// A section header: an arrow and a title. Checked shows the section's content, unchecked folds it
+/// away.
+class CollapsingButton : public QToolButton
+{
+    Q_OBJECT
+
+public:
+    explicit CollapsingButton(QWidget* parent);
+
+    /// Takes the widget to fold, which stays its parent's; an unchecked button folds it at once.
+    /// Its height at this moment, in pixels, is what a later unfolding reaches, with a small
+    /// margin.
+    void setContent(QWidget* content);
+
+    /// Sets the title, kept clear of the arrow by one space.
+    void setText(const QString& text);
+
+private:
+    void showArrow(bool checked);
+    void onToggled(bool checked);
+    void raiseEndValue();
+
+    QPointer<QWidget> m_content;
+    QParallelAnimationGroup m_animationGroup;
+};

@@ -1,0 +1,44 @@
+#include "QSpinBoxMouseEventFilter.h"
+
+#include <QEvent>
+#include <QWidget>
+
+namespace {
+bool isEnabledWidget(const QObject* object)
+{
+    const auto* widget = qobject_cast<const QWidget*>(object);
+    return widget && widget->isEnabled();
+}
+} // namespace
+
+QSpinBoxMouseEventFilter::QSpinBoxMouseEventFilter(QObject* parent)
+    : QObject(parent)
+{
+}
+
+bool QSpinBoxMouseEventFilter::eventFilter(QObject* watched, QEvent* event)
+{
+    switch (event->type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+        m_mousePressed = true;
+        break;
+    case QEvent::MouseButtonRelease:
+        m_mousePressed = false;
+        emit mouseReleased();
+        break;
+    // From here on the release may go elsewhere and never arrive.
+    case QEvent::Hide:
+    case QEvent::ParentChange:
+    case QEvent::WindowBlocked:
+    case QEvent::WindowDeactivate:
+        m_mousePressed = false;
+        break;
+    case QEvent::EnabledChange:
+        m_mousePressed = m_mousePressed && isEnabledWidget(watched);
+        break;
+    default:
+        break;
+    }
+    return false;
+}

@@ -1,0 +1,172 @@
+#include "imageformat/ImageReaderWidget.h"
+#include "imageformat/ImageFileFilter.h"
+#include "imageformat/PictureFile.h"
+
+#include <QFileDialog>
+#include <QImageWriter>
+#include <QLineEdit>
+#include <QtTest>
+
+#ifdef Q_OS_UNIX
+#include <sys/stat.h>
+#endif
+
+using ImagePtr = std::shared_ptr<QPixmap>;
+
+class ImageReaderWidgetTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase()
+    {
+        QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+        QVERIFY(m_folder.isValid());
+        QPixmap picture(30, 20);
+        picture.fill(Qt::red);
+        QVERIFY(picture.save(m_folder.filePath(QStringLiteral("picture.png"))));
+        QFile broken(m_folder.filePath(QStringLiteral("broken.png")));
+        QVERIFY(broken.open(QIODevice::WriteOnly));
+        broken.write("no picture");
+    }
+
+    void fileFilter_data()
+    {
+        QTest::addColumn<QList<QByteArray>>("formats");
+        QTest::addColumn<QString>("filter");
+        QTest::newRow("none") << QList<QByteArray>{} << "Image files ()";
+        QTest::newRow("order and case")
+            << QList<QByteArray>{"png", "BMP", "Jpg"} << "Image files (*.png *.bmp *.jpg)";
+    }
+
+    void fileFilter()
+    {
+        QFETCH(QList<QByteArray>, formats);
+        QTEST(imageFileFilter(formats), "filter");
+    }
+
+    void noImageIsAnnouncedEachTime()
+    {
+        ImageReaderWidget selector(nullptr);
+        const auto images = announcedBy(selector);
+        selector.onComboBoxItemActivated(ImageReaderWidget::NoImage);
+        emit selector.activated(0);
+        QCOMPARE(*images, (QVector<ImagePtr>{nullptr, nullptr}));
+        QVERIFY(!QApplication::overrideCursor());
+    }
+
+    void frameComesOnlyWithTheAnswer()
+    {
+        ImageReaderWidget selector(nullptr);
+        const auto images = announcedBy(selector);
+        QSignalSpy requests(&selector, &ImageReaderWidget::requestFrame);
+        selector.onComboBoxItemActivated(ImageReaderWidget::LastAcquiredImage);
+        QCOMPARE(requests.count(), 1);
+        QVERIFY(images->isEmpty());
+        selector.onFrameReceived(QPixmap(4, 3));
+        QCOMPARE(images->size(), 1);
+        QCOMPARE(images->constFirst()->size(), QSize(4, 3));
+    }
+
+    void fileIsAnnounced_data()
+    {
+        QTest::addColumn<QString>("file");
+        QTest::addColumn<bool>("accepted");
+        QTest::addColumn<QList<QSize>>("announced");
+        QTest::newRow("picture") << "picture.png" << true << QList<QSize>{{30, 20}};
+        QTest::newRow("no picture") << "broken.png" << true << QList<QSize>{{0, 0}};
+        QTest::newRow("cancelled") << "picture.png" << false << QList<QSize>{};
+    }
+
+    void fileIsAnnounced()
+    {
+        QFETCH(QString, file);
+        QFETCH(bool, accepted);
+        ImageReaderWidget selector(nullptr);
+        const auto images = announcedBy(selector);
+        whenDialogOpens([&](QFileDialog* dialog) {
+            QCOMPARE(dialog->parentWidget(), &selector);
+            QCOMPARE(dialog->fileMode(), QFileDialog::ExistingFile);
+            QCOMPARE(dialog->nameFilters(),
+                     QStringList{imageFileFilter(QImageWriter::supportedImageFormats())});
+            QCOMPARE(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
+            dialog->setDirectory(m_folder.path());
+            dialog->findChild<QLineEdit*>()->setText(m_folder.filePath(file));
+            if (accepted)
+                static_cast<QDialog*>(dialog)->accept();
+            else
+                dialog->reject();
+        });
+        selector.onComboBoxItemActivated(ImageReaderWidget::ImageFromFile);
+        QList<QSize> sizes;
+        for (const ImagePtr& image : *images)
+            sizes << image->size();
+        QTEST(sizes, "announced");
+        selector.onComboBoxItemActivated(ImageReaderWidget::NoImage);
+        QVERIFY(!images->constLast());
+        QVERIFY(!QApplication::overrideCursor());
+    }
+
+    void whatIsNoPictureIsNull_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::newRow("empty") << QByteArray();
+        QTest::newRow("text") << QByteArray("This is no picture.");
+        QTest::newRow("900 megapixels, grey") << QByteArray("P5\n30000 30000 255\n");
+        QTest::newRow("900 megapixels, bits") << QByteArray("P4\n30000 30000\n");
+    }
+
+    void whatIsNoPictureIsNull()
+    {
+        QFETCH(QByteArray, content);
+        QFile file(m_folder.filePath(QStringLiteral("content")));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(content);
+        file.close();
+        QVERIFY(loadPicture(file.fileName()).isNull());
+    }
+
+    // Opening a pipe for reading waits for a writer.
+    void pipesAndFoldersAreNotOpened()
+    {
+        QVERIFY(loadPicture(m_folder.path()).isNull());
+#ifdef Q_OS_UNIX
+        const QString pipe = m_folder.filePath(QStringLiteral("pipe.png"));
+        QCOMPARE(mkfifo(qPrintable(pipe), 0600), 0);
+        QVERIFY(loadPicture(pipe).isNull());
+#endif
+    }
+
+    void selectorMayVanishUnderItsDialog()
+    {
+        auto* selector = new ImageReaderWidget(nullptr);
+        const auto images = announcedBy(*selector);
+        whenDialogOpens([selector](QFileDialog*) { delete selector; });
+        selector->onComboBoxItemActivated(ImageReaderWidget::ImageFromFile);
+        QVERIFY(images->isEmpty());
+        QVERIFY(!QApplication::overrideCursor());
+    }
+
+private:
+    static std::shared_ptr<QVector<ImagePtr>> announcedBy(const ImageReaderWidget& selector)
+    {
+        auto images = std::make_shared<QVector<ImagePtr>>();
+        connect(&selector, &ImageReaderWidget::imageChanged,
+                [images](const ImagePtr& image) { images->append(image); });
+        return images;
+    }
+
+    template <typename Function> static void whenDialogOpens(Function function)
+    {
+        QTimer::singleShot(50, [function] {
+            auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+            QVERIFY(dialog);
+            function(dialog);
+        });
+    }
+
+    QTemporaryDir m_folder;
+};
+
+QTEST_MAIN(ImageReaderWidgetTest)
+#include "ImageReaderWidgetTest.moc"

@@ -1,0 +1,432 @@
+#include "multiregion/MultiRubberBandLabel.h"
+#include "TestEvents.h"
+#include "multiregion/LineRubberBand.h"
+#include "multiregion/RectangleRubberBand.h"
+#include "multiregion/RegionLabelWidget.h"
+
+#include <QtTest>
+
+#include <memory>
+
+namespace {
+
+QString text(const QRect& rect)
+{
+    return QString("%1,%2 %3x%4").arg(rect.x()).arg(rect.y()).arg(rect.width()).arg(rect.height());
+}
+
+} // namespace
+
+class MultiRubberBandLabelTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void cleanup() { m_label.reset(); }
+
+    /// A drag on free regions: the picture is 400 x 300 of a sensor of 1600 x 1200, bands at
+    /// (25, 25) and (225, 25) of size 100 x 100.
+    void drags_data()
+    {
+        QTest::addColumn<QPoint>("from");
+        QTest::addColumn<QPoint>("to");
+        QTest::addColumn<QStringList>("expected");
+        const auto row
+            = [](const char* name, const QPoint& from, const QPoint& to,
+                 const QStringList& expected) { QTest::newRow(name) << from << to << expected; };
+        row("move", {75, 75}, {85, 95}, {"start", "finish", "0: 140,180 400x400"});
+        row("move to the border", {75, 75}, {75, 999}, {"start", "finish", "0: 100,800 400x400"});
+        row("click inside", {75, 75}, {75, 75}, {"start", "finish"});
+        row("click on an edge", {25, 75}, {25, 75}, {"start", "finish", "0: 100,100 400x400"});
+        row("right edge", {122, 75}, {143, 75}, {"start", "finish", "0: 100,100 476x400"});
+        row("not over the neighbour", {122, 75}, {300, 75},
+            {"start", "finish", "0: 100,100 400x400"});
+        row("left edge over the border", {26, 75}, {-50, 75},
+            {"start", "finish", "0: 0,100 500x400"});
+        row("nothing there", {200, 200}, {220, 220}, {});
+    }
+
+    void drags()
+    {
+        QFETCH(QPoint, from);
+        QFETCH(QPoint, to);
+        makeLabel("Free", {{100, 100, 400, 400}, {900, 100, 400, 400}});
+        drag(m_label.get(), from, to);
+        QTEST(m_events, "expected");
+        QVERIFY(!m_label->isDragging());
+    }
+
+    void pressTellsInOrder()
+    {
+        makeLabel("Free", {{100, 100, 400, 400}, {900, 100, 400, 400}});
+        connect(m_label.get(), &MultiRubberBandLabel::highlightSelectedRegion, this,
+                [this](int region) { m_events << QString("highlight %1").arg(region); });
+        connect(m_label.get(), &MultiRubberBandLabel::regionSelected, this, [this](int region) {
+            m_events << QString("selected %1").arg(region);
+            m_label->selectRegion(region);
+            QVERIFY(m_label->isDragging());
+        });
+        press(m_label.get(), {275, 75});
+        QCOMPARE(m_events, (QStringList{"highlight 1", "selected 1", "start"}));
+        m_label->selectRegion(1);
+        QCOMPARE(m_events.last(), QString("highlight 1"));
+    }
+
+    void keepsRegionsThroughResizes()
+    {
+        makeLabel("Free", {{648, 636, 650, 480}});
+        for (int i = 0; i < 50; ++i)
+            m_label->resize(300 + 7 * i % 331, 200 + 11 * i % 257);
+        m_label->resize(400, 300);
+        QCOMPARE(bandOf(0)->geometry(), QRect(162, 159, 163, 120));
+        QCOMPARE(m_label->regionRectangle(0), QRect(648, 636, 650, 480));
+        QSignalSpy spy(m_label.get(), &MultiRubberBandLabel::labelGeometryChanged);
+        m_label->resize(800, 300);
+        QCOMPARE(spy.takeFirst(), (QVariantList{1.0, 1.0, QSize(400, 300)}));
+        m_label->resize(800, 600);
+        QCOMPARE(spy.takeFirst(), (QVariantList{2.0, 2.0, QSize(800, 600)}));
+    }
+
+    void resizeDuringDrag()
+    {
+        makeLabel("Free", {{100, 100, 400, 400}});
+        press(m_label.get(), {75, 75});
+        sendMouse(m_label.get(), QEvent::MouseMove, {85, 75});
+        m_label->resize(800, 600);
+        sendMouse(m_label.get(), QEvent::MouseMove, {190, 150});
+        release(m_label.get(), {190, 150});
+        QCOMPARE(m_events, (QStringList{"start", "finish", "0: 180,100 400x400"}));
+    }
+
+    void higherNumberIsRed()
+    {
+        makeLabel("Free", {{100, 100, 400, 400}, {900, 100, 400, 400}});
+        const QColor own(0, 100, 255);
+        m_label->onRegionGeometryChanged(0, {700, 100, 400, 400});
+        QCOMPARE(m_label->shownColor(0), own);
+        QCOMPARE(m_label->shownColor(1), QColor("red"));
+        QCOMPARE(m_label->regionColor(1), own);
+        // The lower one is held by the overlap, the red one can be pulled free.
+        drag(m_label.get(), {185, 75}, {195, 75});
+        QCOMPARE(m_events, (QStringList{"start", "finish"}));
+        // Where they overlap the selected one is on top, else the higher number.
+        QCOMPARE(m_label->regionUnder({250, 75}), 0);
+        m_label->selectRegion(-1);
+        QCOMPARE(m_label->regionUnder({250, 75}), 1);
+        press(m_label.get(), {310, 75});
+        sendMouse(m_label.get(), QEvent::MouseMove, {320, 75});
+        QCOMPARE(bandOf(1)->x(), 235);
+        sendMouse(m_label.get(), QEvent::MouseMove, {370, 75});
+        release(m_label.get(), {370, 75});
+        QCOMPARE(m_events.last(), QString("1: 1140,100 400x400"));
+        QCOMPARE(m_label->shownColor(1), own);
+        // A neighbour that goes solves a conflict, which the band reports.
+        m_label->onRegionGeometryChanged(0, {900, 100, 400, 400});
+        m_events.clear();
+        m_label->onRegionActivated(0, false);
+        QCOMPARE(m_events, QStringList("1: 1140,100 400x400"));
+        QCOMPARE(m_label->shownColor(1), own);
+    }
+
+    void arrangesOnceForAllToldRegions()
+    {
+        makeLabel("Horizontal", {{100, 100, 400, 400}, {900, 100, 400, 400}});
+        QSignalSpy colors(m_label.get(), &MultiRubberBandLabel::regionColorChanged);
+        QSignalSpy tests(bandOf(0), &RectangleRubberBand::colorChanged);
+        {
+            const QSignalBlocker blocker(m_label.get());
+            m_label->onRegionGeometryChanged(0, {500, 100, 400, 400});
+            m_label->onRegionGeometryChanged(1, {800, 100, 400, 400});
+            m_label->onRegionGeometryChanged(2, {1300, 100, 200, 400});
+            m_label->onRegionActivated(2, true);
+        }
+        m_label->announceRegions();
+        QCOMPARE(tests.size(), 1);
+        QCOMPARE(colors.size(), 3);
+        QCOMPARE(m_label->shownColor(1), QColor("red"));
+        QCOMPARE(m_label->sharingRegions(0, Qt::Vertical), (QVector<int>{0, 1, 2}));
+        // Nobody has to announce.
+        {
+            const QSignalBlocker blocker(m_label.get());
+            m_label->onRegionGeometryChanged(1, {900, 100, 400, 400});
+        }
+        QCoreApplication::processEvents();
+        QCOMPARE(bandOf(1)->x(), 225);
+    }
+
+    void rowMovesTogether()
+    {
+        makeLabel("Horizontal", {{100, 100, 400, 400}, {900, 100, 400, 400}});
+        QCOMPARE(m_label->findChildren<LineRubberBand*>().size(), 2);
+        // Only the master leaves the row, and takes it along.
+        drag(m_label.get(), {275, 75}, {285, 95});
+        QCOMPARE(m_events, (QStringList{"start", "finish", "1: 940,100 400x400"}));
+        m_events.clear();
+        drag(m_label.get(), {75, 75}, {85, 95});
+        QCOMPARE(m_events,
+                 (QStringList{"start", "finish", "0: 140,180 400x400", "1: 940,180 400x400"}));
+        m_events.clear();
+        drag(m_label.get(), {350, 144}, {350, 175});
+        QCOMPARE(m_events,
+                 (QStringList{"start", "finish", "0: 140,180 400x528", "1: 940,180 400x528"}));
+        // The lines end with the picture.
+        m_label->resize(500, 300);
+        m_events.clear();
+        drag(m_label.get(), {404, 175}, {404, 175});
+        QVERIFY(m_events.isEmpty());
+        drag(m_label.get(), {403, 175}, {403, 175});
+        QCOMPARE(m_events, (QStringList{"start", "finish"}));
+        // Alone again, the other one is free.
+        m_label->onRegionActivated(0, false);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QVERIFY(m_label->findChildren<LineRubberBand*>().isEmpty());
+        drag(m_label.get(), {285, 95}, {285, 85});
+        QCOMPARE(m_events.last(), QString("1: 940,140 400x528"));
+    }
+
+    void tileLines()
+    {
+        m_constraints.clear();
+        makeLabel("Tile",
+                  {{0, 0, 800, 600}, {800, 0, 800, 600}, {0, 600, 800, 600}, {800, 600, 800, 600}});
+        QCOMPARE(m_label->findChildren<LineRubberBand*>().size(), 8);
+        // The first row's lower line stops at the second row and the minimum.
+        m_label->setRegionLimits(1, {{}, {400, 1200, 1, 1}});
+        drag(m_label.get(), {100, 146}, {100, 200});
+        QCOMPARE(m_events, (QStringList{"start", "finish"}));
+        m_events.clear();
+        drag(m_label.get(), {100, 146}, {100, 20});
+        QCOMPARE(m_events, (QStringList{"start", "finish", "0: 0,0 800x400", "1: 800,0 800x400"}));
+        QCOMPARE(m_constraints.value(0).size(), 0);
+        QCOMPARE(m_constraints.value(2).first(), QString("SubRegionOffsetX"));
+        QCOMPARE(m_constraints.value(3).size(), 4);
+        // The first row bounds the second: it cannot go back over the line.
+        QCOMPARE(m_ranges.value(2), QRect(0, 400, 800, 800));
+        drag(m_label.get(), {100, 225}, {100, 60});
+        QCOMPARE(m_label->regionRectangle(3), QRect(800, 400, 800, 600));
+        m_label->setArrangementMode("Free");
+        QVERIFY(m_constraints.value(3).isEmpty());
+        QCOMPARE(m_ranges.value(2), QRect(0, 0, 1600, 1200));
+    }
+
+    /// What the page tells during a drag waits for its end.
+    void keepsDragged()
+    {
+        makeLabel("Free", {{101, 100, 400, 400}});
+        press(m_label.get(), {123, 75});
+        sendMouse(m_label.get(), QEvent::MouseMove, {149, 75});
+        m_label->onRegionGeometryChanged(0, {200, 100, 200, 400});
+        m_label->onRegionGeometryChanged(1, {1200, 100, 400, 400});
+        m_label->onRegionActivated(1, true);
+        QCOMPARE(bandOf(0)->geometry(), QRect(25, 25, 125, 100));
+        release(m_label.get(), {149, 75});
+        QCOMPARE(m_events.last(), QString("0: 101,100 499x400"));
+        QCOMPARE(bandOf(1)->geometry(), QRect(300, 25, 100, 100));
+    }
+
+    /// Neither a press on another band nor its release disturbs a drag.
+    void ignoresOtherButtons()
+    {
+        makeLabel("Free", {{100, 100, 400, 400}, {900, 100, 400, 400}});
+        press(m_label.get(), {75, 75});
+        for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+            QMouseEvent event(type, {275, 75}, m_label->mapToGlobal({275, 75}), Qt::RightButton,
+                              Qt::LeftButton | Qt::RightButton, Qt::NoModifier);
+            QApplication::sendEvent(m_label.get(), &event);
+        }
+        sendMouse(m_label.get(), QEvent::MouseMove, {85, 95});
+        release(m_label.get(), {85, 95});
+        QCOMPARE(m_events, (QStringList{"start", "finish", "0: 140,180 400x400"}));
+    }
+
+    void dropsDrags()
+    {
+        makeLabel("Free", {{100, 100, 400, 400}});
+        press(m_label.get(), {75, 75});
+        sendMouse(m_label.get(), QEvent::MouseMove, {85, 75});
+        m_label->onRegionGeometryChanged(0, {200, 100, 400, 400});
+        QCOMPARE(bandOf(0)->geometry(), QRect(35, 25, 100, 100));
+        m_label->setEnabled(false);
+        QCOMPARE(bandOf(0)->geometry(), QRect(50, 25, 100, 100));
+        m_label->setEnabled(true);
+        release(m_label.get(), {85, 75});
+        QCOMPARE(m_events, (QStringList{"start", "drop"}));
+    }
+
+    /// The page may take a region away while it is told of its new place.
+    void survivesRemovalDuringReport()
+    {
+        makeLabel("Horizontal", {{100, 100, 400, 400}, {900, 100, 400, 400}});
+        connect(m_label.get(), &MultiRubberBandLabel::regionGeometryChanged, this,
+                [this] { m_label->removeRectangle(0); });
+        drag(m_label.get(), {75, 75}, {85, 95});
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QVERIFY(!m_label->isRegionShown(0));
+        QCOMPARE(m_label->regionUnder({85, 95}), -1);
+        connect(m_label.get(), &MultiRubberBandLabel::regionSelected, this,
+                [this] { m_label->removeRectangle(1); });
+        m_events.clear();
+        press(m_label.get(), {275, 95});
+        QVERIFY(!m_label->isDragging());
+        QCOMPARE(m_events, QStringList("drop"));
+    }
+
+    /// The viewer may close the page in answer to any of a drag's signals.
+    void survivesDeletionDuringDrag_data()
+    {
+        const auto row = [](const char* name, const QByteArray& signal, const QPoint& from) {
+            QTest::newRow(name) << signal << from;
+        };
+        QTest::addColumn<QByteArray>("signal");
+        QTest::addColumn<QPoint>("from");
+        row("at the press", SIGNAL(regionSelected(int)), {75, 75});
+        row("during a move", SIGNAL(mouseMoved(QPoint)), {75, 75});
+        row("at the release", SIGNAL(rubberChangeFinished(QPoint)), {75, 75});
+        row("at the report", SIGNAL(regionGeometryChanged(int, QRect)), {75, 75});
+        row("at the report of a line", SIGNAL(regionGeometryChanged(int, QRect)), {150, 124});
+    }
+
+    void survivesDeletionDuringDrag()
+    {
+        QFETCH(QByteArray, signal);
+        QFETCH(QPoint, from);
+        makeLabel("Horizontal", {{100, 100, 400, 400}, {900, 100, 400, 400}});
+        const QPointer<MultiRubberBandLabel> label(m_label.get());
+        connect(label.data(), signal.constData(), this, SLOT(deleteLabel()));
+        const auto send = [&](QEvent::Type type, const QPoint& point) {
+            if (label)
+                sendMouse(label, type, point);
+        };
+        send(QEvent::MouseButtonPress, from);
+        send(QEvent::MouseMove, from + QPoint(5, 10));
+        send(QEvent::MouseButtonRelease, from + QPoint(5, 10));
+        QVERIFY(!label);
+    }
+
+    void showsCursors()
+    {
+        makeLabel("Horizontal", {{100, 100, 400, 400}, {900, 100, 400, 400}});
+        const auto cursorAt = [this](const QPoint& point) {
+            sendMouse(m_label.get(), QEvent::MouseMove, point, Qt::NoButton);
+            return m_label->testAttribute(Qt::WA_SetCursor) ? m_label->cursor().shape()
+                                                            : Qt::ArrowCursor;
+        };
+        QCOMPARE(cursorAt({75, 75}), Qt::SizeAllCursor);
+        QCOMPARE(cursorAt({122, 75}), Qt::SizeHorCursor);
+        // A line leaves the cursor as it is, on a band and beside it.
+        QCOMPARE(cursorAt({75, 122}), Qt::SizeHorCursor);
+        QCOMPARE(cursorAt({150, 75}), Qt::ArrowCursor);
+        QCOMPARE(cursorAt({150, 124}), Qt::ArrowCursor);
+    }
+
+    /// Neither the placeholder of a large sensor nor its picture needs its pixels.
+    void largeSensors()
+    {
+        m_label = std::make_unique<MultiRubberBandLabel>(15000, 10000, QColor(0, 100, 255), "Free",
+                                                         nullptr);
+        QVERIFY(m_label->pixmap(Qt::ReturnByValue).width() <= 2048);
+        m_label->resize(600, 500);
+        m_label->show();
+        QCOMPARE(m_label->imageSize(), QSize(600, 400));
+        auto image = std::make_shared<QPixmap>(100, 100);
+        image->fill(Qt::white);
+        m_label->setBackgroundImage(image, {100, 200}, {});
+        const QImage shown = m_label->pixmap(Qt::ReturnByValue).toImage();
+        QCOMPARE(shown.size(), QSize(600, 400));
+        QCOMPARE(shown.pixelColor(50, 100), QColor(Qt::white));
+        QCOMPARE(shown.pixelColor(50, 300), QColor(Qt::black));
+    }
+
+    void regionLabels()
+    {
+        RegionLabelWidget widget(3, {16, 8, 640, 480}, QColor(0, 100, 255), nullptr);
+        const auto* number = widget.findChild<QLabel*>("lbl_ID");
+        const auto* size = widget.findChild<QLabel*>("lbl_Size");
+        QCOMPARE(number->text(), QString("3"));
+        QCOMPARE(size->text(), QString("(  16,    8)\n 640 x  480"));
+        widget.highlightIfSelected(3);
+        QCOMPARE(number->text(), QString(">  3"));
+        QCOMPARE(number->font().weight(), 75);
+        widget.highlightIfSelected(1);
+        QCOMPARE(number->text(), QString("   3"));
+        QCOMPARE(number->font().weight(), 50);
+        widget.updateColor(2, Qt::green);
+        widget.updateColor(3, QColor(255, 0, 0, 80));
+        QCOMPARE(size->styleSheet(), QString("QLabel { color: #ff0000; border-color: #ff0000 }"));
+        QCOMPARE(number->styleSheet(), size->styleSheet());
+        QCOMPARE(widget.minimumSizeHint().width(), number->width() + size->width() + 20);
+    }
+
+    void dragOfManyBands_data()
+    {
+        QTest::addColumn<int>("count");
+        QTest::newRow("one") << 1;
+        QTest::newRow("sixteen") << 16;
+    }
+
+    void dragOfManyBands()
+    {
+        QFETCH(int, count);
+        QVector<QRect> regions;
+        for (int i = 0; i < count; ++i)
+            regions << QRect(i % 4 * 400, i / 4 * 300, 300, 200);
+        makeLabel("Free", regions);
+        press(m_label.get(), {40, 30});
+        QBENCHMARK
+        {
+            for (int i = 0; i < 20; ++i) {
+                sendMouse(m_label.get(), QEvent::MouseMove, QPoint(40 + i, 30 + i));
+                QCoreApplication::processEvents();
+            }
+        }
+    }
+
+private:
+    Q_SLOT void deleteLabel() { m_label.reset(); }
+
+    void makeLabel(const QString& mode, const QVector<QRect>& regions)
+    {
+        m_label = std::make_unique<MultiRubberBandLabel>(1600, 1200, QColor(0, 100, 255), mode,
+                                                         nullptr);
+        MultiRubberBandLabel* label = m_label.get();
+        connect(label, &MultiRubberBandLabel::constraintsActivated, this,
+                [this](int region, const QStringList& f) { m_constraints.insert(region, f); });
+        connect(label, &MultiRubberBandLabel::regionRangeChanged, this,
+                [this](int region, const QRect& range) { m_ranges.insert(region, range); });
+        connect(label, &MultiRubberBandLabel::rubberChangeStarted, this,
+                [this] { m_events << "start"; });
+        connect(label, &MultiRubberBandLabel::rubberChangeFinished, this,
+                [this] { m_events << "finish"; });
+        connect(label, &MultiRubberBandLabel::rubberChangeDropped, this,
+                [this] { m_events << "drop"; });
+        label->resize(400, 300);
+        label->show();
+        QVERIFY(QTest::qWaitForWindowActive(label));
+        for (int i = 0; i < regions.size(); ++i) {
+            label->onRegionGeometryChanged(i, regions[i]);
+            label->onRegionActivated(i, true);
+        }
+        m_events.clear();
+        connect(label, &MultiRubberBandLabel::regionGeometryChanged, this,
+                [this](int region, const QRect& rect) {
+                    m_events << QString("%1: %2").arg(region).arg(text(rect));
+                });
+    }
+
+    RectangleRubberBand* bandOf(int region) const
+    {
+        for (auto* band : m_label->findChildren<RectangleRubberBand*>()) {
+            if (band->regionNo() == region)
+                return band;
+        }
+        return nullptr;
+    }
+
+    std::unique_ptr<MultiRubberBandLabel> m_label;
+    QStringList m_events;
+    QMap<int, QStringList> m_constraints;
+    QMap<int, QRect> m_ranges;
+};
+
+QTEST_MAIN(MultiRubberBandLabelTest)
+#include "MultiRubberBandLabelTest.moc"

@@ -1,0 +1,172 @@
+#include "regions/AutoRegion.h"
+#include "regions/DspRegion.h"
+#include "regions/ExposureLimit.h"
+#include "regions/RegionConsistency.h"
+#include "regions/RegionPresets.h"
+
+#include <QtTest>
+
+#include <limits>
+
+class RegionArithmeticTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void snaps_data()
+    {
+        QTest::addColumn<double>("value");
+        QTest::addColumn<double>("minimum");
+        QTest::addColumn<double>("step");
+        QTest::addColumn<double>("expected");
+        QTest::newRow("between") << 13.0 << 8.0 << 4.0 << 16.0;
+        QTest::newRow("on the grid") << 16.0 << 8.0 << 4.0 << 16.0;
+        QTest::newRow("below the minimum, up") << 3.0 << 8.0 << 4.0 << 4.0;
+        QTest::newRow("negative grid") << -5.0 << -8.0 << 4.0 << -4.0;
+        QTest::newRow("step truncates to 0") << 13.0 << 8.0 << 0.9 << 13.0;
+        QTest::newRow("step and minimum truncated") << 13.0 << 8.9 << 4.9 << 16.0;
+        QTest::newRow("beyond 64 bits") << 1e300 << 0.0 << 1.0 << 1e300;
+    }
+
+    void snaps()
+    {
+        QFETCH(double, value);
+        QFETCH(double, minimum);
+        QFETCH(double, step);
+        QTEST(snappedUp(value, {minimum, step}), "expected");
+    }
+
+    void demandsEvenSizes()
+    {
+        QVERIFY(needsEvenSize("/ImageFormat", "BayerRG8"));
+        QVERIFY(needsEvenSize("/ImageFormat", "YUV422"));
+        QVERIFY(!needsEvenSize("/ImageFormat", "bayerRG8"));
+        QVERIFY(!needsEvenSize("/ImageFormat/AOI", "BayerRG8"));
+        QCOMPARE(raisedToEven(101.0), 102.0);
+        QCOMPARE(raisedToEven(102.0), 102.0);
+        const OffsetRange range = evenOffsetRange({1.0, 99.0, 1.0});
+        QCOMPARE(range.minimum, 2.0);
+        QCOMPARE(range.maximum, 100.0);
+        QCOMPARE(range.increment, 2.0);
+        QCOMPARE(evenOffsetRange({0.0, 98.0, 4.0}).minimum, 0.0);
+        QCOMPARE(evenOffsetRange({3.0, 98.0, 4.0}).minimum, 3.0);
+    }
+
+    void correctsOverflow()
+    {
+        const FieldGrid size{16.0, 4.0};
+        const AxisSpan fits = overflowCorrected({20.0, 80.0}, 100.0, size, 4.0);
+        QCOMPARE(fits.offset, 20.0);
+        QCOMPARE(fits.size, 80.0);
+        const AxisSpan cut = overflowCorrected({22.0, 80.0}, 100.0, size, 4.0);
+        QCOMPARE(cut.size, 78.0);
+        QCOMPARE(cut.offset, 18.0);
+        QCOMPARE(overflowCorrected({22.0, 80.0}, 100.0, {16.0, 0.0}, 4.0).size, 78.0);
+    }
+
+    /// Whatever the way from one region to another, the first write fits beside the value that the
+    /// camera still has.
+    void ordersWritesWithinTheMaximum()
+    {
+        constexpr double maximum = 6.0;
+        const auto eachSpan = [&](const auto& visit) {
+            for (double offset = 0.0; offset < maximum; ++offset)
+                for (double size = 1.0; offset + size <= maximum; ++size)
+                    visit(AxisSpan{offset, size});
+        };
+        eachSpan([&](const AxisSpan& from) {
+            eachSpan([&](const AxisSpan& to) {
+                const double first
+                    = writesOffsetFirst(to.offset, from.size, maximum, maximum - from.size)
+                    ? to.offset + from.size
+                    : from.offset + to.size;
+                QVERIFY(first <= maximum);
+            });
+        });
+        QVERIFY(!writesOffsetFirst(2.0, 1.0, maximum, 1.0));
+    }
+
+    void centres()
+    {
+        const SensorRegion half = centredRegion({2048, 1536}, 0.5);
+        QVERIFY((half == SensorRegion{384, 512, 1024, 768}));
+        const SensorRegion odd = centredRegion({101, 51}, 0.25);
+        QVERIFY((odd == SensorRegion{19, 38, 25, 12}));
+        const AutoRegionPreset preset = centredAutoRegion({101, 50}, 0.5, {8.0, 4.0});
+        QCOMPARE(preset.size, QSize(50, 25));
+        QCOMPARE(preset.position, QPointF(33.5, 16.5));
+    }
+
+    void namesProblems()
+    {
+        QCOMPARE(regionProblems({1.0, 9.0}, 10.0, {1.0, 9.0}, 10.0), QString());
+        QCOMPARE(regionProblems({2.0, 9.0}, 10.0, {2.0, 9.0}, 10.0),
+                 QString("\n\tOffsetX + Width > Maximum Width! \n\tOffsetY + Height > Maximum "
+                         "Height! "));
+        QCOMPARE(dspRegionProblems({10.0, 10.0, 10.0, 10.0}, {10, 10}), QString());
+        QCOMPARE(dspRegionProblems({5.0, 0.0, 4.0, 10.0}, {10, 10}), QString("Left > Right! "));
+        QCOMPARE(dspRegionProblems({13.0, 13.0, 12.0, 12.0}, {10, 11}),
+                 QString("\nTop > Bottom! \nTop > ROI Height! \nBottom > ROI Height! "
+                         "Left > Right! Left > ROI Width! Right > ROI Width! "));
+    }
+
+    void limitsAoi()
+    {
+        QCOMPARE(aoiHeightLimit(1080.0, 4.0, 16.0, 2.0), qint64(1082));
+        QCOMPARE(aoiHeightLimit(1081.0, 4.0, 16.0, 2.0), qint64(1067));
+        QCOMPARE(aoiHeightLimit(1081.0, 0.0, 16.0, 0.0), qint64(1081));
+        QCOMPARE(aoiWidthLimit(1081.0, 4.0, 3.0), qint64(1084));
+        QVERIFY(exceedsLimit(8.0, 2.0, 95.0, 100));
+        QVERIFY(!exceedsLimit(8.0, 3.0, 95.0, 100));
+    }
+
+    void roundsExposureLimits()
+    {
+        QCOMPARE(exposureLimitToWrite(10.0, 0.01, 2, 2), double(10.005F));
+        QCOMPARE(exposureLimitToWrite(10.0, 1.0, 2, 0), 10.5);
+        QCOMPARE(exposureLimitToWrite(10.0, 1.0, 0, 2), 10.0);
+        QCOMPARE(exposureLimitToWrite(10.0, -1.0, 2, 2), 10.0);
+        QVERIFY(qIsFinite(exposureLimitToWrite(1e300, 1.0, 2, 2)));
+    }
+
+    void judgesDspRegions_data()
+    {
+        QTest::addColumn<double>("top");
+        QTest::addColumn<double>("bottom");
+        QTest::addColumn<bool>("valid");
+        QTest::addColumn<int>("drawnTop");
+        QTest::addColumn<int>("drawnHeight");
+        QTest::newRow("whole") << 0.0 << 20.0 << true << 0 << 20;
+        QTest::newRow("empty") << 5.0 << 5.0 << false << 5 << 0;
+        QTest::newRow("crossed") << 9.0 << 5.0 << false << 5 << 0;
+        QTest::newRow("too low") << 5.0 << 21.0 << false << 5 << 15;
+        QTest::newRow("beyond") << 30.0 << 40.0 << false << 20 << 0;
+    }
+
+    void judgesDspRegions()
+    {
+        QFETCH(double, top);
+        QFETCH(double, bottom);
+        const RegionLimits limits{10, 20};
+        QTEST(isValidDspRegion({0.0, top, 10.0, bottom}, limits), "valid");
+        const SensorRegion drawn = drawnDspRegion({0.0, top, 10.0, bottom}, limits);
+        QTEST(drawn.top, "drawnTop");
+        QTEST(drawn.height, "drawnHeight");
+        QVERIFY(writesFarEdgeFirst(1.0, 5.0, 4.0, 8.0));
+        QVERIFY(!writesFarEdgeFirst(1.0, 5.0, 4.0, 5.0));
+    }
+
+    void drawsWithoutTheOrigin()
+    {
+        const QPointF origin(8.0, 4.0);
+        const AutoRegionFields fields = fieldsForRegion({10, 20, 70, 50}, origin);
+        QCOMPARE(fields.right, 98.0);
+        QCOMPARE(fields.bottom, 64.0);
+        QVERIFY((drawnAutoRegion(fields, origin, {60, 100}) == SensorRegion{10, 20, 60, 50}));
+        QVERIFY((drawnAutoRegion(fields, origin, {15, 100}) == SensorRegion{10, 15, 15, 50}));
+    }
+};
+
+QTEST_APPLESS_MAIN(RegionArithmeticTest)
+
+#include "RegionArithmeticTest.moc"

@@ -1,0 +1,145 @@
+#include "regions/SensorBackground.h"
+
+#include <QBitmap>
+#include <QPainter>
+#include <QtTest>
+
+namespace {
+
+/// Stripes and a gradient, so that a shift or a wrong scale shows.
+QPixmap picture(const QSize& size, double devicePixelRatio = 1.0)
+{
+    QImage image(size, QImage::Format_RGB32);
+    for (int y = 0; y < size.height(); ++y)
+        for (int x = 0; x < size.width(); ++x)
+            image.setPixel(
+                x, y,
+                qRgb(x * 255 / size.width(), y * 255 / size.height(), (x / 16) % 2 ? 200 : 0));
+    QPixmap pixmap = QPixmap::fromImage(image);
+    pixmap.setDevicePixelRatio(devicePixelRatio);
+    return pixmap;
+}
+
+/// The plain way, by full-size copies.
+QPixmap composedByCopies(QPixmap image, const QSize& sensor, const QRect& crop, const QSize& target)
+{
+    image.setDevicePixelRatio(1.0);
+    QPixmap area(sensor);
+    area.fill(Qt::black);
+    QPainter(&area).drawPixmap(0, 0, image);
+    if (!crop.isEmpty())
+        area = area.copy(crop);
+    QPixmap result(target);
+    result.fill(Qt::black);
+    QPainter(&result).drawPixmap(
+        0, 0, area.scaled(target, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+    return result;
+}
+
+int largestDifference(const QImage& a, const QImage& b)
+{
+    int largest = 0;
+    for (int y = 0; y < a.height(); ++y)
+        for (int x = 0; x < a.width(); ++x) {
+            const QRgb p = a.pixel(x, y);
+            const QRgb q = b.pixel(x, y);
+            largest = qMax(largest,
+                           qMax(qAbs(qRed(p) - qRed(q)),
+                                qMax(qAbs(qGreen(p) - qGreen(q)), qAbs(qBlue(p) - qBlue(q)))));
+        }
+    return largest;
+}
+
+} // namespace
+
+class SensorBackgroundTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void composesAsByCopies_data()
+    {
+        QTest::addColumn<QSize>("imageSize");
+        QTest::addColumn<double>("ratio");
+        QTest::addColumn<QRect>("crop");
+        QTest::addColumn<QSize>("target");
+        const QSize sensor(640, 480);
+        QTest::newRow("fits") << sensor << 1.0 << QRect() << QSize(200, 150);
+        QTest::newRow("device pixel ratio") << sensor << 2.0 << QRect() << QSize(200, 150);
+        QTest::newRow("cut") << QSize(900, 700) << 1.0 << QRect() << QSize(200, 150);
+        QTest::newRow("black margins") << QSize(320, 240) << 1.0 << QRect() << QSize(160, 120);
+        QTest::newRow("margins within pixels")
+            << QSize(331, 247) << 1.0 << QRect() << QSize(171, 128);
+        QTest::newRow("margins within pixels of a large sensor")
+            << QSize(331, 247) << 1.0 << QRect() << QSize(50, 38);
+        QTest::newRow("margins within pixels, enlarged")
+            << QSize(331, 247) << 1.0 << QRect(300, 200, 55, 67) << QSize(200, 150);
+        QTest::newRow("crop") << sensor << 1.0 << QRect(160, 80, 320, 240) << QSize(200, 150);
+        QTest::newRow("crop beyond the sensor")
+            << sensor << 1.0 << QRect(320, 240, 640, 480) << QSize(160, 120);
+        QTest::newRow("crop of another aspect ratio")
+            << sensor << 1.0 << QRect(0, 0, 480, 120) << QSize(160, 120);
+        QTest::newRow("enlarged") << sensor << 1.0 << QRect(0, 0, 64, 48) << QSize(640, 480);
+    }
+
+    void composesAsByCopies()
+    {
+        QFETCH(QSize, imageSize);
+        QFETCH(double, ratio);
+        QFETCH(QRect, crop);
+        QFETCH(QSize, target);
+        const QSize sensor(640, 480);
+        const QPixmap image = picture(imageSize, ratio);
+        const QPixmap composed = composeBackground(image, sensor, crop, target);
+        QCOMPARE(composed.size(), target);
+        const int difference = largestDifference(
+            composed.toImage(), composedByCopies(image, sensor, crop, target).toImage());
+        // Only then are the margins averaged from less than all pixels.
+        const bool isApproximate = imageSize.width() < 640 && target.width() * 4 < 640;
+        QVERIFY2(difference <= (isApproximate ? 16 : 0), qPrintable(QString::number(difference)));
+    }
+
+    void placeholderIsAPlainTint()
+    {
+        const QColor tint = placeholderTint(QColor(0, 100, 255));
+        QCOMPARE(tint.rgba(), qRgba(0x60, 0x7a, 0xa0, 185));
+        // The plain way: a masked pixmap of the sensor's size, scaled.
+        QPixmap full(640, 481);
+        full.fill(tint);
+        full.setMask(full.createMaskFromColor(Qt::transparent));
+
+        SensorBackground background;
+        background.setPlaceholder(tint, full.size());
+        for (const QSize& bounds : {QSize(300, 150), QSize(100, 399), QSize(2000, 1)}) {
+            const QPixmap plain
+                = full.scaled(bounds, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+            QCOMPARE(background.fitted(bounds).toImage(), plain.toImage());
+        }
+        background.setPlaceholder(tint, {14192, 10640});
+        QCOMPARE(background.beforeLayout().size(), QSize(2048, 1535));
+    }
+
+    void nothingWithoutASensor()
+    {
+        SensorBackground background;
+        background.setPlaceholder(Qt::red, {-1, -1});
+        QVERIFY(background.beforeLayout().isNull());
+        QVERIFY(composeBackground(picture({8, 8}), {}, {}, {}).isNull());
+        QCOMPARE(composeBackground({}, {8, 8}, {}, {8, 8}).toImage().pixelColor(4, 4),
+                 QColor(Qt::black));
+    }
+
+    void knowsOldWindows()
+    {
+        using System = QOperatingSystemVersion;
+        QVERIFY(needsOpaquePlaceholder(System(System::Windows, 6, 1, 7601)));
+        QVERIFY(needsOpaquePlaceholder(System(System::Windows, 5, 2)));
+        QVERIFY(!needsOpaquePlaceholder(System(System::Windows, 6, 2)));
+        QVERIFY(!needsOpaquePlaceholder(System(System::Windows, 10, 0)));
+        QVERIFY(!needsOpaquePlaceholder(System(System::Android, 6, 1)));
+    }
+};
+
+QTEST_MAIN(SensorBackgroundTest)
+
+#include "SensorBackgroundTest.moc"

@@ -1,0 +1,242 @@
+#include "Actions.h"
+
+#include "DragActions.h"
+#include "PictureFiles.h"
+#include "UserInput.h"
+
+#include <QAbstractItemView>
+#include <QAbstractSpinBox>
+#include <QBitmap>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QTabBar>
+#include <QWheelEvent>
+
+#include <array>
+
+namespace {
+
+QString anyNumber(Random& random)
+{
+    if (random.oneIn(8))
+        return random.pick({QStringLiteral("-"), QStringLiteral("abc"), QStringLiteral("1e9"),
+                            QStringLiteral("99999999999"), QString()});
+    return QString::number(random.below(random.pick({10, 200, 3000, 20000})));
+}
+
+void endEntry(Random& random, QWidget* field)
+{
+    sendKey(field, random.pick<int>({Qt::Key_Return, Qt::Key_Return, Qt::Key_Tab, Qt::Key_Escape}));
+}
+
+void typeIntoField(Session& session)
+{
+    Random& random = session.random;
+    const QPointer<QAbstractSpinBox> field = anyUsable<QAbstractSpinBox>(session);
+    if (!field)
+        return;
+    field->setFocus(Qt::MouseFocusReason);
+    field->selectAll();
+    typeText(field, anyNumber(random));
+    if (random.oneIn(4))
+        session.pass(random.pick({50, 1200}));
+    if (field && !random.oneIn(8))
+        endEntry(random, field);
+}
+
+void stepField(Session& session)
+{
+    const QPointer<QAbstractSpinBox> field = anyUsable<QAbstractSpinBox>(session);
+    for (int i = session.random.between(1, 5); i > 0 && field; --i)
+        sendKey(field, session.random.pick<int>({Qt::Key_Up, Qt::Key_Down, Qt::Key_PageUp}));
+}
+
+void clickButton(Session& session)
+{
+    const QPointer<QAbstractButton> button = anyUsable<QAbstractButton>(session);
+    for (int i = session.random.pick({1, 1, 2}); i > 0 && button && button->isEnabled(); --i)
+        click(button, session.random.oneIn(2) ? button->rect().center() : QPoint(6, 6));
+}
+
+void chooseEntry(Session& session)
+{
+    Random& random = session.random;
+    const QPointer<QComboBox> box = anyUsable<QComboBox>(session);
+    if (!box)
+        return;
+    box->setFocus(Qt::MouseFocusReason);
+    if (random.oneIn(4)) {
+        box->showPopup();
+        session.pass(60);
+    }
+    for (int i = random.between(1, 3); i > 0 && box; --i) {
+        sendKey(box, random.pick<int>({Qt::Key_Down, Qt::Key_Down, Qt::Key_Up, Qt::Key_Home}));
+        session.pass(0);
+    }
+    if (box)
+        box->hidePopup();
+}
+
+void switchTab(Session& session)
+{
+    if (auto* const bar = anyUsable<QTabBar>(session); bar && bar->count() > 0)
+        click(bar, bar->tabRect(session.random.below(bar->count())).center());
+}
+
+void scroll(Session& session)
+{
+    Random& random = session.random;
+    if (auto* const bar = anyUsable<QScrollBar>(session); bar && random.oneIn(2)) {
+        bar->setValue(random.between(bar->minimum(), bar->maximum()));
+    } else if (auto* const widget = anyUsable<QWidget>(session)) {
+        const QPoint position = widget->rect().center();
+        QWheelEvent event(position, widget->mapToGlobal(position), {},
+                          {0, random.pick({-120, 120, 30})}, Qt::NoButton, Qt::NoModifier,
+                          Qt::NoScrollPhase, false);
+        QApplication::sendEvent(widget, &event);
+    }
+}
+
+void editCell(Session& session)
+{
+    Random& random = session.random;
+    const QPointer<QAbstractItemView> table = anyUsable<QAbstractItemView>(session);
+    if (!table || !table->model() || table->model()->rowCount() == 0)
+        return;
+    const auto* const model = table->model();
+    const QModelIndex cell
+        = model->index(random.below(model->rowCount()), model->columnCount() - 1);
+    table->scrollTo(cell);
+    const QPoint position = table->visualRect(cell).center();
+    click(table->viewport(), position);
+    if (!table)
+        return;
+    sendMouse(table->viewport(), QEvent::MouseButtonDblClick, position);
+    const QPointer<QWidget> editor = QApplication::focusWidget();
+    if (!table || !editor || editor == table || !table->isAncestorOf(editor))
+        return;
+    if (random.oneIn(12)) {
+        session.closePage(Report::WithEditor);
+        return;
+    }
+    typeText(editor, anyNumber(random));
+    session.pass(random.pick({0, 50, 1200}));
+    if (editor && !random.oneIn(4))
+        endEntry(random, editor);
+}
+
+void leaveField(Session&)
+{
+    if (QWidget* const field = QApplication::focusWidget())
+        field->clearFocus();
+}
+
+void stream(Session& session)
+{
+    const bool runs = session.random.oneIn(2);
+    session.camera().setStreaming(runs);
+    emit session.host().streaming(runs);
+}
+
+void sendFrame(Session& session)
+{
+    Random& random = session.random;
+    QPixmap frame(random.pick<QSize>({{0, 0}, {1, 1}, {640, 480}, {2592, 1944}, {20000, 3}}));
+    frame.fill(Qt::gray);
+    if (random.oneIn(4))
+        frame = QBitmap(64, 64);
+    frame.setDevicePixelRatio(random.pick({1.0, 2.0}));
+    session.host().lastFrame = frame;
+    if (random.oneIn(2))
+        emit session.host().sendFrame(frame);
+}
+
+void resizeWindow(Session& session)
+{
+    session.host().resize(session.random.between(50, 1600), session.random.between(50, 1200));
+    if (session.page())
+        session.page()->setGeometry(session.host().rect());
+}
+
+void hideAndShow(Session& session)
+{
+    session.host().hide();
+    session.pass(session.random.pick({0, 40, 400}));
+    session.host().show();
+    QApplication::setActiveWindow(&session.host());
+}
+
+void changeTheme(Session& session)
+{
+    QApplication::setPalette(session.random.oneIn(2) ? QPalette(Qt::black) : QPalette(Qt::white));
+}
+
+void reopen(Session& session)
+{
+    session.closePage(session.random.oneIn(2) ? Report::Visible : Report::Hidden);
+    session.pass(session.random.pick({0, 30}));
+    session.openPage();
+}
+
+void writeFromOutside(Session& session)
+{
+    for (int i = session.random.pick({1, 1, 1, 20}); i > 0; --i)
+        session.misbehaviour().writeFromOutside();
+}
+
+void distortCamera(Session& session)
+{
+    if (!session.isHonest())
+        session.misbehaviour().distort();
+}
+
+void burst(Session& session)
+{
+    session.burst(session.random.oneIn(8) ? 100000 : 500);
+}
+
+void loseCamera(Session& session)
+{
+    if (!session.isHonest() && !session.isLost() && session.random.oneIn(2))
+        session.loseCamera();
+}
+
+constexpr std::array actions{
+    Action{"typing", 14, typeIntoField},
+    Action{"stepping a field", 6, stepField},
+    Action{"dragging", 20, dragRegion},
+    Action{"clicking", 14, clickButton},
+    Action{"choosing an entry", 8, chooseEntry},
+    Action{"editing a cell", 8, editCell},
+    Action{"switching tabs", 8, switchTab},
+    Action{"scrolling", 3, scroll},
+    Action{"resizing", 3, resizeWindow},
+    Action{"changing the theme", 1, changeTheme},
+    Action{"leaving a field", 4, leaveField},
+    Action{"hiding and showing", 2, hideAndShow},
+    Action{"reopening", 2, reopen},
+    Action{"streaming", 4, stream},
+    Action{"a frame", 3, sendFrame},
+    Action{"another client", 8, writeFromOutside},
+    Action{"distorting the camera", 4, distortCamera},
+    Action{"a burst", 1, burst},
+    Action{"losing the camera", 1, loseCamera},
+};
+
+} // namespace
+
+const Action& pickAction(Session& session)
+{
+    int total = 0;
+    for (const Action& action : actions)
+        total += action.weight;
+    int place = session.random.below(total);
+    for (const Action& action : actions) {
+        place -= action.weight;
+        if (place < 0)
+            return action;
+    }
+    return actions.front();
+}

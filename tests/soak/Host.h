@@ -1,0 +1,34 @@
+#pragma once
+
+#include "plugin/TabExtensionInterface.h"
+
+#include <QMap>
+#include <QPixmap>
+#include <QVariant>
+#include <QWidget>
+
+/// The viewer's side of a page: the object that owns it, with the members that it is connected to.
+class Host : public QWidget
+{
+    Q_OBJECT
+
+public:
+    QPixmap lastFrame; ///< what a request for a frame is answered with
+
+    static QMap<QString, QVariant> connections()
+    {
+        return {{QStringLiteral("connectWidgetToSignal"), SIGNAL(streaming(bool))},
+                {QStringLiteral("connectLoggingSlot"),
+                 SLOT(takeLog(ZebViewerLogCategory, const QString&))},
+                {QStringLiteral("connectSendFrameSignal"), SIGNAL(sendFrame(const QPixmap&))},
+                {QStringLiteral("connectRequestFrameSlot"), SLOT(requestFrame())}};
+    }
+
+signals:
+    void streaming(bool running);
+    void sendFrame(const QPixmap& frame);
+
+public slots:
+    void takeLog(ZebViewerLogCategory, const QString&) { }
+    void requestFrame() { emit sendFrame(lastFrame); }
+};

@@ -1,0 +1,239 @@
+#include "Invariants.h"
+
+#include "UserInput.h"
+
+#include <QAbstractItemView>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDoubleSpinBox>
+#include <QLabel>
+#include <QRubberBand>
+#include <QSpinBox>
+#include <QTabWidget>
+
+#include <cmath>
+
+namespace Invariants {
+
+namespace {
+
+/// A field of a region page and the features it shows, of which the camera's first counts.
+struct Field
+{
+    const char* page;
+    const char* name;
+    std::initializer_list<const char*> features;
+};
+
+const std::initializer_list<Field> fields{
+    {"AOIWidget", "spinLeft", {"OffsetX"}},
+    {"AOIWidget", "spinTop", {"OffsetY"}},
+    {"AOIWidget", "spinWidth", {"Width"}},
+    {"AOIWidget", "spinHeight", {"Height"}},
+    {"AutoROIWidget",
+     "spinLeft",
+     {"DSPSubregionLeft", "AutofunctionAOIOffsetX", "AutoModeRegionOffsetX"}},
+    {"AutoROIWidget",
+     "spinTop",
+     {"DSPSubregionTop", "AutofunctionAOIOffsetY", "AutoModeRegionOffsetY"}},
+    {"AutoROIWidget", "spinRight", {"DSPSubregionRight"}},
+    {"AutoROIWidget", "spinBottom", {"DSPSubregionBottom"}},
+    {"AutoROIWidget", "spinWidth", {"AutofunctionAOIWidth", "AutoModeRegionWidth"}},
+    {"AutoROIWidget", "spinHeight", {"AutofunctionAOIHeight", "AutoModeRegionHeight"}},
+    {"AutoROIWidget", "spinExpAutoMin", {"ExposureAutoMin"}},
+    {"AutoROIWidget", "spinExpAutoMax", {"ExposureAutoMax"}},
+};
+
+QString valueText(const sim::Camera& camera, const std::string& feature)
+{
+    return QString::fromStdString(camera.feature(feature).text());
+}
+
+void compare(Session& session, const QString& what, double shown, double held, double tolerance)
+{
+    if (!(std::abs(shown - held) <= tolerance))
+        session.find(
+            QStringLiteral("%1 shows %2, the camera holds %3").arg(what).arg(shown).arg(held));
+}
+
+void checkRegionFields(Session& session)
+{
+    for (const Field& field : fields) {
+        for (QDoubleSpinBox* const box : usable<QDoubleSpinBox>(session)) {
+            if (box->objectName() != QLatin1String(field.name))
+                continue;
+            const QWidget* page = box;
+            while (page && !page->inherits(field.page))
+                page = page->parentWidget();
+            const auto feature
+                = std::find_if(field.features.begin(), field.features.end(),
+                               [&](const char* name) { return session.camera().has(name); });
+            if (page && feature != field.features.end())
+                compare(session, QStringLiteral("%1 of %2").arg(box->objectName(), field.page),
+                        box->value(), session.camera().feature(*feature).number(),
+                        std::pow(10.0, -box->decimals()));
+        }
+    }
+}
+
+// Fields that are named after a feature, with three letters before.
+void checkBoundFields(Session& session)
+{
+    for (QWidget* const widget : usable<QWidget>(session)) {
+        const std::string feature = widget->objectName().mid(3).toStdString();
+        if (!session.camera().has(feature))
+            continue;
+        const QString held = valueText(session.camera(), feature);
+        QString shown = held;
+        if (const auto* const box = qobject_cast<QSpinBox*>(widget))
+            shown = QString::number(box->value());
+        else if (const auto* const list = qobject_cast<QComboBox*>(widget))
+            shown = list->currentText();
+        else if (const auto* const check = qobject_cast<QCheckBox*>(widget))
+            compare(session, check->objectName(), check->isChecked(),
+                    session.camera().feature(feature).isOn(), 0.0);
+        if (shown != held)
+            session.find(QStringLiteral("%1 shows %2, the camera holds %3")
+                             .arg(widget->objectName(), shown, held));
+    }
+}
+
+// The page of the single region: its band covers the camera's region, to the pixel.
+void checkBand(Session& session)
+{
+    const sim::Snapshot state = session.camera().snapshot();
+    for (const QLabel* const label : usable<QLabel>(session)) {
+        const QWidget* page = label;
+        while (page && !page->inherits("AOIWidget"))
+            page = page->parentWidget();
+        const auto* const band = label->findChild<QRubberBand*>();
+        if (!page || !band || state.regions.empty() || state.maximum.isEmpty())
+            continue;
+        const auto& region = state.regions.front();
+        const double width
+            = std::min(double(label->width()),
+                       std::floor(double(label->height()) * double(state.maximum.width)
+                                      / double(state.maximum.height)
+                                  + 0.5));
+        const double scale = width / double(state.maximum.width);
+        compare(session, QStringLiteral("the band's left"), band->x(), double(region.x) * scale,
+                1.0);
+        compare(session, QStringLiteral("the band's top"), band->y(), double(region.y) * scale,
+                1.0);
+        compare(session, QStringLiteral("the band's width"), band->width(),
+                double(region.width) * scale, 2.0);
+        compare(session, QStringLiteral("the band's height"), band->height(),
+                double(region.height) * scale, 2.0);
+    }
+}
+
+// Each region that is switched on has its band, and no other has one.
+void checkRegionBands(Session& session)
+{
+    const sim::Snapshot state = session.camera().snapshot();
+    for (const QLabel* const label : usable<QLabel>(session)) {
+        if (!label->inherits("MultiRubberBandLabel") || !state.hasMultipleRegions)
+            continue;
+        int shown = 0;
+        for (const QRubberBand* const band : label->findChildren<QRubberBand*>())
+            shown += band->inherits("RectangleRubberBand") && band->isVisible() ? 1 : 0;
+        compare(session, QStringLiteral("the number of bands"), shown, double(state.regions.size()),
+                0.0);
+    }
+}
+
+// The table of the region whose tab is open: a name and a value in each row.
+void checkRegionTables(Session& session)
+{
+    for (const QAbstractItemView* const table : usable<QAbstractItemView>(session)) {
+        if (!table->inherits("RegionTableWidget"))
+            continue;
+        const QWidget* page = table;
+        while (page && !qobject_cast<const QTabWidget*>(page->parentWidget()->parentWidget()))
+            page = page->parentWidget();
+        if (!page)
+            continue;
+        const auto* const tabs = static_cast<QTabWidget*>(page->parentWidget()->parentWidget());
+        const QAbstractItemModel* const model = table->model();
+        for (int row = 0; row < model->rowCount(); ++row) {
+            const std::string name = model->index(row, 0).data().toString().toStdString();
+            if (!session.camera().has(name))
+                continue;
+            const auto held = session.camera().feature(name).valueAt(tabs->currentIndex());
+            const QString shown = model->index(row, 1).data().toString();
+            if (shown != QString::fromStdString(held.toText()))
+                session.find(QStringLiteral("the table shows %1 for %2 of region %3, the camera "
+                                            "holds %4")
+                                 .arg(shown, QString::fromStdString(name))
+                                 .arg(tabs->currentIndex())
+                                 .arg(QString::fromStdString(held.toText())));
+        }
+    }
+}
+
+} // namespace
+
+int countOverlaps(Session& session)
+{
+    const sim::Snapshot state = session.camera().snapshot();
+    int overlaps = 0;
+    for (const auto& a : state.regions) {
+        for (const auto& b : state.regions) {
+            if (a.number < b.number && a.x < b.x + b.width && b.x < a.x + a.width
+                && a.y < b.y + b.height && b.y < a.y + a.height)
+                ++overlaps;
+        }
+    }
+    return overlaps;
+}
+
+void checkRegions(Session& session)
+{
+    const sim::Snapshot state = session.camera().snapshot();
+    if (state.maximum.isEmpty())
+        return;
+    for (const sim::Snapshot::Region& region : state.regions) {
+        // A region that a new binning left outside is invalid, and the camera says so.
+        if (!region.isValid)
+            continue;
+        if (region.x < 0 || region.y < 0 || region.x + region.width > state.maximum.width
+            || region.y + region.height > state.maximum.height)
+            session.find(QStringLiteral("region %1 is beyond the sensor").arg(region.number));
+    }
+}
+
+void checkAtRest(Session& session)
+{
+    using Mode = sim::NotificationSettings::Mode;
+    constexpr int settlingTime = 2500;
+    if (QWidget* const field = QApplication::focusWidget())
+        field->clearFocus();
+    if (session.camera().notifications().mode == Mode::Off) {
+        session.host().hide();
+        session.host().show();
+    }
+    session.host().resize(800, 1000);
+    if (session.page())
+        session.page()->setGeometry(session.host().rect());
+    session.pass(settlingTime);
+    if (!session.page())
+        return;
+    // To read one of several regions it has to be selected, and a region of the automatic function
+    // outside the picture switches the function off.
+    const QStringList demanded{QStringLiteral("SubRegionSelector"),
+                               QStringLiteral("AutofunctionAOIEnable")};
+    session.takeWrites();
+    if (session.camera().notifications().mode != Mode::Off)
+        session.misbehaviour().writeFromOutside();
+    session.pass(settlingTime);
+    const QStringList writes = session.takeWrites(demanded);
+    if (!writes.isEmpty())
+        session.find(QStringLiteral("a refresh wrote %1").arg(writes.join(QLatin1String(", "))));
+    checkBoundFields(session);
+    checkRegionFields(session);
+    checkBand(session);
+    checkRegionBands(session);
+    checkRegionTables(session);
+}
+
+} // namespace Invariants

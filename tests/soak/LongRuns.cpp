@@ -1,0 +1,139 @@
+#include "LongRuns.h"
+
+#include "Host.h"
+#include "ProcessState.h"
+#include "Report.h"
+#include "Watchdog.h"
+
+#include "simulator/Camera.h"
+#include "simulator/Model.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QTimer>
+
+#include <array>
+#include <cstdio>
+#include <thread>
+
+#include <time.h>
+
+namespace LongRuns {
+
+namespace {
+
+constexpr std::int64_t toleratedGrowth = 1 << 20;
+
+QWidget* openPage(TabExtensionInterface& module, const sim::Camera& camera, Host& host)
+{
+    const auto features = camera.features();
+    const auto list = TabExtensionInterface::FeatureList::create(features.begin(), features.end());
+    auto* const page = new QWidget;
+    page->setParent(&host);
+    const auto connections = Host::connections();
+    module.createTab(list, page, &connections);
+    host.resize(700, 900);
+    page->setGeometry(host.rect());
+    page->show();
+    host.show();
+    return page;
+}
+
+void openAndCloseOne(TabExtensionInterface& module, Report& report, const std::string& model)
+{
+    const auto camera = sim::createCamera(model);
+    {
+        Host host;
+        openPage(module, *camera, host);
+        QCoreApplication::processEvents();
+        if (camera->has("Width"))
+            camera->writeAsOtherClient("Width", 256);
+        QCoreApplication::processEvents();
+    }
+    report.opened += 1;
+    report.destroyed[Report::Visible] += 1;
+    report.sdkCalls += camera->journal().count();
+    if (camera->observerCount() != 0)
+        report.findings.append(QStringLiteral("an observer is left"));
+}
+
+double threadSeconds()
+{
+    timespec time{};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+    return static_cast<double>(time.tv_sec) + 1e-9 * static_cast<double>(time.tv_nsec);
+}
+
+} // namespace
+
+void openAndClose(TabExtensionInterface& module, Watchdog& watchdog, Report& report, int count)
+{
+    constexpr int firstLook = 100;
+    constexpr std::array models{"current", "dsp", "aoi", "multi-region", "automode-dynamic"};
+    ProcessState before;
+    for (int i = 1; i <= count; ++i) {
+        watchdog.beat();
+        openAndCloseOne(module, report, models[static_cast<std::size_t>(i) % models.size()]);
+        if (i == firstLook || i == count) {
+            const ProcessState state = ProcessState::now();
+            std::printf("after %d cameras: %s\n", i, qPrintable(state.text()));
+            if (i == firstLook)
+                before = state;
+        }
+    }
+    const ProcessState after = ProcessState::now();
+    if (after.residentBytes - before.residentBytes > toleratedGrowth
+        || after.descriptors != before.descriptors || after.timers != before.timers
+        || after.translators != before.translators || after.widgets != before.widgets
+        || after.hasCursor)
+        report.findings.append(QStringLiteral("the process holds more than before"));
+}
+
+void storm(TabExtensionInterface& module, Watchdog& watchdog, Report& report, double minutes)
+{
+    constexpr double busyLimit = 0.02;
+    const auto camera = sim::createCamera("current");
+    Host host;
+    openPage(module, *camera, host);
+
+    std::atomic<bool> ends{false};
+    std::thread source([&] {
+        auto next = std::chrono::steady_clock::now();
+        for (int i = 0; !ends; ++i) {
+            camera->burst(i % 2 ? "Width" : "PixelFormat", 1);
+            next += std::chrono::milliseconds(1);
+            std::this_thread::sleep_until(next);
+        }
+    });
+    QTimer heart;
+    QObject::connect(&heart, &QTimer::timeout, [&watchdog] { watchdog.beat(); });
+    heart.start(1000);
+    const auto wait = [](double seconds) {
+        QEventLoop loop;
+        QTimer::singleShot(static_cast<int>(seconds * 1000.0), &loop, &QEventLoop::quit);
+        loop.exec();
+    };
+    wait(5.0);
+    const ProcessState before = ProcessState::now();
+    const double busyBefore = threadSeconds();
+    QElapsedTimer timer;
+    timer.start();
+    wait(minutes * 60.0);
+    const double busy
+        = (threadSeconds() - busyBefore) / (1e-3 * static_cast<double>(timer.elapsed()));
+    const ProcessState after = ProcessState::now();
+    ends = true;
+    source.join();
+
+    report.opened += 1;
+    report.notifications += camera->notificationCount();
+    report.sdkCalls += camera->journal().count();
+    std::printf("before: %s\nafter: %s\nGUI thread busy: %.2f %%\n", qPrintable(before.text()),
+                qPrintable(after.text()), 100.0 * busy);
+    if (busy > busyLimit)
+        report.findings.append(QStringLiteral("the GUI thread is too busy"));
+    if (after.residentBytes - before.residentBytes > toleratedGrowth)
+        report.findings.append(QStringLiteral("memory grows"));
+}
+
+} // namespace LongRuns

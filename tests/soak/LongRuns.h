@@ -1,0 +1,19 @@
+#pragma once
+
+#include "plugin/TabExtensionInterface.h"
+
+class Watchdog;
+struct Report;
+
+/// Runs that look for what grows.
+namespace LongRuns {
+
+/// Opens and closes a camera @p count times; what the process holds after the hundredth and after
+/// the last has to be the same.
+void openAndClose(TabExtensionInterface& module, Watchdog& watchdog, Report& report, int count);
+
+/// Shows a page while its camera notifies 1000 times a second; tells how busy the GUI thread is and
+/// whether memory grows.
+void storm(TabExtensionInterface& module, Watchdog& watchdog, Report& report, double minutes);
+
+} // namespace LongRuns

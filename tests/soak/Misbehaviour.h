@@ -1,0 +1,34 @@
+#pragma once
+
+#include "Random.h"
+
+#include "simulator/Camera.h"
+
+#include <string>
+#include <vector>
+
+/// What a camera of these sessions does wrong, all of it from the seed.
+class Misbehaviour
+{
+public:
+    Misbehaviour(sim::Camera& camera, Random& random);
+
+    /// Writes are refused now and then; the camera is honest otherwise.
+    void refuseWrites();
+    /// Every operation goes wrong now and then, in every way but the loss of the camera.
+    /// Registering and unregistering are left alone, unless @p withObservers.
+    void spoil(bool withObservers);
+    /// Something about one feature becomes odd: its range, entries, texts or access.
+    void distort();
+    /// Another client writes something legal, as far as the feature has legal values.
+    void writeFromOutside();
+
+    const std::string& anyFeature();
+
+private:
+    void distortNumbers(const std::string& name);
+
+    sim::Camera& m_camera;
+    Random& m_random;
+    const std::vector<std::string> m_names;
+};

@@ -1,0 +1,310 @@
+#include "Session.h"
+
+#include "Actions.h"
+#include "Invariants.h"
+#include "PictureFiles.h"
+#include "VirtualTime.h"
+#include "Watchdog.h"
+
+#include "simulator/Model.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QDialog>
+#include <QEventLoop>
+#include <QFileDialog>
+#include <QLineEdit>
+
+#include <cstdio>
+
+namespace {
+
+constexpr std::chrono::milliseconds lostCallTime{300};
+constexpr int longestLostClose = 1000; ///< milliseconds
+constexpr int dialogInterval = 40;
+
+void mix(std::uint64_t& digest, const std::string& text)
+{
+    for (const char c : text)
+        digest = (digest ^ static_cast<unsigned char>(c)) * 0x100000001B3u;
+}
+
+} // namespace
+
+Session::Session(const Run& run, std::uint64_t seed, const std::string& model)
+    : random(seed)
+    , m_run(run)
+    , m_seed(seed)
+    , m_dialogTimer(this)
+{
+    Watchdog::setPlace(seed, 0, m_action);
+    prepareCamera(model.empty() ? random.pick(sim::modelNames()) : model);
+    VirtualTime::start(m_hasThreads ? VirtualTime::Pace::Fast : VirtualTime::Pace::Exact);
+    QApplication::setPalette(QPalette(Qt::lightGray));
+    m_host = std::make_unique<Host>();
+    m_host->lastFrame = QPixmap(320, 200);
+    m_dialogTimer.setInterval(dialogInterval);
+    connect(&m_dialogTimer, &QTimer::timeout, this, &Session::answerDialog);
+    m_dialogTimer.start();
+}
+
+Session::~Session()
+{
+    m_run.report.sessions += 1;
+    m_run.report.exactSessions += m_hasThreads ? 0 : 1;
+}
+
+void Session::prepareCamera(const std::string& model)
+{
+    using Settings = sim::NotificationSettings;
+    m_model = QString::fromStdString(model);
+    m_isHonest = random.oneIn(2);
+    m_hasThreads = random.oneIn(3);
+
+    sim::CameraOptions options;
+    options.rounds = !m_isHonest && random.oneIn(3);
+    options.extraFeatures = random.oneIn(20) ? 500 : 0;
+    options.notifications = m_hasThreads
+        ? Settings::asynchronous(std::chrono::milliseconds(random.between(0, 20)))
+        : random.oneIn(4) ? Settings::off()
+                          : Settings::synchronous();
+    options.notifications.repeats = random.pick({1, 1, 3});
+    options.notifications.onRegistration = random.oneIn(3);
+    options.notifications.lateAfterUnregistration = m_hasThreads && random.oneIn(3);
+    options.notifications.cascades = m_isHonest || random.oneIn(2);
+    m_camera = sim::createCamera(model, options);
+    m_camera->journal().record(sim::Operations::writes());
+    m_misbehaviour = std::make_unique<Misbehaviour>(*m_camera, random);
+
+    const auto features = m_camera->features();
+    m_features = TabExtensionInterface::FeatureList::create(features.begin(), features.end());
+    if (m_isHonest) {
+        m_isStrict = !random.oneIn(3);
+        if (!m_isStrict)
+            m_misbehaviour->refuseWrites();
+        return;
+    }
+    m_countsObservers = !random.oneIn(4);
+    m_misbehaviour->spoil(!m_countsObservers);
+    if (random.oneIn(4))
+        m_features->insert(random.below(m_features->size()), nullptr);
+}
+
+void Session::run()
+{
+    openPage();
+    const int steps = random.between(10, 80);
+    for (m_step = 1; m_step <= steps && m_page; ++m_step) {
+        step();
+        if (!m_page && random.oneIn(2))
+            openPage();
+        if (m_isLost && random.oneIn(4))
+            break;
+    }
+    m_action = "closing";
+    if (m_page && m_isHonest)
+        Invariants::checkAtRest(*this);
+    if (random.oneIn(5) && !m_isHonest)
+        closeCamera(); // before its page
+    if (m_page)
+        closePage(random.oneIn(2) ? Report::Visible : Report::Hidden);
+    m_dialogTimer.stop();
+    closeCamera();
+    m_host.reset();
+    QCoreApplication::processEvents();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    if (QApplication::overrideCursor())
+        find(QStringLiteral("a cursor is left"));
+    if (!QApplication::topLevelWidgets().isEmpty())
+        find(QStringLiteral("a window is left"));
+    while (QApplication::overrideCursor())
+        QApplication::restoreOverrideCursor();
+}
+
+void Session::closeCamera()
+{
+    if (m_crowd.joinable())
+        m_crowd.join();
+    if (!m_camera)
+        return;
+    account();
+    for (std::size_t kind = 0; kind < sim::Failure::kindCount; ++kind)
+        m_run.report.failures[kind]
+            += m_camera->failures().injected(static_cast<sim::Failure::Kind>(kind));
+    m_run.report.notifications += m_camera->notificationCount();
+    m_misbehaviour.reset();
+    m_camera.reset();
+}
+
+void Session::step()
+{
+    const Action& action = pickAction(*this);
+    m_action = action.name;
+    Watchdog::setPlace(m_seed, m_step, m_action);
+    m_run.watchdog.beat();
+    m_run.report.actions += 1;
+    if (m_run.isVerbose) {
+        std::fprintf(stderr, "%d %s, %zu calls before\n", m_step, m_action,
+                     m_camera->journal().count());
+    }
+    action.perform(*this);
+    if (m_isHonest && m_page)
+        Invariants::checkRegions(*this);
+    if (!m_isLost && random.oneIn(3))
+        pass(random.pick({0, 10, 60, 250, 1100}));
+}
+
+void Session::pass(int milliseconds)
+{
+    m_run.watchdog.beat();
+    QEventLoop loop;
+    QTimer::singleShot(milliseconds, Qt::PreciseTimer, &loop, &QEventLoop::quit);
+    loop.exec();
+    m_run.watchdog.beat();
+}
+
+void Session::openPage()
+{
+    auto* const page = new QWidget;
+    page->setParent(m_host.get());
+    m_page = page;
+    const auto connections = Host::connections();
+    takeWrites();
+    qint32 result = -1;
+    try {
+        result
+            = m_run.module.createTab(m_features, page, random.oneIn(20) ? nullptr : &connections);
+    } catch (...) {
+        find(QStringLiteral("an exception came out of createTab"));
+    }
+    if (result != 0) {
+        m_run.report.refused += 1;
+        if (page->layout() || !page->children().isEmpty())
+            find(QStringLiteral("a refused page is not empty"));
+        delete page;
+        return;
+    }
+    m_run.report.opened += 1;
+    // A region told by its edges that is invalid gives way to the whole picture.
+    const QStringList writes
+        = takeWrites({QStringLiteral("SubRegionSelector"), QStringLiteral("DSPSubregionLeft"),
+                      QStringLiteral("DSPSubregionTop"), QStringLiteral("DSPSubregionRight"),
+                      QStringLiteral("DSPSubregionBottom")});
+    if (m_isHonest && !writes.isEmpty())
+        find(QStringLiteral("opening wrote %1").arg(writes.join(QLatin1String(", "))));
+    m_host->resize(700, 900);
+    page->setGeometry(m_host->rect());
+    page->show();
+    m_host->show();
+    QApplication::setActiveWindow(m_host.get());
+    pass(random.pick({0, 30, 1300}));
+}
+
+void Session::closePage(Report::Ending ending)
+{
+    if (!m_page)
+        return;
+    const std::size_t callsBefore = m_camera ? m_camera->journal().count() : 0;
+    const auto begin = std::chrono::steady_clock::now();
+    const QPointer<QWidget> page = m_page;
+    if (ending == Report::Hidden && m_host)
+        m_host->hide();
+    delete page.data();
+    m_run.report.destroyed[ending] += 1;
+    if (m_isLost && m_camera) {
+        const std::size_t calls = m_camera->journal().count() - callsBefore;
+        const auto time = std::chrono::duration_cast<std::chrono::milliseconds>(
+                              std::chrono::steady_clock::now() - begin)
+                              .count();
+        m_run.report.slowestLostClose = std::max<std::int64_t>(m_run.report.slowestLostClose, time);
+        if (time > longestLostClose)
+            find(QStringLiteral("closing a lost camera took %1 ms, %2 calls").arg(time).arg(calls));
+    }
+    checkPageIsGone();
+}
+
+void Session::checkPageIsGone()
+{
+    if (m_camera && m_countsObservers && m_camera->observerCount() != 0)
+        find(QStringLiteral("%1 observers are left").arg(m_camera->observerCount()));
+}
+
+void Session::loseCamera()
+{
+    m_isLost = true;
+    m_run.report.lostCameras += 1;
+    m_camera->lose(lostCallTime);
+}
+
+void Session::burst(int count)
+{
+    if (!m_hasThreads || m_crowd.joinable())
+        return;
+    m_crowd = std::thread(
+        [this, count, name = m_misbehaviour->anyFeature()] { m_camera->burst(name, count, 4); });
+}
+
+QStringList Session::takeWrites(const QStringList& ignored)
+{
+    account();
+    QStringList writes;
+    const QStringList all = std::exchange(m_writes, {});
+    for (const QString& write : all) {
+        if (!ignored.contains(write.section(QLatin1Char('='), 0, 0)))
+            writes.append(write);
+    }
+    return writes;
+}
+
+// Takes over the journal's entries and counts, which start anew.
+void Session::account()
+{
+    sim::Journal& journal = m_camera->journal();
+    for (const sim::JournalEntry& entry : journal.writes()) {
+        m_writes.append(QString::fromStdString(entry.feature + '=' + entry.value.toText()));
+        mix(m_digest, entry.feature + '=' + entry.value.toText());
+    }
+    mix(m_digest, std::to_string(journal.count()));
+    m_run.report.sdkCalls += journal.count();
+    journal.clear();
+}
+
+void Session::find(const QString& text)
+{
+    const QString finding = QStringLiteral("seed %1, step %2 (%3), camera %4: %5")
+                                .arg(QString::number(m_seed), QString::number(m_step),
+                                     QLatin1String(m_action), m_model, text);
+    m_run.report.findings.append(finding);
+    std::fprintf(stderr, "finding: %s\n  replay with: scripts/soak --replay %llu\n",
+                 qPrintable(finding), static_cast<unsigned long long>(m_seed));
+}
+
+// A dialog is on: somebody answers, refuses, waits, or closes the page under it.
+void Session::answerDialog()
+{
+    m_run.watchdog.beat();
+    if (QWidget* const popup = QApplication::activePopupWidget(); popup && random.oneIn(2)) {
+        popup->close();
+        return;
+    }
+    auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+    if (!dialog || random.oneIn(2))
+        return;
+    m_run.report.actions += 1;
+    if (m_page && random.oneIn(8)) {
+        closePage(Report::WithDialog);
+        return;
+    }
+    if (auto* const files = qobject_cast<QFileDialog*>(dialog); files && !random.oneIn(4)) {
+        if (auto* const name = files->findChild<QLineEdit*>())
+            name->setText(random.pick(m_run.pictures.paths()));
+        files->setDirectory(QFileInfo(m_run.pictures.paths().first()).path());
+        QMetaObject::invokeMethod(files, "accept");
+        return;
+    }
+    const auto buttons = dialog->findChildren<QAbstractButton*>();
+    if (buttons.isEmpty() || random.oneIn(3) || qobject_cast<QFileDialog*>(dialog))
+        dialog->reject();
+    else
+        random.pick(buttons)->click();
+}

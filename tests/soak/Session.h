@@ -1,0 +1,91 @@
+#pragma once
+
+#include "Host.h"
+#include "Misbehaviour.h"
+#include "Random.h"
+#include "Report.h"
+
+#include "simulator/Camera.h"
+
+#include <QPointer>
+#include <QTimer>
+
+#include <memory>
+#include <thread>
+
+class PictureFiles;
+class Watchdog;
+
+/// One camera, opened through the module as a viewer does it, used, and closed; all of it follows
+/// from the seed. A session without threads of the camera's own replays call by call.
+class Session : public QObject
+{
+public:
+    /// What a run shares among its sessions.
+    struct Run
+    {
+        TabExtensionInterface& module;
+        const PictureFiles& pictures;
+        Watchdog& watchdog;
+        Report& report;
+        bool isVerbose = false;
+    };
+
+    /// Without the name of a model the seed decides.
+    Session(const Run& run, std::uint64_t seed, const std::string& model = {});
+    ~Session() override;
+
+    void run();
+    /// Sums up the calls that the camera got: equal for equal seeds, when no thread takes part.
+    std::uint64_t digest() const { return m_digest; }
+    bool hasThreads() const { return m_hasThreads; }
+
+    // For the actions.
+    Random random;
+    sim::Camera& camera() { return *m_camera; }
+    Misbehaviour& misbehaviour() { return *m_misbehaviour; }
+    Host& host() { return *m_host; }
+    const PictureFiles& pictures() const { return m_run.pictures; }
+    QWidget* page() const { return m_page; }     ///< null when there is none now
+    bool isHonest() const { return m_isHonest; } ///< refuses at most
+    bool isStrict() const { return m_isStrict; } ///< and only what is illegal
+    bool isLost() const { return m_isLost; }
+
+    void pass(int milliseconds); ///< lets the event loop run
+    void openPage();
+    void closePage(Report::Ending ending);
+    void loseCamera();
+    /// Notifies from four threads of another's making; a session without threads does nothing.
+    void burst(int count);
+    /// What the module wrote since the last call, but for @p ignored; names and values.
+    QStringList takeWrites(const QStringList& ignored = {});
+    void find(const QString& text);
+
+private:
+    void prepareCamera(const std::string& model);
+    void closeCamera();
+    void step();
+    void answerDialog();
+    void checkPageIsGone();
+    void account();
+
+    const Run m_run;
+    const std::uint64_t m_seed;
+    std::unique_ptr<sim::Camera> m_camera;
+    std::unique_ptr<Misbehaviour> m_misbehaviour;
+    std::unique_ptr<Host> m_host;
+    TabExtensionInterface::FeatureList m_features;
+    QPointer<QWidget> m_page;
+    QTimer m_dialogTimer;
+    std::thread m_crowd;
+    QString m_model;
+    QStringList m_writes;
+    bool m_isHonest = false;
+    bool m_isStrict = false;
+    bool m_isLost = false;
+    bool m_hasThreads = false;
+    bool m_countsObservers = true;
+    int m_step = 0;
+    const char* m_action = "opening";
+    std::uint64_t m_digest = 0;
+};

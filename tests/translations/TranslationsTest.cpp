@@ -1,0 +1,192 @@
+#include "plugin/BaseTabPluginWidget.h"
+
+#include <QDir>
+#include <QMap>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QTest>
+#include <QTranslator>
+#include <QXmlStreamReader>
+
+#include <memory>
+
+namespace {
+
+const QStringList bases{"tabextensionaoi", "tabextensionautoaoi", "tabextensionimgfmt"};
+const QStringList languages{"de", "fr", "ja", "zh_CN"};
+
+const char* const localeTest = "loadsForTheSystemLocale";
+const char* const localeVariable = "TRANSLATIONS_TEST_LANGUAGE";
+
+struct Message
+{
+    QString source;
+    QString translation;
+    bool isFinished = false;
+};
+
+/// By context and source, which together name a text.
+using Messages = QMap<QString, Message>;
+
+Messages readMessages(const QString& base, const QString& language)
+{
+    Messages messages;
+    QFile file(QStringLiteral(TRANSLATIONS_FOLDER "/%1_%2.ts").arg(base, language));
+    if (!file.open(QIODevice::ReadOnly))
+        return messages;
+    QXmlStreamReader xml(&file);
+    QString context;
+    Message message;
+    while (!xml.atEnd()) {
+        if (xml.readNext() == QXmlStreamReader::StartElement) {
+            if (xml.name() == "name")
+                context = xml.readElementText();
+            else if (xml.name() == "source")
+                message.source = xml.readElementText();
+            else if (xml.name() == "translation") {
+                message.isFinished = !xml.attributes().hasAttribute("type");
+                message.translation = xml.readElementText();
+            }
+        } else if (xml.isEndElement() && xml.name() == "message") {
+            messages.insert(context + ": " + message.source, message);
+            message = {};
+        }
+    }
+    return xml.hasError() ? Messages() : messages;
+}
+
+QStringList sortedMatches(const QString& text, const char* pattern)
+{
+    QStringList found;
+    auto matches = QRegularExpression(QLatin1String(pattern)).globalMatch(text);
+    while (matches.hasNext())
+        found << matches.next().captured();
+    found.sort();
+    return found;
+}
+
+/// What a translation lost; empty when nothing.
+QString loss(const Message& message)
+{
+    const QString& source = message.source;
+    const QString& translation = message.translation;
+    if (!message.isFinished || translation.isEmpty())
+        return "is not translated";
+    for (const char* kept : {"%(\\d+|s)", "\\n", "\\t"})
+        if (sortedMatches(source, kept) != sortedMatches(translation, kept))
+            return QStringLiteral("differs in its %1").arg(QLatin1String(kept));
+    for (const char* blanks : {"^\\s*", "\\s*$"})
+        if (sortedMatches(source, blanks) != sortedMatches(translation, blanks))
+            return "differs in its outer blanks";
+    // Names of the camera's features and entries, which are the same in every language.
+    const QStringList quoted = sortedMatches(source, "(?<=')[\\w%]+(?=')");
+    for (const QString& name : quoted)
+        if (!translation.contains(name))
+            return QStringLiteral("lost the name %1").arg(name);
+    return {};
+}
+
+void addFiles()
+{
+    QTest::addColumn<QString>("base");
+    QTest::addColumn<QString>("language");
+    for (const QString& base : bases)
+        for (const QString& language : languages)
+            QTest::addRow("%s_%s", qPrintable(base), qPrintable(language)) << base << language;
+}
+
+} // namespace
+
+class TranslationsTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void textsAreComplete_data() { addFiles(); }
+    void textsAreComplete();
+    void filesAreFoundForTheirLocale_data();
+    void filesAreFoundForTheirLocale();
+    void loadsForTheSystemLocale();
+};
+
+void TranslationsTest::textsAreComplete()
+{
+    QFETCH(const QString, base);
+    QFETCH(const QString, language);
+    const Messages messages = readMessages(base, language);
+    QVERIFY2(!messages.isEmpty(), "no file, or no texts in it");
+    for (const QString& other : languages) {
+        const QStringList expected = readMessages(base, other).keys();
+        for (const QString& text : expected)
+            QVERIFY2(messages.contains(text), qPrintable("missing: " + text));
+    }
+    for (auto message = messages.begin(); message != messages.end(); ++message) {
+        const QString lost = loss(*message);
+        QVERIFY2(lost.isEmpty(), qPrintable(message.key() + ' ' + lost));
+    }
+}
+
+void TranslationsTest::filesAreFoundForTheirLocale_data()
+{
+    QTest::addColumn<QString>("locale");
+    QTest::addColumn<QString>("language");
+    QTest::newRow("German") << "de_DE.UTF-8"
+                            << "de";
+    QTest::newRow("German of Austria") << "de_AT.UTF-8"
+                                       << "de";
+    QTest::newRow("French of Canada") << "fr_CA.UTF-8"
+                                      << "fr";
+    QTest::newRow("Japanese") << "ja_JP.UTF-8"
+                              << "ja";
+    QTest::newRow("Simplified Chinese") << "zh_CN.UTF-8"
+                                        << "zh_CN";
+    QTest::newRow("Traditional Chinese") << "zh_TW.UTF-8"
+                                         << "";
+    QTest::newRow("English") << "en_US.UTF-8"
+                             << "";
+}
+
+/// Qt reads the system's locale once, so each one takes a process of its own.
+void TranslationsTest::filesAreFoundForTheirLocale()
+{
+#ifdef Q_OS_WIN
+    QSKIP("The system's locale comes from Windows, not from the environment.");
+#endif
+    QFETCH(const QString, locale);
+    QFETCH(const QString, language);
+    QProcess process;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    for (const char* variable : {"LC_ALL", "LC_MESSAGES", "LANG"})
+        environment.insert(variable, locale);
+    environment.remove("LANGUAGE");
+    environment.insert(localeVariable, language);
+    process.setProcessEnvironment(environment);
+    process.setProcessChannelMode(QProcess::MergedChannels);
+    process.start(QCoreApplication::applicationFilePath(), {localeTest});
+    QVERIFY(process.waitForFinished());
+    QVERIFY2(process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0,
+             process.readAll().constData());
+}
+
+void TranslationsTest::loadsForTheSystemLocale()
+{
+    if (!qEnvironmentVariableIsSet(localeVariable))
+        QSKIP("Run once for each locale, by the test above.");
+    const QString language = qEnvironmentVariable(localeVariable);
+    QVERIFY(QDir::setCurrent(BINARY_FOLDER));
+    for (const QString& base : bases) {
+        const std::unique_ptr<QTranslator> translator(BaseTabPluginWidget::loadTranslator(base));
+        QCOMPARE(translator->isEmpty(), language.isEmpty());
+        const Messages messages = readMessages(base, language);
+        for (auto message = messages.begin(); message != messages.end(); ++message) {
+            const QByteArray context = message.key().section(": ", 0, 0).toUtf8();
+            QCOMPARE(
+                translator->translate(context.constData(), message->source.toUtf8().constData()),
+                message->translation);
+        }
+    }
+}
+
+QTEST_GUILESS_MAIN(TranslationsTest)
+
+#include "TranslationsTest.moc"

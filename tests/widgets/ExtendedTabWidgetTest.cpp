@@ -1,0 +1,146 @@
+#include "widgets/ExtendedTabWidget.h"
+
+#include <QMenu>
+#include <QTabBar>
+#include <QToolButton>
+#include <QtTest>
+
+class ExtendedTabWidgetTest : public QObject
+{
+    Q_OBJECT
+
+    static QToolButton* button(const QTabWidget& tabs, Qt::Corner corner)
+    {
+        return qobject_cast<QToolButton*>(tabs.cornerWidget(corner));
+    }
+
+    static void addTabs(QTabWidget& tabs, int number)
+    {
+        for (int i = 0; i < number; ++i)
+            tabs.addTab(new QWidget, QStringLiteral("Region %1").arg(tabs.count()));
+    }
+
+    /// The menu's titles, with a star at each checked one.
+    static QString menuText(const QTabWidget& tabs)
+    {
+        QStringList titles;
+        const QList<QAction*> actions = button(tabs, Qt::TopRightCorner)->menu()->actions();
+        for (const QAction* action : actions)
+            titles << action->text() + QLatin1String(action->isChecked() ? "*" : "");
+        return titles.join(QLatin1Char(','));
+    }
+
+private slots:
+    void modesAddAndModeOneRemoves_data()
+    {
+        QTest::addColumn<QList<int>>("modes");
+        QTest::addColumn<int>("menus");
+        QTest::addColumn<int>("pluses");
+        QTest::newRow("none yet") << QList<int>{} << 0 << 0;
+        QTest::newRow("menu, twice") << QList<int>{2, 2} << 1 << 0;
+        QTest::newRow("plus, twice") << QList<int>{3, 3} << 0 << 1;
+        QTest::newRow("both, twice") << QList<int>{4, 4} << 1 << 1;
+        QTest::newRow("back to plain") << QList<int>{4, 1} << 0 << 0;
+        QTest::newRow("unknown mode") << QList<int>{4, 7} << 0 << 0;
+        QTest::newRow("through all") << QList<int>{2, 1, 1, 3, 4, 1, 4} << 1 << 1;
+    }
+
+    void modesAddAndModeOneRemoves()
+    {
+        QFETCH(QList<int>, modes);
+        ExtendedTabWidget tabs(nullptr);
+        const auto direct = Qt::FindDirectChildrenOnly;
+        tabs.show();
+        addTabs(tabs, 2);
+        for (const int mode : modes) {
+            tabs.setMode(mode);
+            tabs.resize(tabs.width() + 10, tabs.height()); // lays out, corners included
+        }
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QTEST(tabs.findChildren<QMenu*>(QString(), direct).size(), "menus");
+        QFETCH(int, menus);
+        QFETCH(int, pluses);
+        QCOMPARE(tabs.findChildren<QToolButton*>(QString(), direct).size(), menus + pluses);
+        QCOMPARE(button(tabs, Qt::TopRightCorner) != nullptr, menus == 1);
+        QCOMPARE(button(tabs, Qt::TopLeftCorner) != nullptr, pluses == 1);
+    }
+
+    void showsTheMenuButtonOnOverflowOnly()
+    {
+        ExtendedTabWidget tabs(nullptr);
+        tabs.setMode(ExtendedTabWidget::TabMenu);
+        const QToolButton* menuButton = button(tabs, Qt::TopRightCorner);
+        tabs.resize(400, 200);
+        tabs.show();
+        QVERIFY(!menuButton->isVisible());
+        addTabs(tabs, 2);
+        QVERIFY(!menuButton->isVisible());
+        addTabs(tabs, 10);
+        QVERIFY(menuButton->isVisible());
+        tabs.resize(2000, 200);
+        QVERIFY(!menuButton->isVisible());
+        tabs.resize(200, 200);
+        QVERIFY(menuButton->isVisible());
+        tabs.clear();
+        QVERIFY(!menuButton->isVisible());
+        tabs.hide();
+        addTabs(tabs, 3);
+        tabs.resize(600, 200);
+        tabs.show();
+        QVERIFY(!menuButton->isVisible());
+        tabs.setTabText(1, QString(200, QLatin1Char('x')));
+        QTRY_VERIFY(menuButton->isVisible());
+    }
+
+    void menuFollowsTheTabs()
+    {
+        ExtendedTabWidget tabs(nullptr);
+        addTabs(tabs, 2);
+        tabs.setMode(ExtendedTabWidget::TabMenu);
+        QCOMPARE(menuText(tabs), QStringLiteral("Region 0*,Region 1"));
+        tabs.insertTab(0, new QWidget, QStringLiteral("First"));
+        QCOMPARE(menuText(tabs), QStringLiteral("First,Region 0*,Region 1"));
+        tabs.setCurrentIndex(2);
+        QCOMPARE(menuText(tabs), QStringLiteral("First,Region 0,Region 1*"));
+        tabs.removeTab(1);
+        QCOMPARE(menuText(tabs), QStringLiteral("First,Region 1*"));
+        button(tabs, Qt::TopRightCorner)->menu()->actions().constFirst()->trigger();
+        QCOMPARE(tabs.currentIndex(), 0);
+        button(tabs, Qt::TopRightCorner)->menu()->actions().constFirst()->trigger();
+        QCOMPARE(menuText(tabs), QStringLiteral("First*,Region 1"));
+    }
+
+    void plusButtonMayEndTheMode()
+    {
+        ExtendedTabWidget tabs(nullptr);
+        tabs.setMode(ExtendedTabWidget::NewTabButton);
+        tabs.show();
+        QSignalSpy asked(&tabs, &ExtendedTabWidget::createNewTab);
+        connect(&tabs, &ExtendedTabWidget::createNewTab, [&tabs] { tabs.setMode(1); });
+        QTest::mouseClick(button(tabs, Qt::TopLeftCorner), Qt::LeftButton);
+        QCOMPARE(asked.count(), 1);
+        QVERIFY(!tabs.cornerWidget(Qt::TopLeftCorner));
+    }
+
+    void menuActionMayEndTheMode()
+    {
+        ExtendedTabWidget tabs(nullptr);
+        addTabs(tabs, 20);
+        tabs.setMode(ExtendedTabWidget::TabMenu);
+        tabs.resize(200, 100);
+        tabs.show();
+        connect(&tabs, &QTabWidget::currentChanged, [&tabs] { tabs.setMode(1); });
+        QToolButton* menuButton = button(tabs, Qt::TopRightCorner);
+        QTimer::singleShot(100, menuButton, [menuButton] {
+            QMenu* menu = menuButton->menu();
+            QTest::mouseClick(menu, Qt::LeftButton, {},
+                              menu->actionGeometry(menu->actions().at(1)).center());
+        });
+        QTest::mousePress(menuButton, Qt::LeftButton);
+        QCOMPARE(tabs.currentIndex(), 1);
+        QVERIFY(!tabs.cornerWidget(Qt::TopRightCorner));
+    }
+};
+
+QTEST_MAIN(ExtendedTabWidgetTest)
+#include "ExtendedTabWidgetTest.moc"

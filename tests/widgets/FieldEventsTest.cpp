@@ -1,0 +1,113 @@
+#include "widgets/QSpinBoxMouseEventFilter.h"
+#include "widgets/WheelGuard.h"
+
+#include <QComboBox>
+#include <QFontComboBox>
+#include <QSpinBox>
+#include <QtTest>
+
+#include <functional>
+
+using Act = std::function<void(QSpinBox&)>;
+Q_DECLARE_METATYPE(Act)
+
+class FieldEventsTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void mousePressEnds_data()
+    {
+        QTest::addColumn<Act>("act");
+        QTest::addColumn<bool>("pressed");
+        QTest::addColumn<int>("released");
+        const auto release = [](QSpinBox& field) {
+            QTest::mouseRelease(&field, Qt::LeftButton, {}, {95, 5});
+        };
+        const auto sendDoubleClick = [](QSpinBox& field) {
+            QMouseEvent event(QEvent::MouseButtonDblClick, QPointF(95, 5), Qt::LeftButton,
+                              Qt::LeftButton, {});
+            QCoreApplication::sendEvent(&field, &event);
+        };
+        QTest::newRow("held") << Act([](QSpinBox&) {}) << true << 0;
+        QTest::newRow("released") << Act(release) << false << 1;
+        QTest::newRow("double click") << Act([=](QSpinBox& field) {
+            release(field);
+            sendDoubleClick(field);
+        }) << true << 1;
+        QTest::newRow("hidden") << Act([](QSpinBox& field) { field.hide(); }) << false << 0;
+        QTest::newRow("page hidden")
+            << Act([](QSpinBox& field) { field.window()->hide(); }) << false << 0;
+        QTest::newRow("disabled") << Act([](QSpinBox& field) { field.setEnabled(false); }) << false
+                                  << 0;
+        QTest::newRow("taken out")
+            << Act([](QSpinBox& field) { field.setParent(nullptr); }) << false << 0;
+        QTest::newRow("other window") << Act([](QSpinBox& field) {
+            QEvent event(QEvent::WindowDeactivate);
+            QCoreApplication::sendEvent(field.window(), &event);
+        }) << false << 0;
+    }
+
+    void mousePressEnds()
+    {
+        QFETCH(Act, act);
+        QWidget window;
+        auto* field = new QSpinBox(&window);
+        QSpinBoxMouseEventFilter filter(nullptr);
+        field->installEventFilter(&filter);
+        field->resize(100, 30);
+        window.show();
+        QSignalSpy released(&filter, &QSpinBoxMouseEventFilter::mouseReleased);
+        QTest::mousePress(field, Qt::LeftButton, {}, {95, 5});
+        QCOMPARE(field->value(), 1); // the field itself was not left out
+        act(*field);
+        QTEST(filter.isMousePressed(), "pressed");
+        QTEST(released.count(), "released");
+        field->setParent(&window);
+    }
+
+    void wheelGuard_data()
+    {
+        QTest::addColumn<QObject*>("target");
+        QTest::addColumn<int>("type");
+        QTest::addColumn<bool>("guarded");
+        const int wheel = QEvent::Wheel;
+        const auto row = [](const char* name) -> QTestData& { return QTest::newRow(name); };
+        row("combo box") << owned(new QComboBox) << wheel << true;
+        row("spin box") << owned(new QSpinBox) << wheel << true;
+        row("double spin box") << owned(new QDoubleSpinBox) << wheel << true;
+        row("derived class") << owned(new QFontComboBox) << wheel << false;
+        row("other class") << owned(new QSlider) << wheel << false;
+        row("no widget") << owned(new QObject) << wheel << false;
+        row("other event") << owned(new QSpinBox) << int(QEvent::Enter) << false;
+        auto* focused = new QSpinBox;
+        focused->setObjectName(QStringLiteral("focused"));
+        row("focused") << owned(focused) << wheel << false;
+    }
+
+    void wheelGuard()
+    {
+        QFETCH(QObject*, target);
+        QFETCH(int, type);
+        if (target->objectName() == QLatin1String("focused")) {
+            auto* field = qobject_cast<QWidget*>(target);
+            field->show();
+            QApplication::setActiveWindow(field);
+            field->setFocus();
+        }
+        const QEvent event(static_cast<QEvent::Type>(type));
+        QTEST(isUnfocusedFieldWheel(target, &event), "guarded");
+    }
+
+private:
+    QObject* owned(QObject* object)
+    {
+        m_owned.emplace_back(object);
+        return object;
+    }
+
+    std::vector<std::unique_ptr<QObject>> m_owned;
+};
+
+QTEST_MAIN(FieldEventsTest)
+#include "FieldEventsTest.moc"

@@ -1,0 +1,138 @@
+#include "FeatureTablePane.h"
+
+#include "CameraSession.h"
+#include "UserInput.h"
+#include "featuretable/FeaturesTableWidget.h"
+
+#include <QLineEdit>
+#include <QTableWidget>
+#include <QTimer>
+#include <QVBoxLayout>
+
+#include <utility>
+
+namespace {
+
+constexpr int refreshIntervalMs = 500;
+
+FeatureManager::Wrappers wrap(const QVector<ZebCPP::FeaturePtr>& features)
+{
+    auto wrappers = FeatureManager::Wrappers::create();
+    for (const ZebCPP::FeaturePtr& feature : features)
+        wrappers->append(std::make_shared<ZebFeatureWrapper>(feature));
+    return wrappers;
+}
+
+} // namespace
+
+FeatureTablePane::FeatureTablePane(QWidget* parent)
+    : QWidget(parent)
+    , m_filter(new QLineEdit(this))
+    , m_layout(new QVBoxLayout(this))
+    , m_refreshTimer(new QTimer(this))
+{
+    m_filter->setObjectName(QStringLiteral("featureFilter"));
+    m_filter->setPlaceholderText(tr("Search names and descriptions"));
+    m_filter->setAccessibleName(tr("Search features"));
+    m_filter->setClearButtonEnabled(true);
+    m_layout->addWidget(m_filter);
+    m_layout->addStretch();
+    m_refreshTimer->setSingleShot(true);
+    m_refreshTimer->setInterval(refreshIntervalMs);
+
+    connect(m_filter, &QLineEdit::textChanged, this, [this](const QString& text) {
+        if (m_table)
+            m_table->setFilter(text);
+    });
+    connect(m_refreshTimer, &QTimer::timeout, this, &FeatureTablePane::refresh);
+    setEnabled(false);
+}
+
+FeatureTablePane::~FeatureTablePane()
+{
+    closeTable();
+}
+
+void FeatureTablePane::setSession(CameraSession* session)
+{
+    closeTable();
+    if (session)
+        openTable(session->features());
+    setEnabled(session != nullptr);
+}
+
+void FeatureTablePane::openTable(const TabExtensionInterface::FeatureList& features)
+{
+    m_features = wrap(*features);
+    m_manager = std::make_unique<FeatureManager>(m_features);
+    m_table = std::make_unique<FeaturesTableWidget>(m_manager->GetFeatureNames(), m_manager.get(),
+                                                    this);
+    m_layout->insertWidget(1, m_table.get(), 1);
+    m_table->setFilter(m_filter->text());
+    connect(m_table.get(), &FeaturesTableWidget::loggingMessage, this, &FeatureTablePane::logged);
+    connect(m_table.get(), &FeaturesTableWidget::cellEditorActive, this,
+            &FeatureTablePane::onCellEditorActive);
+
+    m_observer = std::make_shared<PluginFeatureObserver>();
+    connect(m_observer.get(), &PluginFeatureObserver::setChangedFeature, this,
+            &FeatureTablePane::noteChanged);
+    for (const ZebFeatureWrapperPtr& feature : *m_features)
+        feature->RegisterObserver(m_observer);
+}
+
+void FeatureTablePane::closeTable()
+{
+    if (!m_table)
+        return;
+    m_observer->disconnect(this);
+    for (const ZebFeatureWrapperPtr& feature : *m_features)
+        feature->UnregisterObserver(m_observer);
+    m_observer.reset();
+    m_refreshTimer->stop();
+    m_changed.clear();
+    m_table.reset();
+    m_manager.reset();
+    m_features.reset();
+}
+
+void FeatureTablePane::noteChanged(const QString& feature)
+{
+    m_changed.insert(feature);
+    if (!m_refreshTimer->isActive())
+        m_refreshTimer->start();
+}
+
+// A write that the camera alters or refuses is followed by no notification, so an edited row counts
+// as changed. The flag is not asked: it is false for the first row while its editor opens.
+void FeatureTablePane::onCellEditorActive()
+{
+    const QString edited = m_table->editedFeature();
+    if (!edited.isEmpty())
+        m_changed.insert(edited);
+    else if (!m_changed.isEmpty())
+        QMetaObject::invokeMethod(this, &FeatureTablePane::refresh, Qt::QueuedConnection);
+}
+
+void FeatureTablePane::refresh()
+{
+    if (!m_table)
+        return;
+    const QSet<QString> changed = std::exchange(m_changed, {});
+    const QString edited = m_table->editedFeature();
+    if (changed.contains(edited))
+        m_changed.insert(edited);
+    m_table->updateFeatures(changed.values());
+}
+
+bool FeatureTablePane::edit(const QString& feature)
+{
+    auto* const table = findChild<QTableWidget*>(QStringLiteral("tblFeatures"));
+    for (int row = 0; table && row < table->rowCount(); ++row) {
+        if (table->item(row, 0)->data(Qt::UserRole).toString() != feature)
+            continue;
+        table->scrollToItem(table->item(row, 1), QAbstractItemView::PositionAtCenter);
+        doubleClickWidget(table->viewport(), table->visualItemRect(table->item(row, 1)).center());
+        return true;
+    }
+    return false;
+}

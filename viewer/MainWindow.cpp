@@ -1,0 +1,156 @@
+#include "MainWindow.h"
+
+#include "CameraListPane.h"
+#include "CameraSession.h"
+#include "DarkPalette.h"
+#include "FeatureTablePane.h"
+#include "FeatureWritePane.h"
+#include "LivePane.h"
+#include "LogPane.h"
+#include "PageHost.h"
+#include "PluginHost.h"
+
+#include <QApplication>
+#include <QDockWidget>
+#include <QLabel>
+#include <QMenuBar>
+#include <QPainter>
+#include <QStackedWidget>
+#include <QStyle>
+#include <QStyleFactory>
+#include <QTabWidget>
+
+MainWindow::MainWindow(const QString& modulePath)
+    : m_plugin(std::make_unique<PluginHost>(modulePath))
+    , m_centre(new QStackedWidget(this))
+    , m_pages(new QTabWidget)
+{
+    setWindowTitle(tr("Camera viewer"));
+    createPanes();
+    createMenus();
+    if (!m_plugin->failure().isEmpty())
+        m_log->append(ZebViewerLogGeneral, m_plugin->failure());
+}
+
+MainWindow::~MainWindow()
+{
+    closeCamera();
+}
+
+void MainWindow::openCamera(const QString& modelName)
+{
+    closeCamera();
+    m_session = std::make_unique<CameraSession>(modelName);
+    m_live->setSession(m_session.get());
+    m_outside->setSession(m_session.get());
+    m_features->setSession(m_session.get());
+    m_cameras->setOpenCamera(modelName);
+    m_log->append(ZebViewerLogGeneral, tr("%1 opened.").arg(modelName));
+
+    auto* page = new PageHost(*m_plugin, *m_session, m_pages);
+    connect(page, &PageHost::logged, m_log, &LogPane::append);
+    if (page->refusal() != m_plugin->failure())
+        m_log->append(ZebViewerLogGeneral, page->refusal());
+    m_pages->addTab(page, page->title());
+    m_centre->setCurrentWidget(m_pages);
+}
+
+void MainWindow::closeCamera()
+{
+    if (!m_session)
+        return;
+    // The page goes before the camera: it still unregisters its observers.
+    while (m_pages->count() > 0)
+        delete m_pages->widget(0);
+    m_centre->setCurrentIndex(0);
+    m_live->setSession(nullptr);
+    m_outside->setSession(nullptr);
+    m_features->setSession(nullptr);
+    m_cameras->setOpenCamera({});
+    m_log->append(ZebViewerLogGeneral, tr("%1 closed.").arg(m_session->modelName()));
+    m_session.reset();
+}
+
+bool MainWindow::editFeature(const QString& feature)
+{
+    m_featuresDock->raise();
+    return m_features->edit(feature);
+}
+
+QPixmap MainWindow::screenshot()
+{
+    QPixmap picture = grab();
+    if (QWidget* dialog = QApplication::activeModalWidget()) {
+        QPainter painter(&picture);
+        painter.drawPixmap(mapFromGlobal(dialog->mapToGlobal({0, 0})), dialog->grab());
+    }
+    return picture;
+}
+
+void MainWindow::setDark(bool dark)
+{
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setPalette(dark ? darkPalette() : QApplication::style()->standardPalette());
+}
+
+void MainWindow::showEvent(QShowEvent* event)
+{
+    QMainWindow::showEvent(event);
+    resizeDocks({m_camerasDock, m_liveDock}, {width() * 37 / 100, width() * 37 / 100},
+                Qt::Horizontal);
+    resizeDocks({m_logDock, m_outsideDock}, {width() * 2 / 5, width() / 5}, Qt::Horizontal);
+    resizeDocks({m_camerasDock, m_liveDock}, {height() * 3 / 10, height() * 7 / 10}, Qt::Vertical);
+    resizeDocks({m_logDock, m_outsideDock}, {height() / 5, height() / 5}, Qt::Vertical);
+}
+
+QDockWidget* MainWindow::addPane(QWidget* pane, const QString& title, Qt::DockWidgetArea area)
+{
+    auto* dock = new QDockWidget(title, this);
+    dock->setObjectName(pane->metaObject()->className() + QStringLiteral("Dock"));
+    dock->setWidget(pane);
+    addDockWidget(area, dock);
+    return dock;
+}
+
+void MainWindow::createPanes()
+{
+    auto* welcome = new QLabel(tr("Open a camera to see its page."), m_centre);
+    welcome->setAlignment(Qt::AlignCenter);
+    m_pages->setDocumentMode(true);
+    m_centre->addWidget(welcome);
+    m_centre->addWidget(m_pages);
+    setCentralWidget(m_centre);
+
+    m_cameras = new CameraListPane;
+    m_live = new LivePane;
+    m_log = new LogPane;
+    m_outside = new FeatureWritePane;
+    m_features = new FeatureTablePane;
+    setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
+    m_camerasDock = addPane(m_cameras, tr("Cameras"), Qt::LeftDockWidgetArea);
+    m_liveDock = addPane(m_live, tr("Live picture"), Qt::LeftDockWidgetArea);
+    m_featuresDock = addPane(m_features, tr("Camera features"), Qt::LeftDockWidgetArea);
+    tabifyDockWidget(m_liveDock, m_featuresDock);
+    m_liveDock->raise();
+    m_logDock = addPane(m_log, tr("Log"), Qt::BottomDockWidgetArea);
+    m_outsideDock = addPane(m_outside, tr("Another client"), Qt::BottomDockWidgetArea);
+
+    connect(m_cameras, &CameraListPane::openRequested, this, &MainWindow::openCamera);
+    connect(m_features, &FeatureTablePane::logged, m_log, &LogPane::append);
+    connect(m_cameras, &CameraListPane::closeRequested, this, &MainWindow::closeCamera);
+}
+
+void MainWindow::createMenus()
+{
+    QMenu* file = menuBar()->addMenu(tr("&File"));
+    file->addAction(tr("&Quit"), this, &QWidget::close, QKeySequence(Qt::CTRL + Qt::Key_Q));
+
+    QMenu* view = menuBar()->addMenu(tr("&View"));
+    for (QDockWidget* dock : {m_camerasDock, m_liveDock, m_featuresDock, m_logDock, m_outsideDock})
+        view->addAction(dock->toggleViewAction());
+    view->addSeparator();
+    QAction* dark = view->addAction(tr("&Dark colours"));
+    dark->setCheckable(true);
+    dark->setChecked(palette().color(QPalette::Window).lightness() < 128);
+    connect(dark, &QAction::toggled, this, &MainWindow::setDark);
+}

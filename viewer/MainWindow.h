@@ -1,0 +1,67 @@
+#pragma once
+
+#include "plugin/TabExtensionInterface.h"
+
+#include <QMainWindow>
+
+#include <memory>
+
+class CameraListPane;
+class CameraSession;
+class FeatureTablePane;
+class FeatureWritePane;
+class LivePane;
+class LogPane;
+class PageHost;
+class PluginHost;
+class QDockWidget;
+class QStackedWidget;
+class QTabWidget;
+
+/// The viewer's window: panes around the pages of the open camera, of which there is one at most.
+class MainWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    explicit MainWindow(const QString& modulePath);
+    ~MainWindow() override;
+
+    void openCamera(const QString& modelName);
+    void closeCamera();
+
+    /// Opens the editor of a feature in the table of camera features; false when it is not there.
+    bool editFeature(const QString& feature);
+
+    /// The open camera, or null.
+    CameraSession* session() const { return m_session.get(); }
+
+    /// The window as it is shown, with a dialog that lies on it.
+    QPixmap screenshot();
+
+    /// Fusion in light or dark colours.
+    static void setDark(bool dark);
+
+protected:
+    void showEvent(QShowEvent* event) override;
+
+private:
+    QDockWidget* addPane(QWidget* pane, const QString& title, Qt::DockWidgetArea area);
+    void createPanes();
+    void createMenus();
+
+    std::unique_ptr<PluginHost> m_plugin;
+    std::unique_ptr<CameraSession> m_session;
+    QStackedWidget* m_centre;
+    QTabWidget* m_pages;
+    CameraListPane* m_cameras;
+    LivePane* m_live;
+    LogPane* m_log;
+    FeatureWritePane* m_outside;
+    FeatureTablePane* m_features;
+    QDockWidget* m_camerasDock;
+    QDockWidget* m_liveDock;
+    QDockWidget* m_outsideDock;
+    QDockWidget* m_featuresDock;
+    QDockWidget* m_logDock;
+};

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "ScriptRunner.h"
+
+#include <QSize>
+#include <QString>
+#include <QStringList>
+#include <QVector>
+
+/// What the command line asks for. Paths are absolute.
+struct ViewerOptions
+{
+    bool listCameras = false;
+    bool dark = false;
+    bool keepGoing = false; ///< an action that cannot be done does not end the program
+    QString camera;
+    QString modulePath;
+    QString screenshot;
+    QSize size{1400, 900};
+    int quitAfter = -1; ///< milliseconds, or -1 to stay
+    QVector<ScriptAction> actions;
+    QString error; ///< what is wrong with the command line, or empty
+};
+
+/// Reads the command line; answers --help and --version itself and ends the program.
+ViewerOptions parseOptions(const QStringList& arguments);

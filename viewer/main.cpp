@@ -1,0 +1,150 @@
+#include "CameraSession.h"
+#include "MainWindow.h"
+#include "ScriptRunner.h"
+#include "ViewerOptions.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFont>
+#include <QTextStream>
+#include <QTimer>
+
+#include <algorithm>
+#include <cstdio>
+#include <memory>
+
+#ifdef Q_OS_WIN
+#include <qt_windows.h>
+#endif
+
+namespace {
+
+enum ExitCode {
+    Done = 0,
+    ScriptFailed = 1,
+    WrongUsage = 2,
+};
+
+/// Qt's own log output cannot be used: the module's pages silence it for the whole process.
+void printError(const QString& message)
+{
+    QTextStream(stderr) << "viewer: " << message << '\n';
+}
+
+void listCameras()
+{
+    QTextStream out(stdout);
+    for (const CameraSession::Model& model : CameraSession::models())
+        out << model.name.leftJustified(28) << ' ' << model.description << '\n';
+}
+
+bool isKnownCamera(const QString& name)
+{
+    const auto models = CameraSession::models();
+    return std::any_of(models.begin(), models.end(),
+                       [&](const CameraSession::Model& model) { return model.name == name; });
+}
+
+QString complaint(const ViewerOptions& options)
+{
+    if (!options.error.isEmpty())
+        return options.error;
+    if (!options.camera.isEmpty() && !isKnownCamera(options.camera))
+        return QStringLiteral("There is no camera '%1'; --list-cameras names them.")
+            .arg(options.camera);
+    return {};
+}
+
+/// Ends the program when it was started for a screenshot.
+void onScriptFinished(MainWindow& window, const QString& screenshot)
+{
+    if (screenshot.isEmpty())
+        return;
+    const bool saved = window.screenshot().save(screenshot, "PNG");
+    if (!saved)
+        printError(QStringLiteral("Cannot write %1.").arg(screenshot));
+    QCoreApplication::exit(saved ? Done : ScriptFailed);
+}
+
+void onActionFailed(const QString& reason, bool keepGoing)
+{
+    printError(reason);
+    if (!keepGoing)
+        QCoreApplication::exit(ScriptFailed);
+}
+
+/// What only prints runs where there is no display.
+std::unique_ptr<QCoreApplication> createApplication(int& argc, char** argv)
+{
+    const bool printsOnly = std::any_of(argv, argv + argc, [](const char* argument) {
+        return qstrcmp(argument, "--list-cameras") == 0 || qstrcmp(argument, "--help") == 0
+            || qstrcmp(argument, "-h") == 0;
+    });
+    if (printsOnly)
+        return std::make_unique<QCoreApplication>(argc, argv);
+    return std::make_unique<QApplication>(argc, argv);
+}
+
+/// Without a desktop there is no theme to take the font from, and Qt's own choice is a large one.
+void chooseOffscreenFont()
+{
+    constexpr int pointSize = 10;
+    QFont font = QApplication::font();
+    font.setPointSize(pointSize);
+    QApplication::setFont(font);
+}
+
+#ifdef Q_OS_WIN
+/// Started from Explorer, the program gets a console window that nobody else uses.
+void closeOwnConsole()
+{
+    DWORD process = 0;
+    if (GetConsoleProcessList(&process, 1) == 1)
+        FreeConsole();
+}
+#endif
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+#ifdef Q_OS_WIN
+    closeOwnConsole();
+#endif
+    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    const auto application = createApplication(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("viewer"));
+
+    const ViewerOptions options = parseOptions(QCoreApplication::arguments());
+    if (options.listCameras) {
+        listCameras();
+        return Done;
+    }
+    const QString wrong = complaint(options);
+    if (!wrong.isEmpty()) {
+        printError(wrong);
+        return WrongUsage;
+    }
+    // The pages look for their translations in qm/ of the working directory.
+    QDir::setCurrent(QCoreApplication::applicationDirPath());
+
+    if (QGuiApplication::platformName() == QLatin1String("offscreen"))
+        chooseOffscreenFont();
+    MainWindow::setDark(options.dark);
+    MainWindow window(options.modulePath);
+    window.resize(options.size);
+    window.show();
+    if (!options.camera.isEmpty())
+        window.openCamera(options.camera);
+
+    ScriptRunner script(window, options.actions);
+    QObject::connect(&script, &ScriptRunner::failed, &window,
+                     [&](const QString& reason) { onActionFailed(reason, options.keepGoing); });
+    QObject::connect(&script, &ScriptRunner::finished, &window,
+                     [&] { onScriptFinished(window, options.screenshot); });
+    script.start();
+    if (options.quitAfter >= 0)
+        QTimer::singleShot(options.quitAfter, application.get(), &QCoreApplication::quit);
+    return QApplication::exec();
+}
