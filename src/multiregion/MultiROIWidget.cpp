@@ -376,7 +376,7 @@ bool MultiROIWidget::select(int region)
         const std::unique_lock<QMutex> lock(m_selectorLock, std::try_to_lock);
         if (!lock)
             return false;
-        m_isEchoExpected = false;
+        m_echoSeconds = 0;
         m_isSelecting = true;
         failure = m_regions.select(region);
         m_isSelecting = false;

@@ -17,6 +17,9 @@ namespace Name = MultiRegionNames;
 
 namespace {
 
+constexpr int shortestEcho = 4; // seconds
+constexpr int longestEcho = 64;
+
 bool intersects(const QStringList& a, const QStringList& b)
 {
     return std::any_of(a.begin(), a.end(), [&b](const QString& name) { return b.contains(name); });
@@ -102,9 +105,13 @@ void MultiROIWidget::refreshNames(const QStringList& names)
     }
     if (intersects(names, Name::regionNames))
         refreshSelectedRegion(names.contains(Name::regionMode));
-    const bool isEcho = std::exchange(m_isEchoExpected, false);
-    if (std::exchange(m_isModeReported, false) && !isEcho && isVisible())
+    const bool isReported = std::exchange(m_isModeReported, false);
+    if (m_echoSeconds > 0)
+        --m_echoSeconds;
+    else if (isReported && isVisible())
         lookForSwitchedRegions();
+    else
+        m_echoPatience = 0;
 }
 
 /// What the table shows beside its region's own features.
@@ -120,8 +127,9 @@ void MultiROIWidget::refreshTable(const QStringList& names)
 }
 
 /// A camera may notify of a region's mode whenever another region is selected. When it does so
-/// within the selecting this is told apart; when it does so later, one report is taken for an echo
-/// after a look that changed nothing.
+/// within the selecting this is told apart. When it does so later, what it reports for some seconds
+/// after a look that changed nothing is taken for that look's echo, and for longer if another such
+/// look follows at once: no camera, however late, keeps the page selecting.
 void MultiROIWidget::noteMode(const QString& name)
 {
     if (name != Name::regionMode || !isVisible())
@@ -149,7 +157,8 @@ void MultiROIWidget::lookForSwitchedRegions()
             isUnchanged = false;
     }
     select(m_ui->tabRegions->currentIndex());
-    m_isEchoExpected = isUnchanged && !m_isEchoImmediate;
+    m_echoPatience = isUnchanged ? qBound(shortestEcho, 2 * m_echoPatience, longestEcho) : 0;
+    m_echoSeconds = m_isEchoImmediate ? 0 : m_echoPatience;
 }
 
 void MultiROIWidget::followSelector()
