@@ -109,17 +109,16 @@ private slots:
     {
         const auto label = shownLabel(noise({400, 300}));
         auto* band = label->findChild<QRubberBand*>();
-        QCOMPARE(largestDifference(windowOf(*label), label->grab().toImage()), 0);
+        QTRY_COMPARE(largestDifference(windowOf(*label), label->grab().toImage()), 0);
         for (const QRect& next :
              {QRect(90, 65, 200, 140), QRect(60, 50, 200, 140), QRect(60, 50, 120, 100),
               QRect(70, 60, 5, 4), QRect(70, 60, 0, 0), QRect(70, 60, 2, 40),
               QRect(200, 100, 150, 150), QRect(30, 20, 350, 250), QRect(380, 280, 60, 60)}) {
             band->setGeometry(next);
-            QCoreApplication::processEvents();
-            QCOMPARE(largestDifference(windowOf(*label), label->grab().toImage()), 0);
+            QTRY_COMPARE(largestDifference(windowOf(*label), label->grab().toImage()), 0);
         }
         band->setGeometry(50, 50, 100, 100);
-        QCoreApplication::processEvents();
+        QTRY_COMPARE(largestDifference(windowOf(*label), label->grab().toImage()), 0);
         const QImage withBand = label->grab().toImage();
         QPalette palette;
         palette.setBrush(QPalette::Highlight, QColor(255, 0, 0, 80));
@@ -128,8 +127,7 @@ private slots:
                  [band] { band->show(); }, [&label] { label->setEnabled(false); },
                  [&label] { label->setEnabled(true); }}) {
             change();
-            QCoreApplication::processEvents();
-            QCOMPARE(largestDifference(windowOf(*label), label->grab().toImage()), 0);
+            QTRY_COMPARE(largestDifference(windowOf(*label), label->grab().toImage()), 0);
             QVERIFY(label->grab().toImage() != withBand);
         }
     }
@@ -154,8 +152,7 @@ private slots:
         press(label.get(), {160, 120});
         label->installEventFilter(&painted);
         sendMouse(label.get(), QEvent::MouseMove, {163, 121});
-        QCoreApplication::processEvents();
-        QVERIFY(painted.pixels > 0);
+        QTRY_VERIFY(painted.pixels > 0);
         // The band has 200 x 140 pixels.
         QVERIFY2(painted.pixels < 200 * 140 / 4, qPrintable(QString::number(painted.pixels)));
     }
