@@ -173,12 +173,20 @@ void BaseTabPluginWidget::noteChanged(const QString& name)
         changedFeatures->append(name);
 }
 
+// Without an answer there is nothing to show: the page keeps what it shows, and the names. Every
+// few seconds the link lets a call through, which tells whether the camera is back.
+bool BaseTabPluginWidget::isCameraThere()
+{
+    return !m_link->isBroken() || isVendorSupported(featureManager.get());
+}
+
 void BaseTabPluginWidget::updateTimer()
 {
-    // Without an answer there is nothing to show: the page keeps what it shows, and the names.
-    if (m_locked || m_suspensions > 0 || m_link->isBroken())
+    if (m_locked || m_suspensions > 0 || !isCameraThere())
         return;
     const ListLock lock(this);
+    if (!m_observing && isVisible())
+        registerObservers(true);
     refreshFeatures();
     if (lock.isAlive())
         changedFeatures->clear();
@@ -295,6 +303,9 @@ ZebErrorType BaseTabPluginWidget::registerObservers(bool markChanged)
         if (markChanged)
             noteOrKeep(registration.name);
     }
+    // To be done once the camera is back.
+    if (registrations.isEmpty() && m_link->isBroken())
+        m_observing = false;
     return result;
 }
 

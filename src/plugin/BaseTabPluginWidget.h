@@ -107,6 +107,7 @@ private:
     /// The features of the camera that the page observes, as the camera names them now.
     QVector<Registration> findObserved();
     bool hasFeatures() const;
+    bool isCameraThere();
     void startUpdates(bool markChanged);
     void stopUpdates();
     void noteChanged(const QString& name);

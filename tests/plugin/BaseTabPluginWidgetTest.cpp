@@ -80,6 +80,7 @@ private slots:
     void leavesNoObserverOnAForgetfulCamera_data();
     void leavesNoObserverOnAForgetfulCamera();
     void asksALostCameraNoMore();
+    void comesBackWithTheCamera();
     void suspends();
     void fillsComboBoxes();
     void tellsPaletteChanges();
@@ -286,6 +287,22 @@ void BaseTabPluginWidgetTest::asksALostCameraNoMore()
     QCOMPARE(page->refreshes.size(), refreshes);
     page.reset();
     QCOMPARE(int(camera.journal().count()), 2);
+}
+
+void BaseTabPluginWidgetTest::comesBackWithTheCamera()
+{
+    sim::Camera camera(smallCamera());
+    Page page(camera);
+    sim::Failure away = sim::Failure::refuse();
+    away.delay = std::chrono::milliseconds(110);
+    camera.failures().add(sim::FailureInjector::anyFeature, sim::Operations::all(), away,
+                          sim::Occurrence{1, 2, 1.0, 0});
+    page.featureManager->GetFeatureNames();
+    page.show();
+    QVERIFY(page.refreshes.isEmpty());
+    QCOMPARE(int(camera.observerCount()), 0);
+    QTRY_COMPARE_WITH_TIMEOUT(int(camera.observerCount()), 2, 20000);
+    QTRY_VERIFY(!page.refreshes.isEmpty());
 }
 
 void BaseTabPluginWidgetTest::suspends()
