@@ -18,7 +18,7 @@ extern "C" void __sanitizer_set_death_callback(void (*callback)());
 namespace {
 
 constexpr std::chrono::seconds longestHang{5 * Watchdog::slowdown};
-/// Of the real time, on a machine however busy: threads wait for each other.
+/// Of the real time, without any work: threads wait for each other.
 constexpr std::chrono::minutes longestLock{5};
 
 std::atomic<std::uint64_t> currentSeed{0};
@@ -90,15 +90,19 @@ void Watchdog::watch()
 {
     std::uint64_t last = m_beats;
     std::chrono::nanoseconds since = guiTime();
+    std::chrono::nanoseconds lastTime = since;
     std::chrono::nanoseconds sinceReal = VirtualTime::real();
     std::unique_lock lock(m_mutex);
     while (!m_wake.wait_for(lock, std::chrono::milliseconds(100), [this] { return m_ends; })) {
+        const std::chrono::nanoseconds time = guiTime();
+        if (time != lastTime)
+            sinceReal = VirtualTime::real();
+        lastTime = time;
         if (const std::uint64_t beats = m_beats; beats != last) {
             last = beats;
-            since = guiTime();
+            since = time;
             sinceReal = VirtualTime::real();
-        } else if (guiTime() - since > longestHang
-                   || VirtualTime::real() - sinceReal > longestLock) {
+        } else if (time - since > longestHang || VirtualTime::real() - sinceReal > longestLock) {
             std::fputs("\nThe GUI thread hangs.", stderr);
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
             tellPlace();
