@@ -6,10 +6,16 @@ namespace sim {
 namespace {
 
 const char* const vendor = "Brontax Vision GmbH";
-const std::vector<std::string> colourFormats{
-    "Mono8",           "Mono10", "Mono12",       "Mono12Packed", "BayerRG8",    "BayerRG12",
-    "BayerRG12Packed", "RGB8",   "YUV411Packed", "YUV422Packed", "YUV444Packed"};
-const std::vector<std::string> monoFormats{"Mono8", "Mono10", "Mono12"};
+std::vector<std::string> colourFormats()
+{
+    return {"Mono8",           "Mono10", "Mono12",       "Mono12Packed", "BayerRG8",    "BayerRG12",
+            "BayerRG12Packed", "RGB8",   "YUV411Packed", "YUV422Packed", "YUV444Packed"};
+}
+
+std::vector<std::string> monoFormats()
+{
+    return {"Mono8", "Mono10", "Mono12"};
+}
 
 FeatureDescriptions current(const SensorSize& size)
 {
@@ -18,7 +24,7 @@ FeatureDescriptions current(const SensorSize& size)
         acquisition(),
         exposureTime("ExposureTime"),
         sensor(size),
-        pixelFormat(colourFormats),
+        pixelFormat(colourFormats()),
         binning({"Sensor", "Digital"}),
         reversal(),
         imageRegion(size),
@@ -37,7 +43,7 @@ FeatureDescriptions plain(const SensorSize& size)
         acquisition(),
         exposureTime("ExposureTime"),
         sensor(size),
-        pixelFormat(monoFormats),
+        pixelFormat(monoFormats()),
         imageRegion(size, {}, "/ImageFormatControl"),
     });
 }
@@ -49,7 +55,7 @@ FeatureDescriptions olderNames(const SensorSize& size)
         acquisition(),
         exposureTime("ExposureTimeAbs"),
         sensor(size),
-        pixelFormat(colourFormats),
+        pixelFormat(colourFormats()),
         binning({}),
         reversal(),
         imageRegion(size),
@@ -66,7 +72,7 @@ FeatureDescriptions otherVendor(const SensorSize& size)
         acquisition(),
         exposureTime("ExposureTime"),
         sensor(size),
-        pixelFormat(monoFormats),
+        pixelFormat(monoFormats()),
         imageRegion(size),
     });
 }
@@ -102,7 +108,7 @@ FeatureDescriptions coarse(const SensorSize& size)
         acquisition(),
         exposureTime("ExposureTime"),
         sensor(size),
-        pixelFormat(monoFormats),
+        pixelFormat(monoFormats()),
         binning({}),
         reversal(),
         imageRegion(size, wideSteps, "/ImageFormatControl"),

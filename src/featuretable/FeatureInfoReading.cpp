@@ -28,7 +28,8 @@ void readNumber(FeatureManager& manager, const QString& name, FeatureInfo& info)
 void readEnumeration(FeatureManager& manager, const QString& name, FeatureInfo& info)
 {
     info.enumEntries.clear();
-    for (const QString& entry : manager.GetEnumEntries(name))
+    const QStringList entries = manager.GetEnumEntries(name);
+    for (const QString& entry : entries)
         info.enumEntries.emplace_back(entry.toStdString());
     info.value = manager.GetStringValue(name).toStdString();
     info.writable = manager.IsWritable(name);

@@ -7,6 +7,7 @@ class FeatureValueItem : public QTableWidgetItem
 {
 public:
     using QTableWidgetItem::QTableWidgetItem;
+    Q_DISABLE_COPY(FeatureValueItem)
 
     QVariant data(int role) const override;
     /// Every display value is told of, also one equal to the present: a value that was refused is

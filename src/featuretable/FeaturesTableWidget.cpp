@@ -255,7 +255,8 @@ QString FeaturesTableWidget::nameToolTip(const QString& name, const QStringList&
     if (!name.contains(QLatin1String("Selector")))
         return name;
     QString selected;
-    for (const QString& feature : m_manager->GetSelectedFeatureNames(name)) {
+    const QStringList selectedNames = m_manager->GetSelectedFeatureNames(name);
+    for (const QString& feature : selectedNames) {
         if (features.contains(feature))
             selected += QLatin1String("<br>") + feature;
     }

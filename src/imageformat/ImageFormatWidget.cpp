@@ -352,7 +352,8 @@ void ImageFormatWidget::refreshFeatures()
     auto fields = findChildren<QWidget*>();
     fields.erase(std::remove_if(fields.begin(), fields.end(), std::not_fn(isField)), fields.end());
     for (const QString& featureName : names) {
-        for (QWidget* field : widgetsBoundTo(featureName, fields))
+        const auto bound = widgetsBoundTo(featureName, fields);
+        for (QWidget* field : bound)
             updateField(field, featureName);
     }
     changedFeatures->clear();

@@ -85,7 +85,8 @@ void ConstraintLineSet::grab(LineRubberBand* line, const KnownRegions& regions,
                                   lengthOf(mapping.shown, axis),
                                   lengthOf(limits.minimum, axis),
                                   lengthOf(limits.maximum, axis)};
-    for (const int region : regions.shown()) {
+    const auto shown = regions.shown();
+    for (const int region : shown) {
         if (!group.members.contains(region))
             surroundings.others << spanOf(regions.band(region), axis);
     }

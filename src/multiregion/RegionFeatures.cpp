@@ -72,7 +72,7 @@ int RegionFeatures::selected() const
         return toInt(m_manager->GetValue(Name::selector));
     const QString entry = m_manager->GetStringValue(Name::selector);
     bool isNumber = false;
-    const int region = entry.mid(regionEntry.indexOf(QLatin1Char('%'))).toInt(&isNumber);
+    const int region = entry.midRef(regionEntry.indexOf(QLatin1Char('%'))).toInt(&isNumber);
     return isNumber && entry == regionEntry.arg(region) ? region : -1;
 }
 

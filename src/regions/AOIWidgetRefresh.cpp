@@ -16,8 +16,8 @@
 
 namespace {
 
-constexpr QLatin1String multipleRegions("MultipleRegionEnable");
-constexpr QLatin1String multipleRegionsOther("MultipleRegionsEnable");
+const QLatin1String multipleRegions("MultipleRegionEnable");
+const QLatin1String multipleRegionsOther("MultipleRegionsEnable");
 
 } // namespace
 
