@@ -284,8 +284,19 @@ void BaseTabPluginWidgetTest::asksALostCameraNoMore()
     page->updateTimer();
     inner->updateTimer();
     QCOMPARE(page->refreshes.size(), refreshes);
-    page.reset();
+    page->hide();
+    page->show();
     QCOMPARE(int(camera.journal().count()), 2);
+
+    camera.recover();
+    QTRY_COMPARE_WITH_TIMEOUT(page->refreshes.size(), refreshes + 1, 8000);
+    QVERIFY(page->refreshes.last().contains(width));
+    QVERIFY(camera.observerCount() > 0);
+    camera.lose(wait);
+    page->featureManager->GetFeatureNames();
+    camera.journal().clear();
+    page.reset();
+    QCOMPARE(int(camera.journal().count()), 0);
 }
 
 void BaseTabPluginWidgetTest::suspends()
