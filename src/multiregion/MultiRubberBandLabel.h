@@ -4,7 +4,7 @@
 #include "KnownRegions.h"
 #include "RegionAnnouncements.h"
 #include "plugin/TabExtensionInterface.h"
-#include "regions/SensorBackground.h"
+#include "widgets/SensorBackground.h"
 
 #include <QLabel>
 #include <QMap>

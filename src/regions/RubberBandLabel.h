@@ -1,7 +1,7 @@
 #pragma once
 
 #include "BandDrag.h"
-#include "SensorBackground.h"
+#include "widgets/SensorBackground.h"
 
 #include <QLabel>
 

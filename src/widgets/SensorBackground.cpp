@@ -1,11 +1,9 @@
 #include "SensorBackground.h"
 
-#include "features/NumberConversion.h"
-
 #include <QImage>
 #include <QPainter>
+#include <QtMath>
 
-#include <cmath>
 #include <tuple>
 
 namespace {
@@ -47,7 +45,7 @@ QImage withMargins(const QImage& image, const QRect& source, const QRect& part, 
     const double yScale = static_cast<double>(size.height()) / source.height();
     const QRectF place((part.x() - source.x()) * xScale, (part.y() - source.y()) * yScale,
                        part.width() * xScale, part.height() * yScale);
-    const QSize wholePixels(toInt(std::ceil(place.width())), toInt(std::ceil(place.height())));
+    const QSize wholePixels(qCeil(place.width()), qCeil(place.height()));
     QPainter painter(&area);
     painter.setRenderHints(QPainter::SmoothPixmapTransform | QPainter::Antialiasing);
     painter.drawImage(

@@ -1,4 +1,4 @@
-#include "regions/SensorBackground.h"
+#include "widgets/SensorBackground.h"
 
 #include <QBitmap>
 #include <QPainter>
