@@ -174,6 +174,7 @@ void MultiROIWidget::createRegion(int region, const QStringList& features,
     tab.label = new RegionLabelWidget(region, QRect(), regionDefaultColor(),
                                       m_ui->scrollRegionLabelsContents);
     tab.button = new RoundButton(region, false, m_ui->tabRegions->tabBar());
+    tab.button->setObjectName(QStringLiteral("btnRegion%1").arg(region));
     tab.button->setAccessibleName(title);
     tab.label->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     m_ui->verticalLayout_6->addWidget(tab.label);

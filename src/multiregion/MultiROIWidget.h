@@ -166,7 +166,6 @@ private:
     QSize m_sensorSize;                    ///< as the label has it
     int m_suspensions = 0;                 ///< drags, boxes and loads under way
     bool m_editorActive = false;           ///< as the tables tell; see isSuspended()
-    bool m_regionsRead = false;
     bool m_fullRefreshPending = true;
     QStringList m_pendingNames; ///< changed while suspended
 };

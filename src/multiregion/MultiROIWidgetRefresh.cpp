@@ -146,6 +146,8 @@ void MultiROIWidget::refreshSelectedRegion(bool withMode)
         followRegionMode(region);
     if (m_label->isRegionShown(region))
         updateRegion(region);
+    else
+        m_tabs[static_cast<std::size_t>(region)].table->refresh();
 }
 
 void MultiROIWidget::lookForSwitchedRegions()
@@ -220,11 +222,11 @@ void MultiROIWidget::refreshAllRegions()
         const Work work(this);
         const QSignalBlocker blocker(m_label);
         const int current = m_ui->tabRegions->currentIndex();
-        const bool isFirst = !std::exchange(m_regionsRead, true);
         for (int region = 0; region < regionCount(); ++region) {
             if (select(region)) {
                 followRegionMode(region);
-                if (isFirst || m_label->isRegionShown(region) || m_regions.isValid())
+                // Tables of other inactive regions are filled when they are seen.
+                if (region == current || m_label->isRegionShown(region) || m_regions.isValid())
                     updateRegion(region);
             }
             emit regionColorChanged(region, m_label->regionColor(region));

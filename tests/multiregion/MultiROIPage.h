@@ -159,13 +159,13 @@ struct MultiROIPage
                 return QString("band of %1").arg(region);
             if (button(region)->isChecked() != isOn(region))
                 return QString("button of %1").arg(region);
+            const QRect rect = onCamera(region);
+            if ((isOn(region) || region == tabs->currentIndex()) && inTable(region) != rect)
+                return QString("table of %1").arg(region);
             if (!isOn(region))
                 continue;
-            const QRect rect = onCamera(region);
             if (label->regionRectangle(region) != rect)
                 return QString("label of %1").arg(region);
-            if (region == tabs->currentIndex() && inTable(region) != rect)
-                return QString("table of %1").arg(region);
             QString shown = labels[region]->findChild<QLabel*>("lbl_Size")->text();
             const auto number = [](int value) { return QString::number(value); };
             if (shown.remove(' ')

@@ -203,6 +203,11 @@ private slots:
         QVERIFY(open.page->findChild<QCheckBox*>()->isChecked());
         QCOMPARE(open.tabs->currentIndex(), 2);
         QVERIFY(open.label->isRegionShown(2));
+        QCOMPARE(open.cell(2, "MultipleRegionEnable")->text(), QString("true"));
+        open.writeAsOther("MultipleRegionArrangement", "Horizontal");
+        open.settle();
+        QCOMPARE(open.cell(2, "MultipleRegionArrangement")->text(), QString("Horizontal"));
+        open.writeAsOther("MultipleRegionArrangement", "Free");
         // Elsewhere than where the page looks.
         open.switchAsOther(1, "On");
         open.writeAsOther("SubRegionSelector", "Region2");
