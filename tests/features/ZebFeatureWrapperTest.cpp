@@ -37,6 +37,9 @@ private slots:
         table.row("empty", Failure::of(Failure::Kind::EmptyLength), 0, {}, {});
         table.row("4 GiB", Failure::of(Failure::Kind::HugeLength), int(ZebErrorResources), {},
                   kept);
+        table.row("grows", Failure::of(Failure::Kind::Grow), 0, "left?", "DeviceUserID?");
+        table.row("unterminated", Failure::of(Failure::Kind::Unterminated), 0, "left?",
+                  "DeviceUserID?");
         table.row("exception", Failure::of(Failure::Kind::Throw), int(ZebErrorResources), {}, kept);
     }
 

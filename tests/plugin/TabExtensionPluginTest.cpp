@@ -179,24 +179,6 @@ private slots:
                          "OnChangeCheckbox(int)"));
     }
 
-    void opensLargeCamerasQuickly()
-    {
-        sim::CameraOptions options;
-        options.extraFeatures = 1000;
-        const auto camera = sim::createCamera("current", options);
-        QElapsedTimer timer;
-        timer.start();
-        for (int i = 0; i < 3; ++i) {
-            auto page = std::make_unique<QWidget>();
-            m_plugin->createTab(featureList(*camera), page.get(), nullptr);
-            page->show();
-            page.reset();
-            QCOMPARE(int(camera->observerCount()), 0);
-        }
-        QVERIFY2(timer.elapsed() < 3 * 1000, qPrintable(QString::number(timer.elapsed())));
-        QVERIFY(camera->journal().writes().empty());
-    }
-
 private:
     MessageHandlerGuard m_guard;
     QPluginLoader m_loader{MODULE_PATH};

@@ -278,15 +278,6 @@ private slots:
         QCOMPARE(region(p, "AutofunctionAOI"), (Numbers{0, 0, 1296, 1944}));
     }
 
-    void drawsBesideAnotherRegion()
-    {
-        const AutoROIPage p("mixed-aoi-automode");
-        p.click("btnFull");
-        p.settle();
-        QVERIFY(p.value("AutoModeRegionOffsetX") > 0);
-        QVERIFY((p.label->region() == SensorRegion{0, 0, 2592, 1944}));
-    }
-
     void keepsTheLimitsOfTheImage()
     {
         const AutoROIPage p("automode-dynamic", [](sim::Camera& camera) {

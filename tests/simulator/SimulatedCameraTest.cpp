@@ -6,8 +6,10 @@
 
 using sim::Camera;
 using sim::createCamera;
+using sim::Failure;
 using sim::FloatRange;
 using sim::IntegerRange;
+using sim::Occurrence;
 using sim::Operation;
 
 namespace {
@@ -25,6 +27,17 @@ ZebErrorType write(const Camera& camera, const QString& text)
     default:
         return feature.pointer()->SetValue(qPrintable(value));
     }
+}
+
+std::vector<bool> strikes(std::uint64_t seed)
+{
+    const auto camera = createCamera("plain");
+    camera->failures().add("Width", Operation::SetValue, Failure::refuse(),
+                           Occurrence::randomly(0.3, seed));
+    std::vector<bool> results;
+    for (int i = 0; i < 100; ++i)
+        results.push_back(write(*camera, "Width 640") != ZebErrorSuccess);
+    return results;
 }
 
 } // namespace
@@ -216,24 +229,42 @@ private slots:
         }
     }
 
-    void journalTellsWhatClientsDid()
+    void failsAsItWasTold()
     {
-        const auto camera = createCamera("current");
-        camera->writeAsOtherClient("Gamma", 2.0);
-        camera->feature("Gamma").number();
-        QCOMPARE(camera->journal().count(), std::size_t{0});
+        const auto camera = createCamera("plain");
+        camera->failures().add("Width", Operation::SetValue, Failure::refuse(ZebErrorTimeout),
+                               Occurrence::nth(2));
+        camera->failures().add("Width", Operation::SetValue, Failure::report(ZebErrorResources),
+                               Occurrence::from(3));
+        QCOMPARE(write(*camera, "Width 640"), ZebErrorSuccess);
+        QCOMPARE(write(*camera, "Width 800"), ZebErrorTimeout);
+        QCOMPARE(camera->feature("Width").integer(), 640);
+        QCOMPARE(write(*camera, "Width 800"), ZebErrorResources);
+        QCOMPARE(camera->feature("Width").integer(), 800);
+        QCOMPARE(camera->writeAsOtherClient("Width", 640), ZebErrorSuccess);
+        camera->failures().clear();
+        QCOMPARE(write(*camera, "Width 800"), ZebErrorSuccess);
 
-        write(*camera, "Width 640");
-        write(*camera, "Width 641");
-        double gamma = 0.0;
-        camera->feature("Gamma").pointer()->GetValue(gamma);
-        const auto entries = camera->journal().entries();
-        QCOMPARE(entries.size(), std::size_t{3});
-        QCOMPARE(entries[1].feature, std::string("Width"));
-        QCOMPARE(entries[1].value.toInteger(), 641);
-        QCOMPARE(entries[1].result, ZebErrorInvalidValue);
-        QCOMPARE(entries[2].value.toNumber(), 2.0);
-        QCOMPARE(camera->journal().writes().size(), std::size_t{2});
+        const std::vector<bool> random = strikes(1);
+        QCOMPARE(random, strikes(1));
+        QVERIFY(random != strikes(2));
+    }
+
+    void answersOtherThanWritten()
+    {
+        const auto camera = createCamera("plain");
+        camera->failures().add(
+            "Width", Operation::SetValue,
+            Failure::value([](const sim::Value& v) { return sim::Value(v.toInteger() - 8); }));
+        camera->failures().add("Height", Operation::IsWritable, Failure::value(false));
+        camera->failures().add("OffsetX", Operation::IsWritable, Failure::of(Failure::Kind::Throw));
+        QCOMPARE(write(*camera, "Width 640"), ZebErrorSuccess);
+        QCOMPARE(camera->feature("Width").integer(), 632);
+        bool writable = true;
+        QCOMPARE(camera->feature("Height").pointer()->IsWritable(writable), ZebErrorSuccess);
+        QVERIFY(!writable);
+        QVERIFY_EXCEPTION_THROWN(camera->feature("OffsetX").pointer()->IsWritable(writable),
+                                 std::runtime_error);
     }
 
     void everyModelIsSound()

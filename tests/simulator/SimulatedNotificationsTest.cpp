@@ -3,7 +3,6 @@
 #include "simulator/State.h"
 
 #include <atomic>
-#include <future>
 #include <thread>
 
 using namespace std::chrono_literals;
@@ -49,14 +48,6 @@ std::shared_ptr<Observer> observe(const Camera& camera, std::initializer_list<co
     return observer;
 }
 
-void modes()
-{
-    const DataTable<NotificationSettings, int, bool> table{"settings", "calls", "sameThread"};
-    table.row("off", NotificationSettings::off(), 0, false);
-    table.row("on the writing thread", NotificationSettings::synchronous(), 3, true);
-    table.row("on the camera's thread", NotificationSettings::asynchronous(2ms), 3, false);
-}
-
 } // namespace
 
 /// Who is told of a change, on which thread, and that nobody waits for ever: QtTest's own timeout
@@ -66,7 +57,13 @@ class SimulatedNotificationsTest : public QObject
     Q_OBJECT
 
 private slots:
-    void tellsOnTheRightThread_data() { modes(); }
+    void tellsOnTheRightThread_data()
+    {
+        const DataTable<NotificationSettings, int, bool> table{"settings", "calls", "sameThread"};
+        table.row("off", NotificationSettings::off(), 0, false);
+        table.row("on the writing thread", NotificationSettings::synchronous(), 3, true);
+        table.row("on the camera's thread", NotificationSettings::asynchronous(2ms), 3, false);
+    }
 
     void tellsOnTheRightThread()
     {
@@ -153,29 +150,6 @@ private slots:
         QCOMPARE(int(observer->calls), 0);
     }
 
-    void observersReadAndWrite_data() { modes(); }
-
-    void observersReadAndWrite()
-    {
-        QFETCH(NotificationSettings, settings);
-        settings.onRegistration = true;
-        settings.lateAfterUnregistration = true;
-        const auto camera = createCamera("current");
-        camera->setNotifications(settings);
-        const auto gain = camera->feature("Gain").pointer();
-        const auto observer
-            = observe(*camera, {"Width", "OffsetX"}, [gain](const ZebCPP::FeaturePtr& feature) {
-                  std::int64_t value = 0;
-                  feature->GetValue(value);
-                  gain->SetValue(static_cast<double>(value % 20));
-                  feature->SetValue(value - value % 16);
-              });
-        for (std::int64_t width = 640; width < 1000; width += 8)
-            camera->feature("Width").pointer()->SetValue(width);
-        camera->feature("Width").pointer()->UnregisterObserver(observer);
-        camera->flushNotifications();
-    }
-
     void manyThreads()
     {
         const auto camera = createCamera("current");
@@ -221,24 +195,6 @@ private slots:
         QCOMPARE(width->RegisterObserver(std::make_shared<Observer>()), ZebErrorBadHandle);
         QCOMPARE(width->GetName(nullptr, length), ZebErrorBadHandle);
         QVERIFY(observer.expired());
-    }
-
-    void closingFromAnObserver()
-    {
-        for (const auto& settings :
-             {NotificationSettings::synchronous(), NotificationSettings::asynchronous()}) {
-            auto camera = createCamera("current");
-            camera->setNotifications(settings);
-            const auto width = camera->feature("Width").pointer();
-            std::promise<void> closed;
-            observe(*camera, {"Width"}, [&](const ZebCPP::FeaturePtr&) {
-                camera.reset();
-                closed.set_value();
-            });
-            width->SetValue(std::int64_t{640});
-            closed.get_future().wait();
-            QCOMPARE(width->SetValue(std::int64_t{800}), ZebErrorBadHandle);
-        }
     }
 };
 

@@ -1,5 +1,6 @@
 #include "widgets/SensorBackground.h"
 #include "DataTable.h"
+#include "Pictures.h"
 
 #include <QBitmap>
 #include <QPainter>
@@ -35,20 +36,6 @@ QPixmap composedByCopies(QPixmap image, const QSize& sensor, const QRect& crop, 
     QPainter(&result).drawPixmap(
         0, 0, area.scaled(target, Qt::KeepAspectRatio, Qt::SmoothTransformation));
     return result;
-}
-
-int largestDifference(const QImage& a, const QImage& b)
-{
-    int largest = 0;
-    for (int y = 0; y < a.height(); ++y)
-        for (int x = 0; x < a.width(); ++x) {
-            const QRgb p = a.pixel(x, y);
-            const QRgb q = b.pixel(x, y);
-            largest = qMax(largest,
-                           qMax(qAbs(qRed(p) - qRed(q)),
-                                qMax(qAbs(qGreen(p) - qGreen(q)), qAbs(qBlue(p) - qBlue(q)))));
-        }
-    return largest;
 }
 
 } // namespace
