@@ -112,6 +112,12 @@ void Misbehaviour::spoil(bool withObservers)
                                 someFailure(kind, m_random),
                                 Occurrence::randomly(probability, m_random.next()));
     }
+    if (m_random.oneIn(4)) {
+        for (const char* selector : {"SubRegionSelector", "BinningSelector"})
+            m_camera.failures().add(
+                selector, Operations::writes(), Failure::refuse(),
+                Occurrence::randomly(m_random.pick({0.1, 1.0}), m_random.next()));
+    }
     // Some features are gone for a while, and are refused when they are back.
     for (int i = m_random.below(4); i > 0; --i) {
         Occurrence while_ = Occurrence::from(static_cast<std::uint64_t>(m_random.between(1, 200)));

@@ -13,6 +13,8 @@ constexpr std::array<const char*, sim::Failure::kindCount> kindNames{
     "unterminated", "4 GiB",   "null entries",           "exception",     "lost"};
 constexpr std::array<const char*, Report::endingCount> endingNames{
     "hidden", "while visible", "mid-drag", "with a dialog", "with an editor open"};
+constexpr std::array<const char*, TranslationFiles::kindCount> translationNames{"built", "missing",
+                                                                                "broken"};
 
 void line(const QString& name, std::uint64_t value)
 {
@@ -33,6 +35,11 @@ void Report::print() const
     line(QStringLiteral("cameras lost"), lostCameras);
     line(QStringLiteral("slowest close of a lost camera, ms"),
          static_cast<std::uint64_t>(slowestLostClose));
+    line(QStringLiteral("picture files picked"), picturesPicked);
+    for (std::size_t kind = 0; kind < translations.size(); ++kind)
+        line(QStringLiteral("sessions with translations %1")
+                 .arg(QLatin1String(translationNames[kind])),
+             translations[kind]);
     line(QStringLiteral("notifications"), notifications);
     line(QStringLiteral("pages opened"), opened);
     line(QStringLiteral("pages refused"), refused);

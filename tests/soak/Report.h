@@ -1,5 +1,7 @@
 #pragma once
 
+#include "TranslationFiles.h"
+
 #include "simulator/Failure.h"
 
 #include <QString>
@@ -29,6 +31,8 @@ struct Report
     std::array<std::uint64_t, sim::Failure::kindCount> failures{};
     std::uint64_t lostCameras = 0;
     std::int64_t slowestLostClose = 0; ///< milliseconds
+    std::uint64_t picturesPicked = 0;
+    std::array<std::uint64_t, TranslationFiles::kindCount> translations{};
     std::uint64_t opened = 0;
     std::uint64_t refused = 0; ///< the module took no page
     std::array<std::uint64_t, endingCount> destroyed{};

@@ -10,6 +10,7 @@
 #include <QPointer>
 #include <QTimer>
 
+#include <chrono>
 #include <memory>
 #include <thread>
 
@@ -26,6 +27,7 @@ public:
     {
         TabExtensionInterface& module;
         const PictureFiles& pictures;
+        const TranslationFiles& translations;
         Watchdog& watchdog;
         Report& report;
         bool isVerbose = false;
@@ -66,7 +68,9 @@ private:
     void closeCamera();
     void step();
     void answerDialog();
+    void checkClosing(std::chrono::nanoseconds time, std::size_t calls);
     void checkPageIsGone();
+    void checkMemory(std::int64_t before);
     void account();
 
     const Run m_run;
@@ -87,5 +91,6 @@ private:
     bool m_countsObservers = true;
     int m_step = 0;
     const char* m_action = "opening";
+    TranslationFiles::Kind m_translations = TranslationFiles::Built;
     std::uint64_t m_digest = 0;
 };

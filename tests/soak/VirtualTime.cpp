@@ -30,14 +30,20 @@ struct Library
     std::uintptr_t end = 0;
 };
 
-Library findQtCore()
+struct Search
 {
+    const char* name;
     Library library;
+};
+
+Library find(const char* name)
+{
+    Search search{name, {}};
     dl_iterate_phdr(
         [](dl_phdr_info* info, std::size_t, void* data) {
-            if (!info->dlpi_name || !std::strstr(info->dlpi_name, "libQt5Core.so"))
+            auto& [wanted, found] = *static_cast<Search*>(data);
+            if (!info->dlpi_name || !std::strstr(info->dlpi_name, wanted))
                 return 0;
-            auto& found = *static_cast<Library*>(data);
             found.begin = info->dlpi_addr;
             for (int i = 0; i < info->dlpi_phnum; ++i) {
                 const auto& segment = info->dlpi_phdr[i];
@@ -47,15 +53,26 @@ Library findQtCore()
             }
             return 1;
         },
-        &library);
-    return library;
+        &search);
+    return search.library;
+}
+
+bool isIn(const Library& library, const void* caller)
+{
+    const auto address = reinterpret_cast<std::uintptr_t>(caller);
+    return address >= library.begin && address < library.end;
 }
 
 bool isQt(const void* caller)
 {
-    static const Library library = findQtCore();
-    const auto address = reinterpret_cast<std::uintptr_t>(caller);
-    return address >= library.begin && address < library.end;
+    static const Library library = find("libQt5Core.so");
+    return isIn(library, caller);
+}
+
+bool isStandardLibrary(const void* caller)
+{
+    static const Library library = find("libstdc++.so");
+    return isIn(library, caller);
 }
 
 timespec fromNanoseconds(std::int64_t time)
@@ -92,16 +109,30 @@ void start(Pace pace)
     speed = pace == Pace::Exact ? 0 : fastSpeed;
 }
 
+std::chrono::nanoseconds real()
+{
+    return std::chrono::nanoseconds(realTime());
+}
+
 } // namespace VirtualTime
 
 extern "C" {
 
 __attribute__((visibility("default"))) int clock_gettime(clockid_t clock, timespec* time) noexcept
 {
-    if (!isOwner || clock != CLOCK_MONOTONIC || !isQt(__builtin_return_address(0)))
+    const void* const caller = __builtin_return_address(0);
+    if (!isOwner || clock != CLOCK_MONOTONIC
+        || !(isQt(caller) || (speed == 0 && isStandardLibrary(caller))))
         return static_cast<int>(syscall(SYS_clock_gettime, clock, time));
     *time = fromNanoseconds(now());
     return 0;
+}
+
+__attribute__((visibility("default"))) int nanosleep(const timespec* time, timespec* rest)
+{
+    if (isOwner && speed == 0)
+        base += toNanoseconds(*time);
+    return static_cast<int>(syscall(SYS_nanosleep, time, rest));
 }
 
 __attribute__((visibility("default"))) int ppoll(pollfd* descriptors, nfds_t count,

@@ -1,5 +1,7 @@
 #include "Watchdog.h"
 
+#include "VirtualTime.h"
+
 #include <array>
 #include <chrono>
 #include <csignal>
@@ -11,14 +13,11 @@
 
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
 extern "C" void __sanitizer_set_death_callback(void (*callback)());
-constexpr int slowdown = 4;
-#else
-constexpr int slowdown = 1;
 #endif
 
 namespace {
 
-constexpr std::chrono::seconds longestHang{5 * slowdown};
+constexpr std::chrono::seconds longestHang{5 * Watchdog::slowdown};
 
 std::atomic<std::uint64_t> currentSeed{0};
 std::atomic<int> currentStep{0};
@@ -75,13 +74,12 @@ void Watchdog::setPlace(std::uint64_t seed, int step, const char* action)
     currentAction = action;
 }
 
-// The real time, less what the GUI thread spent waiting for a processor on a busy machine.
 std::chrono::nanoseconds Watchdog::guiTime() const
 {
     std::int64_t running = 0;
     std::int64_t waiting = 0;
     std::ifstream(m_statistics) >> running >> waiting;
-    return std::chrono::steady_clock::now().time_since_epoch() - std::chrono::nanoseconds(waiting);
+    return VirtualTime::real() - std::chrono::nanoseconds(waiting);
 }
 
 void Watchdog::watch()

@@ -13,19 +13,29 @@
 class Watchdog
 {
 public:
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+    static constexpr int slowdown = 4; ///< at most, of the GUI thread, by the sanitizers
+#else
+    static constexpr int slowdown = 1;
+#endif
+
     Watchdog();
     ~Watchdog();
     Watchdog(const Watchdog&) = delete;
     Watchdog& operator=(const Watchdog&) = delete;
 
     /// The GUI thread is alive.
-    void beat() { m_beats.fetch_add(1, std::memory_order_relaxed); }
+    void beat()
+    {
+        m_beats.fetch_add(1, std::memory_order_relaxed);
+    }
+    /// The real time, less what the GUI thread spent waiting for a processor on a busy machine.
+    std::chrono::nanoseconds guiTime() const;
     /// Where it is; @p action is a literal.
     static void setPlace(std::uint64_t seed, int step, const char* action);
 
 private:
     void watch();
-    std::chrono::nanoseconds guiTime() const;
 
     const std::string m_statistics;
     std::atomic<std::uint64_t> m_beats{0};

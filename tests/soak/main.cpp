@@ -3,6 +3,7 @@
 #include "PictureFiles.h"
 #include "Report.h"
 #include "Session.h"
+#include "VirtualTime.h"
 #include "Watchdog.h"
 
 #include <QApplication>
@@ -44,7 +45,7 @@ std::uint64_t sessionSeed(std::uint64_t seed, std::uint64_t number)
 void warmUp(const Session::Run& run)
 {
     Report ignored;
-    const Session::Run first{run.module, run.pictures, run.watchdog, ignored};
+    const Session::Run first{run.module, run.pictures, run.translations, run.watchdog, ignored};
     for (const char* model : {"aoi", "multi-region"})
         Session(first, 0, model).run();
 }
@@ -53,12 +54,10 @@ void runSessions(const Session::Run& run, const Options& options)
 {
     warmUp(run);
     constexpr int enoughFindings = 20;
-    // Not Qt's clock, which the sessions bend.
-    using Clock = std::chrono::steady_clock;
-    const Clock::time_point end = Clock::now()
+    const std::chrono::nanoseconds end = VirtualTime::real()
         + std::chrono::milliseconds(static_cast<std::int64_t>(options.minutes * 60000.0));
-    for (std::uint64_t i = 0;
-         Clock::now() < end && i < options.sessions && run.report.findings.size() < enoughFindings;
+    for (std::uint64_t i = 0; VirtualTime::real() < end && i < options.sessions
+         && run.report.findings.size() < enoughFindings;
          ++i) {
         const std::uint64_t seed = sessionSeed(options.seed, i);
         Session session(run, seed);
@@ -110,9 +109,10 @@ int main(int argc, char** argv)
         return EXIT_FAILURE;
     }
     const PictureFiles pictures;
+    const TranslationFiles translations;
     Watchdog watchdog;
     Report& report = application.report;
-    const Session::Run run{*module, pictures, watchdog, report, options.isVerbose};
+    const Session::Run run{*module, pictures, translations, watchdog, report, options.isVerbose};
     if (options.cameras > 0)
         LongRuns::openAndClose(*module, watchdog, report, options.cameras);
     else if (options.stormMinutes > 0)
