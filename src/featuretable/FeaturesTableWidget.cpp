@@ -261,7 +261,7 @@ QString FeaturesTableWidget::nameToolTip(const QString& name, const QStringList&
     }
     if (selected.isEmpty())
         return name;
-    return name + QStringLiteral("<p><b>Selected features:</b>%1</p>").arg(selected);
+    return name + QStringLiteral("<p><b>%1</b>%2</p>").arg(tr("Selected features:"), selected);
 }
 
 bool FeaturesTableWidget::isBeingEdited(const QString& name, int row) const
@@ -284,8 +284,7 @@ bool FeaturesTableWidget::writeValue(const QString& name, const QVariant& value)
 {
     if (m_manager->SetVariantValue(name, value))
         return true;
-    emit loggingMessage(
-        ZebViewerLogMultiRegion,
-        QStringLiteral("Saving feature '%1' to value=%2 failed.").arg(name, value.toString()));
+    emit loggingMessage(ZebViewerLogMultiRegion,
+                        tr("Saving feature '%1' to value=%2 failed.").arg(name, value.toString()));
     return false;
 }
