@@ -377,10 +377,8 @@ bool MultiROIWidget::select(int region)
         const std::unique_lock<QMutex> lock(m_selectorLock, std::try_to_lock);
         if (!lock)
             return false;
-        m_echoSeconds = 0;
-        m_isSelecting = true;
+        const ModeReports::Selecting selecting(m_modeReports);
         failure = m_regions.select(region);
-        m_isSelecting = false;
         if (failure.isEmpty())
             m_selectedByPage = region;
     }
