@@ -70,7 +70,7 @@ MultiROIWidget::MultiROIWidget(const FeatureList& camera, QWidget* parent)
     m_ui = std::move(form);
 
     observedFeatures = Name::switchNames + QStringList{Name::arrangement} + Name::compatibilityNames
-        + QStringList{Name::regionMode, QStringLiteral("SubRegionStatus")} + Name::sensorNames
+        + QStringList{Name::regionMode, Name::status} + Name::sensorNames
         + QStringList{Name::selector} + Name::regionNames.mid(2);
     if (featureManager->HasFeature(Name::arrangement)) {
         fillComboBox(Name::arrangement, m_ui->cmbMultipleRegionArrangement, false);
@@ -221,7 +221,7 @@ QStringList MultiROIWidget::findTableFeatures()
             wrappers->append(wrapper);
     }
     m_tableManager = std::make_unique<FeatureManager>(wrappers);
-    for (const QString& older : {QStringLiteral("OffsetX"), QStringLiteral("Width")}) {
+    for (const QString& older : {Name::olderOffsetX, Name::olderWidth}) {
         if (!featureManager->HasFeature(QStringLiteral("SubRegion") + older)
             && featureManager->HasFeature(older) && !features.contains(older))
             features << older;
@@ -377,10 +377,8 @@ bool MultiROIWidget::select(int region)
         const std::unique_lock<QMutex> lock(m_selectorLock, std::try_to_lock);
         if (!lock)
             return false;
-        m_echoSeconds = 0;
-        m_isSelecting = true;
+        const ModeReports::Selecting selecting(m_modeReports);
         failure = m_regions.select(region);
-        m_isSelecting = false;
         if (failure.isEmpty())
             m_selectedByPage = region;
     }
