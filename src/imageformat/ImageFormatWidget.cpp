@@ -123,7 +123,11 @@ ImageFormatWidget::ImageFormatWidget(const FeatureList& camera, QWidget* parent)
                        tr("Feature 'BinningSelector' is not available in the camera."));
 }
 
-ImageFormatWidget::~ImageFormatWidget() = default;
+// A dialog that closes gives the focus back to a field, whose page has to be whole still.
+ImageFormatWidget::~ImageFormatWidget()
+{
+    m_ui->imageReaderWidget->closeDialog();
+}
 
 void ImageFormatWidget::setTitle()
 {

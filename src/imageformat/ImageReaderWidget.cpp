@@ -6,7 +6,6 @@
 
 #include <QFileDialog>
 #include <QImageWriter>
-#include <QPointer>
 
 ImageReaderWidget::ImageReaderWidget(QWidget* parent)
     : QComboBox(parent)
@@ -61,6 +60,7 @@ void ImageReaderWidget::clearImage()
 void ImageReaderWidget::chooseFile()
 {
     const QPointer<QFileDialog> dialog = new QFileDialog(this, QString(), QString(), QString());
+    m_dialog = dialog;
     dialog->setNameFilter(imageFileFilter(QImageWriter::supportedImageFormats()));
     dialog->setFileMode(QFileDialog::ExistingFile);
     const bool accepted = dialog->exec() == QDialog::Accepted;
@@ -71,6 +71,11 @@ void ImageReaderWidget::chooseFile()
     dialog->deleteLater();
     if (accepted && !files.isEmpty())
         loadFile(files.first());
+}
+
+void ImageReaderWidget::closeDialog()
+{
+    delete m_dialog.data();
 }
 
 void ImageReaderWidget::loadFile(const QString& fileName)

@@ -4,8 +4,11 @@
 
 #include <QComboBox>
 #include <QPixmap>
+#include <QPointer>
 
 #include <memory>
+
+class QFileDialog;
 
 /// The list from which the user chooses what the regions are drawn over: nothing, the viewer's
 /// latest frame, or a picture file.
@@ -22,6 +25,9 @@ public:
     };
 
     explicit ImageReaderWidget(QWidget* parent);
+
+    /// As if it were cancelled, if there is one.
+    void closeDialog();
 
 signals:
     /// The new background; an empty pointer means none. A file that is no picture gives a null
@@ -43,4 +49,5 @@ private:
     void loadFile(const QString& fileName);
 
     std::shared_ptr<QPixmap> m_fileImage;
+    QPointer<QFileDialog> m_dialog;
 };

@@ -127,6 +127,20 @@ void editCell(Session& session)
         endEntry(random, editor);
 }
 
+// The list of the pictures behind the regions: the last entry opens the file dialog.
+void pickPicture(Session& session)
+{
+    for (QComboBox* const box : usable<QComboBox>(session)) {
+        if (!box->inherits("ImageReaderWidget"))
+            continue;
+        const QPointer<QComboBox> list = box;
+        list->setFocus(Qt::MouseFocusReason);
+        sendKey(list, session.random.oneIn(4) ? Qt::Key_Home : Qt::Key_End);
+        session.pass(0);
+        return;
+    }
+}
+
 void leaveField(Session&)
 {
     if (QWidget* const field = QApplication::focusWidget())
@@ -210,6 +224,7 @@ constexpr std::array actions{
     Action{"clicking", 14, clickButton},
     Action{"choosing an entry", 8, chooseEntry},
     Action{"editing a cell", 8, editCell},
+    Action{"picking a picture", 3, pickPicture},
     Action{"switching tabs", 8, switchTab},
     Action{"scrolling", 3, scroll},
     Action{"resizing", 3, resizeWindow},

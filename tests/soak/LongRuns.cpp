@@ -74,7 +74,7 @@ void openAndClose(TabExtensionInterface& module, Watchdog& watchdog, Report& rep
     for (int i = 1; i <= count; ++i) {
         watchdog.beat();
         openAndCloseOne(module, report, models[static_cast<std::size_t>(i) % models.size()]);
-        if (i == firstLook || i == count) {
+        if (i % firstLook == 0 || i == count) {
             const ProcessState state = ProcessState::now();
             std::printf("after %d cameras: %s\n", i, qPrintable(state.text()));
             if (i == firstLook)

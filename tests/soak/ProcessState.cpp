@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QPixmapCache>
 #include <QTranslator>
 #include <QWidget>
 
@@ -15,6 +16,7 @@ namespace {
 
 std::int64_t residentBytes()
 {
+    QPixmapCache::clear();
     malloc_trim(0);
     QFile file(QStringLiteral("/proc/self/statm"));
     if (!file.open(QIODevice::ReadOnly))
@@ -28,6 +30,8 @@ ProcessState ProcessState::now()
 {
     ProcessState state;
     state.residentBytes = ::residentBytes();
+    const auto heap = mallinfo2();
+    state.heapBytes = static_cast<std::int64_t>(heap.uordblks + heap.hblkhd);
     state.descriptors = QDir(QStringLiteral("/proc/self/fd"))
                             .entryList(QDir::NoDotAndDotDot | QDir::AllEntries | QDir::System)
                             .size();
@@ -55,8 +59,10 @@ std::int64_t ProcessState::largestMemory()
 QString ProcessState::text() const
 {
     return QStringLiteral(
-               "memory %1 KiB, descriptors %2, timers %3, translators %4, widgets %5, cursor %6")
+               "memory %1 KiB, heap in use %2 KiB, descriptors %3, timers %4, translators %5, "
+               "widgets %6, cursor %7")
         .arg(residentBytes / 1024)
+        .arg(heapBytes / 1024)
         .arg(descriptors)
         .arg(timers)
         .arg(translators)

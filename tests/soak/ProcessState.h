@@ -8,6 +8,7 @@
 struct ProcessState
 {
     std::int64_t residentBytes = 0;
+    std::int64_t heapBytes = 0; ///< in use
     int descriptors = 0;
     int timers = 0; ///< of the application's objects and of all widgets
     int translators = 0;

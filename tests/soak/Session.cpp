@@ -180,6 +180,7 @@ void Session::openPage()
     m_page = page;
     const auto connections = Host::connections();
     takeWrites();
+    m_run.watchdog.beat();
     qint32 result = -1;
     try {
         result
@@ -218,6 +219,7 @@ void Session::closePage(Report::Ending ending)
         return;
     const std::size_t callsBefore = m_camera ? m_camera->journal().count() : 0;
     const std::chrono::nanoseconds begin = m_run.watchdog.guiTime();
+    m_run.watchdog.beat();
     const QPointer<QWidget> page = m_page;
     if (ending == Report::Hidden && m_host)
         m_host->hide();

@@ -1,5 +1,6 @@
 #include "VirtualTime.h"
 
+#include <atomic>
 #include <cstdint>
 #include <cstring>
 
@@ -22,6 +23,7 @@ constexpr std::int64_t fastSpeed = 10;
 std::int64_t base = 0;
 std::int64_t realBase = 0;
 std::int64_t speed = 1; ///< 0: it stands still
+std::atomic<std::int64_t> sleepTime{0};
 thread_local bool isOwner = false;
 
 struct Library
@@ -114,6 +116,11 @@ std::chrono::nanoseconds real()
     return std::chrono::nanoseconds(realTime());
 }
 
+std::chrono::nanoseconds slept()
+{
+    return std::chrono::nanoseconds(sleepTime.load());
+}
+
 } // namespace VirtualTime
 
 extern "C" {
@@ -130,8 +137,10 @@ __attribute__((visibility("default"))) int clock_gettime(clockid_t clock, timesp
 
 __attribute__((visibility("default"))) int nanosleep(const timespec* time, timespec* rest)
 {
-    if (isOwner && speed == 0)
-        base += toNanoseconds(*time);
+    if (isOwner) {
+        sleepTime += toNanoseconds(*time);
+        base += speed == 0 ? toNanoseconds(*time) : 0;
+    }
     return static_cast<int>(syscall(SYS_nanosleep, time, rest));
 }
 

@@ -25,5 +25,7 @@ enum class Pace {
 void start(Pace pace);
 /// The real time, on any thread.
 std::chrono::nanoseconds real();
+/// What the camera let the thread of start() wait for so far; on any thread.
+std::chrono::nanoseconds slept();
 
 } // namespace VirtualTime

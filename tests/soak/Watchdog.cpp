@@ -7,8 +7,8 @@
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
-#include <fstream>
 
+#include <time.h>
 #include <unistd.h>
 
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
@@ -18,6 +18,8 @@ extern "C" void __sanitizer_set_death_callback(void (*callback)());
 namespace {
 
 constexpr std::chrono::seconds longestHang{5 * Watchdog::slowdown};
+/// Of the real time, on a machine however busy: threads wait for each other.
+constexpr std::chrono::minutes longestLock{5};
 
 std::atomic<std::uint64_t> currentSeed{0};
 std::atomic<int> currentStep{0};
@@ -46,7 +48,7 @@ void tellPlace()
 } // namespace
 
 Watchdog::Watchdog()
-    : m_statistics("/proc/self/task/" + std::to_string(gettid()) + "/schedstat")
+    : m_gui(pthread_self())
     , m_thread([this] { watch(); })
 {
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
@@ -76,22 +78,27 @@ void Watchdog::setPlace(std::uint64_t seed, int step, const char* action)
 
 std::chrono::nanoseconds Watchdog::guiTime() const
 {
-    std::int64_t running = 0;
-    std::int64_t waiting = 0;
-    std::ifstream(m_statistics) >> running >> waiting;
-    return VirtualTime::real() - std::chrono::nanoseconds(waiting);
+    clockid_t clock{};
+    timespec time{};
+    pthread_getcpuclockid(m_gui, &clock);
+    clock_gettime(clock, &time);
+    return std::chrono::seconds(time.tv_sec) + std::chrono::nanoseconds(time.tv_nsec)
+        + VirtualTime::slept();
 }
 
 void Watchdog::watch()
 {
     std::uint64_t last = m_beats;
     std::chrono::nanoseconds since = guiTime();
+    std::chrono::nanoseconds sinceReal = VirtualTime::real();
     std::unique_lock lock(m_mutex);
     while (!m_wake.wait_for(lock, std::chrono::milliseconds(100), [this] { return m_ends; })) {
         if (const std::uint64_t beats = m_beats; beats != last) {
             last = beats;
             since = guiTime();
-        } else if (guiTime() - since > longestHang) {
+            sinceReal = VirtualTime::real();
+        } else if (guiTime() - since > longestHang
+                   || VirtualTime::real() - sinceReal > longestLock) {
             std::fputs("\nThe GUI thread hangs.", stderr);
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
             tellPlace();
