@@ -356,6 +356,18 @@ private slots:
         QCOMPARE(shown.size(), QSize(600, 400));
         QCOMPARE(shown.pixelColor(50, 100), QColor(Qt::white));
         QCOMPARE(shown.pixelColor(50, 300), QColor(Qt::black));
+
+        m_label->hide();
+        m_label->setBackgroundImage(image, {100, 100}, {});
+        m_label->show();
+        for (const QSize& size : {QSize(600, 400), QSize(300, 200)}) {
+            m_label->resize(size);
+            QCOMPARE(m_label->pixmap(Qt::ReturnByValue).size(), size);
+            const QColor corner = m_label->pixmap(Qt::ReturnByValue)
+                                      .toImage()
+                                      .pixelColor(size.width() - 1, size.height() - 1);
+            QCOMPARE(corner, QColor(Qt::white));
+        }
     }
 
     void regionLabels()
