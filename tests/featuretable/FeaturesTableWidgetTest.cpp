@@ -488,12 +488,12 @@ private slots:
         QElapsedTimer held;
         held.start();
         int x = 10;
-        while (held.elapsed() < 300) {
+        while (f.writes() < 5 && held.elapsed() < 5000) {
             sendMouse(slider, QEvent::MouseMove, {x = (x + 7) % slider->width(), center});
             QTest::qWait(2);
         }
-        const int allowed = int(held.elapsed()) / 50 + 1;
-        QVERIFY2(f.writes() >= 3 && f.writes() <= allowed, qPrintable(QString::number(f.writes())));
+        const int allowed = int(held.elapsed()) / 47 + 1; // coarse timers may be 5 % early
+        QVERIFY2(f.writes() == 5 && allowed >= 5, qPrintable(QString::number(allowed)));
         // Handled values do not expose the open editor to a refresh.
         const QVariant shown = f.shown("Count");
         f.camera.failures().add("Count", Operation::GetValue, Failure::refuse());
