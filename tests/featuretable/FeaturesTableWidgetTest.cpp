@@ -551,6 +551,20 @@ private slots:
         QCOMPARE(f.field()->value(), 10);
     }
 
+    void ignoresForeignRecords()
+    {
+        const Fixture f;
+        QTest::ignoreMessage(QtDebugMsg, QRegularExpression("cannot convert to FeatureInfo:"));
+        QTest::ignoreMessage(QtDebugMsg, QRegularExpression("Cannot create delegate widget for "));
+        {
+            const QSignalBlocker blocker(f.table->model());
+            f.item("Count")->setData(Qt::UserRole, "no record");
+        }
+        f.item("Count")->setData(Qt::DisplayRole, 5);
+        f.doubleClick("Count");
+        QCOMPARE(f.writes(), 0);
+    }
+
     void searchesNamesOnly()
     {
         Fixture f;
