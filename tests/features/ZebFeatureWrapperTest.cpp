@@ -88,6 +88,11 @@ private slots:
         camera.failures().add("Mode", Operation::GetValues, Failure::of(Failure::Kind::Grow));
         feature->GetValues(entries);
         QVERIFY(entries.size() <= 2);
+        camera.failures().clear();
+        camera.failures().add("Mode", Operation::GetValues,
+                              Failure::of(Failure::Kind::EmptyLength));
+        QCOMPARE(int(feature->GetValues(entries)), 0);
+        QVERIFY(entries.empty());
     }
 
     void writesBytes()
