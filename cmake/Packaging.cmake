@@ -33,6 +33,11 @@ if(MINGW AND TARGET viewer)
     install(DIRECTORY ${plugins}/imageformats ${plugins}/styles DESTINATION qt/plugins
             FILES_MATCHING PATTERN *.dll)
     install(DIRECTORY ${WINDOWS_QT_PREFIX}/lib/fonts DESTINATION qt)
+    # Qt's own texts, of the module's languages; the distribution's do for any Qt of this version.
+    foreach(language de fr ja zh_CN)
+        install(FILES /usr/share/qt5/translations/qtbase_${language}.qm DESTINATION qt/translations)
+    endforeach()
+    install(FILES /usr/share/doc/qttranslations5-l10n/copyright DESTINATION licenses/qttranslations)
     install(FILES ${PROJECT_SOURCE_DIR}/resources/windows/qt.conf DESTINATION .)
     install(DIRECTORY ${WINDOWS_QT_PREFIX}/licenses DESTINATION .)
 endif()

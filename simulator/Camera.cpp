@@ -147,6 +147,11 @@ void Camera::lose(std::chrono::milliseconds delayPerCall, ZebErrorType code)
     m_device->lose(code, delayPerCall);
 }
 
+void Camera::recover()
+{
+    m_device->recover();
+}
+
 void Camera::setNotifications(const NotificationSettings& settings)
 {
     m_device->notifier().setSettings(settings);

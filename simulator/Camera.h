@@ -62,6 +62,7 @@ public:
     void setRounding(bool rounds);
     /// Every call through the SDK fails from now on, each after the delay; observers are forgotten.
     void lose(std::chrono::milliseconds delayPerCall = {}, ZebErrorType code = ZebErrorBadHandle);
+    void recover(); ///< a lost camera answers again; observers stay forgotten
 
     // Notifications.
     void setNotifications(const NotificationSettings& settings);

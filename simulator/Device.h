@@ -50,6 +50,7 @@ public:
     /// From now on every call through the SDK waits for the delay and answers the code; observers
     /// are forgotten.
     void lose(ZebErrorType code, std::chrono::milliseconds delay);
+    void recover() { m_lost = false; }
     bool isLost() const { return m_lost; }
     ZebErrorType lostCode() const { return m_lostCode; }
     std::chrono::milliseconds lostDelay() const { return m_lostDelay; }

@@ -6,8 +6,11 @@
 #include <QApplication>
 #include <QDir>
 #include <QFont>
+#include <QLibraryInfo>
+#include <QLocale>
 #include <QTextStream>
 #include <QTimer>
+#include <QTranslator>
 
 #include <algorithm>
 #include <cstdio>
@@ -94,6 +97,15 @@ void chooseOffscreenFont()
     QApplication::setFont(font);
 }
 
+/// The buttons of the pages' questions are Qt's, and so are their texts. The pages go by the
+/// system's locale as well.
+void loadQtTranslation(QTranslator& translator)
+{
+    if (translator.load(QLatin1String("qtbase_") + QLocale::system().name(),
+                        QLibraryInfo::location(QLibraryInfo::TranslationsPath)))
+        QCoreApplication::installTranslator(&translator);
+}
+
 #ifdef Q_OS_WIN
 /// Started from Explorer, the program gets a console window that nobody else uses.
 void closeOwnConsole()
@@ -131,6 +143,8 @@ int main(int argc, char** argv)
 
     if (QGuiApplication::platformName() == QLatin1String("offscreen"))
         chooseOffscreenFont();
+    QTranslator qtTranslator;
+    loadQtTranslation(qtTranslator);
     MainWindow::setDark(options.dark);
     MainWindow window(options.modulePath);
     window.resize(options.size);

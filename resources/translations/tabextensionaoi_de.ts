@@ -5,7 +5,7 @@
     <name>AOIWidget</name>
     <message>
         <source>Form</source>
-        <translation>Form</translation>
+        <translation>Formular</translation>
     </message>
     <message>
         <source>WARNING</source>
@@ -57,7 +57,7 @@
     </message>
     <message>
         <source>&apos;%1&apos; widget cannot be used if &apos;MultipleRegionsEnabled&apos; is on.</source>
-        <translation>Die Seite „%1“ ist nicht nutzbar, solange „MultipleRegionsEnabled“ eingeschaltet ist.</translation>
+        <translation>Die Seite „%1“ ist nicht nutzbar, solange „MultipleRegionsEnabled“ aktiviert ist.</translation>
     </message>
     <message>
         <source>Invalid settings: </source>

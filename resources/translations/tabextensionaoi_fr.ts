@@ -37,7 +37,7 @@
     </message>
     <message>
         <source>Full</source>
-        <translation>Plein</translation>
+        <translation>Entier</translation>
     </message>
     <message>
         <source>1/4</source>

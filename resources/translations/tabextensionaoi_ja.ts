@@ -73,7 +73,7 @@
         <source>
 	OffsetY + Height &gt; Maximum Height! </source>
         <translation>
-	オフセット Y + 高さ &gt; 最大の高さ! </translation>
+	オフセット Y + 高さ &gt; 最大高さ! </translation>
     </message>
 </context>
 </TS>

@@ -21,23 +21,23 @@
     </message>
     <message>
         <source>OffsetX: </source>
-        <translation>X 偏移: </translation>
+        <translation>X 偏移： </translation>
     </message>
     <message>
         <source>OffsetY: </source>
-        <translation>Y 偏移: </translation>
+        <translation>Y 偏移： </translation>
     </message>
     <message>
         <source>Width: </source>
-        <translation>宽度: </translation>
+        <translation>宽度： </translation>
     </message>
     <message>
         <source>Height: </source>
-        <translation>高度: </translation>
+        <translation>高度： </translation>
     </message>
     <message>
         <source>Full</source>
-        <translation>全幅</translation>
+        <translation>全部</translation>
     </message>
     <message>
         <source>1/4</source>
@@ -49,7 +49,7 @@
     </message>
     <message>
         <source>Invalid Settings: </source>
-        <translation>设置无效: </translation>
+        <translation>设置无效： </translation>
     </message>
     <message>
         <source>ROI</source>
@@ -61,19 +61,19 @@
     </message>
     <message>
         <source>Invalid settings: </source>
-        <translation>设置无效: </translation>
+        <translation>设置无效： </translation>
     </message>
     <message>
         <source>
 	OffsetX + Width &gt; Maximum Width! </source>
         <translation>
-	X 偏移 + 宽度 &gt; 最大宽度! </translation>
+	X 偏移 + 宽度 &gt; 最大宽度！ </translation>
     </message>
     <message>
         <source>
 	OffsetY + Height &gt; Maximum Height! </source>
         <translation>
-	Y 偏移 + 高度 &gt; 最大高度! </translation>
+	Y 偏移 + 高度 &gt; 最大高度！ </translation>
     </message>
 </context>
 </TS>

@@ -5,7 +5,7 @@
     <name>AutoROIWidget</name>
     <message>
         <source>Form</source>
-        <translation>Form</translation>
+        <translation>Formular</translation>
     </message>
     <message>
         <source>Autofunction AOI</source>
@@ -17,11 +17,11 @@
     </message>
     <message>
         <source>Enable AutoMode:</source>
-        <translation>AutoMode einschalten:</translation>
+        <translation>AutoMode aktivieren:</translation>
     </message>
     <message>
         <source>Show Area:</source>
-        <translation>Region zeigen:</translation>
+        <translation>Region anzeigen:</translation>
     </message>
     <message>
         <source>AutoMode Region</source>

@@ -13,15 +13,15 @@
     </message>
     <message>
         <source>Intensity Controller Region:</source>
-        <translation>亮度控制区域:</translation>
+        <translation>亮度控制区域：</translation>
     </message>
     <message>
         <source>Enable AutoMode:</source>
-        <translation>启用 AutoMode:</translation>
+        <translation>启用 AutoMode：</translation>
     </message>
     <message>
         <source>Show Area:</source>
-        <translation>显示区域:</translation>
+        <translation>显示区域：</translation>
     </message>
     <message>
         <source>AutoMode Region</source>
@@ -29,35 +29,35 @@
     </message>
     <message>
         <source>OffsetX:</source>
-        <translation>X 偏移:</translation>
+        <translation>X 偏移：</translation>
     </message>
     <message>
         <source>Right:</source>
-        <translation>右:</translation>
+        <translation>右：</translation>
     </message>
     <message>
         <source>Width:</source>
-        <translation>宽度:</translation>
+        <translation>宽度：</translation>
     </message>
     <message>
         <source>OffsetY:</source>
-        <translation>Y 偏移:</translation>
+        <translation>Y 偏移：</translation>
     </message>
     <message>
         <source>Bottom:</source>
-        <translation>下:</translation>
+        <translation>下：</translation>
     </message>
     <message>
         <source>Height:</source>
-        <translation>高度:</translation>
+        <translation>高度：</translation>
     </message>
     <message>
         <source>Invalid settings:</source>
-        <translation>设置无效:</translation>
+        <translation>设置无效：</translation>
     </message>
     <message>
         <source>Full</source>
-        <translation>全幅</translation>
+        <translation>全部</translation>
     </message>
     <message>
         <source>1/4</source>
@@ -73,7 +73,7 @@
     </message>
     <message>
         <source>Min:</source>
-        <translation>最小值:</translation>
+        <translation>最小值：</translation>
     </message>
     <message>
         <source>Current</source>
@@ -81,15 +81,15 @@
     </message>
     <message>
         <source>Timebase:</source>
-        <translation>时基:</translation>
+        <translation>时基：</translation>
     </message>
     <message>
         <source>Max:</source>
-        <translation>最大值:</translation>
+        <translation>最大值：</translation>
     </message>
     <message>
         <source>Invalid settings: </source>
-        <translation>设置无效: </translation>
+        <translation>设置无效： </translation>
     </message>
     <message>
         <source>Autofunction ROI</source>
@@ -98,13 +98,13 @@
     <message>
         <source>Invalid settings:
 Height + OffsetY &gt; %1 Height</source>
-        <translation>设置无效:
+        <translation>设置无效：
 高度 + Y 偏移 &gt; %1 高度</translation>
     </message>
     <message>
         <source>Invalid settings:
 Width + OffsetX &gt; %1 Width</source>
-        <translation>设置无效:
+        <translation>设置无效：
 宽度 + X 偏移 &gt; %1 宽度</translation>
     </message>
     <message>
@@ -117,41 +117,41 @@ Width + OffsetX &gt; %1 Width</source>
     </message>
     <message>
         <source>Top:</source>
-        <translation>上:</translation>
+        <translation>上：</translation>
     </message>
     <message>
         <source>Left:</source>
-        <translation>左:</translation>
+        <translation>左：</translation>
     </message>
     <message>
         <source>
 Top &gt; Bottom! </source>
         <translation>
-上 &gt; 下! </translation>
+上 &gt; 下！ </translation>
     </message>
     <message>
         <source>
 Top &gt; ROI Height! </source>
         <translation>
-上 &gt; ROI 高度! </translation>
+上 &gt; ROI 高度！ </translation>
     </message>
     <message>
         <source>
 Bottom &gt; ROI Height! </source>
         <translation>
-下 &gt; ROI 高度! </translation>
+下 &gt; ROI 高度！ </translation>
     </message>
     <message>
         <source>Left &gt; Right! </source>
-        <translation>左 &gt; 右! </translation>
+        <translation>左 &gt; 右！ </translation>
     </message>
     <message>
         <source>Left &gt; ROI Width! </source>
-        <translation>左 &gt; ROI 宽度! </translation>
+        <translation>左 &gt; ROI 宽度！ </translation>
     </message>
     <message>
         <source>Right &gt; ROI Width! </source>
-        <translation>右 &gt; ROI 宽度! </translation>
+        <translation>右 &gt; ROI 宽度！ </translation>
     </message>
 </context>
 </TS>

@@ -5,7 +5,7 @@
     <name>BaseTabPluginWidget</name>
     <message>
         <source>Vendor not supported for plugins, widget not created.</source>
-        <translation>Hersteller wird von Plug-ins nicht unterstützt, Seite nicht erzeugt.</translation>
+        <translation>Der Hersteller wird von den Plug-ins nicht unterstützt, Seite nicht erstellt.</translation>
     </message>
 </context>
 <context>
@@ -29,12 +29,20 @@
         <source>Value</source>
         <translation>Wert</translation>
     </message>
+    <message>
+        <source>Selected features:</source>
+        <translation>Ausgewählte Features:</translation>
+    </message>
+    <message>
+        <source>Saving feature &apos;%1&apos; to value=%2 failed.</source>
+        <translation>Feature „%1“ konnte nicht auf den Wert %2 gesetzt werden.</translation>
+    </message>
 </context>
 <context>
     <name>ImageFormatWidget</name>
     <message>
         <source>Form</source>
-        <translation>Form</translation>
+        <translation>Formular</translation>
     </message>
     <message>
         <source>Image Format: </source>
@@ -78,7 +86,7 @@
     </message>
     <message>
         <source>Camera does not support color interpolation matrix, widget not created</source>
-        <translation>Kamera unterstützt keine Farbinterpolationsmatrix, Seite nicht erzeugt</translation>
+        <translation>Die Kamera unterstützt keine Farbinterpolationsmatrix, Seite nicht erstellt</translation>
     </message>
     <message>
         <source>Feature &apos;ReverseX&apos; is not available in the camera.</source>
@@ -98,14 +106,14 @@
     </message>
     <message>
         <source>Error accessing widget &apos;%s&apos;</source>
-        <translation>Fehler beim Zugriff auf Widget „%s“</translation>
+        <translation>Fehler beim Zugriff auf das Widget „%s“</translation>
     </message>
 </context>
 <context>
     <name>MultiROIWidget</name>
     <message>
         <source>Form</source>
-        <translation>Form</translation>
+        <translation>Formular</translation>
     </message>
     <message>
         <source>WARNING</source>
@@ -113,7 +121,7 @@
     </message>
     <message>
         <source>MultipleRegionEnable: </source>
-        <translation>Mehrere Regionen: </translation>
+        <translation>Mehrere Regionen aktivieren: </translation>
     </message>
     <message>
         <source>Select Mode: </source>
@@ -121,7 +129,7 @@
     </message>
     <message>
         <source>Load Defaults</source>
-        <translation>Standard laden</translation>
+        <translation>Standardwerte laden</translation>
     </message>
     <message>
         <source>Region</source>
@@ -195,7 +203,7 @@ Was soll deaktiviert werden?</translation>
     </message>
     <message>
         <source>The camera names %1 regions; the first %2 are shown.</source>
-        <translation>Die Kamera nennt %1 Regionen; die ersten %2 werden gezeigt.</translation>
+        <translation>Die Kamera meldet %1 Regionen; angezeigt werden die ersten %2.</translation>
     </message>
     <message>
         <source>Region%1</source>
@@ -219,7 +227,7 @@ Was soll deaktiviert werden?</translation>
     </message>
     <message>
         <source>Regions must share a common line space (activate all preceding regions first).</source>
-        <translation>Regionen müssen einen gemeinsamen Zeilenbereich haben (zuerst alle vorhergehenden Regionen aktivieren).</translation>
+        <translation>Regionen müssen einen gemeinsamen Zeilenbereich haben (zuerst alle vorangehenden Regionen aktivieren).</translation>
     </message>
     <message>
         <source>Set &apos;SubRegionSelector&apos; = &apos;%1&apos; failed!</source>
@@ -234,7 +242,7 @@ Was soll deaktiviert werden?</translation>
     <name>RegionLabelWidget</name>
     <message>
         <source>Form</source>
-        <translation>Form</translation>
+        <translation>Formular</translation>
     </message>
     <message>
         <source>Region-ID, position and size:

@@ -29,6 +29,14 @@
         <source>Value</source>
         <translation>Valeur</translation>
     </message>
+    <message>
+        <source>Selected features:</source>
+        <translation>Fonctions sélectionnées&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Saving feature &apos;%1&apos; to value=%2 failed.</source>
+        <translation>La fonction «&#xa0;%1&#xa0;» n’a pas pu être réglée à la valeur %2.</translation>
+    </message>
 </context>
 <context>
     <name>ImageFormatWidget</name>
@@ -113,7 +121,7 @@
     </message>
     <message>
         <source>MultipleRegionEnable: </source>
-        <translation>Régions multiples&#xa0;: </translation>
+        <translation>Activer les régions multiples&#xa0;: </translation>
     </message>
     <message>
         <source>Select Mode: </source>
@@ -121,7 +129,7 @@
     </message>
     <message>
         <source>Load Defaults</source>
-        <translation>Charger par défaut</translation>
+        <translation>Valeurs par défaut</translation>
     </message>
     <message>
         <source>Region</source>
@@ -219,7 +227,7 @@ Que voulez-vous désactiver&#xa0;?</translation>
     </message>
     <message>
         <source>Regions must share a common line space (activate all preceding regions first).</source>
-        <translation>Les régions doivent partager un même espace de lignes (activez d’abord toutes les régions précédentes).</translation>
+        <translation>Les régions doivent partager une même plage de lignes (activez d’abord toutes les régions précédentes).</translation>
     </message>
     <message>
         <source>Set &apos;SubRegionSelector&apos; = &apos;%1&apos; failed!</source>

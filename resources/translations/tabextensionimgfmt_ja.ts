@@ -29,6 +29,14 @@
         <source>Value</source>
         <translation>値</translation>
     </message>
+    <message>
+        <source>Selected features:</source>
+        <translation>選択される機能:</translation>
+    </message>
+    <message>
+        <source>Saving feature &apos;%1&apos; to value=%2 failed.</source>
+        <translation>機能「%1」に値 %2 を設定できませんでした。</translation>
+    </message>
 </context>
 <context>
     <name>ImageFormatWidget</name>
@@ -121,7 +129,7 @@
     </message>
     <message>
         <source>Load Defaults</source>
-        <translation>既定値を読み込む</translation>
+        <translation>デフォルト値を読み込む</translation>
     </message>
     <message>
         <source>Region</source>
@@ -137,7 +145,7 @@
     </message>
     <message>
         <source>Load Default Configuration</source>
-        <translation>既定の設定を読み込む</translation>
+        <translation>デフォルト設定を読み込む</translation>
     </message>
     <message>
         <source>Overwrite the current region settings?</source>
@@ -183,11 +191,11 @@ What would you deactivate?</source>
     </message>
     <message>
         <source>Unknown Arrangement Mode &apos;%1&apos;, no default settings for %2 regions available.</source>
-        <translation>不明な配置モード「%1」です。%2 個の領域に対する既定値はありません。</translation>
+        <translation>不明な配置モード「%1」です。%2 個の領域に対するデフォルト値はありません。</translation>
     </message>
     <message>
         <source>Unknown Arrangement Mode &apos;%1&apos;, no default settings available.</source>
-        <translation>不明な配置モード「%1」です。既定値はありません。</translation>
+        <translation>不明な配置モード「%1」です。デフォルト値はありません。</translation>
     </message>
     <message>
         <source>Multi ROI</source>
@@ -211,7 +219,7 @@ What would you deactivate?</source>
     </message>
     <message>
         <source>Region%1 cannot be activated into a valid configuration due to the minimum size.</source>
-        <translation>最小サイズの制約により、領域%1を有効な構成でオンにできません。</translation>
+        <translation>最小サイズの制約により、領域%1を有効にすると正しい構成になりません。</translation>
     </message>
     <message>
         <source>Regions must be activated continuously, ascending from Region0.</source>
@@ -219,7 +227,7 @@ What would you deactivate?</source>
     </message>
     <message>
         <source>Regions must share a common line space (activate all preceding regions first).</source>
-        <translation>領域はライン範囲を共有する必要があります (先に前の領域をすべて有効にしてください)。</translation>
+        <translation>領域は共通のライン範囲を持つ必要があります (先に前の領域をすべて有効にしてください)。</translation>
     </message>
     <message>
         <source>Set &apos;SubRegionSelector&apos; = &apos;%1&apos; failed!</source>

@@ -29,6 +29,14 @@
         <source>Value</source>
         <translation>值</translation>
     </message>
+    <message>
+        <source>Selected features:</source>
+        <translation>所选功能：</translation>
+    </message>
+    <message>
+        <source>Saving feature &apos;%1&apos; to value=%2 failed.</source>
+        <translation>无法将功能“%1”设为 %2。</translation>
+    </message>
 </context>
 <context>
     <name>ImageFormatWidget</name>
@@ -38,43 +46,43 @@
     </message>
     <message>
         <source>Image Format: </source>
-        <translation>图像格式: </translation>
+        <translation>图像格式： </translation>
     </message>
     <message>
         <source>Pixel Format: </source>
-        <translation>像素格式: </translation>
+        <translation>像素格式： </translation>
     </message>
     <message>
         <source>Binning Selector: </source>
-        <translation>像素合并选择: </translation>
+        <translation>像素合并选择： </translation>
     </message>
     <message>
         <source>Horizontal Mode: </source>
-        <translation>水平模式: </translation>
+        <translation>水平模式： </translation>
     </message>
     <message>
         <source>Binning Horizontal: </source>
-        <translation>水平像素合并: </translation>
+        <translation>水平像素合并： </translation>
     </message>
     <message>
         <source>Vertical Mode: </source>
-        <translation>垂直模式: </translation>
+        <translation>垂直模式： </translation>
     </message>
     <message>
         <source>Binning Vertical: </source>
-        <translation>垂直像素合并: </translation>
+        <translation>垂直像素合并： </translation>
     </message>
     <message>
         <source>Reverse X: </source>
-        <translation>X 翻转: </translation>
+        <translation>X 翻转： </translation>
     </message>
     <message>
         <source>Reverse Y: </source>
-        <translation>Y 翻转: </translation>
+        <translation>Y 翻转： </translation>
     </message>
     <message>
         <source>Select Image for ROI: </source>
-        <translation>选择 ROI 图像: </translation>
+        <translation>选择 ROI 图像： </translation>
     </message>
     <message>
         <source>Camera does not support color interpolation matrix, widget not created</source>
@@ -82,15 +90,15 @@
     </message>
     <message>
         <source>Feature &apos;ReverseX&apos; is not available in the camera.</source>
-        <translation>相机不提供功能“ReverseX”。</translation>
+        <translation>相机不支持功能“ReverseX”。</translation>
     </message>
     <message>
         <source>Feature &apos;ReverseY&apos; is not available in the camera.</source>
-        <translation>相机不提供功能“ReverseY”。</translation>
+        <translation>相机不支持功能“ReverseY”。</translation>
     </message>
     <message>
         <source>Feature &apos;BinningSelector&apos; is not available in the camera.</source>
-        <translation>相机不提供功能“BinningSelector”。</translation>
+        <translation>相机不支持功能“BinningSelector”。</translation>
     </message>
     <message>
         <source>Image Format</source>
@@ -113,11 +121,11 @@
     </message>
     <message>
         <source>MultipleRegionEnable: </source>
-        <translation>启用多区域: </translation>
+        <translation>启用多区域： </translation>
     </message>
     <message>
         <source>Select Mode: </source>
-        <translation>选择模式: </translation>
+        <translation>选择模式： </translation>
     </message>
     <message>
         <source>Load Defaults</source>
@@ -159,7 +167,7 @@
         <source>Currently selected Arrangement Mode &apos;Tile&apos; requires deactivation of either a row or a column.
 What would you deactivate?</source>
         <translation>当前选择的排列模式“Tile”要求停用一行或一列。
-要停用哪一个？</translation>
+要停用哪一项？</translation>
     </message>
     <message>
         <source>Row</source>
@@ -241,7 +249,7 @@ What would you deactivate?</source>
   ID   ( X , Y )
         Width x Height
 </source>
-        <translation>区域 ID、位置和尺寸:
+        <translation>区域 ID、位置和尺寸：
   ID   ( X , Y )
         宽度 x 高度
 </translation>
@@ -251,7 +259,7 @@ What would you deactivate?</source>
     <name>RegionTableWidget</name>
     <message>
         <source>tblFeatures.data(%1) cannot be converted to FeatureInfo: %2</source>
-        <translation>tblFeatures.data(%1) 无法转换为 FeatureInfo: %2</translation>
+        <translation>tblFeatures.data(%1) 无法转换为 FeatureInfo：%2</translation>
     </message>
 </context>
 </TS>

@@ -9,6 +9,7 @@ BUILD_PACKAGES=(
     qttools5-dev
     qttools5-dev-tools
     libqwt-qt5-dev
+    qttranslations5-l10n
     fonts-dejavu-core
 )
 
@@ -46,6 +47,7 @@ WINDOWS_PACKAGES=(
     ninja-build
     qttools5-dev
     qttools5-dev-tools
+    qttranslations5-l10n
     wine64
     fonts-dejavu-core
     xvfb

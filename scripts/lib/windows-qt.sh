@@ -117,7 +117,8 @@ windows_configure_qt() {
     rm -rf qtbase-build
     mkdir qtbase-build
     cd qtbase-build
-    nice -n 19 ../qtbase/configure -opensource -confirm-license -release -shared -silent \
+    # The variable is for the making of qmake, the longest part of it.
+    MAKEFLAGS=-j$(nproc) ../qtbase/configure -opensource -confirm-license -release -shared -silent \
         -prefix "$WINDOWS_QT_PREFIX" -xplatform win32-g++ \
         -device-option CROSS_COMPILE="$WINDOWS_TRIPLET-" \
         -nomake examples -nomake tests -nomake tools \
@@ -128,7 +129,7 @@ windows_configure_qt() {
 }
 
 windows_build_qt() {
-    nice -n 19 make -C qtbase-build -j"$(nproc)"
+    make -C qtbase-build -j"$(nproc)"
 }
 
 windows_install_qt() {
@@ -176,7 +177,7 @@ windows_build_qwt() {
         cd qwt-build/src
         "$WINDOWS_QT_PREFIX/bin/qmake" ../../qwt/src/src.pro \
             -after CONFIG-=debug_and_release CONFIG-=build_all CONFIG+=silent
-        nice -n 19 make -j"$(nproc)" install
+        make -j"$(nproc)" install
     )
     mkdir -p "$WINDOWS_QT_PREFIX/licenses/qwt"
     cp qwt/COPYING "$WINDOWS_QT_PREFIX/licenses/qwt/"

@@ -11,7 +11,9 @@
 //   are written as far as the SDK got.
 // - Texts are NUL-terminated 8-bit strings. Texts and lists are fetched in two calls: the first
 //   with a null buffer answers the needed length (for texts the terminator included), the second
-//   fills a buffer of that length.
+//   fills a buffer of that length. Raw values and valid-value sets take the capacity and answer
+//   the count in parameters of their own. Texts in a list belong to the feature and last until
+//   its next call.
 // - Observers are called on a thread of the SDK's choice, possibly before RegisterObserver or
 //   SetValue has returned.
 

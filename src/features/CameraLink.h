@@ -10,8 +10,8 @@
 /// calls for a refresh: it would hold up the viewer for minutes. So the link counts as broken after
 /// two failed calls in a row, of which the second made its caller wait. Calls then fail at once
 /// with the camera's code and reach the camera no more, but for one every few seconds, by which the
-/// link mends itself when the camera is back. Quick failures break nothing, and no call is timed
-/// while all goes well.
+/// link mends itself when the camera is back; a page that waits for that asks isDue(). Quick
+/// failures break nothing, and no call is timed while all goes well.
 ///
 /// For the GUI thread only.
 class CameraLink
@@ -35,6 +35,9 @@ public:
     }
 
     bool isBroken() const { return m_state == State::Broken; }
+
+    /// Whether the next call reaches the camera, which may make it wait.
+    bool isDue() const { return !isBroken() || Clock::now() >= m_nextTry; }
 
 private:
     using Clock = std::chrono::steady_clock;

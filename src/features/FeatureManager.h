@@ -40,6 +40,7 @@ public:
     virtual bool IsWritable(const QString& name, const QString& alternative1,
                             const QString& alternative2);
     virtual bool IsReadable(const QString& name);
+    /// -1 for a feature that is no number.
     virtual double GetIncrement(const QString& name);
     virtual double GetIncrement(const QString& name, const QString& alternative);
     /// The camera's own name of the first candidate that exists.
@@ -71,6 +72,7 @@ public:
                                  const QString& alternative2, double& minimum, double& maximum,
                                  double& increment);
 
+    /// The range as the camera reports it, without the alignment of GetValueRange().
     virtual double GetValueLimits(const QString& name, double& minimum, double& maximum);
     virtual double GetValueLimits(const QString& name, const QString& alternative, double& minimum,
                                   double& maximum);
@@ -79,6 +81,7 @@ public:
 
     /// The text of a feature that can be written; empty for any other.
     virtual QString GetWritableStringValue(const QString& name);
+    /// All entries, those that the camera does not offer at present included.
     virtual QStringList GetEnumEntries(const QString& name);
     virtual QStringList GetEnumEntries(const QString& name, const QString& alternative);
     virtual bool HasFeature(const QString& name, const QString& alternative1,
@@ -95,15 +98,17 @@ public:
                                 const QString& alternative2);
 
     /// Writes a text or an enumeration entry and answers what the camera then reports under the
-    /// primary name, also when an alternative was written.
+    /// primary name, also when an alternative was written. Empty when none exists.
     virtual QString SetStringValue(const QString& name, const QString& value);
     virtual QString SetStringValue(const QString& name, const QString& alternative,
                                    const QString& value);
     virtual QString SetStringValue(const QString& name, const QString& alternative1,
                                    const QString& alternative2, const QString& value);
 
-    /// Writes a number, aligned to the increment (counted from 0) and then clamped to the range,
-    /// and answers the value in effect afterwards. A boolean is set by any value above 0.
+    /// Writes a number, clamped to the range, and answers the value in effect afterwards; integers
+    /// and the integer's maximum are first aligned to the increment, counted from 0. A boolean is
+    /// set by any value above 0. What is not writable is only read back; without the feature, or
+    /// when it is no number, the answer is @p value.
     virtual double SetValue(const QString& name, double value);
     virtual double SetValue(const QString& name, const QString& alternative, double value);
     virtual double SetValue(const QString& name, const QString& alternative1,
@@ -112,6 +117,7 @@ public:
     virtual bool RunCommand(const QString& name);
     virtual QString GetCategory(const QString& name);
     virtual bool IsValueAvailable(const QString& name, const QString& value);
+    /// The names of the features whose values depend on this selector's.
     virtual QStringList GetSelectedFeatureNames(const QString& name);
     virtual ZebFeatureDataType GetDataType(const QString& name);
     virtual QString GetRepresentation(const QString& name);
@@ -127,7 +133,8 @@ public:
     virtual QString GetToolTip(const QString& name);
     virtual QString GetDescription(const QString& name);
 
-    /// An integer without the detour by way of double, which loses digits beyond 2^53.
+    /// An integer without the detour by way of double, which loses digits beyond 2^53. All numbers
+    /// are -1 for any other type; a missing feature leaves @p writable untouched.
     virtual IntegerState GetIntegerState(const QString& name, bool& writable);
 
 private:

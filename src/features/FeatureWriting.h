@@ -5,8 +5,8 @@
 #include <QString>
 #include <QVariant>
 
-/// Writes of one feature, by its data type. Failures are logged under @p name and never retried,
-/// except where the functions say so.
+/// Writes of one feature, by its data type. Failures of numbers are logged under @p name; nothing
+/// is tried again, except where the functions say so.
 namespace FeatureWriting {
 
 struct Result
@@ -15,9 +15,9 @@ struct Result
     bool taken;   ///< The camera accepted the value as it was given to it.
 };
 
-/// Numbers are aligned to the increment, counted from 0, and then clamped to the range; what is not
-/// writable is only read back. A float that the camera refuses is followed by one write of its
-/// present value on the increment. A feature that is no number answers @p value, not taken.
+/// Integers are aligned to the increment, counted from 0, and all numbers clamped to the range;
+/// what is not writable is only read back. A float that the camera refuses is followed by one write
+/// of its present value on the increment. A feature that is no number answers @p value, not taken.
 Result writeNumber(ZebFeatureWrapper& feature, const QString& name, double value);
 
 bool writeText(ZebFeatureWrapper& feature, const QString& value);

@@ -27,9 +27,7 @@ void readNumber(FeatureManager& manager, const QString& name, FeatureInfo& info)
 
 void readEnumeration(FeatureManager& manager, const QString& name, FeatureInfo& info)
 {
-    info.enumEntries.clear();
-    const QStringList entries = manager.GetEnumEntries(name);
-    for (const QString& entry : entries)
+    for (const QString& entry : manager.GetEnumEntries(name))
         info.enumEntries.emplace_back(entry.toStdString());
     info.value = manager.GetStringValue(name).toStdString();
     info.writable = manager.IsWritable(name);
@@ -95,7 +93,15 @@ FeatureInfo readFeatureInfo(FeatureManager& manager, const QString& name)
 
 FeatureInfo rereadFeatureInfo(FeatureManager& manager, const FeatureInfo& known)
 {
-    FeatureInfo info = known;
+    // Only the texts are kept: a camera that did not tell the type once must not leave its mark.
+    FeatureInfo info;
+    info.name = known.name;
+    info.displayName = known.displayName;
+    info.representation = known.representation;
+    info.toolTip = known.toolTip;
+    info.description = known.description;
+    info.information = known.information;
+    info.unit = known.unit;
     const QString name = QString::fromStdString(known.name);
     readValue(manager, name, info);
     // The rich text tells the range.

@@ -1,5 +1,7 @@
 #include "ConstraintGroups.h"
 
+#include "MultiRegionNames.h"
+
 namespace {
 
 /// Appends the group of the regions that belong to it, when they are two or more.
@@ -50,9 +52,9 @@ QStringList sharedFeatures(int region, const QVector<ConstraintGroup>& groups)
         if (!group.members.contains(region) || group.master() == region)
             continue;
         if (group.kind == ConstraintGroup::Row)
-            features << QStringLiteral("SubRegionOffsetY") << QStringLiteral("SubRegionHeight");
+            features << MultiRegionNames::offsetY << MultiRegionNames::height;
         else
-            features << QStringLiteral("SubRegionOffsetX") << QStringLiteral("SubRegionWidth");
+            features << MultiRegionNames::offsetX << MultiRegionNames::width;
     }
     return features;
 }

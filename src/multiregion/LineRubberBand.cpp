@@ -2,6 +2,10 @@
 
 #include "MultiRubberBandLabel.h"
 
+#include <QPainter>
+#include <QStyle>
+#include <QStyleOption>
+
 #include <algorithm>
 
 LineRubberBand::LineRubberBand(int orientation, int position, QWidget* parent, int length,
@@ -80,4 +84,26 @@ void LineRubberBand::moveToPoint(QPoint point)
     m_position = std::clamp(wanted, m_bounds.lower, std::max(m_bounds.lower, m_bounds.upper));
     move(isVertical() ? QPoint(m_position, 0) : QPoint(0, m_position));
     announce();
+}
+
+void LineRubberBand::changeEvent(QEvent* event)
+{
+    QRubberBand::changeEvent(event);
+    m_picture = {};
+}
+
+/// A style smooths all of the line, whose picture stays the same while it is dragged.
+void LineRubberBand::paintEvent(QPaintEvent*)
+{
+    const QSize pixels = size() * devicePixelRatioF();
+    if (m_picture.size() != pixels) {
+        m_picture = QPixmap(pixels);
+        m_picture.setDevicePixelRatio(devicePixelRatioF());
+        m_picture.fill(Qt::transparent);
+        QStyleOptionRubberBand option;
+        initStyleOption(&option);
+        QPainter painter(&m_picture);
+        style()->drawControl(QStyle::CE_RubberBand, &option, &painter, this);
+    }
+    QPainter(this).drawPixmap(0, 0, m_picture);
 }

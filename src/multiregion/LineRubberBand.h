@@ -3,6 +3,7 @@
 #include "ConstraintGroups.h"
 #include "ConstraintLineRules.h"
 
+#include <QPixmap>
 #include <QRubberBand>
 
 class MultiRubberBandLabel;
@@ -49,6 +50,10 @@ public slots:
     void onMoveFinished();
     void moveToPoint(QPoint point);
 
+protected:
+    void changeEvent(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
 private:
     bool isVertical() const { return m_orientation == vertical; }
 
@@ -59,4 +64,5 @@ private:
     LineBounds m_bounds;
     ConstraintGroup m_group;
     LineEdge m_edge = LineEdge::Leading;
+    QPixmap m_picture; ///< as the style draws the line, null until it is painted
 };

@@ -70,7 +70,7 @@ MultiROIWidget::MultiROIWidget(const FeatureList& camera, QWidget* parent)
     m_ui = std::move(form);
 
     observedFeatures = Name::switchNames + QStringList{Name::arrangement} + Name::compatibilityNames
-        + QStringList{Name::regionMode, QStringLiteral("SubRegionStatus")} + Name::sensorNames
+        + QStringList{Name::regionMode, Name::status} + Name::sensorNames
         + QStringList{Name::selector} + Name::regionNames.mid(2);
     if (featureManager->HasFeature(Name::arrangement)) {
         fillComboBox(Name::arrangement, m_ui->cmbMultipleRegionArrangement, false);
@@ -174,6 +174,7 @@ void MultiROIWidget::createRegion(int region, const QStringList& features,
     tab.label = new RegionLabelWidget(region, QRect(), regionDefaultColor(),
                                       m_ui->scrollRegionLabelsContents);
     tab.button = new RoundButton(region, false, m_ui->tabRegions->tabBar());
+    tab.button->setObjectName(QStringLiteral("btnRegion%1").arg(region));
     tab.button->setAccessibleName(title);
     tab.label->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     m_ui->verticalLayout_6->addWidget(tab.label);
@@ -220,7 +221,7 @@ QStringList MultiROIWidget::findTableFeatures()
             wrappers->append(wrapper);
     }
     m_tableManager = std::make_unique<FeatureManager>(wrappers);
-    for (const QString& older : {QStringLiteral("OffsetX"), QStringLiteral("Width")}) {
+    for (const QString& older : {Name::olderOffsetX, Name::olderWidth}) {
         if (!featureManager->HasFeature(QStringLiteral("SubRegion") + older)
             && featureManager->HasFeature(older) && !features.contains(older))
             features << older;
@@ -376,10 +377,8 @@ bool MultiROIWidget::select(int region)
         const std::unique_lock<QMutex> lock(m_selectorLock, std::try_to_lock);
         if (!lock)
             return false;
-        m_echoSeconds = 0;
-        m_isSelecting = true;
+        const ModeReports::Selecting selecting(m_modeReports);
         failure = m_regions.select(region);
-        m_isSelecting = false;
         if (failure.isEmpty())
             m_selectedByPage = region;
     }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ArrangementMode.h"
+#include "ModeReports.h"
 #include "RegionFeatures.h"
 #include "plugin/BaseTabPluginWidget.h"
 
@@ -157,16 +158,11 @@ private:
     QMutex m_selectorLock;
 
     int m_selectedByPage = -1; ///< what the page wrote to the selector last
-    bool m_isSelecting = false;
-    bool m_isModeReported = false;         ///< a region's mode, while the page selected none
-    bool m_isEchoImmediate = false;        ///< the camera notifies within the selecting
-    int m_echoSeconds = 0;                 ///< for which reports are taken for echoes of a look
-    int m_echoPatience = 0;                ///< seconds, doubled by each look that changed nothing
+    ModeReports m_modeReports;
     QPointer<RoundButton> m_toggledButton; ///< whose signal is being handled
     QSize m_sensorSize;                    ///< as the label has it
     int m_suspensions = 0;                 ///< drags, boxes and loads under way
     bool m_editorActive = false;           ///< as the tables tell; see isSuspended()
-    bool m_regionsRead = false;
     bool m_fullRefreshPending = true;
     QStringList m_pendingNames; ///< changed while suspended
 };

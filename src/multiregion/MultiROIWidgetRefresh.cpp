@@ -17,9 +17,6 @@ namespace Name = MultiRegionNames;
 
 namespace {
 
-constexpr int shortestEcho = 4; // seconds
-constexpr int longestEcho = 64;
-
 bool intersects(const QStringList& a, const QStringList& b)
 {
     return std::any_of(a.begin(), a.end(), [&b](const QString& name) { return b.contains(name); });
@@ -77,7 +74,7 @@ void MultiROIWidget::refreshPending()
 void MultiROIWidget::refreshAll()
 {
     m_fullRefreshPending = false;
-    m_isModeReported = false;
+    m_modeReports.forget();
     refreshSwitch();
     refreshArrangement();
     testCompatibility();
@@ -105,13 +102,8 @@ void MultiROIWidget::refreshNames(const QStringList& names)
     }
     if (intersects(names, Name::regionNames))
         refreshSelectedRegion(names.contains(Name::regionMode));
-    const bool isReported = std::exchange(m_isModeReported, false);
-    if (m_echoSeconds > 0)
-        --m_echoSeconds;
-    else if (isReported && isVisible())
+    if (m_modeReports.isLookDue(isVisible()))
         lookForSwitchedRegions();
-    else
-        m_echoPatience = 0;
 }
 
 /// What the table shows beside its region's own features.
@@ -126,15 +118,10 @@ void MultiROIWidget::refreshTable(const QStringList& names)
         m_tabs[static_cast<std::size_t>(current)].table->updateFeatures(common);
 }
 
-/// A camera may notify of a region's mode whenever another region is selected. When it does so
-/// within the selecting this is told apart. When it does so later, what it reports for some seconds
-/// after a look that changed nothing is taken for that look's echo, and for longer if another such
-/// look follows at once: no camera, however late, keeps the page selecting.
 void MultiROIWidget::noteMode(const QString& name)
 {
-    if (name != Name::regionMode || !isVisible())
-        return;
-    (m_isSelecting ? m_isEchoImmediate : m_isModeReported) = true;
+    if (name == Name::regionMode && isVisible())
+        m_modeReports.note();
 }
 
 void MultiROIWidget::refreshSelectedRegion(bool withMode)
@@ -146,19 +133,20 @@ void MultiROIWidget::refreshSelectedRegion(bool withMode)
         followRegionMode(region);
     if (m_label->isRegionShown(region))
         updateRegion(region);
+    else
+        m_tabs[static_cast<std::size_t>(region)].table->refresh();
 }
 
 void MultiROIWidget::lookForSwitchedRegions()
 {
     bool isUnchanged = true;
-    m_isEchoImmediate = false;
+    m_modeReports.lookBegins();
     for (int region = 0; region < regionCount(); ++region) {
         if (select(region) && followRegionMode(region))
             isUnchanged = false;
     }
     select(m_ui->tabRegions->currentIndex());
-    m_echoPatience = isUnchanged ? qBound(shortestEcho, 2 * m_echoPatience, longestEcho) : 0;
-    m_echoSeconds = m_isEchoImmediate ? 0 : m_echoPatience;
+    m_modeReports.lookEnded(isUnchanged);
 }
 
 void MultiROIWidget::followSelector()
@@ -220,11 +208,11 @@ void MultiROIWidget::refreshAllRegions()
         const Work work(this);
         const QSignalBlocker blocker(m_label);
         const int current = m_ui->tabRegions->currentIndex();
-        const bool isFirst = !std::exchange(m_regionsRead, true);
         for (int region = 0; region < regionCount(); ++region) {
             if (select(region)) {
                 followRegionMode(region);
-                if (isFirst || m_label->isRegionShown(region) || m_regions.isValid())
+                // Tables of other inactive regions are filled when they are seen.
+                if (region == current || m_label->isRegionShown(region) || m_regions.isValid())
                     updateRegion(region);
             }
             emit regionColorChanged(region, m_label->regionColor(region));

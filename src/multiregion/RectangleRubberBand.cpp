@@ -3,8 +3,10 @@
 #include "LineRubberBand.h"
 #include "MultiRubberBandLabel.h"
 
+#include <QPaintEvent>
 #include <QPainter>
 #include <QPainterPath>
+#include <QStyleOption>
 
 #include <utility>
 
@@ -42,6 +44,7 @@ RectangleRubberBand::RectangleRubberBand(int regionNo, const QRect& geometry,
     m_limits.minimum = minimumSize;
     setGeometry(geometry);
     applyColor();
+    prepareNumber();
 }
 
 QColor RectangleRubberBand::shownColor() const
@@ -127,6 +130,7 @@ void RectangleRubberBand::highlightIfSelected(int selectedRegion)
     if (selected == m_selected)
         return;
     m_selected = selected;
+    prepareNumber();
     update();
 }
 
@@ -157,11 +161,39 @@ void RectangleRubberBand::onConstraintBandChanged(QRect lineBandGeometry)
                               geometry());
 }
 
+void RectangleRubberBand::changeEvent(QEvent* event)
+{
+    QRubberBand::changeEvent(event);
+    m_image.reset();
+}
+
 void RectangleRubberBand::paintEvent(QPaintEvent* event)
 {
-    QRubberBand::paintEvent(event);
+    paintPlain(event);
+    if (!m_label) {
+        QPainter painter(this);
+        painter.setFont(numberFont());
+        painter.drawText(rect(), Qt::AlignCenter, numberText());
+        return;
+    }
+    // Lines and other bands that pass by touch the number seldom, and it is dear.
+    if (event->region().intersects(m_numberArea.translated(rect().center())))
+        drawNumber();
+}
+
+void RectangleRubberBand::paintPlain(QPaintEvent* event)
+{
+    if (!m_image) {
+        QStyleOptionRubberBand option;
+        initStyleOption(&option);
+        m_image.emplace(option, *this);
+    }
+    if (!m_image->fits(size())) {
+        QRubberBand::paintEvent(event);
+        return;
+    }
     QPainter painter(this);
-    drawNumber(painter);
+    m_image->paint(painter, rect(), event->region());
 }
 
 /// A band in conflict may go anywhere, so that it can be pulled free; any other only where it
@@ -192,22 +224,27 @@ void RectangleRubberBand::applyColor()
     setPalette(colors);
 }
 
-void RectangleRubberBand::drawNumber(QPainter& painter) const
+QString RectangleRubberBand::numberText() const
 {
-    const QString text
-        = m_selected ? QStringLiteral("[ %1 ]").arg(m_regionNo) : QString::number(m_regionNo);
-    painter.setFont(numberFont());
-    if (!m_label) {
-        painter.drawText(rect(), Qt::AlignCenter, text);
-        return;
-    }
+    return m_selected ? QStringLiteral("[ %1 ]").arg(m_regionNo) : QString::number(m_regionNo);
+}
 
+/// Around the origin.
+void RectangleRubberBand::prepareNumber()
+{
+    const QString text = numberText();
     const QFontMetrics metrics(numberFont(), this);
-    const QPoint centre = rect().center();
-    QPainterPath digits;
-    digits.addText(centre.x() - metrics.horizontalAdvance(text) / 2,
-                   centre.y() + metrics.height() / 3, numberFont(), text);
-    const QRect area = digits.boundingRect().toAlignedRect().intersected(rect()).translated(pos());
+    m_number = QPainterPath();
+    m_number.addText(-(metrics.horizontalAdvance(text) / 2), metrics.height() / 3, numberFont(),
+                     text);
+    m_numberArea = m_number.boundingRect().toAlignedRect();
+}
+
+void RectangleRubberBand::drawNumber()
+{
+    const QPainterPath digits = m_number.translated(rect().center());
+    const QRect area
+        = m_numberArea.translated(rect().center()).intersected(rect()).translated(pos());
     const QRect onLabel = area.intersected(m_label->rect());
     if (onLabel.isEmpty())
         return;
@@ -215,6 +252,7 @@ void RectangleRubberBand::drawNumber(QPainter& painter) const
     const QPoint origin = onLabel.topLeft() - pos();
     QBrush negative(negativeOf(m_label, onLabel));
     negative.setTransform(QTransform::fromTranslate(origin.x(), origin.y()));
+    QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.fillPath(digits, negative);
 }

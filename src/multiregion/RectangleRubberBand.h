@@ -1,10 +1,14 @@
 #pragma once
 
 #include "RegionBandDrag.h"
+#include "regions/BandImage.h"
 
 #include <QColor>
 #include <QHash>
+#include <QPainterPath>
 #include <QRubberBand>
+
+#include <optional>
 
 class LineRubberBand;
 class MultiRubberBandLabel;
@@ -58,13 +62,17 @@ public slots:
     void onConstraintBandChanged(QRect lineBandGeometry);
 
 protected:
+    void changeEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
     bool isPressed() const { return m_pressPoint != noPoint; }
     void showIfAllowed(const QRect& band);
     void applyColor();
-    void drawNumber(QPainter& painter) const;
+    void paintPlain(QPaintEvent* event);
+    QString numberText() const;
+    void prepareNumber();
+    void drawNumber();
 
     static constexpr QPoint noPoint{-1, -1};
 
@@ -79,4 +87,7 @@ private:
     BandSizeLimits m_limits;
     QHash<const LineRubberBand*, MoveConstraints> m_lineConstraints;
     MultiRubberBandLabel* const m_label;
+    std::optional<BandImage> m_image;
+    QPainterPath m_number; ///< around the origin
+    QRect m_numberArea;
 };

@@ -1,5 +1,6 @@
 #include "RegionFeatures.h"
 
+#include "MultiRegionNames.h"
 #include "features/FeatureManager.h"
 #include "features/NumberConversion.h"
 #include "features/SdkValues.h"
@@ -8,18 +9,9 @@
 
 #include <algorithm>
 
-namespace {
+namespace Name = MultiRegionNames;
 
-namespace Name {
-const QString selector = QStringLiteral("SubRegionSelector");
-const QString mode = QStringLiteral("SubRegionMode");
-const QString offsetX = QStringLiteral("SubRegionOffsetX");
-const QString olderOffsetX = QStringLiteral("OffsetX");
-const QString offsetY = QStringLiteral("SubRegionOffsetY");
-const QString width = QStringLiteral("SubRegionWidth");
-const QString olderWidth = QStringLiteral("Width");
-const QString height = QStringLiteral("SubRegionHeight");
-} // namespace Name
+namespace {
 
 const QString onEntry = QStringLiteral("On");
 const QString offEntry = QStringLiteral("Off");
@@ -78,22 +70,21 @@ int RegionFeatures::selected() const
 
 bool RegionFeatures::isOn() const
 {
-    return m_manager->GetStringValue(Name::mode) == onEntry;
+    return m_manager->GetStringValue(Name::regionMode) == onEntry;
 }
 
 bool RegionFeatures::isValid() const
 {
     if (!isOn())
         return false;
-    const QString enabled = QStringLiteral("MultipleRegionsEnable");
-    const bool isJudged = m_manager->HasFeature(enabled) && m_manager->GetValue(enabled) != 0.0;
-    return !isJudged
-        || m_manager->GetStringValue(QStringLiteral("SubRegionStatus")) == QLatin1String("Valid");
+    const bool isJudged
+        = m_manager->HasFeature(Name::otherEnable) && m_manager->GetValue(Name::otherEnable) != 0.0;
+    return !isJudged || m_manager->GetStringValue(Name::status) == QLatin1String("Valid");
 }
 
 bool RegionFeatures::switchOn(bool on)
 {
-    return m_manager->SetStringValue(Name::mode, on ? onEntry : offEntry) == onEntry;
+    return m_manager->SetStringValue(Name::regionMode, on ? onEntry : offEntry) == onEntry;
 }
 
 QRect RegionFeatures::geometry() const
@@ -142,8 +133,8 @@ void RegionFeatures::writeGeometry(const QRect& rect, const QSize& former)
 
 QSize RegionFeatures::sensorSize() const
 {
-    return {wholePixels(m_manager->GetValue(QStringLiteral("WidthMax")), 0),
-            wholePixels(m_manager->GetValue(QStringLiteral("HeightMax")), 0)};
+    return {wholePixels(m_manager->GetValue(Name::widthMax), 0),
+            wholePixels(m_manager->GetValue(Name::heightMax), 0)};
 }
 
 bool RegionFeatures::hasEnumeratedSelector() const

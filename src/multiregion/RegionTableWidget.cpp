@@ -1,20 +1,16 @@
 #include "RegionTableWidget.h"
 
 #include "MultiROIWidget.h"
+#include "MultiRegionNames.h"
 #include "TableConstraints.h"
 #include "features/FeatureManager.h"
 
 #include <QDebug>
 #include <QPointer>
 
-namespace {
+namespace Name = MultiRegionNames;
 
-const QString offsetXName = QStringLiteral("SubRegionOffsetX");
-const QString olderOffsetXName = QStringLiteral("OffsetX");
-const QString widthName = QStringLiteral("SubRegionWidth");
-const QString olderWidthName = QStringLiteral("Width");
-const QString offsetYName = QStringLiteral("SubRegionOffsetY");
-const QString heightName = QStringLiteral("SubRegionHeight");
+namespace {
 
 QString textOf(const QVariant& data)
 {
@@ -72,13 +68,13 @@ void RegionTableWidget::addConstraints(int regionNo, QStringList features)
     if (features.isEmpty())
         m_constrainedFeatures.clear();
     for (const QString& feature : qAsConst(features)) {
-        if (feature == widthName && !manager()->HasFeature(widthName)) {
-            m_constrainedFeatures << olderWidthName;
+        if (feature == Name::width && !manager()->HasFeature(Name::width)) {
+            m_constrainedFeatures << Name::olderWidth;
             continue;
         }
         m_constrainedFeatures << feature;
-        if (feature == offsetXName && !manager()->HasFeature(offsetXName))
-            m_constrainedFeatures << olderOffsetXName;
+        if (feature == Name::offsetX && !manager()->HasFeature(Name::offsetX))
+            m_constrainedFeatures << Name::olderOffsetX;
     }
     m_constrainedFeatures.removeDuplicates();
     applyRanges(before + m_constrainedFeatures);
@@ -133,8 +129,8 @@ void RegionTableWidget::applyRanges(const QStringList& features)
 
 TableGeometry RegionTableWidget::presentGeometry() const
 {
-    return {presentValue(offsetXName, olderOffsetXName), presentValue(offsetYName, {}),
-            presentValue(widthName, olderWidthName), presentValue(heightName, {})};
+    return {presentValue(Name::offsetX, Name::olderOffsetX), presentValue(Name::offsetY, {}),
+            presentValue(Name::width, Name::olderWidth), presentValue(Name::height, {})};
 }
 
 /// 0 for what the table does not show.

@@ -1,5 +1,9 @@
 #include "TableConstraints.h"
 
+#include "MultiRegionNames.h"
+
+namespace Name = MultiRegionNames;
+
 namespace {
 
 enum class Quantity {
@@ -12,13 +16,13 @@ enum class Quantity {
 
 Quantity quantityOf(const QString& feature)
 {
-    if (feature == QLatin1String("SubRegionOffsetX") || feature == QLatin1String("OffsetX"))
+    if (feature == Name::offsetX || feature == Name::olderOffsetX)
         return Quantity::OffsetX;
-    if (feature == QLatin1String("SubRegionWidth") || feature == QLatin1String("Width"))
+    if (feature == Name::width || feature == Name::olderWidth)
         return Quantity::Width;
-    if (feature == QLatin1String("SubRegionOffsetY"))
+    if (feature == Name::offsetY)
         return Quantity::OffsetY;
-    if (feature == QLatin1String("SubRegionHeight"))
+    if (feature == Name::height)
         return Quantity::Height;
     return Quantity::Other;
 }

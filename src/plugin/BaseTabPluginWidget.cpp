@@ -151,7 +151,7 @@ bool BaseTabPluginWidget::isVendorSupported(FeatureManager* manager)
 void BaseTabPluginWidget::OnFeatureChanged(const QString& name, const QString&)
 {
     // A notification from another thread may be under way when the page hides.
-    if (sender() == observer.get() && !isVisible())
+    if (sender() == observer.get() && !m_observing)
         return;
     noteOrKeep(name);
 }
@@ -173,20 +173,14 @@ void BaseTabPluginWidget::noteChanged(const QString& name)
         changedFeatures->append(name);
 }
 
-// Without an answer there is nothing to show: the page keeps what it shows, and the names. Every
-// few seconds the link lets a call through, which tells whether the camera is back.
-bool BaseTabPluginWidget::isCameraThere()
-{
-    return !m_link->isBroken() || isVendorSupported(featureManager.get());
-}
-
 void BaseTabPluginWidget::updateTimer()
 {
-    if (m_locked || m_suspensions > 0 || !isCameraThere())
+    // Without an answer there is nothing to show: the page keeps what it shows, and the names.
+    if (m_locked || m_suspensions > 0 || isCameraLost())
         return;
+    if (m_wasLost && refreshTimer->isActive())
+        observeAgain();
     const ListLock lock(this);
-    if (!m_observing && isVisible())
-        registerObservers(true);
     refreshFeatures();
     if (lock.isAlive())
         changedFeatures->clear();
@@ -197,7 +191,7 @@ void BaseTabPluginWidget::showEvent(QShowEvent* event)
     QWidget::showEvent(event);
     withList([this](bool isRefreshing) {
         const QPointer<BaseTabPluginWidget> page = this;
-        if (!isRefreshing && !m_link->isBroken())
+        if (!isRefreshing && !isCameraLost())
             refreshFeatures();
         if (page && m_suspensions == 0)
             startUpdates(true);
@@ -238,6 +232,14 @@ void BaseTabPluginWidget::startUpdates(bool markChanged)
     refreshTimer->start(refreshIntervalMs);
     if (!m_observing)
         registerObservers(markChanged);
+    else if (markChanged)
+        markRegistered();
+}
+
+void BaseTabPluginWidget::markRegistered()
+{
+    for (const Registration& registration : qAsConst(m_registrations))
+        noteOrKeep(registration.name);
 }
 
 void BaseTabPluginWidget::stopUpdates()
@@ -259,6 +261,29 @@ void BaseTabPluginWidget::resumeUpdates(bool markChanged)
     if (m_suspensions == 0 || --m_suspensions > 0 || !isVisible())
         return;
     withList([this, markChanged](bool) { startUpdates(markChanged); });
+}
+
+/// Asks a lost camera itself, now and then: an untouched page makes no other call.
+bool BaseTabPluginWidget::isCameraLost()
+{
+    if (m_link->isBroken() && m_link->isDue() && hasFeatures()) {
+        const auto feature = std::find_if(cameraFeatures->cbegin(), cameraFeatures->cend(),
+                                          [](const ZebCPP::FeaturePtr& each) { return !!each; });
+        std::string name;
+        if (feature != cameraFeatures->cend())
+            ZebFeatureWrapper(*feature, m_link).GetName(name);
+    }
+    if (m_link->isBroken())
+        m_wasLost = true;
+    return m_link->isBroken();
+}
+
+/// A camera that is back may have lost the observers, and anything may have changed.
+void BaseTabPluginWidget::observeAgain()
+{
+    m_wasLost = false;
+    unregisterObservers(false);
+    registerObservers(true);
 }
 
 bool BaseTabPluginWidget::hasFeatures() const
@@ -303,9 +328,6 @@ ZebErrorType BaseTabPluginWidget::registerObservers(bool markChanged)
         if (markChanged)
             noteOrKeep(registration.name);
     }
-    // To be done once the camera is back.
-    if (registrations.isEmpty() && m_link->isBroken())
-        m_observing = false;
     return result;
 }
 
@@ -316,7 +338,8 @@ ZebErrorType BaseTabPluginWidget::unregisterObservers(bool markChanged)
         return Sdk::notFound;
     const ZebCPP::IFeatureObserverPtr target = observer;
     ZebErrorType result = Sdk::success;
-    const QVector<Registration> registrations = std::exchange(m_registrations, {});
+    const QVector<Registration> registrations
+        = m_registrations.isEmpty() ? findObserved() : std::exchange(m_registrations, {});
     for (const Registration& registration : registrations) {
         result = ZebFeatureWrapper(registration.feature, m_link).UnregisterObserver(target);
         if (result != Sdk::success) {

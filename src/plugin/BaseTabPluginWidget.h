@@ -18,7 +18,7 @@ class QTranslator;
 
 /// Common base of all pages: opens the camera's features to the page, refuses cameras of other
 /// vendors, and gathers change notifications, which it hands to the page once a second while the
-/// page is visible.
+/// page is visible, not suspended, and the camera answers.
 ///
 /// The SDK may notify on any thread, also on the GUI thread in the middle of a write or of a
 /// registration. Names noted while the base works on its list go to a side list and are refreshed
@@ -107,7 +107,9 @@ private:
     /// The features of the camera that the page observes, as the camera names them now.
     QVector<Registration> findObserved();
     bool hasFeatures() const;
-    bool isCameraThere();
+    bool isCameraLost();
+    void observeAgain();
+    void markRegistered();
     void startUpdates(bool markChanged);
     void stopUpdates();
     void noteChanged(const QString& name);
@@ -119,6 +121,7 @@ private:
     QStringList m_namesDuringLock;
     bool m_locked = false;
     bool m_observing = false;
+    bool m_wasLost = false; ///< the camera did not answer when the page was to be refreshed
     bool m_built = false;
     int m_suspensions = 0;
 };

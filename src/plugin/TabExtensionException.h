@@ -14,9 +14,9 @@ public:
     {
     }
 
-    const QString& function() const { return m_function; }
-    const QString& message() const { return m_message; }
-    qint32 code() const { return m_code; }
+    const QString& function() const { return m_function; } ///< that threw
+    const QString& message() const { return m_message; }   ///< translated
+    qint32 code() const { return m_code; }                 ///< for the viewer, never 0
 
 private:
     QString m_function;

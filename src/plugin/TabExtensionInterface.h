@@ -39,11 +39,14 @@ public:
     /// Fills @p page, an empty widget of the viewer, with the plug-in's page for one camera.
     ///
     /// @p connections names members of the page's parent object, each a SIGNAL() or SLOT() text,
-    /// and may be null. Its keys are "connectWidgetToSignal" (signal: streaming, bool),
-    /// "connectLoggingSlot" (slot: category, text), "connectSendFrameSignal" (signal: a frame) and
-    /// "connectRequestFrameSlot" (slot: a frame is wanted).
+    /// and may be null; a missing key leaves its connection out. The keys are
+    ///   "connectWidgetToSignal"   signal (bool): the camera streams or stops
+    ///   "connectLoggingSlot"      slot (ZebViewerLogCategory, const QString&)
+    ///   "connectSendFrameSignal"  signal (const QPixmap&): a frame
+    ///   "connectRequestFrameSlot" slot (): a frame is wanted
     ///
     /// Returns 0, or the reason why the page stays empty: 4 when the camera is not supported.
+    /// Exceptions that are not of the plug-in's own pass through.
     virtual qint32 createTab(const FeatureList& features, QWidget* page,
                              const QMap<QString, QVariant>* connections)
         = 0;

@@ -7,6 +7,18 @@
 
 #include <utility>
 
+namespace {
+
+// Out of the widget at once; deleted later, because it may be a click on it that is being handled.
+void dismiss(QWidget* widget)
+{
+    widget->hide();
+    widget->setParent(nullptr);
+    widget->deleteLater();
+}
+
+} // namespace
+
 ExtendedTabWidget::ExtendedTabWidget(QWidget* parent)
     : QTabWidget(parent)
     , m_baseStyleSheet(styleSheet())
@@ -102,20 +114,19 @@ void ExtendedTabWidget::createPlusButton()
     m_plusButton->show();
 }
 
-// QTabWidget follows its bare pointers to the corner widgets whenever it lays itself out. The
-// buttons and the menu end later, because it may be a click on one of them that ends the mode.
+// QTabWidget follows its bare pointers to the corner widgets whenever it lays itself out.
 void ExtendedTabWidget::removeButtons()
 {
     if (m_menuButton) {
         disconnect(this, &QTabWidget::currentChanged, this,
                    &ExtendedTabWidget::onChangeCurrentIndex);
         setCornerWidget(nullptr, Qt::TopRightCorner);
-        std::exchange(m_menuButton, nullptr)->deleteLater();
-        std::exchange(m_tabMenu, nullptr)->deleteLater();
+        dismiss(std::exchange(m_menuButton, nullptr));
+        dismiss(std::exchange(m_tabMenu, nullptr));
     }
     if (m_plusButton) {
         setCornerWidget(nullptr, Qt::TopLeftCorner);
-        std::exchange(m_plusButton, nullptr)->deleteLater();
+        dismiss(std::exchange(m_plusButton, nullptr));
     }
 }
 

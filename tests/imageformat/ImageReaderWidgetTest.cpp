@@ -1,4 +1,5 @@
 #include "imageformat/ImageReaderWidget.h"
+#include "DataTable.h"
 #include "imageformat/ImageFileFilter.h"
 #include "imageformat/PictureFile.h"
 
@@ -24,19 +25,17 @@ private slots:
         QVERIFY(m_folder.isValid());
         QPixmap picture(30, 20);
         picture.fill(Qt::red);
-        QVERIFY(picture.save(m_folder.filePath(QStringLiteral("picture.png"))));
-        QFile broken(m_folder.filePath(QStringLiteral("broken.png")));
+        QVERIFY(picture.save(m_folder.filePath(QString("picture.png"))));
+        QFile broken(m_folder.filePath(QString("broken.png")));
         QVERIFY(broken.open(QIODevice::WriteOnly));
         broken.write("no picture");
     }
 
     void fileFilter_data()
     {
-        QTest::addColumn<QList<QByteArray>>("formats");
-        QTest::addColumn<QString>("filter");
-        QTest::newRow("none") << QList<QByteArray>{} << "Image files ()";
-        QTest::newRow("order and case")
-            << QList<QByteArray>{"png", "BMP", "Jpg"} << "Image files (*.png *.bmp *.jpg)";
+        const DataTable<QList<QByteArray>, QString> table{"formats", "filter"};
+        table.row("none", {}, "Image files ()");
+        table.row("order and case", {"png", "BMP", "Jpg"}, "Image files (*.png *.bmp *.jpg)");
     }
 
     void fileFilter()
@@ -70,12 +69,10 @@ private slots:
 
     void fileIsAnnounced_data()
     {
-        QTest::addColumn<QString>("file");
-        QTest::addColumn<bool>("accepted");
-        QTest::addColumn<QList<QSize>>("announced");
-        QTest::newRow("picture") << "picture.png" << true << QList<QSize>{{30, 20}};
-        QTest::newRow("no picture") << "broken.png" << true << QList<QSize>{{0, 0}};
-        QTest::newRow("cancelled") << "picture.png" << false << QList<QSize>{};
+        const DataTable<QString, bool, QList<QSize>> table{"file", "accepted", "announced"};
+        table.row("picture", "picture.png", true, {{30, 20}});
+        table.row("no picture", "broken.png", true, {{0, 0}});
+        table.row("cancelled", "picture.png", false, {});
     }
 
     void fileIsAnnounced()
@@ -119,7 +116,7 @@ private slots:
     void whatIsNoPictureIsNull()
     {
         QFETCH(QByteArray, content);
-        QFile file(m_folder.filePath(QStringLiteral("content")));
+        QFile file(m_folder.filePath(QString("content")));
         QVERIFY(file.open(QIODevice::WriteOnly));
         file.write(content);
         file.close();
@@ -131,7 +128,7 @@ private slots:
     {
         QVERIFY(loadPicture(m_folder.path()).isNull());
 #ifdef Q_OS_UNIX
-        const QString pipe = m_folder.filePath(QStringLiteral("pipe.png"));
+        const QString pipe = m_folder.filePath(QString("pipe.png"));
         QCOMPARE(mkfifo(qPrintable(pipe), 0600), 0);
         QVERIFY(loadPicture(pipe).isNull());
 #endif

@@ -4,8 +4,10 @@
 #include "multiregion/RectangleRubberBand.h"
 #include "multiregion/RegionLabelWidget.h"
 
+#include <QScreen>
 #include <QtTest>
 
+#include <functional>
 #include <memory>
 
 namespace {
@@ -17,6 +19,8 @@ QString text(const QRect& rect)
 
 } // namespace
 
+Q_DECLARE_METATYPE(std::function<void(MultiRubberBandLabel*)>)
+
 class MultiRubberBandLabelTest : public QObject
 {
     Q_OBJECT
@@ -24,36 +28,96 @@ class MultiRubberBandLabelTest : public QObject
 private slots:
     void cleanup() { m_label.reset(); }
 
-    /// A drag on free regions: the picture is 400 x 300 of a sensor of 1600 x 1200, bands at
-    /// (25, 25) and (225, 25) of size 100 x 100.
+    /// A drag: the picture is 400 x 300 of a sensor of 1600 x 1200, bands at (25, 25) and (225, 25)
+    /// of size 100 x 100.
     void drags_data()
     {
+        QTest::addColumn<QString>("mode");
         QTest::addColumn<QPoint>("from");
         QTest::addColumn<QPoint>("to");
         QTest::addColumn<QStringList>("expected");
-        const auto row
-            = [](const char* name, const QPoint& from, const QPoint& to,
-                 const QStringList& expected) { QTest::newRow(name) << from << to << expected; };
-        row("move", {75, 75}, {85, 95}, {"start", "finish", "0: 140,180 400x400"});
-        row("move to the border", {75, 75}, {75, 999}, {"start", "finish", "0: 100,800 400x400"});
-        row("click inside", {75, 75}, {75, 75}, {"start", "finish"});
-        row("click on an edge", {25, 75}, {25, 75}, {"start", "finish", "0: 100,100 400x400"});
-        row("right edge", {122, 75}, {143, 75}, {"start", "finish", "0: 100,100 476x400"});
-        row("not over the neighbour", {122, 75}, {300, 75},
-            {"start", "finish", "0: 100,100 400x400"});
-        row("left edge over the border", {26, 75}, {-50, 75},
-            {"start", "finish", "0: 0,100 500x400"});
-        row("nothing there", {200, 200}, {220, 220}, {});
+        const auto row = [](const QString& mode, const char* name, const QPoint& from,
+                            const QPoint& to, const QStringList& reports) {
+            QTest::newRow(name) << mode << from << to << QStringList{"start", "finish"} + reports;
+        };
+        row("Free", "move", {75, 75}, {85, 95}, {"0: 140,180 400x400"});
+        row("Free", "move to the border", {75, 75}, {75, 999}, {"0: 100,800 400x400"});
+        row("Free", "click inside", {75, 75}, {75, 75}, {});
+        row("Free", "click on an edge", {25, 75}, {25, 75}, {"0: 100,100 400x400"});
+        row("Free", "right edge", {122, 75}, {143, 75}, {"0: 100,100 476x400"});
+        row("Free", "not over the neighbour", {122, 75}, {300, 75}, {"0: 100,100 400x400"});
+        row("Free", "left edge over the border", {26, 75}, {-50, 75}, {"0: 0,100 500x400"});
+        QTest::newRow("nothing there")
+            << "Free" << QPoint(200, 200) << QPoint(220, 220) << QStringList();
+        row("Horizontal", "a member stays in the row", {275, 75}, {285, 95},
+            {"1: 940,100 400x400"});
+        row("Horizontal", "the master takes the row along", {75, 75}, {85, 95},
+            {"0: 140,180 400x400", "1: 900,180 400x400"});
+        row("Horizontal", "line", {350, 124}, {350, 155},
+            {"0: 100,100 400x528", "1: 900,100 400x528"});
+        row("Vertical", "columns block sideways", {275, 75}, {285, 95}, {"1: 940,180 400x400"});
     }
 
     void drags()
     {
+        QFETCH(QString, mode);
         QFETCH(QPoint, from);
         QFETCH(QPoint, to);
-        makeLabel("Free", {{100, 100, 400, 400}, {900, 100, 400, 400}});
+        makeLabel(mode, {{100, 100, 400, 400}, {900, 100, 400, 400}});
         drag(m_label.get(), from, to);
         QTEST(m_events, "expected");
         QVERIFY(!m_label->isDragging());
+    }
+
+    /// What happens in the midst of a drag of region 0 from (75, 75) by (10, 20).
+    void disturbedDrags_data()
+    {
+        using Label = MultiRubberBandLabel;
+        QTest::addColumn<std::function<void(Label*)>>("disturb");
+        QTest::addColumn<QString>("report");
+        QTest::addColumn<QRect>("band");
+        const auto row = [](const char* name, const QString& report, const QRect& band,
+                            const std::function<void(Label*)>& disturb) {
+            QTest::newRow(name) << disturb << report << band;
+        };
+        row("other buttons do nothing", "0: 140,180 400x400", {35, 45, 100, 100}, [](Label* label) {
+            for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+                QMouseEvent event(type, {275, 75}, label->mapToGlobal({275, 75}), Qt::RightButton,
+                                  Qt::LeftButton | Qt::RightButton, Qt::NoModifier);
+                QApplication::sendEvent(label, &event);
+            }
+        });
+        row("what is told waits for the end", "0: 140,180 400x400", {35, 45, 100, 100},
+            [](Label* label) {
+                label->onRegionGeometryChanged(0, {200, 100, 200, 400});
+                label->onRegionGeometryChanged(2, {1200, 800, 400, 400});
+                label->onRegionActivated(2, true);
+            });
+        row("dropped when disabled", "drop", {50, 25, 100, 100}, [](Label* label) {
+            label->onRegionGeometryChanged(0, {200, 100, 400, 400});
+            label->setEnabled(false);
+            label->setEnabled(true);
+        });
+        row("dropped when hidden", "drop", {25, 25, 100, 100}, [](Label* label) { label->hide(); });
+        row("goes on at another scale", "0: 120,140 400x400", {60, 70, 200, 200},
+            [](Label* label) { label->resize(800, 600); });
+    }
+
+    void disturbedDrags()
+    {
+        QFETCH(std::function<void(MultiRubberBandLabel*)>, disturb);
+        makeLabel("Free", {{100, 100, 400, 400}, {900, 100, 400, 400}});
+        press(m_label.get(), {75, 75});
+        sendMouse(m_label.get(), QEvent::MouseMove, {85, 95});
+        QCOMPARE(bandOf(0)->geometry(), QRect(35, 45, 100, 100));
+        disturb(m_label.get());
+        const QPoint end = m_label->width() == 800 ? QPoint(160, 170) : QPoint(85, 95);
+        sendMouse(m_label.get(), QEvent::MouseMove, end);
+        release(m_label.get(), end);
+        QTEST(m_events.last(), "report");
+        QTEST(bandOf(0)->geometry(), "band");
+        if (bandOf(2))
+            QCOMPARE(bandOf(2)->geometry(), QRect(300, 200, 100, 100));
     }
 
     void pressTellsInOrder()
@@ -85,17 +149,6 @@ private slots:
         QCOMPARE(spy.takeFirst(), (QVariantList{1.0, 1.0, QSize(400, 300)}));
         m_label->resize(800, 600);
         QCOMPARE(spy.takeFirst(), (QVariantList{2.0, 2.0, QSize(800, 600)}));
-    }
-
-    void resizeDuringDrag()
-    {
-        makeLabel("Free", {{100, 100, 400, 400}});
-        press(m_label.get(), {75, 75});
-        sendMouse(m_label.get(), QEvent::MouseMove, {85, 75});
-        m_label->resize(800, 600);
-        sendMouse(m_label.get(), QEvent::MouseMove, {190, 150});
-        release(m_label.get(), {190, 150});
-        QCOMPARE(m_events, (QStringList{"start", "finish", "0: 180,100 400x400"}));
     }
 
     void higherNumberIsRed()
@@ -154,34 +207,22 @@ private slots:
         QCOMPARE(bandOf(1)->x(), 225);
     }
 
-    void rowMovesTogether()
+    void linesComeAndGo()
     {
         makeLabel("Horizontal", {{100, 100, 400, 400}, {900, 100, 400, 400}});
         QCOMPARE(m_label->findChildren<LineRubberBand*>().size(), 2);
-        // Only the master leaves the row, and takes it along.
-        drag(m_label.get(), {275, 75}, {285, 95});
-        QCOMPARE(m_events, (QStringList{"start", "finish", "1: 940,100 400x400"}));
-        m_events.clear();
-        drag(m_label.get(), {75, 75}, {85, 95});
-        QCOMPARE(m_events,
-                 (QStringList{"start", "finish", "0: 140,180 400x400", "1: 940,180 400x400"}));
-        m_events.clear();
-        drag(m_label.get(), {350, 144}, {350, 175});
-        QCOMPARE(m_events,
-                 (QStringList{"start", "finish", "0: 140,180 400x528", "1: 940,180 400x528"}));
-        // The lines end with the picture.
+        // They end with the picture.
         m_label->resize(500, 300);
-        m_events.clear();
-        drag(m_label.get(), {404, 175}, {404, 175});
+        drag(m_label.get(), {404, 123}, {404, 123});
         QVERIFY(m_events.isEmpty());
-        drag(m_label.get(), {403, 175}, {403, 175});
+        drag(m_label.get(), {403, 123}, {403, 123});
         QCOMPARE(m_events, (QStringList{"start", "finish"}));
         // Alone again, the other one is free.
         m_label->onRegionActivated(0, false);
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         QVERIFY(m_label->findChildren<LineRubberBand*>().isEmpty());
         drag(m_label.get(), {285, 95}, {285, 85});
-        QCOMPARE(m_events.last(), QString("1: 940,140 400x528"));
+        QCOMPARE(m_events.last(), QString("1: 900,60 400x400"));
     }
 
     void tileLines()
@@ -207,50 +248,6 @@ private slots:
         m_label->setArrangementMode("Free");
         QVERIFY(m_constraints.value(3).isEmpty());
         QCOMPARE(m_ranges.value(2), QRect(0, 0, 1600, 1200));
-    }
-
-    /// What the page tells during a drag waits for its end.
-    void keepsDragged()
-    {
-        makeLabel("Free", {{101, 100, 400, 400}});
-        press(m_label.get(), {123, 75});
-        sendMouse(m_label.get(), QEvent::MouseMove, {149, 75});
-        m_label->onRegionGeometryChanged(0, {200, 100, 200, 400});
-        m_label->onRegionGeometryChanged(1, {1200, 100, 400, 400});
-        m_label->onRegionActivated(1, true);
-        QCOMPARE(bandOf(0)->geometry(), QRect(25, 25, 125, 100));
-        release(m_label.get(), {149, 75});
-        QCOMPARE(m_events.last(), QString("0: 101,100 499x400"));
-        QCOMPARE(bandOf(1)->geometry(), QRect(300, 25, 100, 100));
-    }
-
-    /// Neither a press on another band nor its release disturbs a drag.
-    void ignoresOtherButtons()
-    {
-        makeLabel("Free", {{100, 100, 400, 400}, {900, 100, 400, 400}});
-        press(m_label.get(), {75, 75});
-        for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
-            QMouseEvent event(type, {275, 75}, m_label->mapToGlobal({275, 75}), Qt::RightButton,
-                              Qt::LeftButton | Qt::RightButton, Qt::NoModifier);
-            QApplication::sendEvent(m_label.get(), &event);
-        }
-        sendMouse(m_label.get(), QEvent::MouseMove, {85, 95});
-        release(m_label.get(), {85, 95});
-        QCOMPARE(m_events, (QStringList{"start", "finish", "0: 140,180 400x400"}));
-    }
-
-    void dropsDrags()
-    {
-        makeLabel("Free", {{100, 100, 400, 400}});
-        press(m_label.get(), {75, 75});
-        sendMouse(m_label.get(), QEvent::MouseMove, {85, 75});
-        m_label->onRegionGeometryChanged(0, {200, 100, 400, 400});
-        QCOMPARE(bandOf(0)->geometry(), QRect(35, 25, 100, 100));
-        m_label->setEnabled(false);
-        QCOMPARE(bandOf(0)->geometry(), QRect(50, 25, 100, 100));
-        m_label->setEnabled(true);
-        release(m_label.get(), {85, 75});
-        QCOMPARE(m_events, (QStringList{"start", "drop"}));
     }
 
     /// The page may take a region away while it is told of its new place.
@@ -303,6 +300,30 @@ private slots:
         QVERIFY(!label);
     }
 
+    /// What lines and bands that pass by leave is what a painting of all shows.
+    void paintsPartsAsAll()
+    {
+        makeLabel("Horizontal", {{100, 100, 400, 400}, {900, 100, 400, 400}});
+        const auto onScreen = [this] {
+            return m_label->screen()
+                ->grabWindow(m_label->winId())
+                .toImage()
+                .convertToFormat(QImage::Format_RGB32);
+        };
+        const auto all
+            = [this] { return m_label->grab().toImage().convertToFormat(QImage::Format_RGB32); };
+        const QImage before = all();
+        press(m_label.get(), {75, 75});
+        for (int y = 76; y < 130; y += 2) {
+            sendMouse(m_label.get(), QEvent::MouseMove, {75, y});
+            QCoreApplication::processEvents();
+        }
+        QTRY_COMPARE(onScreen(), all());
+        const QRect number(265, 65, 20, 20); // which the upper line crosses in the end
+        QVERIFY(all().copy(number) != before.copy(number));
+        release(m_label.get(), {75, 75});
+    }
+
     void showsCursors()
     {
         makeLabel("Horizontal", {{100, 100, 400, 400}, {900, 100, 400, 400}});
@@ -335,6 +356,18 @@ private slots:
         QCOMPARE(shown.size(), QSize(600, 400));
         QCOMPARE(shown.pixelColor(50, 100), QColor(Qt::white));
         QCOMPARE(shown.pixelColor(50, 300), QColor(Qt::black));
+
+        m_label->hide();
+        m_label->setBackgroundImage(image, {100, 100}, {});
+        m_label->show();
+        for (const QSize& size : {QSize(600, 400), QSize(300, 200)}) {
+            m_label->resize(size);
+            QCOMPARE(m_label->pixmap(Qt::ReturnByValue).size(), size);
+            const QColor corner = m_label->pixmap(Qt::ReturnByValue)
+                                      .toImage()
+                                      .pixelColor(size.width() - 1, size.height() - 1);
+            QCOMPARE(corner, QColor(Qt::white));
+        }
     }
 
     void regionLabels()
@@ -355,30 +388,6 @@ private slots:
         QCOMPARE(size->styleSheet(), QString("QLabel { color: #ff0000; border-color: #ff0000 }"));
         QCOMPARE(number->styleSheet(), size->styleSheet());
         QCOMPARE(widget.minimumSizeHint().width(), number->width() + size->width() + 20);
-    }
-
-    void dragOfManyBands_data()
-    {
-        QTest::addColumn<int>("count");
-        QTest::newRow("one") << 1;
-        QTest::newRow("sixteen") << 16;
-    }
-
-    void dragOfManyBands()
-    {
-        QFETCH(int, count);
-        QVector<QRect> regions;
-        for (int i = 0; i < count; ++i)
-            regions << QRect(i % 4 * 400, i / 4 * 300, 300, 200);
-        makeLabel("Free", regions);
-        press(m_label.get(), {40, 30});
-        QBENCHMARK
-        {
-            for (int i = 0; i < 20; ++i) {
-                sendMouse(m_label.get(), QEvent::MouseMove, QPoint(40 + i, 30 + i));
-                QCoreApplication::processEvents();
-            }
-        }
     }
 
 private:

@@ -34,7 +34,7 @@ if [[ $archive == *.zip ]]; then
     viewer=viewer.exe
     expected=(plugins/tabextensionimgfmt.dll qt.conf Qt5Core.dll qt/plugins/platforms/qwindows.dll
         licenses/{sources.txt,qtbase/LICENSE.LGPL3,qtbase/copyright,qwt/COPYING,gcc/copyright}
-        licenses/{mingw-w64,dejavu}/copyright)
+        licenses/{mingw-w64,dejavu,qttranslations}/copyright qt/translations/qtbase_{de,fr,ja,zh_CN}.qm)
 else
     viewer=viewer
     expected=(plugins/libtabextensionimgfmt.so)

@@ -1,6 +1,9 @@
+#include "DataTable.h"
 #include "MessageHandlerGuard.h"
 #include "SimulatedCamera.h"
 #include "plugin/TabExtensionInterface.h"
+
+#include "simulator/Model.h"
 
 #include <QComboBox>
 #include <QLayout>
@@ -9,8 +12,6 @@
 #include <QProcess>
 #include <QSpinBox>
 #include <QtTest>
-
-#include "simulator/Model.h"
 
 /// The viewer's side: the object that owns the page and the members named in the table.
 class Host : public QWidget
@@ -23,11 +24,10 @@ public:
 
     static QMap<QString, QVariant> connections()
     {
-        return {{QStringLiteral("connectWidgetToSignal"), SIGNAL(streaming(bool))},
-                {QStringLiteral("connectLoggingSlot"),
-                 SLOT(takeLog(ZebViewerLogCategory, const QString&))},
-                {QStringLiteral("connectSendFrameSignal"), SIGNAL(sendFrame(const QPixmap&))},
-                {QStringLiteral("connectRequestFrameSlot"), SLOT(requestFrame())}};
+        return {{"connectWidgetToSignal", SIGNAL(streaming(bool))},
+                {"connectLoggingSlot", SLOT(takeLog(ZebViewerLogCategory, const QString&))},
+                {"connectSendFrameSignal", SIGNAL(sendFrame(const QPixmap&))},
+                {"connectRequestFrameSlot", SLOT(requestFrame())}};
     }
 
 signals:
@@ -48,189 +48,142 @@ class TabExtensionPluginTest : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void answersTheViewersQueries();
-    void exportsTheEntryPointsOnly();
-    void fillsThePage();
-    void connectsWhatIsNamed_data();
-    void connectsWhatIsNamed();
-    void refusesAndLeavesNothing_data();
-    void refusesAndLeavesNothing();
-    void keepsTheOrderOfItsMembers();
-    void opensLargeCamerasQuickly();
+    void initTestCase()
+    {
+        QCOMPARE(m_loader.metaData().value("IID").toString(), QString("TabExtensionInterface"));
+        QCOMPARE(m_loader.metaData().value("className").toString(), QString("TabExtensionPlugin"));
+        m_plugin = qobject_cast<TabExtensionInterface*>(m_loader.instance());
+        QVERIFY2(m_plugin, qPrintable(m_loader.errorString()));
+        QVERIFY(
+            QByteArray(TabExtensionInterface_iid).endsWith(".Plugin.TabExtensionInterface/1.0"));
+        QVERIFY(!m_plugin->isTabShareable(true));
+        QVERIFY(!m_plugin->isTabExclusive(true));
+    }
+
+    void exportsTheEntryPointsOnly()
+    {
+#ifdef Q_OS_LINUX
+        QProcess nm;
+        nm.start("nm", {"-D", "--defined-only", "-j", MODULE_PATH});
+        QVERIFY(nm.waitForFinished());
+        QStringList symbols = QString::fromLatin1(nm.readAllStandardOutput())
+                                  .split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+        symbols.sort();
+        QCOMPARE(symbols, QStringList({"qt_plugin_instance", "qt_plugin_query_metadata"}));
+#else
+        QSKIP("reads ELF symbols");
+#endif
+    }
+
+    void fillsThePage()
+    {
+        const auto camera = sim::createCamera("current");
+        Host host;
+        auto* const page = new QWidget;
+        page->setParent(&host);
+        const auto connections = Host::connections();
+
+        QCOMPARE(m_plugin->createTab(featureList(*camera), page, &connections), 0);
+        QVERIFY(page->layout());
+        QCOMPARE(page->accessibleName(), QString("Image Format"));
+        QVERIFY(camera->journal().writes().empty());
+
+        // Streaming disables, a logged error and a frame request arrive, a frame comes back.
+        auto* const frame = page->findChild<QWidget*>("frmImageFormat");
+        emit host.streaming(true);
+        QVERIFY(!frame->isEnabled());
+        emit host.streaming(false);
+        QVERIFY(frame->isEnabled());
+        auto* const widget = page->layout()->itemAt(0)->widget();
+        auto* const source = page->findChild<QComboBox*>("imageReaderWidget");
+        QMetaObject::invokeMethod(source, "onComboBoxItemActivated", Q_ARG(int, 1));
+        QCOMPARE(host.frameRequests, 1);
+        QSignalSpy images(source, SIGNAL(imageChanged(std::shared_ptr<QPixmap>)));
+        emit host.sendFrame(QPixmap(8, 4));
+        QCOMPARE(images.size(), 1);
+        QCOMPARE(images.first().first().value<std::shared_ptr<QPixmap>>()->size(), QSize(8, 4));
+
+        // A sender of another class.
+        QObject stranger;
+        stranger.setObjectName(QString("stranger"));
+        connect(&stranger, SIGNAL(objectNameChanged(QString)), widget,
+                SLOT(OnChangeComboboxSelection(QString)));
+        stranger.setObjectName(QString("cmbStranger"));
+        QCOMPARE(host.log.size(), 1);
+        QCOMPARE(host.log.first().first, int(ZebViewerLogFeatureAccess));
+        QCOMPARE(host.log.first().second, QString("Error accessing widget '%s'"));
+        delete page;
+    }
+
+    void connectsWhatIsNamed_data()
+    {
+        const DataTable<bool, QString, bool, bool> table{"withTable", "missingKey", "withHost",
+                                                         "streamingArrives"};
+        table.row("all", true, "", true, true);
+        table.row("no table", false, "", true, false);
+        table.row("one key missing", true, "connectWidgetToSignal", true, false);
+        table.row("another key missing", true, "connectLoggingSlot", true, true);
+        table.row("page without parent", true, "", false, false);
+    }
+
+    void connectsWhatIsNamed()
+    {
+        QFETCH(bool, withTable);
+        QFETCH(QString, missingKey);
+        QFETCH(bool, withHost);
+        const auto camera = sim::createCamera("current");
+        Host host;
+        QWidget page;
+        if (withHost)
+            page.setParent(&host);
+        auto connections = Host::connections();
+        connections.remove(missingKey);
+
+        QCOMPARE(
+            m_plugin->createTab(featureList(*camera), &page, withTable ? &connections : nullptr),
+            0);
+        QVERIFY(page.layout());
+        emit host.streaming(true);
+        QTEST(!page.findChild<QWidget*>("frmImageFormat")->isEnabled(), "streamingArrives");
+        page.setParent(nullptr);
+    }
+
+    void refusesAndLeavesNothing()
+    {
+        for (const char* model : {"other-vendor", "no-height"}) {
+            const auto camera = sim::createCamera(model);
+            QWidget page;
+            const auto connections = Host::connections();
+            QCOMPARE(m_plugin->createTab(featureList(*camera), &page, &connections), 4);
+            QVERIFY(!page.layout());
+            QVERIFY(page.children().isEmpty());
+            QVERIFY(page.accessibleName().isEmpty());
+            QCOMPARE(int(camera->observerCount()), 0);
+        }
+    }
+
+    void keepsTheOrderOfItsMembers()
+    {
+        const auto camera = sim::createCamera("current");
+        QWidget page;
+        m_plugin->createTab(featureList(*camera), &page, nullptr);
+        const QMetaObject* const meta = page.layout()->itemAt(0)->widget()->metaObject();
+        QStringList members;
+        for (int i = meta->superClass()->methodOffset(); i < meta->methodCount(); ++i)
+            members << meta->method(i).methodSignature();
+        QCOMPARE(members.join(' '),
+                 QString("resetFPS() updateTimer() OnFeatureChanged(QString,QString) "
+                         "acquisitionRunning(bool) loggingMessage(ZebViewerLogCategory,QString) "
+                         "requestFrameSignal() receiveFrameSignal(QPixmap) camIsStreaming(bool) "
+                         "OnChangeSpinbox(int) OnChangeComboboxSelection(QString) "
+                         "OnChangeCheckbox(int)"));
+    }
 
 private:
     MessageHandlerGuard m_guard;
-    QPluginLoader m_loader{QStringLiteral(MODULE_PATH)};
+    QPluginLoader m_loader{MODULE_PATH};
     TabExtensionInterface* m_plugin = nullptr;
 };
-
-void TabExtensionPluginTest::initTestCase()
-{
-    QCOMPARE(m_loader.metaData().value(QStringLiteral("IID")).toString(),
-             QStringLiteral("TabExtensionInterface"));
-    QCOMPARE(m_loader.metaData().value(QStringLiteral("className")).toString(),
-             QStringLiteral("TabExtensionPlugin"));
-    m_plugin = qobject_cast<TabExtensionInterface*>(m_loader.instance());
-    QVERIFY2(m_plugin, qPrintable(m_loader.errorString()));
-}
-
-void TabExtensionPluginTest::answersTheViewersQueries()
-{
-    QVERIFY(QByteArray(TabExtensionInterface_iid).endsWith(".Plugin.TabExtensionInterface/1.0"));
-    QVERIFY(!m_plugin->isTabShareable(true));
-    QVERIFY(!m_plugin->isTabExclusive(true));
-    QCOMPARE(m_loader.instance(), static_cast<QObject*>(m_plugin));
-}
-
-void TabExtensionPluginTest::exportsTheEntryPointsOnly()
-{
-#ifdef Q_OS_LINUX
-    QProcess nm;
-    nm.start(QStringLiteral("nm"),
-             {QStringLiteral("-D"), QStringLiteral("--defined-only"), QStringLiteral("-j"),
-              QStringLiteral(MODULE_PATH)});
-    QVERIFY(nm.waitForFinished());
-    QStringList symbols = QString::fromLatin1(nm.readAllStandardOutput())
-                              .split(QLatin1Char('\n'), Qt::SkipEmptyParts);
-    symbols.sort();
-    QCOMPARE(symbols, QStringList({"qt_plugin_instance", "qt_plugin_query_metadata"}));
-#else
-    QSKIP("reads ELF symbols");
-#endif
-}
-
-void TabExtensionPluginTest::fillsThePage()
-{
-    const auto camera = sim::createCamera("current");
-    Host host;
-    auto* const page = new QWidget;
-    page->setParent(&host);
-    const auto connections = Host::connections();
-
-    QCOMPARE(m_plugin->createTab(featureList(*camera), page, &connections), 0);
-    QVERIFY(page->layout());
-    QCOMPARE(page->accessibleName(), QStringLiteral("Image Format"));
-    QVERIFY(camera->journal().writes().empty());
-
-    // Streaming disables, a logged error and a frame request arrive, a frame comes back.
-    auto* const frame = page->findChild<QWidget*>(QStringLiteral("frmImageFormat"));
-    emit host.streaming(true);
-    QVERIFY(!frame->isEnabled());
-    emit host.streaming(false);
-    QVERIFY(frame->isEnabled());
-    auto* const widget = page->layout()->itemAt(0)->widget();
-    auto* const source = page->findChild<QComboBox*>(QStringLiteral("imageReaderWidget"));
-    QMetaObject::invokeMethod(source, "onComboBoxItemActivated", Q_ARG(int, 1));
-    QCOMPARE(host.frameRequests, 1);
-    QSignalSpy images(source, SIGNAL(imageChanged(std::shared_ptr<QPixmap>)));
-    emit host.sendFrame(QPixmap(8, 4));
-    QCOMPARE(images.size(), 1);
-    QCOMPARE(images.first().first().value<std::shared_ptr<QPixmap>>()->size(), QSize(8, 4));
-
-    // A sender of another class.
-    QObject stranger;
-    stranger.setObjectName(QStringLiteral("stranger"));
-    connect(&stranger, SIGNAL(objectNameChanged(QString)), widget,
-            SLOT(OnChangeComboboxSelection(QString)));
-    stranger.setObjectName(QStringLiteral("cmbStranger"));
-    QCOMPARE(host.log.size(), 1);
-    QCOMPARE(host.log.first().first, int(ZebViewerLogFeatureAccess));
-    QCOMPARE(host.log.first().second, QStringLiteral("Error accessing widget '%s'"));
-    delete page;
-}
-
-void TabExtensionPluginTest::connectsWhatIsNamed_data()
-{
-    QTest::addColumn<bool>("withTable");
-    QTest::addColumn<QString>("missingKey");
-    QTest::addColumn<bool>("withHost");
-    QTest::addColumn<bool>("streamingArrives");
-    QTest::newRow("all") << true << "" << true << true;
-    QTest::newRow("no table") << false << "" << true << false;
-    QTest::newRow("one key missing") << true << "connectWidgetToSignal" << true << false;
-    QTest::newRow("another key missing") << true << "connectLoggingSlot" << true << true;
-    QTest::newRow("page without parent") << true << "" << false << false;
-}
-
-void TabExtensionPluginTest::connectsWhatIsNamed()
-{
-    QFETCH(bool, withTable);
-    QFETCH(QString, missingKey);
-    QFETCH(bool, withHost);
-    const auto camera = sim::createCamera("current");
-    Host host;
-    QWidget page;
-    if (withHost)
-        page.setParent(&host);
-    auto connections = Host::connections();
-    connections.remove(missingKey);
-
-    QCOMPARE(m_plugin->createTab(featureList(*camera), &page, withTable ? &connections : nullptr),
-             0);
-    QVERIFY(page.layout());
-    emit host.streaming(true);
-    QTEST(!page.findChild<QWidget*>(QStringLiteral("frmImageFormat"))->isEnabled(),
-          "streamingArrives");
-    page.setParent(nullptr);
-}
-
-void TabExtensionPluginTest::refusesAndLeavesNothing_data()
-{
-    QTest::addColumn<QByteArray>("model");
-    QTest::newRow("another vendor") << QByteArray("other-vendor");
-    QTest::newRow("no image height") << QByteArray("no-height");
-}
-
-void TabExtensionPluginTest::refusesAndLeavesNothing()
-{
-    QFETCH(QByteArray, model);
-    const auto camera = sim::createCamera(model.toStdString());
-    QVERIFY(camera);
-    QWidget page;
-    const auto connections = Host::connections();
-    QCOMPARE(m_plugin->createTab(featureList(*camera), &page, &connections), 4);
-    QVERIFY(!page.layout());
-    QVERIFY(page.children().isEmpty());
-    QVERIFY(page.accessibleName().isEmpty());
-    QCOMPARE(int(camera->observerCount()), 0);
-}
-
-void TabExtensionPluginTest::keepsTheOrderOfItsMembers()
-{
-    const auto camera = sim::createCamera("current");
-    QWidget page;
-    m_plugin->createTab(featureList(*camera), &page, nullptr);
-    const QMetaObject* const meta = page.layout()->itemAt(0)->widget()->metaObject();
-    QStringList members;
-    for (int i = meta->superClass()->methodOffset(); i < meta->methodCount(); ++i)
-        members.append(QString::fromLatin1(meta->method(i).methodSignature()));
-    QCOMPARE(
-        members,
-        QStringList({"resetFPS()", "updateTimer()", "OnFeatureChanged(QString,QString)",
-                     "acquisitionRunning(bool)", "loggingMessage(ZebViewerLogCategory,QString)",
-                     "requestFrameSignal()", "receiveFrameSignal(QPixmap)", "camIsStreaming(bool)",
-                     "OnChangeSpinbox(int)", "OnChangeComboboxSelection(QString)",
-                     "OnChangeCheckbox(int)"}));
-}
-
-void TabExtensionPluginTest::opensLargeCamerasQuickly()
-{
-    sim::CameraOptions options;
-    options.extraFeatures = 1000;
-    const auto camera = sim::createCamera("current", options);
-    QElapsedTimer timer;
-    timer.start();
-    for (int i = 0; i < 3; ++i) {
-        auto page = std::make_unique<QWidget>();
-        m_plugin->createTab(featureList(*camera), page.get(), nullptr);
-        page->show();
-        page.reset();
-        QCOMPARE(int(camera->observerCount()), 0);
-    }
-    QVERIFY2(timer.elapsed() < 3 * 1000, qPrintable(QString::number(timer.elapsed())));
-    QVERIFY(camera->journal().writes().empty());
-}
 
 QTEST_MAIN(TabExtensionPluginTest)
 #include "TabExtensionPluginTest.moc"

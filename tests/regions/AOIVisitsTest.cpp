@@ -1,11 +1,13 @@
-#include "AOIPage.h"
+#include "DataTable.h"
 #include "MessageHandlerGuard.h"
+#include "RegionPage.h"
 
 #include "simulator/State.h"
 
-#include <map>
 #include <optional>
 #include <random>
+
+Q_DECLARE_METATYPE(sim::NotificationSettings)
 
 namespace {
 
@@ -89,9 +91,8 @@ void fixRanges(sim::Camera& camera)
 class Visitor
 {
 public:
-    Visitor(AOIPage& page, unsigned seed)
+    explicit Visitor(AOIPage& page)
         : m_page(page)
-        , m_random(seed)
     {
         QObject::connect(page.label, &RubberBandLabel::SendGeometry, page.label,
                          [this](int top, int left, int width, int height) {
@@ -119,8 +120,7 @@ public:
                     below(2) ? "BinningHorizontal" : "BinningVertical", std::int64_t{1 + below(2)});
             break;
         case 5:
-            m_page.page->hide();
-            m_page.page->show();
+            m_page.comeBack();
             break;
         case 6:
             m_page.resize(460 + below(100), 400 + below(400));
@@ -142,18 +142,14 @@ private:
                       const char* size, const char* maximum) const
     {
         const auto grid = [this](const char* field, const char* feature) {
-            const auto range = m_page.camera->feature(feature).range();
             return ExpectedAxis::Grid{int(m_page.field(field)->minimum()),
-                                      int(m_page.field(field)->singleStep()), int(range.increment)};
+                                      int(m_page.field(field)->singleStep()),
+                                      int(m_page.camera->feature(feature).range().increment)};
         };
-        return {grid(offsetField, offset),
-                grid(sizeField, size),
-                m_page.value(maximum),
-                !m_page.camera->has("AutofunctionAOIWidth")
-                    && m_page.camera->feature("PixelFormat").text().find("Mono")
-                        == std::string::npos,
-                m_page.value(offset),
-                m_page.value(size)};
+        const bool isMono = m_page.camera->feature("PixelFormat").text().find("Mono") == 0;
+        const bool isEven = !isMono && !m_page.camera->has("AutofunctionAOIWidth");
+        return {grid(offsetField, offset), grid(sizeField, size), m_page.value(maximum), isEven,
+                m_page.value(offset),      m_page.value(size)};
     }
     ExpectedAxis vertical() const
     {
@@ -219,9 +215,9 @@ private:
                 = {below(m_page.label->width() + 60) - 30, below(m_page.label->height() + 60) - 30};
             const QSize size = m_page.label->size();
             sendMouse(m_page.label, QEvent::MouseMove, pointer);
-            const QString shown = text(m_page.inFields());
+            const QString shown = text(inFields(m_page));
             m_page.settle();
-            QCOMPARE(text(m_page.inFields()), shown);
+            QCOMPARE(text(inFields(m_page)), shown);
             QCOMPARE(m_page.label->size(), size);
         }
         QCOMPARE(m_page.camera->journal().writes().size(), writes);
@@ -233,7 +229,7 @@ private:
     }
 
     AOIPage& m_page;
-    std::mt19937 m_random;
+    std::mt19937 m_random{7};
     std::optional<SensorRegion> m_sent;
     std::optional<SensorRegion> m_expected;
 };
@@ -247,67 +243,51 @@ class AOIVisitsTest : public QObject
 private slots:
     void staysWithTheCamera_data()
     {
-        QTest::addColumn<QByteArray>("model");
-        QTest::addColumn<int>("delay");
-        QTest::newRow("current, synchronous") << QByteArray("current") << -1;
-        QTest::newRow("current, asynchronous") << QByteArray("current") << 1;
-        QTest::newRow("current, silent") << QByteArray("current") << -2;
-        QTest::newRow("coarse") << QByteArray("coarse") << -1;
-        QTest::newRow("bayer") << QByteArray("bayer") << -1;
-        QTest::newRow("fixed ranges") << QByteArray("plain") << -1;
+        const DataTable<QByteArray, sim::NotificationSettings> table{"model", "settings"};
+        using sim::NotificationSettings;
+        const auto synchronous = NotificationSettings::synchronous();
+        const auto asynchronous = NotificationSettings::asynchronous(std::chrono::milliseconds(1));
+        table.row("current, synchronous", "current", synchronous);
+        table.row("current, asynchronous", "current", asynchronous);
+        table.row("current, silent", "current", NotificationSettings::off());
+        table.row("coarse", "coarse", synchronous);
+        table.row("bayer", "bayer", synchronous);
+        table.row("fixed ranges", "plain", synchronous);
     }
 
     /// The camera refuses what is off its grid or reaches beyond the maximum with what it has.
     void staysWithTheCamera()
     {
         QFETCH(QByteArray, model);
-        QFETCH(int, delay);
-        AOIPage p(model, model == "plain" ? fixRanges : AOIPage::Preparation());
-        if (delay != -1)
-            p.camera->setNotifications(delay == -2 ? sim::NotificationSettings::off()
-                                                   : sim::NotificationSettings::asynchronous(
-                                                       std::chrono::milliseconds(delay)));
-        Visitor visitor(p, 7);
+        QFETCH(sim::NotificationSettings, settings);
+        AOIPage p(model, [&](sim::Camera& camera) {
+            if (model == "plain")
+                fixRanges(camera);
+        });
+        p.camera->setNotifications(settings);
+        Visitor visitor(p);
         for (int i = 0; i < 400; ++i) {
-            const SensorRegion before = p.onCamera();
             visitor.act();
-            if (visitor.expected()) {
-                QCOMPARE(text(p.onCamera()), text(*visitor.expected()));
-                followWrites(p, before);
-            }
             if (QTest::currentTestFailed())
                 return;
-            p.camera->journal().clear();
-            if (delay == -2) { // nobody tells of other clients' writes
-                p.page->hide();
-                p.page->show();
+            if (visitor.expected()) {
+                QCOMPARE(text(p.onCamera()), text(*visitor.expected()));
+                QVERIFY2(!p.anyRefused(), qPrintable(p.writes().join(", ")));
             }
+            p.camera->journal().clear();
+            if (settings.mode == sim::NotificationSettings::Mode::Off)
+                p.comeBack(); // nobody tells of other clients' writes
             p.settle();
-            QCOMPARE(text(p.inFields()), text(p.onCamera()));
+            QCOMPARE(text(inFields(p)), text(p.onCamera()));
             QCOMPARE(text(p.label->region()), text(p.onCamera()));
+            QCOMPARE(p.label->sensorSize(), QSize(p.value("WidthMax"), p.value("HeightMax")));
             const LabelGeometry where{p.label->size(), p.label->sensorSize(),
                                       p.label->pixmap(Qt::ReturnByValue).size()};
-            QCOMPARE(p.label->sensorSize(), QSize(p.value("WidthMax"), p.value("HeightMax")));
             QCOMPARE(p.band(), bandForRegion(p.onCamera(), where));
         }
     }
 
 private:
-    /// The camera took each write, and its region lay within the maximum after each.
-    void followWrites(const AOIPage& p, const SensorRegion& before)
-    {
-        std::map<std::string, std::int64_t> values{{"OffsetY", before.top},
-                                                   {"OffsetX", before.left},
-                                                   {"Width", before.width},
-                                                   {"Height", before.height}};
-        for (const sim::JournalEntry& write : p.camera->journal().writes()) {
-            QVERIFY2(write.result == ZebErrorSuccess, write.feature.c_str());
-            values[write.feature] = write.value.toInteger();
-            QVERIFY(values["OffsetX"] + values["Width"] <= p.value("WidthMax"));
-            QVERIFY(values["OffsetY"] + values["Height"] <= p.value("HeightMax"));
-        }
-    }
-
     MessageHandlerGuard m_guard;
 };
 

@@ -1,5 +1,6 @@
-#include "AOIPage.h"
+#include "DataTable.h"
 #include "MessageHandlerGuard.h"
+#include "RegionPage.h"
 
 #include <QGroupBox>
 #include <QTimer>
@@ -11,12 +12,9 @@ class AOIWidgetTest : public QObject
 private slots:
     void writesSizesFirstWhereOffsetsDoNotFit()
     {
-        AOIPage p("plain");
+        const AOIPage p("plain");
         p.page->OnSendGeometry(400, 0, p.value("Width"), 800);
-        QStringList writes;
-        for (const sim::JournalEntry& write : p.camera->journal().writes())
-            writes << QString::fromStdString(write.feature);
-        QCOMPARE(writes, (QStringList{"Height", "OffsetY", "OffsetX", "Width"}));
+        QCOMPARE(p.writes(), (QStringList{"Height 800", "OffsetY 400", "OffsetX 0", "Width 2592"}));
         const auto calls = p.camera->journal().entries();
         const auto firstOf = [&](const char* feature, sim::Operation operation) {
             return std::find_if(calls.begin(), calls.end(), [&](const sim::JournalEntry& call) {
@@ -30,7 +28,7 @@ private slots:
     /// The height field's step vertically, the left field's horizontally.
     void movesBackByOneStep()
     {
-        AOIPage p("coarse");
+        const AOIPage p("coarse");
         p.page->OnSendGeometry(160, 320, p.value("WidthMax"), p.value("HeightMax"));
         QCOMPARE(text(p.onCamera()), QString("128 288 2304 1792"));
     }
@@ -38,23 +36,19 @@ private slots:
     /// The text about invalid settings comes up during the drag.
     void dragsAtAnyHeight_data()
     {
-        QTest::addColumn<QByteArray>("model");
-        QTest::addColumn<int>("height");
-        QTest::addColumn<QString>("expected");
-        const QByteArray current("current");
-        const QByteArray coarse("coarse");
-        QTest::newRow("current, low") << current << 420 << QString("0 2560 16 1944");
-        QTest::newRow("current") << current << 560 << QString("0 2576 16 1944");
-        QTest::newRow("current, high") << current << 900 << QString("0 2576 16 1944");
-        QTest::newRow("coarse, low") << coarse << 420 << QString("0 2464 128 1920");
-        QTest::newRow("coarse") << coarse << 560 << QString("0 2464 128 1920");
+        const DataTable<QByteArray, int, QString> table{"model", "height", "expected"};
+        table.row("current, low", "current", 420, "0 2560 16 1944");
+        table.row("current", "current", 560, "0 2576 16 1944");
+        table.row("current, high", "current", 900, "0 2576 16 1944");
+        table.row("coarse, low", "coarse", 420, "0 2464 128 1920");
+        table.row("coarse", "coarse", 560, "0 2464 128 1920");
     }
 
     void dragsAtAnyHeight()
     {
         QFETCH(QByteArray, model);
         QFETCH(int, height);
-        AOIPage p(model);
+        const AOIPage p(model);
         p.click("btnFull");
         p.resize(500, height);
         const QPoint right(p.label->width() - 1, p.band().center().y());
@@ -69,7 +63,7 @@ private slots:
 
     void raisesToEven()
     {
-        AOIPage p("bayer");
+        const AOIPage p("bayer");
         p.click("btnQuarter");
         p.settle();
         p.page->OnSpinHeightValueChanged(101);
@@ -80,7 +74,7 @@ private slots:
     /// A second click finds the stored maximum gone.
     void presetsTwiceAsOnce()
     {
-        AOIPage p("current");
+        const AOIPage p("current");
         p.click("btnHalf");
         const SensorRegion once = p.onCamera();
         QVERIFY(!p.label->isEnabled());
@@ -90,14 +84,14 @@ private slots:
         p.click("btnHalf");
         QCOMPARE(text(p.onCamera()), text(once));
         QTRY_VERIFY_WITH_TIMEOUT(p.label->isEnabled(), 500);
-        const int writes = int(p.camera->journal().writes().size());
+        const int writes = p.writes().size();
         QTest::qWait(300);
-        QCOMPARE(int(p.camera->journal().writes().size()), writes);
+        QCOMPARE(p.writes().size(), writes);
     }
 
     void leavesTypingAlone()
     {
-        AOIPage p("current");
+        const AOIPage p("current");
         QVERIFY(QTest::qWaitForWindowActive(p.page.get()));
         QDoubleSpinBox* const width = p.field("spinWidth");
         width->setFocus();
@@ -106,7 +100,7 @@ private slots:
         p.camera->writeAsOtherClient("Width", std::int64_t{512});
         p.settle();
         QCOMPARE(width->cleanText(), QString("64"));
-        QVERIFY(p.camera->journal().writes().empty());
+        QVERIFY(p.writes().isEmpty());
         QTest::keyClick(width, Qt::Key_Return);
         QCOMPARE(p.value("Width"), 64);
     }
@@ -114,45 +108,43 @@ private slots:
     /// The vertical increment becomes the step of the horizontal field.
     void refreshesByName()
     {
-        AOIPage p("bayer", [](sim::Camera& camera) {
+        const AOIPage p("bayer", [](sim::Camera& camera) {
             camera.modify("OffsetY",
                           [](auto& offset) { offset.between(sim::IntegerRange(0, 600, 6)); });
         });
-        const auto step = [&p](const char* field) { return int(p.field(field)->singleStep()); };
         p.refreshBy("Height");
-        QCOMPARE(step("spinLeft"), 6);
+        QCOMPARE(p.field("spinLeft")->singleStep(), 6.0);
         QVERIFY(p.camera->journal().entries("Width", sim::Operation::GetRange).empty());
         p.refreshBy("WidthMax");
-        QCOMPARE(step("spinLeft"), 2);
-        QCOMPARE(step("spinTop"), 6);
+        QCOMPARE(p.field("spinLeft")->singleStep(), 2.0);
+        QCOMPARE(p.field("spinTop")->singleStep(), 6.0);
     }
 
+    /// A feature whose name cannot be read is not there for the page.
     void findsTheMaximum_data()
     {
-        QTest::addColumn<QStringList>("missing");
-        QTest::addColumn<QStringList>("unreadable");
-        QTest::addColumn<int>("expected");
-        const QStringList one("WidthMax");
+        const DataTable<QStringList, bool, int> table{"features", "areMissing", "expected"};
         const QStringList both{"WidthMax", "SensorWidth"};
-        QTest::newRow("missing") << one << QStringList() << 2592;
-        QTest::newRow("unreadable") << QStringList() << one << 2592;
-        QTest::newRow("no sensor size either") << both << QStringList() << 1296;
-        QTest::newRow("both unreadable") << QStringList() << both << 1296;
+        table.row("missing", {"WidthMax"}, true, 2592);
+        table.row("unreadable", {"WidthMax"}, false, 2592);
+        table.row("no sensor size either", both, true, 1296);
+        table.row("both unreadable", both, false, 1296);
     }
 
     void findsTheMaximum()
     {
-        QFETCH(QStringList, missing);
-        QFETCH(QStringList, unreadable);
-        const auto prepare = [&](sim::Camera& camera) {
+        QFETCH(QStringList, features);
+        QFETCH(bool, areMissing);
+        const AOIPage p("older-names", [&](sim::Camera& camera) {
             camera.writeAsOtherClient("BinningHorizontal", std::int64_t{2});
             camera.writeAsOtherClient("Width", std::int64_t{640});
             camera.writeAsOtherClient("OffsetX", std::int64_t{64});
-            for (const QString& name : unreadable)
-                camera.failures().add(name.toStdString(), sim::Operation::GetValue,
+            for (const QString& name : features)
+                camera.failures().add(name.toStdString(),
+                                      areMissing ? sim::Operation::GetName
+                                                 : sim::Operation::GetValue,
                                       sim::Failure::refuse());
-        };
-        const AOIPage p("older-names", prepare, missing);
+        });
         QTEST(p.label->sensorSize().width(), "expected");
         p.page->setBackgroundImage(std::make_shared<QPixmap>(8, 8));
         QVERIFY(!p.label->pixmap(Qt::ReturnByValue).isNull());
@@ -161,7 +153,7 @@ private slots:
     /// -1 is neither a region nor a minimum of a field.
     void keepsWhatCannotBeRead()
     {
-        AOIPage p("current");
+        const AOIPage p("current");
         p.click("btnHalf");
         p.settle();
         const QString before = text(p.onCamera());
@@ -171,7 +163,7 @@ private slots:
         p.refreshBy("OffsetY");
         p.refreshBy("Width");
         QCOMPARE(text(p.label->region()), before);
-        QCOMPARE(text(p.inFields()), before);
+        QCOMPARE(text(inFields(p)), before);
         QCOMPARE(p.field("spinTop")->minimum(), 0.0);
         QCOMPARE(p.field("spinWidth")->minimum(), 16.0);
         QCOMPARE(p.label->sensorSize(), QSize(2592, 1944));
@@ -182,15 +174,12 @@ private slots:
         AOIPage p("current");
         press(p.label, p.band().center());
         QVERIFY(p.label->isDragging());
-        QPointer<QTimer> timer;
-        for (QTimer* candidate :
-             p.page->findChildren<QTimer*>(QString(), Qt::FindDirectChildrenOnly))
-            if (candidate->isSingleShot())
-                timer = candidate;
+        const auto timers = p.page->findChildren<QTimer*>(QString(), Qt::FindDirectChildrenOnly);
         bool isAborted = false;
         connect(p.label, &RubberBandLabel::GeometryChangeAborted, this, [&] {
             isAborted = true;
-            QVERIFY(!timer->isActive());
+            for (const QTimer* timer : timers)
+                QVERIFY(!timer->isSingleShot() || !timer->isActive());
         });
         p.page.reset();
         QVERIFY(isAborted);
@@ -199,82 +188,62 @@ private slots:
     void knowsItsFamily()
     {
         QCOMPARE(AOIPage("plain").page->accessibleName(), QString("ROI"));
-        QCOMPARE(AOIPage("aoi").page->findChild<QGroupBox*>("gb_AOI")->title(), QString("AOI"));
+        QCOMPARE(AOIPage("aoi").find<QGroupBox>("gb_AOI")->title(), QString("AOI"));
         const auto lacking = sim::createCamera("no-height");
         AOIWidget page(featureList(*lacking), nullptr);
         QVERIFY(page.accessibleName().isEmpty());
-        for (const char* slot : {"OnROIFull", "OnROIHalf", "OnROIQuarter", "OnRubberLabelClicked",
-                                 "OnSpinEditingFinished", "updateTimer"})
-            QVERIFY(QMetaObject::invokeMethod(&page, slot));
-        for (const char* slot : {"OnSpinTopValueChanged", "OnSpinLeftValueChanged",
-                                 "OnSpinWidthValueChanged", "OnSpinHeightValueChanged"})
-            QVERIFY(QMetaObject::invokeMethod(&page, slot, Q_ARG(double, 8.0)));
-        page.OnSendGeometry(0, 0, 8, 8);
-        page.OnUpdateGeometry(0, 0, 8, 8);
-        page.camIsStreaming(true);
-        page.onMultipleRegionsEnabled(true);
-        page.setBackgroundImage(nullptr);
-        page.show();
+        useAll(page);
     }
 
     void gatesItsControls()
     {
-        AOIPage p("current");
-        const auto* const region = p.page->findChild<QGroupBox*>("gb_Region");
-        const auto* const warning = p.page->findChild<QLabel*>("lblWarning");
-        p.page->camIsStreaming(true);
-        p.camera->writeAsOtherClient("MultipleRegionEnable", true);
-        p.settle();
-        QCOMPARE(warning->text(),
-                 QString("'AOI' widget cannot be used if 'MultipleRegionsEnabled' is on."));
-        p.page->onMultipleRegionsEnabled(false);
-        QVERIFY(warning->text().isEmpty());
-        QVERIFY(!region->isEnabled());
-        p.page->camIsStreaming(false);
-        QVERIFY(region->isEnabled());
-    }
-
-    void knowsTheOtherSwitch()
-    {
-        AOIPage p("older-names");
-        p.camera->writeAsOtherClient("MultipleRegionsEnable", true);
-        p.refreshBy("MultipleRegionsEnable");
-        QVERIFY(!p.page->findChild<QLabel*>("lblWarning")->text().isEmpty());
-        p.camera->writeAsOtherClient("MultipleRegionsEnable", false);
-        p.page->hide();
-        p.page->show();
-        QVERIFY(p.page->findChild<QLabel*>("lblWarning")->text().isEmpty());
+        for (const char* model : {"current", "older-names"}) {
+            const AOIPage p(model);
+            const char* const feature = p.camera->has("MultipleRegionEnable")
+                ? "MultipleRegionEnable"
+                : "MultipleRegionsEnable";
+            const auto* const region = p.find<QGroupBox>("gb_Region");
+            const auto* const warning = p.find<QLabel>("lblWarning");
+            p.page->camIsStreaming(true);
+            p.camera->writeAsOtherClient(feature, true);
+            p.refreshBy(feature);
+            QCOMPARE(warning->text(),
+                     QString("'AOI' widget cannot be used if 'MultipleRegionsEnabled' is on."));
+            p.camera->writeAsOtherClient(feature, false);
+            p.comeBack();
+            QVERIFY(warning->text().isEmpty());
+            QVERIFY(!region->isEnabled());
+            p.page->camIsStreaming(false);
+            QVERIFY(region->isEnabled());
+            p.page->onMultipleRegionsEnabled(true);
+            QVERIFY(!region->isEnabled());
+            p.page->onMultipleRegionsEnabled(false);
+            QVERIFY(warning->text().isEmpty());
+        }
     }
 
     void tellsOfInconsistentFields()
     {
-        AOIPage p("current");
-        const auto* const invalid = p.page->findChild<QLabel*>("labelInvalidSettings");
-        QVERIFY(invalid->isHidden());
+        const AOIPage p("current");
+        QVERIFY(p.message()->isHidden());
         p.page->OnRubberLabelClicked();
         p.page->OnUpdateGeometry(0, 8, p.value("WidthMax"), 64);
-        QCOMPARE(invalid->text(),
+        QCOMPARE(p.message()->text(),
                  QString("Invalid settings: \n\tOffsetX + Width > Maximum Width! "));
         p.settle();
-        QVERIFY(invalid->isHidden());
+        QVERIFY(p.message()->isHidden());
     }
 
     void keepsTheBackgroundUntilTheSensorChanges()
     {
-        AOIPage p("current");
-        auto image = std::make_shared<QPixmap>(p.value("WidthMax"), p.value("HeightMax"));
-        image->fill(Qt::green);
-        p.page->setBackgroundImage(image);
-        const auto isGreen = [&] {
-            return p.label->pixmap(Qt::ReturnByValue).toImage().pixelColor(20, 20)
-                == QColor(Qt::green);
-        };
+        const AOIPage p("current");
+        p.page->setBackgroundImage(picture(Qt::green));
         p.click("btnHalf");
         p.settle();
-        QVERIFY(isGreen());
+        QCOMPARE(p.pictureColor(), QColor(Qt::green));
         p.camera->writeAsOtherClient("BinningHorizontal", std::int64_t{2});
         p.settle();
-        QVERIFY(isGreen());
+        QCOMPARE(p.pictureColor(), QColor(Qt::green));
         QVERIFY(!QApplication::overrideCursor());
     }
 

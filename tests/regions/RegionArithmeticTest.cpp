@@ -1,39 +1,25 @@
+#include "DataTable.h"
 #include "regions/AutoRegion.h"
 #include "regions/DspRegion.h"
+#include "regions/EdgeSpan.h"
 #include "regions/ExposureLimit.h"
 #include "regions/RegionConsistency.h"
 #include "regions/RegionPresets.h"
-
-#include <QtTest>
-
-#include <limits>
 
 class RegionArithmeticTest : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void snaps_data()
-    {
-        QTest::addColumn<double>("value");
-        QTest::addColumn<double>("minimum");
-        QTest::addColumn<double>("step");
-        QTest::addColumn<double>("expected");
-        QTest::newRow("between") << 13.0 << 8.0 << 4.0 << 16.0;
-        QTest::newRow("on the grid") << 16.0 << 8.0 << 4.0 << 16.0;
-        QTest::newRow("below the minimum, up") << 3.0 << 8.0 << 4.0 << 4.0;
-        QTest::newRow("negative grid") << -5.0 << -8.0 << 4.0 << -4.0;
-        QTest::newRow("step truncates to 0") << 13.0 << 8.0 << 0.9 << 13.0;
-        QTest::newRow("step and minimum truncated") << 13.0 << 8.9 << 4.9 << 16.0;
-        QTest::newRow("beyond 64 bits") << 1e300 << 0.0 << 1.0 << 1e300;
-    }
-
     void snaps()
     {
-        QFETCH(double, value);
-        QFETCH(double, minimum);
-        QFETCH(double, step);
-        QTEST(snappedUp(value, {minimum, step}), "expected");
+        QCOMPARE(snappedUp(13.0, {8.0, 4.0}), 16.0);
+        QCOMPARE(snappedUp(16.0, {8.0, 4.0}), 16.0);
+        QCOMPARE(snappedUp(3.0, {8.0, 4.0}), 4.0); // up, below the minimum too
+        QCOMPARE(snappedUp(-5.0, {-8.0, 4.0}), -4.0);
+        QCOMPARE(snappedUp(13.0, {8.0, 0.9}), 13.0); // the step truncates to 0
+        QCOMPARE(snappedUp(13.0, {8.9, 4.9}), 16.0);
+        QCOMPARE(snappedUp(1e300, {0.0, 1.0}), 1e300);
     }
 
     void demandsEvenSizes()
@@ -69,20 +55,16 @@ private slots:
     void ordersWritesWithinTheMaximum()
     {
         constexpr double maximum = 6.0;
-        const auto eachSpan = [&](const auto& visit) {
-            for (double offset = 0.0; offset < maximum; ++offset)
-                for (double size = 1.0; offset + size <= maximum; ++size)
-                    visit(AxisSpan{offset, size});
-        };
-        eachSpan([&](const AxisSpan& from) {
-            eachSpan([&](const AxisSpan& to) {
-                const double first
-                    = writesOffsetFirst(to.offset, from.size, maximum, maximum - from.size)
-                    ? to.offset + from.size
-                    : from.offset + to.size;
-                QVERIFY(first <= maximum);
-            });
-        });
+        QVector<AxisSpan> spans;
+        for (double offset = 0.0; offset < maximum; ++offset)
+            for (double size = 1.0; offset + size <= maximum; ++size)
+                spans.append({offset, size});
+        for (const AxisSpan& from : spans)
+            for (const AxisSpan& to : spans) {
+                const bool isOffsetFirst
+                    = writesOffsetFirst(to.offset, from.size, maximum, maximum - from.size);
+                QVERIFY((isOffsetFirst ? to.offset + from.size : from.offset + to.size) <= maximum);
+            }
         QVERIFY(!writesOffsetFirst(2.0, 1.0, maximum, 1.0));
     }
 
@@ -125,22 +107,20 @@ private slots:
         QCOMPARE(exposureLimitToWrite(10.0, 0.01, 2, 2), double(10.005F));
         QCOMPARE(exposureLimitToWrite(10.0, 1.0, 2, 0), 10.5);
         QCOMPARE(exposureLimitToWrite(10.0, 1.0, 0, 2), 10.0);
+        QCOMPARE(exposureLimitToWrite(10.0, 0.0, 2, 2), 10.0);
         QCOMPARE(exposureLimitToWrite(10.0, -1.0, 2, 2), 10.0);
         QVERIFY(qIsFinite(exposureLimitToWrite(1e300, 1.0, 2, 2)));
     }
 
     void judgesDspRegions_data()
     {
-        QTest::addColumn<double>("top");
-        QTest::addColumn<double>("bottom");
-        QTest::addColumn<bool>("valid");
-        QTest::addColumn<int>("drawnTop");
-        QTest::addColumn<int>("drawnHeight");
-        QTest::newRow("whole") << 0.0 << 20.0 << true << 0 << 20;
-        QTest::newRow("empty") << 5.0 << 5.0 << false << 5 << 0;
-        QTest::newRow("crossed") << 9.0 << 5.0 << false << 5 << 0;
-        QTest::newRow("too low") << 5.0 << 21.0 << false << 5 << 15;
-        QTest::newRow("beyond") << 30.0 << 40.0 << false << 20 << 0;
+        const DataTable<double, double, bool, int, int> table{"top", "bottom", "valid", "drawnTop",
+                                                              "drawnHeight"};
+        table.row("whole", 0, 20, true, 0, 20);
+        table.row("empty", 5, 5, false, 5, 0);
+        table.row("crossed", 9, 5, false, 5, 0);
+        table.row("too low", 5, 21, false, 5, 15);
+        table.row("beyond", 30, 40, false, 20, 0);
     }
 
     void judgesDspRegions()
@@ -154,6 +134,19 @@ private slots:
         QTEST(drawn.height, "drawnHeight");
         QVERIFY(writesFarEdgeFirst(1.0, 5.0, 4.0, 8.0));
         QVERIFY(!writesFarEdgeFirst(1.0, 5.0, 4.0, 5.0));
+    }
+
+    /// The camera takes what is as thin as its grid; nothing else is moved.
+    void keepsEdgesApart()
+    {
+        const auto edges = [](double offset, double extent) {
+            const EdgeSpan span = edgesForExtent(offset, extent, 100, 8);
+            return QPointF(span.nearEdge, span.farEdge);
+        };
+        QCOMPARE(edges(13, 20), QPointF(13, 33));
+        QCOMPARE(edges(14, 4), QPointF(14, 18)); // across a grid point
+        QCOMPARE(edges(17, 4), QPointF(17, 25)); // between grid points
+        QCOMPARE(edges(100, 0), QPointF(92, 100));
     }
 
     void drawsWithoutTheOrigin()

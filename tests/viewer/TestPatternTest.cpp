@@ -1,4 +1,5 @@
 #include "TestPattern.h"
+#include "DataTable.h"
 #include "FrameGeometry.h"
 
 #include <QTest>
@@ -46,131 +47,99 @@ class TestPatternTest : public QObject
     Q_OBJECT
 
 private slots:
-    void placesTheFrame_data();
-    void placesTheFrame();
-    void mirrorsWithinTheRegion_data();
-    void mirrorsWithinTheRegion();
-    void binningKeepsThePicture();
-    void showsActiveRegionsOnly();
-    void followsTheExposure();
-    void rendersNoMoreThanIsShown();
-    void staysAliveWithoutPixels();
-};
+    void placesTheFrame_data()
+    {
+        const DataTable<QSize, QRect, QRectF> table{"binning", "region", "frame"};
 
-void TestPatternTest::placesTheFrame_data()
-{
-    QTest::addColumn<QSize>("binning");
-    QTest::addColumn<QRect>("region");
-    QTest::addColumn<QRectF>("frame");
-
-    QTest::newRow("whole sensor") << QSize(1, 1) << QRect() << QRectF(0, 25, 200, 150);
-    QTest::newRow("region") << QSize(1, 1) << QRect(100, 60, 40, 20) << QRectF(50, 55, 20, 10);
-    QTest::newRow("binned") << QSize(2, 2) << QRect() << QRectF(50, 62.5, 100, 75);
-    QTest::newRow("binned in one axis") << QSize(4, 1) << QRect() << QRectF(75, 25, 50, 150);
-    QTest::newRow("binned region")
-        << QSize(2, 2) << QRect(10, 20, 40, 20) << QRectF(55, 72.5, 20, 10);
-    QTest::newRow("region beyond the binned area")
-        << QSize(2, 2) << QRect(180, 0, 40, 20) << QRectF(140, 62.5, 10, 10);
-}
-
-void TestPatternTest::placesTheFrame()
-{
-    QFETCH(QSize, binning);
-    QFETCH(QRect, region);
-    QFETCH(QRectF, frame);
-
-    SensorState state = upright();
-    state.binning = binning;
-    if (!region.isNull())
-        state.regions = {region};
-    const FramePlacement placement = placeFrame(state, QRectF(0, 0, 200, 200));
-    QCOMPARE(placement.sensor, QRectF(0, 25, 200, 150));
-    QCOMPARE(placement.frame, frame);
-}
-
-void TestPatternTest::mirrorsWithinTheRegion_data()
-{
-    QTest::addColumn<bool>("reverseX");
-    QTest::addColumn<bool>("reverseY");
-
-    QTest::newRow("upright") << false << false;
-    QTest::newRow("x") << true << false;
-    QTest::newRow("y") << false << true;
-    QTest::newRow("both") << true << true;
-}
-
-void TestPatternTest::mirrorsWithinTheRegion()
-{
-    QFETCH(bool, reverseX);
-    QFETCH(bool, reverseY);
-
-    SensorState state = upright();
-    const QRect region(40, 20, 200, 120);
-    const QImage expected = fullFrame(state).mirrored(reverseX, reverseY).copy(region);
-    state.reverseX = reverseX;
-    state.reverseY = reverseY;
-    state.regions = {region};
-    const QImage frame = fullFrame(state);
-    QCOMPARE(frame.size(), region.size());
-    QVERIFY2(difference(frame, expected) < 1.0,
-             "the wrong part of the sensor, or mirrored wrongly");
-}
-
-void TestPatternTest::binningKeepsThePicture()
-{
-    SensorState state = upright();
-    const QImage expected
-        = fullFrame(state).scaled(200, 100, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-    state.binning = QSize(2, 3);
-    QCOMPARE(frameRect(state).size(), QSize(200, 100));
-    QVERIFY(difference(fullFrame(state), expected) < 3.0);
-}
-
-void TestPatternTest::showsActiveRegionsOnly()
-{
-    SensorState state = upright();
-    const QImage whole = fullFrame(state);
-    const QRect first(0, 0, 100, 80);
-    const QRect second(200, 150, 120, 100);
-    state.multipleRegions = true;
-    state.regions = {first, second};
-    const QImage frame = fullFrame(state);
-    QCOMPARE(frame.size(), whole.size());
-    QVERIFY(difference(frame.copy(first), whole.copy(first)) < 1.0);
-    QVERIFY(difference(frame.copy(second), whole.copy(second)) < 1.0);
-    QCOMPARE(brightness(frame.copy(100, 0, 300, 150)), 0.0);
-
-    state.regions.clear();
-    QVERIFY(frameRect(state).isEmpty());
-}
-
-void TestPatternTest::followsTheExposure()
-{
-    double previous = -1.0;
-    for (const double microseconds : {0.0, 10.0, 1000.0, 10000.0, 100000.0, 1000000.0}) {
-        SensorState state = upright();
-        state.exposureTime = microseconds;
-        const double current = brightness(fullFrame(state));
-        QVERIFY2(current > previous, qPrintable(QString::number(microseconds)));
-        previous = current;
+        table.row("whole sensor", {1, 1}, {}, {0, 25, 200, 150});
+        table.row("region", {1, 1}, {100, 60, 40, 20}, {50, 55, 20, 10});
+        table.row("binned", {2, 2}, {}, {50, 62.5, 100, 75});
+        table.row("binned in one axis", {4, 1}, {}, {75, 25, 50, 150});
+        table.row("binned region", {2, 2}, {10, 20, 40, 20}, {55, 72.5, 20, 10});
+        table.row("region beyond the binned area", {2, 2}, {180, 0, 40, 20}, {140, 62.5, 10, 10});
     }
-}
 
-void TestPatternTest::rendersNoMoreThanIsShown()
-{
-    QCOMPARE(renderSize({14204, 10652}, {480, 360}), QSize(480, 360));
-    QCOMPARE(renderSize({320, 200}, {480, 360}), QSize(320, 200));
-    QCOMPARE(renderSize({14204, 1}, {480, 360}), QSize(480, 1));
-}
+    void placesTheFrame()
+    {
+        QFETCH(QSize, binning);
+        QFETCH(QRect, region);
+        QFETCH(QRectF, frame);
 
-void TestPatternTest::staysAliveWithoutPixels()
-{
-    QVERIFY(renderFrame(SensorState(), {100, 100}, 0).isNull());
-    QVERIFY(placeFrame(SensorState(), {0, 0, 100, 100}).frame.isEmpty());
-    SensorState state = upright();
-    state.binning = QSize(0, 0);
-    QCOMPARE(frameRect(state).size(), state.sensor);
-}
+        SensorState state = upright();
+        state.binning = binning;
+        if (!region.isNull())
+            state.regions = {region};
+        const FramePlacement placement = placeFrame(state, QRectF(0, 0, 200, 200));
+        QCOMPARE(placement.sensor, QRectF(0, 25, 200, 150));
+        QCOMPARE(placement.frame, frame);
+    }
+
+    void mirrorsWithinTheRegion_data()
+    {
+        const DataTable<bool, bool> table{"reverseX", "reverseY"};
+
+        table.row("upright", false, false);
+        table.row("x", true, false);
+        table.row("y", false, true);
+        table.row("both", true, true);
+    }
+
+    void mirrorsWithinTheRegion()
+    {
+        QFETCH(bool, reverseX);
+        QFETCH(bool, reverseY);
+
+        SensorState state = upright();
+        const QRect region(40, 20, 200, 120);
+        const QImage expected = fullFrame(state).mirrored(reverseX, reverseY).copy(region);
+        state.reverseX = reverseX;
+        state.reverseY = reverseY;
+        state.regions = {region};
+        const QImage frame = fullFrame(state);
+        QCOMPARE(frame.size(), region.size());
+        QVERIFY2(difference(frame, expected) < 1.0,
+                 "the wrong part of the sensor, or mirrored wrongly");
+    }
+
+    void showsActiveRegionsOnly()
+    {
+        SensorState state = upright();
+        const QImage whole = fullFrame(state);
+        const QRect first(0, 0, 100, 80);
+        const QRect second(200, 150, 120, 100);
+        state.multipleRegions = true;
+        state.regions = {first, second};
+        const QImage frame = fullFrame(state);
+        QCOMPARE(frame.size(), whole.size());
+        QVERIFY(difference(frame.copy(first), whole.copy(first)) < 1.0);
+        QVERIFY(difference(frame.copy(second), whole.copy(second)) < 1.0);
+        QCOMPARE(brightness(frame.copy(100, 0, 300, 150)), 0.0);
+
+        state.regions.clear();
+        QVERIFY(frameRect(state).isEmpty());
+    }
+
+    void followsTheExposure()
+    {
+        double previous = -1.0;
+        for (const double microseconds : {0.0, 1000.0, 100000.0}) {
+            SensorState state = upright();
+            state.exposureTime = microseconds;
+            const double current = brightness(fullFrame(state));
+            QVERIFY2(current > previous, qPrintable(QString::number(microseconds)));
+            previous = current;
+        }
+    }
+
+    void staysAliveWithoutPixels()
+    {
+        QVERIFY(renderFrame(SensorState(), {100, 100}, 0).isNull());
+        QVERIFY(placeFrame(SensorState(), {0, 0, 100, 100}).frame.isEmpty());
+        SensorState state = upright();
+        state.binning = QSize(0, 0);
+        QCOMPARE(frameRect(state).size(), state.sensor);
+    }
+};
 
 QTEST_MAIN(TestPatternTest)
 #include "TestPatternTest.moc"

@@ -1,4 +1,5 @@
 #include "widgets/CollapsingButton.h"
+#include "DataTable.h"
 
 #include <QLabel>
 #include <QtTest>
@@ -20,11 +21,9 @@ private slots:
 
     void foldsAtOnceOnlyWhenUnchecked_data()
     {
-        QTest::addColumn<bool>("checked");
-        QTest::addColumn<int>("maximumHeight");
-        QTest::addColumn<Qt::ArrowType>("arrow");
-        QTest::newRow("unchecked") << false << 0 << Qt::RightArrow;
-        QTest::newRow("checked") << true << QWIDGETSIZE_MAX << Qt::DownArrow;
+        const DataTable<bool, int, Qt::ArrowType> table{"checked", "maximumHeight", "arrow"};
+        table.row("unchecked", false, 0, Qt::RightArrow);
+        table.row("checked", true, QWIDGETSIZE_MAX, Qt::DownArrow);
     }
 
     void foldsAtOnceOnlyWhenUnchecked()
@@ -73,8 +72,8 @@ private slots:
 
     void keepsTheTitleClearOfTheArrow()
     {
-        m_button->setText(QStringLiteral("Image Format: "));
-        QCOMPARE(m_button->text(), QStringLiteral(" Image Format: "));
+        m_button->setText(QString("Image Format: "));
+        QCOMPARE(m_button->text(), QString(" Image Format: "));
     }
 
 private:

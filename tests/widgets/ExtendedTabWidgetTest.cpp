@@ -1,4 +1,5 @@
 #include "widgets/ExtendedTabWidget.h"
+#include "DataTable.h"
 
 #include <QMenu>
 #include <QTabBar>
@@ -17,7 +18,7 @@ class ExtendedTabWidgetTest : public QObject
     static void addTabs(QTabWidget& tabs, int number)
     {
         for (int i = 0; i < number; ++i)
-            tabs.addTab(new QWidget, QStringLiteral("Region %1").arg(tabs.count()));
+            tabs.addTab(new QWidget, QString("Region %1").arg(tabs.count()));
     }
 
     /// The menu's titles, with a star at each checked one.
@@ -33,16 +34,14 @@ class ExtendedTabWidgetTest : public QObject
 private slots:
     void modesAddAndModeOneRemoves_data()
     {
-        QTest::addColumn<QList<int>>("modes");
-        QTest::addColumn<int>("menus");
-        QTest::addColumn<int>("pluses");
-        QTest::newRow("none yet") << QList<int>{} << 0 << 0;
-        QTest::newRow("menu, twice") << QList<int>{2, 2} << 1 << 0;
-        QTest::newRow("plus, twice") << QList<int>{3, 3} << 0 << 1;
-        QTest::newRow("both, twice") << QList<int>{4, 4} << 1 << 1;
-        QTest::newRow("back to plain") << QList<int>{4, 1} << 0 << 0;
-        QTest::newRow("unknown mode") << QList<int>{4, 7} << 0 << 0;
-        QTest::newRow("through all") << QList<int>{2, 1, 1, 3, 4, 1, 4} << 1 << 1;
+        const DataTable<QList<int>, int, int> table{"modes", "menus", "pluses"};
+        table.row("none yet", {}, 0, 0);
+        table.row("menu, twice", {2, 2}, 1, 0);
+        table.row("plus, twice", {3, 3}, 0, 1);
+        table.row("both, twice", {4, 4}, 1, 1);
+        table.row("back to plain", {4, 1}, 0, 0);
+        table.row("unknown mode", {4, 7}, 0, 0);
+        table.row("through all", {2, 1, 1, 3, 4, 1, 4}, 1, 1);
     }
 
     void modesAddAndModeOneRemoves()
@@ -97,17 +96,17 @@ private slots:
         ExtendedTabWidget tabs(nullptr);
         addTabs(tabs, 2);
         tabs.setMode(ExtendedTabWidget::TabMenu);
-        QCOMPARE(menuText(tabs), QStringLiteral("Region 0*,Region 1"));
-        tabs.insertTab(0, new QWidget, QStringLiteral("First"));
-        QCOMPARE(menuText(tabs), QStringLiteral("First,Region 0*,Region 1"));
+        QCOMPARE(menuText(tabs), QString("Region 0*,Region 1"));
+        tabs.insertTab(0, new QWidget, QString("First"));
+        QCOMPARE(menuText(tabs), QString("First,Region 0*,Region 1"));
         tabs.setCurrentIndex(2);
-        QCOMPARE(menuText(tabs), QStringLiteral("First,Region 0,Region 1*"));
+        QCOMPARE(menuText(tabs), QString("First,Region 0,Region 1*"));
         tabs.removeTab(1);
-        QCOMPARE(menuText(tabs), QStringLiteral("First,Region 1*"));
+        QCOMPARE(menuText(tabs), QString("First,Region 1*"));
         button(tabs, Qt::TopRightCorner)->menu()->actions().constFirst()->trigger();
         QCOMPARE(tabs.currentIndex(), 0);
         button(tabs, Qt::TopRightCorner)->menu()->actions().constFirst()->trigger();
-        QCOMPARE(menuText(tabs), QStringLiteral("First*,Region 1"));
+        QCOMPARE(menuText(tabs), QString("First*,Region 1"));
     }
 
     void plusButtonMayEndTheMode()

@@ -1,3 +1,4 @@
+#include "DataTable.h"
 #include "widgets/QSpinBoxMouseEventFilter.h"
 #include "widgets/WheelGuard.h"
 
@@ -18,9 +19,7 @@ class FieldEventsTest : public QObject
 private slots:
     void mousePressEnds_data()
     {
-        QTest::addColumn<Act>("act");
-        QTest::addColumn<bool>("pressed");
-        QTest::addColumn<int>("released");
+        const DataTable<Act, bool, int> table{"act", "pressed", "released"};
         const auto release = [](QSpinBox& field) {
             QTest::mouseRelease(&field, Qt::LeftButton, {}, {95, 5});
         };
@@ -29,23 +28,22 @@ private slots:
                               Qt::LeftButton, {});
             QCoreApplication::sendEvent(&field, &event);
         };
-        QTest::newRow("held") << Act([](QSpinBox&) {}) << true << 0;
-        QTest::newRow("released") << Act(release) << false << 1;
-        QTest::newRow("double click") << Act([=](QSpinBox& field) {
-            release(field);
-            sendDoubleClick(field);
-        }) << true << 1;
-        QTest::newRow("hidden") << Act([](QSpinBox& field) { field.hide(); }) << false << 0;
-        QTest::newRow("page hidden")
-            << Act([](QSpinBox& field) { field.window()->hide(); }) << false << 0;
-        QTest::newRow("disabled") << Act([](QSpinBox& field) { field.setEnabled(false); }) << false
-                                  << 0;
-        QTest::newRow("taken out")
-            << Act([](QSpinBox& field) { field.setParent(nullptr); }) << false << 0;
-        QTest::newRow("other window") << Act([](QSpinBox& field) {
-            QEvent event(QEvent::WindowDeactivate);
-            QCoreApplication::sendEvent(field.window(), &event);
-        }) << false << 0;
+        table.row("held", Act([](QSpinBox&) {}), true, 0);
+        table.row("released", Act(release), false, 1);
+        table.row("double click", Act([=](QSpinBox& field) {
+                      release(field);
+                      sendDoubleClick(field);
+                  }),
+                  true, 1);
+        table.row("hidden", Act([](QSpinBox& field) { field.hide(); }), false, 0);
+        table.row("page hidden", Act([](QSpinBox& field) { field.window()->hide(); }), false, 0);
+        table.row("disabled", Act([](QSpinBox& field) { field.setEnabled(false); }), false, 0);
+        table.row("taken out", Act([](QSpinBox& field) { field.setParent(nullptr); }), false, 0);
+        table.row("other window", Act([](QSpinBox& field) {
+                      QEvent event(QEvent::WindowDeactivate);
+                      QCoreApplication::sendEvent(field.window(), &event);
+                  }),
+                  false, 0);
     }
 
     void mousePressEnds()
@@ -68,9 +66,7 @@ private slots:
 
     void wheelGuard_data()
     {
-        QTest::addColumn<QObject*>("target");
-        QTest::addColumn<int>("type");
-        QTest::addColumn<bool>("guarded");
+        const DataTable<QObject*, int, bool> table{"target", "type", "guarded"};
         const int wheel = QEvent::Wheel;
         const auto row = [](const char* name) -> QTestData& { return QTest::newRow(name); };
         row("combo box") << owned(new QComboBox) << wheel << true;
@@ -81,7 +77,7 @@ private slots:
         row("no widget") << owned(new QObject) << wheel << false;
         row("other event") << owned(new QSpinBox) << int(QEvent::Enter) << false;
         auto* focused = new QSpinBox;
-        focused->setObjectName(QStringLiteral("focused"));
+        focused->setObjectName(QString("focused"));
         row("focused") << owned(focused) << wheel << false;
     }
 

@@ -1,4 +1,6 @@
-#include "regions/SensorBackground.h"
+#include "widgets/SensorBackground.h"
+#include "DataTable.h"
+#include "Pictures.h"
 
 #include <QBitmap>
 #include <QPainter>
@@ -36,20 +38,6 @@ QPixmap composedByCopies(QPixmap image, const QSize& sensor, const QRect& crop, 
     return result;
 }
 
-int largestDifference(const QImage& a, const QImage& b)
-{
-    int largest = 0;
-    for (int y = 0; y < a.height(); ++y)
-        for (int x = 0; x < a.width(); ++x) {
-            const QRgb p = a.pixel(x, y);
-            const QRgb q = b.pixel(x, y);
-            largest = qMax(largest,
-                           qMax(qAbs(qRed(p) - qRed(q)),
-                                qMax(qAbs(qGreen(p) - qGreen(q)), qAbs(qBlue(p) - qBlue(q)))));
-        }
-    return largest;
-}
-
 } // namespace
 
 class SensorBackgroundTest : public QObject
@@ -59,27 +47,20 @@ class SensorBackgroundTest : public QObject
 private slots:
     void composesAsByCopies_data()
     {
-        QTest::addColumn<QSize>("imageSize");
-        QTest::addColumn<double>("ratio");
-        QTest::addColumn<QRect>("crop");
-        QTest::addColumn<QSize>("target");
+        const DataTable<QSize, double, QRect, QSize> table{"imageSize", "ratio", "crop", "target"};
         const QSize sensor(640, 480);
-        QTest::newRow("fits") << sensor << 1.0 << QRect() << QSize(200, 150);
-        QTest::newRow("device pixel ratio") << sensor << 2.0 << QRect() << QSize(200, 150);
-        QTest::newRow("cut") << QSize(900, 700) << 1.0 << QRect() << QSize(200, 150);
-        QTest::newRow("black margins") << QSize(320, 240) << 1.0 << QRect() << QSize(160, 120);
-        QTest::newRow("margins within pixels")
-            << QSize(331, 247) << 1.0 << QRect() << QSize(171, 128);
-        QTest::newRow("margins within pixels of a large sensor")
-            << QSize(331, 247) << 1.0 << QRect() << QSize(50, 38);
-        QTest::newRow("margins within pixels, enlarged")
-            << QSize(331, 247) << 1.0 << QRect(300, 200, 55, 67) << QSize(200, 150);
-        QTest::newRow("crop") << sensor << 1.0 << QRect(160, 80, 320, 240) << QSize(200, 150);
-        QTest::newRow("crop beyond the sensor")
-            << sensor << 1.0 << QRect(320, 240, 640, 480) << QSize(160, 120);
-        QTest::newRow("crop of another aspect ratio")
-            << sensor << 1.0 << QRect(0, 0, 480, 120) << QSize(160, 120);
-        QTest::newRow("enlarged") << sensor << 1.0 << QRect(0, 0, 64, 48) << QSize(640, 480);
+        table.row("fits", sensor, 1.0, {}, {200, 150});
+        table.row("device pixel ratio", sensor, 2.0, {}, {200, 150});
+        table.row("cut", {900, 700}, 1.0, {}, {200, 150});
+        table.row("black margins", {320, 240}, 1.0, {}, {160, 120});
+        table.row("margins within pixels", {331, 247}, 1.0, {}, {171, 128});
+        table.row("margins within pixels of a large sensor", {331, 247}, 1.0, {}, {50, 38});
+        table.row("margins within pixels, enlarged", {331, 247}, 1.0, {300, 200, 55, 67},
+                  {200, 150});
+        table.row("crop", sensor, 1.0, {160, 80, 320, 240}, {200, 150});
+        table.row("crop beyond the sensor", sensor, 1.0, {320, 240, 640, 480}, {160, 120});
+        table.row("crop of another aspect ratio", sensor, 1.0, {0, 0, 480, 120}, {160, 120});
+        table.row("enlarged", sensor, 1.0, {0, 0, 64, 48}, {640, 480});
     }
 
     void composesAsByCopies()

@@ -1,0 +1,158 @@
+#pragma once
+
+#include "SimulatedCamera.h"
+#include "TestEvents.h"
+#include "regions/AOIWidget.h"
+#include "regions/AutoROIWidget.h"
+#include "regions/RubberBandLabel.h"
+
+#include "simulator/Model.h"
+
+#include <QDoubleSpinBox>
+#include <QLabel>
+#include <QMetaMethod>
+#include <QPushButton>
+#include <QRubberBand>
+#include <QtTest>
+
+/// A page with one region, over a model's camera, shown.
+template <typename Page> struct RegionPage
+{
+    using Preparation = std::function<void(sim::Camera&)>;
+
+    explicit RegionPage(const QByteArray& model, const Preparation& prepare = {})
+        : camera(sim::createCamera(model.toStdString()))
+    {
+        camera->setNotifications(sim::NotificationSettings::synchronous());
+        if (prepare)
+            prepare(*camera);
+        page = std::make_unique<Page>(featureList(*camera), nullptr);
+        label = page->template findChild<RubberBandLabel*>();
+        page->show();
+        resize(519, 909);
+        constructionWrites = writes();
+        camera->journal().clear();
+    }
+
+    /// The label's height follows its width one by one.
+    void resize(int width, int height) const
+    {
+        page->resize(width, height);
+        for (int i = 0; i < 4; ++i)
+            settle();
+    }
+
+    void settle() const
+    {
+        camera->flushNotifications();
+        QCoreApplication::processEvents();
+        page->updateTimer();
+        QCoreApplication::processEvents(); // a new sensor size changes the layout
+        label->UpdateGeometryAfterResize();
+    }
+
+    /// A notification's way to the page.
+    void refreshBy(const char* feature) const
+    {
+        page->OnFeatureChanged(feature, QString());
+        page->updateTimer();
+    }
+    void comeBack() const
+    {
+        page->hide();
+        page->show();
+    }
+
+    template <typename Widget> Widget* find(const QString& name) const
+    {
+        return page->template findChild<Widget*>(name);
+    }
+    QDoubleSpinBox* field(const QString& name) const { return find<QDoubleSpinBox>(name); }
+    QLabel* message() const { return find<QLabel>("labelInvalidSettings"); }
+    void click(const char* button) const { find<QAbstractButton>(button)->click(); }
+    QRect band() const { return label->template findChild<QRubberBand*>()->geometry(); }
+    QColor pictureColor() const
+    {
+        return label->pixmap(Qt::ReturnByValue).toImage().pixelColor(20, 20);
+    }
+
+    /// A point of the label, in pixels of the image.
+    QPoint at(double x, double y) const
+    {
+        const QSize sensor = label->sensorSize();
+        const double scale = qMin(double(label->width()) / sensor.width(),
+                                  double(label->height()) / sensor.height());
+        return {int(x * scale), int(y * scale)};
+    }
+
+    int value(const QString& feature) const
+    {
+        const std::string name = feature.toStdString();
+        return camera->has(name) ? int(camera->feature(name).integer()) : 0;
+    }
+
+    /// What the page wrote, as in "Width 640".
+    QStringList writes() const
+    {
+        QStringList texts;
+        for (const sim::JournalEntry& write : camera->journal().writes())
+            texts << QString::fromStdString(write.feature + ' ' + write.value.toText());
+        return texts;
+    }
+    bool anyRefused() const
+    {
+        const auto writes = camera->journal().writes();
+        return std::any_of(writes.begin(), writes.end(), [](const sim::JournalEntry& write) {
+            return write.result != ZebErrorSuccess;
+        });
+    }
+
+    SensorRegion onCamera() const
+    {
+        return {value("OffsetY"), value("OffsetX"), value("Width"), value("Height")};
+    }
+
+    std::unique_ptr<sim::Camera> camera;
+    std::unique_ptr<Page> page;
+    RubberBandLabel* label = nullptr;
+    QStringList constructionWrites;
+};
+
+using AOIPage = RegionPage<AOIWidget>;
+using AutoROIPage = RegionPage<AutoROIWidget>;
+
+inline SensorRegion inFields(const AOIPage& p)
+{
+    return {int(p.field("spinTop")->value()), int(p.field("spinLeft")->value()),
+            int(p.field("spinWidth")->value()), int(p.field("spinHeight")->value())};
+}
+
+inline QString text(const SensorRegion& r)
+{
+    return QString("%1 %2 %3 %4").arg(r.top).arg(r.left).arg(r.width).arg(r.height);
+}
+
+inline std::shared_ptr<QPixmap> picture(Qt::GlobalColor color)
+{
+    auto image = std::make_shared<QPixmap>(2592, 1944);
+    image->fill(color);
+    return image;
+}
+
+/// Calls every slot of a page's own, with default arguments, and shows it.
+inline void useAll(QWidget& page)
+{
+    const QMetaObject* const meta = page.metaObject();
+    for (int i = QWidget::staticMetaObject.methodCount(); i < meta->methodCount(); ++i) {
+        const QMetaMethod method = meta->method(i);
+        QVector<QVariant> values(4);
+        QVector<QGenericArgument> arguments(4);
+        for (int k = 0; k < method.parameterCount(); ++k) {
+            values[k] = QVariant(method.parameterType(k), nullptr);
+            arguments[k] = QGenericArgument(values[k].typeName(), values[k].constData());
+        }
+        QVERIFY2(method.invoke(&page, arguments[0], arguments[1], arguments[2], arguments[3]),
+                 method.methodSignature().constData());
+    }
+    page.show();
+}
