@@ -50,6 +50,8 @@ void openAndCloseOne(TabExtensionInterface& module, Report& report, const std::s
             camera->writeAsOtherClient("Width", 256);
         QCoreApplication::processEvents();
     }
+    // A viewer comes back to its event loop, where these end.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     report.opened += 1;
     report.destroyed[Report::Visible] += 1;
     report.sdkCalls += camera->journal().count();
