@@ -48,6 +48,7 @@ void openAndCloseOne(TabExtensionInterface& module, Report& report, const std::s
         QCoreApplication::processEvents();
         if (camera->has("Width"))
             camera->writeAsOtherClient("Width", 256);
+        camera->flushNotifications(); // on a busy machine its threads would pile up
         QCoreApplication::processEvents();
     }
     // A viewer comes back to its event loop, where these end.
