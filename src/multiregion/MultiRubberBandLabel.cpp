@@ -16,7 +16,6 @@ namespace {
 
 constexpr int minimumSide = 100; ///< label pixels
 constexpr QSize preferredSize(400, 300);
-constexpr QSize largestPicture(2048, 2048); ///< as much as a label can show
 constexpr double smallestFactor = 1e-5;
 
 QColor placeholderColor(const QColor& color)
@@ -59,7 +58,7 @@ void MultiRubberBandLabel::setSensorSize(const QSize& size)
     m_mapping.sensor = size;
     m_placeholder.setPlaceholder(placeholderColor(m_color), size);
     m_picture = {};
-    showBackground(fittedBackground());
+    fitBackground();
     dropDrag();
     arrange();
 }
@@ -181,13 +180,9 @@ void MultiRubberBandLabel::setBackgroundImage(std::shared_ptr<QPixmap> image, QS
                                               QRect cropRect)
 {
     m_picture = {};
-    if (image && !image->isNull()) {
-        const bool fits = m_mapping.sensor.boundedTo(largestPicture) == m_mapping.sensor;
-        const QSize size = fits ? m_mapping.sensor
-                                : m_mapping.sensor.scaled(largestPicture, Qt::KeepAspectRatio);
-        m_picture = composeBackground(*image, sensorSize, cropRect, size);
-    }
-    showBackground(fittedBackground());
+    if (image && !image->isNull())
+        m_picture = KeptPicture({image, sensorSize, cropRect}, m_mapping.sensor);
+    fitBackground();
     arrange();
 }
 
@@ -229,7 +224,7 @@ void MultiRubberBandLabel::resizeEvent(QResizeEvent* event)
                         .first()
                         .rectangle;
 
-    showBackground(fittedBackground());
+    fitBackground();
     const double factorX = ratio(m_mapping.shown.width(), before.shown.width());
     const double factorY = ratio(m_mapping.shown.height(), before.shown.height());
     QLabel::resizeEvent(event);
@@ -240,13 +235,23 @@ void MultiRubberBandLabel::resizeEvent(QResizeEvent* event)
         emit labelGeometryChanged(factorX, factorY, m_mapping.shown);
 }
 
-/// Placeholder and picture have the same size, so that bands stay where they are.
-QPixmap MultiRubberBandLabel::fittedBackground() const
+void MultiRubberBandLabel::showEvent(QShowEvent* event)
 {
-    const QPixmap placeholder = m_placeholder.fitted(size());
-    return m_picture.isNull() || placeholder.isNull()
-        ? placeholder
-        : m_picture.scaled(placeholder.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    QLabel::showEvent(event);
+    if (m_pictureWaits)
+        fitBackground();
+}
+
+/// Placeholder and picture have the same size, so that bands stay where they are.
+void MultiRubberBandLabel::fitBackground()
+{
+    const QSize fitted = m_placeholder.fittedSize(size());
+    const bool isPicture = !m_picture.isNull() && !fitted.isEmpty();
+    m_pictureWaits = isPicture && !isVisible();
+    if (m_pictureWaits)
+        m_mapping.shown = fitted;
+    else
+        showBackground(isPicture ? m_picture.scaled(fitted) : m_placeholder.fitted(size()));
 }
 
 /// An empty pixmap leaves the size as it was: what follows needs a scale to go from.

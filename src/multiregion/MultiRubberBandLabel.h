@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ConstraintLineSet.h"
+#include "KeptPicture.h"
 #include "KnownRegions.h"
 #include "RegionAnnouncements.h"
 #include "plugin/TabExtensionInterface.h"
@@ -106,6 +107,7 @@ protected:
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    void showEvent(QShowEvent* event) override;
 
 private:
     enum DragState {
@@ -114,7 +116,7 @@ private:
         BandDrag = 1,
     };
 
-    QPixmap fittedBackground() const;
+    void fitBackground();
     void showBackground(const QPixmap& pixmap);
     void showRectangle(int regionNo);
     void arrange();
@@ -150,7 +152,8 @@ private:
     ArrangementMode m_mode;
     SensorMapping m_mapping;
     SensorBackground m_placeholder;
-    QPixmap m_picture; ///< null for the placeholder
+    KeptPicture m_picture;       ///< null for the placeholder
+    bool m_pictureWaits = false; ///< until the label is visible: it is scaled then
     KnownRegions m_regions;
     QVector<ConstraintGroup> m_groups;
     ConstraintLineSet m_lines;

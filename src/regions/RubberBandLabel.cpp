@@ -71,10 +71,13 @@ void RubberBandLabel::setSensorSize(int width, int height)
 void RubberBandLabel::showBackground(std::shared_ptr<QPixmap> image, QSize sensorSize, QRect crop)
 {
     if (image)
-        m_background.setPicture(composeBackground(*image, sensorSize, crop, m_shown.size()));
+        m_background.setPicture({image, sensorSize, crop}, m_shown.size());
     else
         m_background.setColor(placeholderColor(m_color, Qt::black));
-    showPixmap(m_background.fitted(m_shown.size()));
+    if (image && !isVisible())
+        m_pictureWaits = true;
+    else
+        showPixmap(m_background.fitted(m_shown.size()));
     QApplication::restoreOverrideCursor();
 }
 
@@ -190,6 +193,8 @@ void RubberBandLabel::resizeBand(const QSize& formerSize)
 void RubberBandLabel::showEvent(QShowEvent* event)
 {
     QLabel::showEvent(event);
+    if (m_pictureWaits)
+        showPixmap(m_background.fitted(m_shown.size()));
     if (m_region.top < 0)
         m_band->setGeometry(bandWithoutRegion(labelGeometry()));
     else
@@ -237,6 +242,7 @@ LabelGeometry RubberBandLabel::labelGeometry() const
 
 void RubberBandLabel::showPixmap(const QPixmap& pixmap)
 {
+    m_pictureWaits = false;
     m_shown = pixmap;
     setPixmap(pixmap);
 }

@@ -86,6 +86,7 @@ private:
     QSize m_sensor;
     SensorBackground m_background;
     QPixmap m_shown;                             ///< the pixmap on the label
+    bool m_pictureWaits = false;                 ///< until the label is visible: it is scaled then
     SensorRegion m_region{-1, -1, -1, -1};       ///< a negative width: not set yet
     std::optional<SensorRegion> m_waitingRegion; ///< set during a drag
     BandDragState m_drag;

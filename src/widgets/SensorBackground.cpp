@@ -54,11 +54,40 @@ QImage withMargins(const QImage& image, const QRect& source, const QRect& part, 
     return area;
 }
 
+/// The sensor pixels that are shown.
+QRect shownArea(const QSize& sensor, const QRect& crop)
+{
+    const QRect sensorArea(QPoint(0, 0), sensor);
+    return crop.isEmpty() ? sensorArea : crop.intersected(sensorArea);
+}
+
 /// The pixels of a pixmap without a copy, in a format that needs no colour table.
 QImage pixelsOf(const QPixmap& pixmap)
 {
     const QImage image = pixmap.toImage();
     return image.depth() > 8 ? image : image.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+}
+
+/// The area @p source at @p size, over which it is spread; null when nothing of it is in the image.
+QImage scaledArea(const QPixmap& image, const QRect& source, const QSize& size)
+{
+    const QRect part = source.intersected(QRect(QPoint(0, 0), image.size()));
+    if (part.isEmpty())
+        return {};
+    const QImage pixels = pixelsOf(image);
+    const QImage picture = part == source
+        ? viewOf(pixels, part)
+        : withMargins(pixels, source, part, finerSize(source.size(), size));
+    return picture.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+}
+
+/// @p area in the top left corner.
+QPixmap onBlack(const QImage& area, const QSize& size)
+{
+    QPixmap result(size);
+    result.fill(Qt::black);
+    QPainter(&result).drawImage(0, 0, area);
+    return result;
 }
 
 } // namespace
@@ -83,29 +112,22 @@ QPixmap composeBackground(const QPixmap& image, const QSize& sensor, const QRect
 {
     if (target.isEmpty())
         return {};
-    QPixmap result(target);
-    result.fill(Qt::black);
+    const QRect source = shownArea(sensor, crop);
+    return onBlack(scaledArea(image, source, ::fittedSize(source.size(), target)), target);
+}
 
-    const QRect sensorArea(QPoint(0, 0), sensor);
-    const QRect source = crop.isEmpty() ? sensorArea : crop.intersected(sensorArea);
-    const QRect part = source.intersected(QRect(QPoint(0, 0), image.size()));
-    if (part.isEmpty())
-        return result;
-
-    const QImage pixels = pixelsOf(image);
-    const QSize fitted = fittedSize(source.size(), target);
-    const QImage picture = part == source
-        ? viewOf(pixels, part)
-        : withMargins(pixels, source, part, finerSize(source.size(), fitted));
-    QPainter(&result).drawImage(
-        0, 0, picture.scaled(fitted, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
-    return result;
+QPixmap stretchedBackground(const SensorPicture& picture, const QSize& size)
+{
+    if (size.isEmpty())
+        return {};
+    return onBlack(scaledArea(*picture.image, shownArea(picture.sensor, picture.crop), size), size);
 }
 
 void SensorBackground::setPlaceholder(const QColor& color, const QSize& size)
 {
     m_color = color;
     m_size = size;
+    m_source = {};
     m_picture = {};
 }
 
@@ -114,24 +136,35 @@ void SensorBackground::setColor(const QColor& color)
     setPlaceholder(color, m_size);
 }
 
-void SensorBackground::setPicture(const QPixmap& picture)
+void SensorBackground::setPicture(const SensorPicture& picture, const QSize& size)
 {
-    m_picture = picture;
-    m_size = picture.size();
+    m_source = picture;
+    m_picture = {};
+    m_size = size;
 }
 
-QPixmap SensorBackground::fitted(const QSize& bounds) const
+QPixmap SensorBackground::fitted(const QSize& bounds)
 {
-    if (m_size.isEmpty() || bounds.isEmpty())
+    const QSize size = fittedSize(bounds);
+    if (size.isEmpty())
         return {};
+    if (m_source.image) {
+        m_picture = composeBackground(*m_source.image, m_source.sensor, m_source.crop, m_size);
+        m_source = {};
+    }
     if (!m_picture.isNull())
-        return m_picture.scaled(bounds, Qt::KeepAspectRatio, Qt::SmoothTransformation);
-    QPixmap placeholder(fittedSize(m_size, bounds));
+        return m_picture.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    QPixmap placeholder(size);
     placeholder.fill(m_color);
     return placeholder;
 }
 
-QPixmap SensorBackground::beforeLayout() const
+QSize SensorBackground::fittedSize(const QSize& bounds) const
+{
+    return m_size.isEmpty() || bounds.isEmpty() ? QSize() : ::fittedSize(m_size, bounds);
+}
+
+QPixmap SensorBackground::beforeLayout()
 {
     const bool fits = m_size.boundedTo(largestBeforeLayout) == m_size;
     return fitted(fits ? m_size : largestBeforeLayout);

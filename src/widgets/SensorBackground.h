@@ -6,6 +6,8 @@
 #include <QRect>
 #include <QSize>
 
+#include <memory>
+
 /// Windows 7 and its predecessors paint no translucent placeholder well.
 bool needsOpaquePlaceholder(const QOperatingSystemVersion& system);
 
@@ -22,6 +24,18 @@ QColor placeholderTint(const QColor& color);
 QPixmap composeBackground(const QPixmap& image, const QSize& sensor, const QRect& crop,
                           const QSize& target);
 
+/// A picture in the top left corner of a sensor, of which a part shows: all of it when the part is
+/// empty.
+struct SensorPicture
+{
+    std::shared_ptr<const QPixmap> image;
+    QSize sensor;
+    QRect crop;
+};
+
+/// The same stretched to @p size, whatever its aspect ratio.
+QPixmap stretchedBackground(const SensorPicture& picture, const QSize& size);
+
 /// What a region label shows below its bands: the placeholder of the sensor area, which is no more
 /// than a colour and a size and needs no memory, or a picture.
 class SensorBackground
@@ -31,19 +45,23 @@ public:
     void setPlaceholder(const QColor& color, const QSize& size);
     /// The size stays as it is.
     void setColor(const QColor& color);
-    void setPicture(const QPixmap& picture);
+    /// The picture is composed at @p size when it is first asked for, and kept like that.
+    void setPicture(const SensorPicture& picture, const QSize& size);
 
     QSize size() const { return m_size; }
 
     /// The background fitted into @p bounds, aspect ratio kept; a null pixmap when either is empty.
-    QPixmap fitted(const QSize& bounds) const;
+    QPixmap fitted(const QSize& bounds);
+    /// Its size; an empty one when either is empty.
+    QSize fittedSize(const QSize& bounds) const;
 
     /// The background before a layout has given its label a size: as large as the sensor, but not
     /// larger than a label can be on a screen.
-    QPixmap beforeLayout() const;
+    QPixmap beforeLayout();
 
 private:
     QSize m_size;
     QColor m_color;
-    QPixmap m_picture; ///< null for the placeholder
+    SensorPicture m_source; ///< not composed yet
+    QPixmap m_picture;      ///< null for the placeholder
 };

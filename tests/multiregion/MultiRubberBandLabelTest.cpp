@@ -335,6 +335,19 @@ private slots:
         QCOMPARE(shown.size(), QSize(600, 400));
         QCOMPARE(shown.pixelColor(50, 100), QColor(Qt::white));
         QCOMPARE(shown.pixelColor(50, 300), QColor(Qt::black));
+
+        m_label->setSensorSize({3000, 2000});
+        m_label->hide();
+        image = std::make_shared<QPixmap>(3000, 2000);
+        image->fill(Qt::white);
+        m_label->setBackgroundImage(image, {3000, 2000}, {});
+        m_label->show();
+        for (const QSize& size : {QSize(600, 400), QSize(300, 200)}) {
+            m_label->resize(size);
+            const QImage picture = m_label->pixmap(Qt::ReturnByValue).toImage();
+            QCOMPARE(picture.size(), size);
+            QCOMPARE(picture.pixelColor(size.width() - 1, size.height() - 1), QColor(Qt::white));
+        }
     }
 
     void regionLabels()

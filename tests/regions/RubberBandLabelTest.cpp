@@ -220,6 +220,12 @@ private slots:
         m_label->showBackground(nullptr, {1600, 1200}, {});
         const bool opaque = needsOpaquePlaceholder(QOperatingSystemVersion::current());
         QCOMPARE(shown().pixelColor(200, 150).alpha(), opaque ? 255 : 185);
+
+        m_label->hide();
+        m_label->showBackground(image, {1600, 1200}, {});
+        QVERIFY(shown().pixelColor(200, 150) != QColor(Qt::green));
+        m_label->show();
+        QCOMPARE(shown().pixelColor(200, 150), QColor(Qt::green));
     }
 
 private:
