@@ -3,6 +3,8 @@
 bool matchesFilter(const FeatureInfo& info, const QString& filter)
 {
     const QString wanted = filter.trimmed();
+    if (wanted.isEmpty())
+        return true;
     const auto contains = [&wanted](const std::string& text) {
         return QString::fromStdString(text).contains(wanted, Qt::CaseInsensitive);
     };

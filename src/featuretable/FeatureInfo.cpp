@@ -3,6 +3,31 @@
 #include "features/NumberConversion.h"
 
 #include <cmath>
+#include <tuple>
+
+namespace {
+
+auto membersOf(const FeatureInfo& info)
+{
+    return std::tie(info.value, info.writable, info.minimum, info.maximum, info.increment,
+                    info.enumEntries, info.information, info.readable, info.isRaw, info.isCommand,
+                    info.name, info.displayName, info.description, info.toolTip,
+                    info.representation, info.unit);
+}
+
+} // namespace
+
+bool operator==(const FeatureInfo& left, const FeatureInfo& right)
+{
+    return membersOf(left) == membersOf(right);
+}
+
+const FeatureInfo* recordIn(const QVariant& data)
+{
+    return data.userType() == qMetaTypeId<FeatureInfo>()
+        ? static_cast<const FeatureInfo*>(data.constData())
+        : nullptr;
+}
 
 QVariant toVariant(const FeatureValue& value)
 {

@@ -35,7 +35,12 @@ struct FeatureInfo
     std::optional<FeatureValue> increment;
 };
 
+bool operator==(const FeatureInfo& left, const FeatureInfo& right);
+
 Q_DECLARE_METATYPE(FeatureInfo)
+
+/// The record in a cell's data, which must outlive it; null when there is none.
+const FeatureInfo* recordIn(const QVariant& data);
 
 /// Text as QString, whole numbers as qint64, the others as they are.
 QVariant toVariant(const FeatureValue& value);

@@ -153,9 +153,9 @@ void FeatureItemDelegate::initStyleOption(QStyleOptionViewItem* option,
                                           const QModelIndex& index) const
 {
     QStyledItemDelegate::initStyleOption(option, index);
-    const QVariant info = index.data(Qt::UserRole);
-    if (info.canConvert<FeatureInfo>())
-        option->text = cellText(info.value<FeatureInfo>(), index.data(Qt::DisplayRole));
+    const QVariant data = index.data(Qt::UserRole);
+    if (const FeatureInfo* info = recordIn(data))
+        option->text = cellText(*info, index.data(Qt::DisplayRole));
 }
 
 bool FeatureItemDelegate::eventFilter(QObject* watched, QEvent* event)

@@ -12,17 +12,22 @@ constexpr int readableLightness = 150;
 QSize FeatureNameDelegate::sizeHint(const QStyleOptionViewItem& option,
                                     const QModelIndex& index) const
 {
-    if (m_widestName < 0 || m_measuredFont != option.font) {
-        m_measuredFont = option.font;
-        m_widestName = 0;
-        for (int row = 0; row < index.model()->rowCount(); ++row) {
-            const QModelIndex name = index.siblingAtRow(row);
-            m_widestName
-                = std::max(m_widestName, QStyledItemDelegate::sizeHint(option, name).width());
-        }
+    if (m_heights.size() != index.model()->rowCount() || m_measuredFont != option.font)
+        measure(option, index);
+    return {m_widestName, m_heights.at(index.row())};
+}
+
+void FeatureNameDelegate::measure(const QStyleOptionViewItem& option,
+                                  const QModelIndex& index) const
+{
+    m_measuredFont = option.font;
+    m_widestName = 0;
+    m_heights.clear();
+    for (int row = 0; row < index.model()->rowCount(); ++row) {
+        const QSize size = QStyledItemDelegate::sizeHint(option, index.siblingAtRow(row));
+        m_widestName = std::max(m_widestName, size.width());
+        m_heights.append(size.height());
     }
-    const int height = QStyledItemDelegate::sizeHint(option, index).height();
-    return {m_widestName, height};
 }
 
 void FeatureNameDelegate::initStyleOption(QStyleOptionViewItem* option,

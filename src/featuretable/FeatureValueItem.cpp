@@ -9,10 +9,9 @@ QVariant FeatureValueItem::data(int role) const
 {
     if (role != Qt::AccessibleTextRole)
         return QTableWidgetItem::data(role);
-    const QVariant info = data(Qt::UserRole);
-    if (!info.canConvert<FeatureInfo>())
-        return data(Qt::DisplayRole);
-    return accessibleCellText(info.value<FeatureInfo>(), data(Qt::DisplayRole));
+    const QVariant record = data(Qt::UserRole);
+    const FeatureInfo* info = recordIn(record);
+    return info ? accessibleCellText(*info, data(Qt::DisplayRole)) : data(Qt::DisplayRole);
 }
 
 void FeatureValueItem::setData(int role, const QVariant& value)

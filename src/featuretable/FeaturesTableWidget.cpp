@@ -41,14 +41,16 @@ private:
     const bool m_before;
 };
 
-void setEditable(QTableWidgetItem& item, bool editable)
-{
-    item.setFlags(item.flags().setFlag(Qt::ItemIsEditable, editable));
-}
-
 bool isEditable(const QTableWidgetItem& item)
 {
     return item.flags().testFlag(Qt::ItemIsEditable);
+}
+
+/// Flags that are set count as changed, whatever they were.
+void setEditable(QTableWidgetItem& item, bool editable)
+{
+    if (isEditable(item) != editable)
+        item.setFlags(item.flags().setFlag(Qt::ItemIsEditable, editable));
 }
 
 } // namespace
@@ -61,6 +63,9 @@ FeaturesTableWidget::FeaturesTableWidget(const QStringList& features, FeatureMan
     , m_delegate(new FeatureItemDelegate(m_table))
 {
     qRegisterMetaType<FeatureInfo>("FeatureInfo");
+    // Else every record that is stored counts as changed.
+    if (!QMetaType::hasRegisteredComparators<FeatureInfo>())
+        QMetaType::registerEqualsComparator<FeatureInfo>();
     m_table->setObjectName(QStringLiteral("tblFeatures"));
     auto* column = new QVBoxLayout;
     column->setContentsMargins(2, 2, 2, 2);
@@ -109,7 +114,10 @@ void FeaturesTableWidget::setFilter(const QString& filter)
 {
     const UpdatesSuspended suspended(*m_table);
     for (int row = 0; row < m_table->rowCount(); ++row) {
-        const bool hidden = !matchesFilter(featureInfo(row), filter);
+        const QTableWidgetItem* item = m_table->item(row, ValueColumn);
+        const QVariant record = item ? item->data(Qt::UserRole) : QVariant();
+        const FeatureInfo* info = recordIn(record);
+        const bool hidden = !matchesFilter(info ? *info : FeatureInfo(), filter);
         if (m_table->isRowHidden(row) != hidden)
             m_table->setRowHidden(row, hidden);
     }
