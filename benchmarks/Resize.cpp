@@ -4,6 +4,7 @@
 #include "regions/RubberBandLabel.h"
 
 #include <QApplication>
+#include <QLabel>
 
 // A window edge pulled to and fro: every size is painted.
 
@@ -69,6 +70,21 @@ Work scaling(const QSize& kept)
     };
 }
 
+/// The same and a bare label that shows it: what is added is Qt's and the window system's.
+Work showing()
+{
+    auto* label = new QLabel;
+    label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    const auto resized = std::make_shared<ResizedLabel>(label);
+    const QPixmap background = Screen::testPicture(sensor).scaled(sizeAt(50), Qt::KeepAspectRatio,
+                                                                  Qt::SmoothTransformation);
+    return [=, step = 0]() mutable {
+        label->setPixmap(
+            background.scaled(sizeAt(step++), Qt::KeepAspectRatio, Qt::SmoothTransformation));
+        resized->step();
+    };
+}
+
 } // namespace
 
 void addResizeRows()
@@ -78,6 +94,11 @@ void addResizeRows()
         const auto label = regionLabel();
         return {[label] { label->step(); }, scaling(sizeAt(50))};
     });
+    addComparison("resize/region/shown", "QPixmap::scaled and a bare QLabel", std::nullopt,
+                  {resizes, 10}, []() -> Contest {
+                      const auto label = regionLabel();
+                      return {[label] { label->step(); }, showing()};
+                  });
     addComparison("resize/regions", "QPixmap::scaled", 1.2, {resizes, 10}, []() -> Contest {
         const auto label = regionsLabel();
         return {[label] { label->step(); }, scaling({2048, 2048})};

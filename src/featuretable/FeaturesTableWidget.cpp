@@ -64,7 +64,8 @@ FeaturesTableWidget::FeaturesTableWidget(const QStringList& features, FeatureMan
 {
     qRegisterMetaType<FeatureInfo>("FeatureInfo");
     // Else every record that is stored counts as changed.
-    QMetaType::registerEqualsComparator<FeatureInfo>();
+    if (!QMetaType::hasRegisteredComparators<FeatureInfo>())
+        QMetaType::registerEqualsComparator<FeatureInfo>();
     m_table->setObjectName(QStringLiteral("tblFeatures"));
     auto* column = new QVBoxLayout;
     column->setContentsMargins(2, 2, 2, 2);
@@ -262,8 +263,7 @@ QString FeaturesTableWidget::nameToolTip(const QString& name, const QStringList&
     if (!name.contains(QLatin1String("Selector")))
         return name;
     QString selected;
-    const QStringList selectedNames = m_manager->GetSelectedFeatureNames(name);
-    for (const QString& feature : selectedNames) {
+    for (const QString& feature : m_manager->GetSelectedFeatureNames(name)) {
         if (features.contains(feature))
             selected += QLatin1String("<br>") + feature;
     }

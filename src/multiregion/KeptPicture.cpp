@@ -1,8 +1,21 @@
 #include "KeptPicture.h"
 
-KeptPicture::KeptPicture(const SensorPicture& picture, const QSize& keptSize)
+namespace {
+
+constexpr QSize largestCopy(2048, 2048); ///< as much as a label can show
+
+QSize sizeOfCopy(const QSize& area)
+{
+    const bool fits = area.boundedTo(largestCopy) == area;
+    return fits ? area : area.scaled(largestCopy, Qt::KeepAspectRatio);
+}
+
+} // namespace
+
+KeptPicture::KeptPicture(const SensorPicture& picture, const QSize& area)
     : m_source(picture)
-    , m_keptSize(keptSize)
+    , m_fillsArea(picture.crop.isEmpty() && picture.sensor == area)
+    , m_keptSize(sizeOfCopy(area))
 {
 }
 
@@ -13,15 +26,18 @@ QPixmap KeptPicture::scaled(const QSize& size)
         return stretchedBackground(m_source, size);
     }
     if (m_kept.isNull()) {
-        m_kept = composeBackground(*m_source.image, m_source.sensor, m_source.crop, m_keptSize);
+        // Another aspect ratio than the area's leaves black beside the picture.
+        m_kept = m_fillsArea
+            ? stretchedBackground(m_source, m_keptSize)
+            : composeBackground(*m_source.image, m_source.sensor, m_source.crop, m_keptSize);
         m_source.image.reset();
     }
     return m_kept.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
 }
 
-// A part of the sensor may have another aspect ratio, and black beside it then.
+// A sensor that is kept whole loses nothing by the copy.
 bool KeptPicture::isScaledDirectly(const QSize& size) const
 {
-    return m_kept.isNull() && m_source.crop.isEmpty() && m_keptSize != m_source.sensor
+    return m_kept.isNull() && m_fillsArea && m_keptSize != m_source.sensor
         && (m_firstSize.isEmpty() || size == m_firstSize);
 }

@@ -8,8 +8,8 @@ class KeptPicture
 {
 public:
     KeptPicture() = default;
-    /// @param keptSize that of the copy; the sensor's when nothing is lost by it
-    KeptPicture(const SensorPicture& picture, const QSize& keptSize);
+    /// @param area the sensor that the label shows
+    KeptPicture(const SensorPicture& picture, const QSize& area);
 
     bool isNull() const { return !m_source.image && m_kept.isNull(); }
 
@@ -20,6 +20,7 @@ private:
     bool isScaledDirectly(const QSize& size) const;
 
     SensorPicture m_source; ///< until there is the copy
+    bool m_fillsArea = false;
     QSize m_keptSize;
     QSize m_firstSize;
     QPixmap m_kept;

@@ -16,7 +16,6 @@ namespace {
 
 constexpr int minimumSide = 100; ///< label pixels
 constexpr QSize preferredSize(400, 300);
-constexpr QSize largestPicture(2048, 2048); ///< as much as a label can show
 constexpr double smallestFactor = 1e-5;
 
 QColor placeholderColor(const QColor& color)
@@ -181,12 +180,8 @@ void MultiRubberBandLabel::setBackgroundImage(std::shared_ptr<QPixmap> image, QS
                                               QRect cropRect)
 {
     m_picture = {};
-    if (image && !image->isNull()) {
-        const bool fits = m_mapping.sensor.boundedTo(largestPicture) == m_mapping.sensor;
-        const QSize size = fits ? m_mapping.sensor
-                                : m_mapping.sensor.scaled(largestPicture, Qt::KeepAspectRatio);
-        m_picture = KeptPicture({image, sensorSize, cropRect}, size);
-    }
+    if (image && !image->isNull())
+        m_picture = KeptPicture({image, sensorSize, cropRect}, m_mapping.sensor);
     fitBackground();
     arrange();
 }

@@ -8,6 +8,7 @@
 #include "featuretable/MyTableWidget.h"
 
 #include <QComboBox>
+#include <QHeaderView>
 #include <QLineEdit>
 #include <QScrollBar>
 #include <QSpinBox>
@@ -186,6 +187,34 @@ class FeaturesTableWidgetTest : public QObject
 private slots:
     /// A decimal comma must not get in the way anywhere.
     void initTestCase() { QLocale::setDefault(QLocale(QLocale::German)); }
+
+    void gridIsQts_data()
+    {
+        QTest::addColumn<int>("rows");
+        QTest::addColumn<Qt::LayoutDirection>("direction");
+        QTest::newRow("more than fit") << 40 << Qt::LeftToRight;
+        QTest::newRow("few") << 4 << Qt::LeftToRight;
+        QTest::newRow("right to left") << 40 << Qt::RightToLeft;
+    }
+
+    void gridIsQts()
+    {
+        QFETCH(int, rows);
+        QFETCH(Qt::LayoutDirection, direction);
+        QTableWidget plain;
+        MyTableWidget ours(nullptr);
+        const auto picture = [=](QTableWidget& table) {
+            table.setLayoutDirection(direction);
+            table.setColumnCount(2);
+            table.setRowCount(rows);
+            table.setRowHidden(rows / 4, true);
+            table.horizontalHeader()->setStretchLastSection(true);
+            table.resize(300, 200);
+            table.verticalScrollBar()->setValue(5);
+            return table.grab().toImage();
+        };
+        QCOMPARE(picture(ours), picture(plain));
+    }
 
     void fillsTheRows()
     {

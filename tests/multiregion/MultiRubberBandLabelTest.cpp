@@ -357,16 +357,17 @@ private slots:
         QCOMPARE(shown.pixelColor(50, 100), QColor(Qt::white));
         QCOMPARE(shown.pixelColor(50, 300), QColor(Qt::black));
 
+        m_label->setSensorSize({3000, 2000});
         m_label->hide();
-        m_label->setBackgroundImage(image, {100, 100}, {});
+        image = std::make_shared<QPixmap>(3000, 2000);
+        image->fill(Qt::white);
+        m_label->setBackgroundImage(image, {3000, 2000}, {});
         m_label->show();
         for (const QSize& size : {QSize(600, 400), QSize(300, 200)}) {
             m_label->resize(size);
-            QCOMPARE(m_label->pixmap(Qt::ReturnByValue).size(), size);
-            const QColor corner = m_label->pixmap(Qt::ReturnByValue)
-                                      .toImage()
-                                      .pixelColor(size.width() - 1, size.height() - 1);
-            QCOMPARE(corner, QColor(Qt::white));
+            const QImage picture = m_label->pixmap(Qt::ReturnByValue).toImage();
+            QCOMPARE(picture.size(), size);
+            QCOMPARE(picture.pixelColor(size.width() - 1, size.height() - 1), QColor(Qt::white));
         }
     }
 
