@@ -112,12 +112,15 @@ QString FeaturesTableWidget::editedFeature() const
 
 void FeaturesTableWidget::setFilter(const QString& filter)
 {
-    const UpdatesSuspended suspended(*m_table);
+    // Not the table itself, which would paint its frame as well.
+    const UpdatesSuspended cells(*m_table->viewport());
+    const UpdatesSuspended header(*m_table->verticalHeader());
+    const FeatureInfo none;
     for (int row = 0; row < m_table->rowCount(); ++row) {
         const QTableWidgetItem* item = m_table->item(row, ValueColumn);
         const QVariant record = item ? item->data(Qt::UserRole) : QVariant();
         const FeatureInfo* info = recordIn(record);
-        const bool hidden = !matchesFilter(info ? *info : FeatureInfo(), filter);
+        const bool hidden = !matchesFilter(info ? *info : none, filter);
         if (m_table->isRowHidden(row) != hidden)
             m_table->setRowHidden(row, hidden);
     }
