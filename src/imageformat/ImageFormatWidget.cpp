@@ -63,7 +63,7 @@ void showRange(QSpinBox* spinBox, FeatureManager& manager, const QString& featur
     spinBox->setValue(toInt(value));
 }
 
-/// Shows range, value and access by one look-up; a missing feature leaves the box as it is.
+/// Shows range, value and access by one look-up; without the feature the box keeps what it shows.
 void updateSpinBox(QSpinBox* spinBox, FeatureManager& manager, const QString& featureName)
 {
     constexpr double untouched = std::numeric_limits<double>::quiet_NaN();
@@ -73,11 +73,11 @@ void updateSpinBox(QSpinBox* spinBox, FeatureManager& manager, const QString& fe
     double increment = untouched;
     const double value
         = manager.GetValueState(featureName, isWritable, minimum, maximum, increment);
+    spinBox->setEnabled(isWritable);
     if (std::isnan(minimum) && std::isnan(maximum) && std::isnan(increment))
         return;
     spinBox->setRange(toInt(minimum), toInt(maximum));
     spinBox->setValue(toInt(value));
-    spinBox->setEnabled(isWritable);
 }
 
 } // namespace
@@ -240,7 +240,11 @@ void ImageFormatWidget::bindCheckBoxes()
 void ImageFormatWidget::bindCheckBox(QCheckBox* checkBox, const QString& featureName)
 {
     observedFeatures.append(featureName);
-    checkBox->setChecked(featureManager->GetValue(featureName) != 0.0);
+    {
+        // The page of multiple regions writes what is toggled.
+        const QSignalBlocker blocker(checkBox);
+        checkBox->setChecked(featureManager->GetValue(featureName) != 0.0);
+    }
     checkBox->setEnabled(featureManager->IsFeatureWritable(featureName));
     connect(checkBox, &QCheckBox::stateChanged, this, &ImageFormatWidget::OnChangeCheckbox);
 }
@@ -294,10 +298,7 @@ void ImageFormatWidget::OnChangeComboboxSelection(const QString& currentText)
         return;
     const QString featureName = boundFeatureName(comboBox->objectName());
     const QSignalBlocker blocker(comboBox);
-    // What is no entry selects nothing, as when the box is filled.
-    const QString present = featureManager->SetStringValue(featureName, currentText);
-    comboBox->setCurrentIndex(
-        comboBox->findText(present, Qt::MatchExactly | Qt::MatchCaseSensitive));
+    comboBox->setCurrentText(featureManager->SetStringValue(featureName, currentText));
 }
 
 void ImageFormatWidget::OnChangeCheckbox(int state)
@@ -366,8 +367,10 @@ void ImageFormatWidget::updateField(QWidget* field, const QString& featureName)
         updateSpinBox(static_cast<QSpinBox*>(field), *featureManager, featureName);
         return;
     }
-    if (!featureManager->HasFeature(featureName))
+    if (!featureManager->HasFeature(featureName)) {
+        field->setEnabled(false);
         return;
+    }
     if (hasExactClass(field, "QComboBox"))
         fillComboBox(featureName, static_cast<QComboBox*>(field), true);
     else

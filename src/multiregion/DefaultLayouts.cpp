@@ -70,8 +70,6 @@ Regions stripLayout(const LayoutRequest& request, int count, Qt::Orientation axi
     for (int region = 0; region < count; ++region) {
         const QRect rect = horizontal ? truncatedRect(start, margin, length, thickness)
                                       : truncatedRect(margin, start, thickness, length);
-        if (rect.isEmpty())
-            return {};
         regions.insert(region, rect);
         start = lastPixel(rect, axis) + spacing;
     }
@@ -100,8 +98,6 @@ Regions tileLayout(const LayoutRequest& request, int count)
         const QRect left = truncatedRect(marginX, y, width, height);
         const double x = lastPixel(left, Qt::Horizontal) + 2.0 * marginX;
         const QRect right = truncatedRect(x, y, width, height);
-        if (left.isEmpty() || right.isEmpty())
-            return {};
         regions.insert(region, left);
         regions.insert(region + 1, right);
         y = lastPixel(right, Qt::Vertical) + 2.0 * marginY;

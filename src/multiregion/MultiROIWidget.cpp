@@ -254,6 +254,8 @@ void MultiROIWidget::saveNewRegionGeometry(int regionNo, QRect regionRect)
     const QPointer<MultiROIWidget> page(this);
     if (!select(regionNo)) {
         refreshAllRegions();
+        if (page)
+            emit currentRegionChanged(regionNo);
         return;
     }
     const QSize own = m_regions.geometry().size();
@@ -302,8 +304,12 @@ void MultiROIWidget::camIsStreaming(bool streaming)
 
 void MultiROIWidget::setSubRegionSelector(int regionNo)
 {
-    if (!isRegion(regionNo))
+    if (!m_label || regionNo < 0) // no tab is left
         return;
+    if (!isRegion(regionNo)) {
+        select(regionNo); // whether there is such a region is for the camera to say
+        return;
+    }
     m_label->selectRegion(regionNo);
     if (select(regionNo) && !m_loading)
         m_tabs[static_cast<std::size_t>(regionNo)].table->refresh();
@@ -423,5 +429,6 @@ void MultiROIWidget::onPaletteChanged(QEvent*) { }
 void MultiROIWidget::onEnableToggled(bool enabled)
 {
     featureManager->SetValue(Name::enable, Name::otherEnable, enabled ? 1.0 : 0.0);
+    m_enabled.reset(); // a refused switch is told too
     refreshSwitch();
 }

@@ -153,7 +153,7 @@ private:
     std::vector<RegionTab> m_tabs;
     bool m_streaming = false;
     bool m_loading = false;
-    bool m_enabled = false;
+    std::optional<bool> m_enabled = false; ///< as it was last told
     std::shared_ptr<QMutex> m_loadLock = std::make_shared<QMutex>();
     QMutex m_selectorLock;
 

@@ -45,6 +45,8 @@ MultiRubberBandLabel::MultiRubberBandLabel(int sensorWidth, int sensorHeight, co
     setMinimumSize(minimumSide, minimumSide);
     m_placeholder.setPlaceholder(placeholderColor(color), m_mapping.sensor);
     showBackground(m_placeholder.beforeLayout());
+    // The first resize tells its factors from the sensor's size, however large a pixmap it found.
+    m_mapping.shown = m_mapping.sensor;
     // Bands count from the left in right-to-left layouts too.
     setLayoutDirection(Qt::LeftToRight);
     setAlignment(Qt::AlignTop);

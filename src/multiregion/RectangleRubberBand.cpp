@@ -91,10 +91,12 @@ void RectangleRubberBand::dropDrag()
     m_grab = RegionBandGrab::Move;
 }
 
-void RectangleRubberBand::onResizeFinished(QPoint)
+void RectangleRubberBand::onResizeFinished(QPoint point)
 {
-    // The press point follows the pointer: only the geometry tells whether a move led anywhere.
-    const bool report = m_grab != RegionBandGrab::Move || (isPressed() && geometry() != m_atPress);
+    // The press point follows the pointer, and a release mostly comes where the last move ended:
+    // then the geometry tells whether the drag led anywhere.
+    const bool isMoved = isPressed() && (point != m_pressPoint || geometry() != m_atPress);
+    const bool report = m_grab != RegionBandGrab::Move || isMoved;
     dropDrag();
     if (report)
         emit geometryChanged(m_regionNo, geometry());

@@ -31,6 +31,7 @@ RegionLabelWidget::RegionLabelWidget(int regionNo, const QRect& regionRect, cons
     m_ui->setupUi(this);
     setRegionGeometry(regionRect);
     updateColor(m_regionNo, color);
+    m_ui->lbl_Size->adjustSize();
     adjustSize();
     // The hint asks the labels for their widths.
     layout()->activate();

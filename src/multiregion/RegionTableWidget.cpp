@@ -5,21 +5,9 @@
 #include "TableConstraints.h"
 #include "features/FeatureManager.h"
 
-#include <QDebug>
 #include <QPointer>
 
 namespace Name = MultiRegionNames;
-
-namespace {
-
-QString textOf(const QVariant& data)
-{
-    QString text;
-    QDebug(&text) << data;
-    return text.trimmed();
-}
-
-} // namespace
 
 RegionTableWidget::RegionTableWidget(int regionNo, MultiROIWidget* page,
                                      const QStringList& features, QWidget* parent)
@@ -46,7 +34,7 @@ void RegionTableWidget::onDataChanged(const QModelIndex& topLeft, const QModelIn
     if (!record.canConvert<FeatureInfo>()) {
         emit loggingMessage(ZebViewerLogMultiRegion,
                             tr("tblFeatures.data(%1) cannot be converted to FeatureInfo: %2")
-                                .arg(QString::number(topLeft.row()), textOf(record)));
+                                .arg(QString::number(topLeft.row()), record.toString()));
         return;
     }
     const QString name = QString::fromStdString(record.value<FeatureInfo>().name);

@@ -28,14 +28,15 @@ void AutoExposureEditor::load()
 
 void AutoExposureEditor::load(const Limit& limit)
 {
+    const QSignalBlocker blocker(limit.field);
+    // Also without the feature: the other limit's writes go by the decimals shown here.
+    limit.field->setDecimals(m_manager.IsFloatFeature(limit.featureName) ? 2 : 0);
     if (!m_manager.HasFeature(limit.featureName))
         return;
     double minimum = 0.0;
     double maximum = 0.0;
     double increment = 1.0;
     const double value = m_manager.GetValueRange(limit.featureName, minimum, maximum, increment);
-    const QSignalBlocker blocker(limit.field);
-    limit.field->setDecimals(m_manager.IsFloatFeature(limit.featureName) ? 2 : 0);
     limit.field->setSingleStep(std::max(1.0, increment));
     showRangeAndValue(limit.field, minimum, maximum, value);
 }

@@ -86,10 +86,8 @@ bool RegionAxis::refreshOffset(QDoubleSpinBox* stepField)
                       m_manager.GetStringValue(QStringLiteral("PixelFormat")))) {
         value = m_manager.GetValueRange(m_names.offset, range.minimum, range.maximum,
                                         range.increment);
-        if (range.increment >= 0.0) {
-            range = evenOffsetRange(range);
-            stepField->setSingleStep(range.increment);
-        }
+        range = evenOffsetRange(range);
+        stepField->setSingleStep(range.increment);
     } else {
         value = m_manager.GetValueLimits(m_names.offset, range.minimum, range.maximum);
     }

@@ -168,6 +168,13 @@ private slots:
                 r.width.minimum = 480;
             }),
             {{20, 10, 460, 780}, {519, 10, 460, 780}});
+        // The camera makes its minimum of it.
+        row("margins leave no width", "Tile", with([](auto& r) {
+                r.regionCount = 2;
+                r.sensorWidth = 640;
+                r.width.increment = 32;
+            }),
+            {{160, 10, 0, 780}, {479, 10, 0, 780}});
         row("no sensor", "Tile", with([](auto& r) { r.sensorWidth = r.sensorHeight = 0; }), {});
         row("four", "Diagonal", plain, {});
     }

@@ -285,6 +285,17 @@ private slots:
         QVERIFY(open.log.contains("Set 'SubRegionSelector' = 'Region1' failed!"));
         QVERIFY(
             open.log.contains("SubRegion: 1, Saving feature 'SubRegionMode' to value=Off failed."));
+        open.camera->failures().clear();
+        open.page->setSubRegionSelector(4711);
+        QVERIFY(open.log.contains("Set 'SubRegionSelector' = 'Region4711' failed!"));
+
+        auto* const enable = open.page->findChild<QCheckBox*>("chkMultipleRegionEnable");
+        open.camera->failures().add("MultipleRegionEnable", sim::Operation::SetValue,
+                                    sim::Failure::refuse());
+        QSignalSpy told(open.page.get(), &MultiROIWidget::multipleRegionsEnabled);
+        const bool isOn = enable->isChecked();
+        enable->setChecked(!isOn);
+        QCOMPARE(told.value(0), QVariantList{isOn});
     }
 
     /// Cameras that notify of each registration, and late, keep no page busy.
