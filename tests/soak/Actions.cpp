@@ -117,7 +117,7 @@ void editCell(Session& session)
     const QPointer<QWidget> editor = QApplication::focusWidget();
     if (!table || !editor || editor == table || !table->isAncestorOf(editor))
         return;
-    if (random.oneIn(12)) {
+    if (random.oneIn(6)) {
         session.closePage(Report::WithEditor);
         return;
     }
@@ -208,7 +208,7 @@ void distortCamera(Session& session)
 
 void burst(Session& session)
 {
-    session.burst(session.random.oneIn(8) ? 100000 : 500);
+    session.burst(session.random.oneIn(3));
 }
 
 void loseCamera(Session& session)

@@ -91,6 +91,16 @@ const std::string& Misbehaviour::anyFeature()
     return m_random.pick(m_names);
 }
 
+std::string Misbehaviour::anyObservedFeature()
+{
+    std::vector<std::string> observed;
+    for (const std::string& name : m_names) {
+        if (m_camera.observerCount(name) > 0)
+            observed.push_back(name);
+    }
+    return observed.empty() ? std::string() : m_random.pick(observed);
+}
+
 void Misbehaviour::refuseWrites()
 {
     m_camera.failures().add(FailureInjector::anyFeature, Operations::writes(), Failure::refuse(),

@@ -24,6 +24,8 @@ public:
     void writeFromOutside();
 
     const std::string& anyFeature();
+    /// Empty when the page observes nothing now.
+    std::string anyObservedFeature();
 
 private:
     void distortNumbers(const std::string& name);

@@ -41,6 +41,7 @@ void Report::print() const
                  .arg(QLatin1String(translationNames[kind])),
              translations[kind]);
     line(QStringLiteral("notifications"), notifications);
+    line(QStringLiteral("bursts of 100 000 from each of four threads"), largeBursts);
     line(QStringLiteral("pages opened"), opened);
     line(QStringLiteral("pages refused"), refused);
     line(QStringLiteral("pages destroyed"),

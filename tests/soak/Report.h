@@ -28,6 +28,7 @@ struct Report
     std::uint64_t actions = 0;
     std::uint64_t sdkCalls = 0;
     std::uint64_t notifications = 0;
+    std::uint64_t largeBursts = 0;
     std::array<std::uint64_t, sim::Failure::kindCount> failures{};
     std::uint64_t lostCameras = 0;
     std::int64_t slowestLostClose = 0; ///< milliseconds

@@ -271,12 +271,14 @@ void Session::loseCamera()
     m_camera->lose(lostCallTime);
 }
 
-void Session::burst(int count)
+void Session::burst(bool isLarge)
 {
-    if (!m_hasThreads || m_crowd.joinable())
+    const std::string name = m_misbehaviour->anyObservedFeature();
+    if (!m_hasThreads || m_crowd.joinable() || name.empty())
         return;
-    m_crowd = std::thread(
-        [this, count, name = m_misbehaviour->anyFeature()] { m_camera->burst(name, count, 4); });
+    const int count = isLarge ? 100000 : 500;
+    m_run.report.largeBursts += isLarge ? 1 : 0;
+    m_crowd = std::thread([this, count, name] { m_camera->burst(name, count, 4); });
 }
 
 QStringList Session::takeWrites(const QStringList& ignored)

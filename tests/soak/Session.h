@@ -58,7 +58,7 @@ public:
     void closePage(Report::Ending ending);
     void loseCamera();
     /// Notifies from four threads of another's making; a session without threads does nothing.
-    void burst(int count);
+    void burst(bool isLarge);
     /// What the module wrote since the last call, but for @p ignored; names and values.
     QStringList takeWrites(const QStringList& ignored = {});
     void find(const QString& text);
