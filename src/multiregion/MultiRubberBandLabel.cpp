@@ -129,7 +129,8 @@ void MultiRubberBandLabel::announceRegions()
         arrange();
         return;
     }
-    for (const int region : m_bands.keys())
+    const QList<int> shown = m_bands.keys();
+    for (const int region : shown)
         emit regionColorChanged(region, shownColor(region));
     announceConstraints();
     updateRegionRangeRect();
@@ -173,7 +174,8 @@ void MultiRubberBandLabel::updateRegionRangeRect()
 {
     if (signalsBlocked())
         return;
-    for (const int region : m_bands.keys())
+    const QList<int> shown = m_bands.keys();
+    for (const int region : shown)
         m_announcements.announceRange(
             region, rangeBetweenNeighbours(m_regions, m_mode, m_groups, m_mapping.sensor, region));
 }
@@ -262,6 +264,7 @@ void MultiRubberBandLabel::showBackground(const QPixmap& pixmap)
     if (!pixmap.isNull())
         m_mapping.shown = pixmap.size();
     setPixmap(pixmap);
+    coverWithPicture(this, pixmap);
 }
 
 void MultiRubberBandLabel::showRectangle(int regionNo)

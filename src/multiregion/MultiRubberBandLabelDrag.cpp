@@ -15,6 +15,8 @@ bool MultiRubberBandLabel::event(QEvent* event)
     const bool handled = QLabel::event(event);
     if (event->type() == QEvent::UngrabMouse || event->type() == QEvent::WindowDeactivate)
         dropDrag();
+    if (isCoverChange(event))
+        coverWithPicture(this, pixmap(Qt::ReturnByValue));
     return handled;
 }
 

@@ -103,6 +103,8 @@ bool RubberBandLabel::event(QEvent* event)
     const bool handled = QLabel::event(event);
     if (event->type() == QEvent::UngrabMouse || event->type() == QEvent::WindowDeactivate)
         abortDrag();
+    if (isCoverChange(event))
+        coverWithPicture(this, m_shown);
     return handled;
 }
 
@@ -245,6 +247,7 @@ void RubberBandLabel::showPixmap(const QPixmap& pixmap)
     m_pictureWaits = false;
     m_shown = pixmap;
     setPixmap(pixmap);
+    coverWithPicture(this, pixmap);
 }
 
 void RubberBandLabel::placeBand()

@@ -1,6 +1,8 @@
 #include "SensorBackground.h"
 
+#include <QEvent>
 #include <QImage>
+#include <QLabel>
 #include <QPainter>
 #include <QtMath>
 
@@ -121,6 +123,20 @@ QPixmap stretchedBackground(const SensorPicture& picture, const QSize& size)
     if (size.isEmpty())
         return {};
     return onBlack(scaledArea(*picture.image, shownArea(picture.sensor, picture.crop), size), size);
+}
+
+void coverWithPicture(QLabel* label, const QPixmap& picture)
+{
+    // A disabled label paints its picture paler, and what is in the margins is not the picture.
+    const bool isPlain = label->isEnabled() && label->contentsRect() == label->rect();
+    label->setAttribute(Qt::WA_OpaquePaintEvent,
+                        isPlain && picture.size() == label->size() && !picture.hasAlphaChannel());
+}
+
+bool isCoverChange(const QEvent* event)
+{
+    return event->type() == QEvent::EnabledChange || event->type() == QEvent::ContentsRectChange
+        || event->type() == QEvent::Resize;
 }
 
 void SensorBackground::setPlaceholder(const QColor& color, const QSize& size)

@@ -8,6 +8,9 @@
 
 #include <memory>
 
+class QEvent;
+class QLabel;
+
 /// Windows 7 and its predecessors paint no translucent placeholder well.
 bool needsOpaquePlaceholder(const QOperatingSystemVersion& system);
 
@@ -35,6 +38,11 @@ struct SensorPicture
 
 /// The same stretched to @p size, whatever its aspect ratio.
 QPixmap stretchedBackground(const SensorPicture& picture, const QSize& size);
+
+/// Spares Qt the painting of what lies beneath @p label, as long as its @p picture hides all of it.
+/// To be called when either changes, and on what isCoverChange() tells.
+void coverWithPicture(QLabel* label, const QPixmap& picture);
+bool isCoverChange(const QEvent* event);
 
 /// What a region label shows below its bands: the placeholder of the sensor area, which is no more
 /// than a colour and a size and needs no memory, or a picture.

@@ -1,10 +1,16 @@
 #include "widgets/SensorBackground.h"
 #include "DataTable.h"
 #include "Pictures.h"
+#include "multiregion/MultiRubberBandLabel.h"
+#include "regions/RubberBandLabel.h"
 
 #include <QBitmap>
 #include <QPainter>
 #include <QtTest>
+
+#include <functional>
+
+Q_DECLARE_METATYPE(std::function<void(QLabel*)>)
 
 namespace {
 
@@ -108,6 +114,43 @@ private slots:
         QVERIFY(composeBackground(picture({8, 8}), {}, {}, {}).isNull());
         QCOMPARE(composeBackground({}, {8, 8}, {}, {8, 8}).toImage().pixelColor(4, 4),
                  QColor(Qt::black));
+    }
+
+    void labelsHideOnlyWhatTheyPaint_data()
+    {
+        using Change = std::function<void(QLabel*)>;
+        const DataTable<Change, bool> table{"change", "hides"};
+        table.row(
+            "as it is", [](QLabel*) {}, true);
+        table.row(
+            "resized", [](QLabel* label) { label->resize(400, 300); }, true);
+        table.row(
+            "wider than the picture", [](QLabel* label) { label->resize(300, 150); }, false);
+        table.row(
+            "disabled", [](QLabel* label) { label->setEnabled(false); }, false);
+        table.row(
+            "margins", [](QLabel* label) { label->setContentsMargins(0, 9, 0, 0); }, false);
+    }
+
+    void labelsHideOnlyWhatTheyPaint()
+    {
+        QFETCH(std::function<void(QLabel*)>, change);
+        const QSize sensor(640, 480);
+        RubberBandLabel one(sensor.width(), sensor.height(), Qt::blue, nullptr);
+        MultiRubberBandLabel several(sensor.width(), sensor.height(), Qt::blue, "Free", nullptr);
+        for (QLabel* const label : {static_cast<QLabel*>(&one), static_cast<QLabel*>(&several)}) {
+            label->resize(200, 150);
+            label->show();
+            QVERIFY(
+                !label->testAttribute(Qt::WA_OpaquePaintEvent)); // the placeholder is translucent
+        }
+        QApplication::setOverrideCursor(Qt::WaitCursor); // which the label takes back
+        one.showBackground(std::make_shared<QPixmap>(picture(sensor)), sensor, {});
+        several.setBackgroundImage(std::make_shared<QPixmap>(picture(sensor)), sensor, {});
+        for (QLabel* const label : {static_cast<QLabel*>(&one), static_cast<QLabel*>(&several)}) {
+            change(label);
+            QTEST(label->testAttribute(Qt::WA_OpaquePaintEvent), "hides");
+        }
     }
 
     void knowsOldWindows()
