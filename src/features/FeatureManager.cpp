@@ -7,6 +7,8 @@
 
 #include <QDebug>
 
+#include <algorithm>
+
 using FeatureReading::missingNumber;
 using FeatureReading::NumberState;
 using FeatureReading::readFlag;
@@ -16,7 +18,14 @@ namespace {
 
 constexpr std::size_t usualNameLength = 63; ///< longer names cost an allocation
 
+/// From the end, byte by byte: a camera's names begin alike, and wider reads of what was just
+/// written would wait for it.
+bool isSameName(const std::string& name, const std::string& other)
+{
+    return name.size() == other.size() && std::equal(name.rbegin(), name.rend(), other.rbegin());
 }
+
+} // namespace
 
 FeatureManager::FeatureManager(const Wrappers& features)
     : m_features(features)
@@ -35,7 +44,7 @@ ZebFeatureWrapperPtr FeatureManager::find(const QString& name) const
     std::string candidate;
     candidate.reserve(usualNameLength);
     for (const ZebFeatureWrapperPtr& feature : features) {
-        if (feature && feature->GetName(candidate) == Sdk::success && candidate == wanted)
+        if (feature && feature->GetName(candidate) == Sdk::success && isSameName(candidate, wanted))
             return feature;
     }
     return {};
