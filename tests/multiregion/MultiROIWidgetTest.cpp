@@ -368,7 +368,7 @@ private slots:
         for (int step = 0; step < 90; ++step) {
             const int action = random.bounded(12);
             const int region = random.bounded(4);
-            const QString feature = geometry[random.bounded(4)];
+            const QString& feature = geometry[random.bounded(4)];
             const bool wasInLine = outOfLine(open).isEmpty();
             bool mayLeaveLine = false;
             if (action == 0) {
