@@ -13,6 +13,7 @@
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSpinBox>
+#include <QTimer>
 
 namespace {
 
@@ -173,6 +174,23 @@ private slots:
         QCOMPARE(images.size(), 0);
         QVERIFY(!reverse->isChecked());
         QVERIFY(!p.binning()->isEnabled()); // what is not there cannot be written
+    }
+
+    // Its end gives the focus back to a field, which tells the page.
+    void outlivesItsPictureDialog()
+    {
+        QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+        OpenPage p;
+        QByteArray pageAtEnd;
+        QTimer::singleShot(50, this, [&] {
+            auto* const dialog = QApplication::activeModalWidget();
+            QVERIFY(dialog);
+            connect(dialog, &QObject::destroyed, this,
+                    [&, page = p.page.get()] { pageAtEnd = page->metaObject()->className(); });
+            p.page.reset();
+        });
+        p.source()->onComboBoxItemActivated(ImageReaderWidget::ImageFromFile);
+        QCOMPARE(pageAtEnd, QByteArray("ImageFormatWidget"));
     }
 
     void guardsFieldsAgainstTheWheel()
