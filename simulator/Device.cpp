@@ -8,7 +8,7 @@ namespace sim {
 
 std::shared_ptr<Device> Device::create(FeatureDescriptions descriptions)
 {
-    const std::shared_ptr<Device> device(new Device(std::move(descriptions)));
+    std::shared_ptr<Device> device(new Device(std::move(descriptions)));
     const std::size_t count = device->m_store.size();
     device->m_features.reserve(count);
     for (std::size_t index = 0; index < count; ++index)

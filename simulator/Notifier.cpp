@@ -61,6 +61,7 @@ void Notifier::observerRemoved(const Target& target, const ZebCPP::IFeatureObser
 void Notifier::burst(const Target& target, int count, int threads)
 {
     std::vector<std::thread> crowd;
+    crowd.reserve(static_cast<std::size_t>(threads));
     for (int t = 0; t < threads; ++t)
         crowd.emplace_back([&] {
             for (int i = 0; i < count; ++i)

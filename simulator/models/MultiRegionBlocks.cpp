@@ -17,6 +17,7 @@ FeatureDescription regionSelector(RegionSelector type, int count)
     if (type == RegionSelector::Integer)
         return integerFeature(selectorName, 0).between(IntegerRange(0, count - 1));
     std::vector<std::string> entries;
+    entries.reserve(static_cast<std::size_t>(count));
     for (int number = 0; number < count; ++number)
         entries.push_back("Region" + std::to_string(number));
     return enumFeature(selectorName, entries);

@@ -49,7 +49,7 @@ void DelegateWidget::fill(const QVariant& value, const QVariant& cameraValue)
 
 QVariant DelegateWidget::takeNewValue()
 {
-    const QVariant value = enteredValue();
+    QVariant value = enteredValue();
     const bool isEntered = m_touched || !isSameValue(value, m_shownValue);
     if (!value.isValid() || !isEntered || isSameValue(value, m_knownValue))
         return {};

@@ -3,6 +3,7 @@
 #include "ArrangementMode.h"
 #include "RegionSpan.h"
 #include "features/NumberConversion.h"
+#include "features/TruncatedRect.h"
 
 #include <QCoreApplication>
 

@@ -3,6 +3,7 @@
 #include "SizeRange.h"
 
 #include <QMap>
+#include <QRect>
 #include <QString>
 
 /// What a default layout depends on, as read from the camera.

@@ -4,6 +4,7 @@
 #include "features/FeatureManager.h"
 #include "features/NumberConversion.h"
 #include "features/SdkValues.h"
+#include "features/TruncatedRect.h"
 
 #include <QCoreApplication>
 

@@ -3,6 +3,7 @@
 #include "KnownRegions.h"
 #include "SizeRange.h"
 
+#include <QRect>
 #include <QString>
 
 class FeatureManager;

@@ -1,5 +1,7 @@
 #include "RegionPlacement.h"
 
+#include "features/TruncatedRect.h"
+
 #include <algorithm>
 #include <optional>
 

@@ -2,6 +2,8 @@
 
 #include "SizeRange.h"
 
+#include <QRect>
+
 /// Offset and size of a region along one axis, in sensor pixels as read from the camera.
 struct RegionExtent
 {

@@ -1,19 +1,6 @@
 #include "SizeRange.h"
 
-#include "features/NumberConversion.h"
-
 #include <algorithm>
-
-namespace {
-
-constexpr int largestCoordinate = 1 << 29;
-
-int wholePixels(double value)
-{
-    return std::clamp(toInt(value), -largestCoordinate, largestCoordinate);
-}
-
-} // namespace
 
 double withinRange(double size, const SizeRange& range)
 {
@@ -25,9 +12,4 @@ double withinRange(double size, const SizeRange& range)
 double incrementOf(const SizeRange& range)
 {
     return range.increment > 0.0 ? range.increment : 0.0;
-}
-
-QRect truncatedRect(double x, double y, double width, double height)
-{
-    return {wholePixels(x), wholePixels(y), wholePixels(width), wholePixels(height)};
 }

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <QRect>
-
 /// Range and increment of a size feature as the camera reports them, in sensor pixels. A bound that
 /// is 0 or missing (-1) bounds nothing; an increment that is missing counts as 0.
 struct SizeRange
@@ -16,7 +14,3 @@ double withinRange(double size, const SizeRange& range);
 
 /// The increment, 0 when it is missing.
 double incrementOf(const SizeRange& range);
-
-/// Whole pixels of a rectangle, each value truncated on its own. Numbers beyond any sensor saturate
-/// where their sum still is an int.
-QRect truncatedRect(double x, double y, double width, double height);

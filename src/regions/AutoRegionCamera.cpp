@@ -4,6 +4,7 @@
 #include "features/FeatureManager.h"
 #include "features/NumberConversion.h"
 #include "features/SdkValues.h"
+#include "features/TruncatedRect.h"
 
 #include <QCoreApplication>
 
@@ -183,13 +184,13 @@ QRect AutoRegionCamera::imageRegion(bool hasImage)
         = value(QStringLiteral("MultipleRegionEnable"), QStringLiteral("MultipleRegionsEnable"))
         != 0.0;
     if (!isMultiple || !hasImage)
-        return {toInt(value(QStringLiteral("OffsetX"))), toInt(value(QStringLiteral("OffsetY"))),
-                toInt(value(imageWidth)), toInt(value(imageHeight))};
+        return truncatedRect(value(QStringLiteral("OffsetX")), value(QStringLiteral("OffsetY")),
+                             value(imageWidth), value(imageHeight));
     selectFirstRegion();
-    return {toInt(value(QStringLiteral("SubRegionOffsetX"), QStringLiteral("OffsetX"))),
-            toInt(value(QStringLiteral("SubRegionOffsetY"))),
-            toInt(value(QStringLiteral("SubRegionWidth"), imageWidth)),
-            toInt(value(QStringLiteral("SubRegionHeight")))};
+    return truncatedRect(value(QStringLiteral("SubRegionOffsetX"), QStringLiteral("OffsetX")),
+                         value(QStringLiteral("SubRegionOffsetY")),
+                         value(QStringLiteral("SubRegionWidth"), imageWidth),
+                         value(QStringLiteral("SubRegionHeight")));
 }
 
 void AutoRegionCamera::selectFirstRegion()

@@ -1,3 +1,4 @@
+#include "features/TruncatedRect.h"
 #include "multiregion/DefaultLayouts.h"
 #include "multiregion/RegionButtonRules.h"
 #include "multiregion/RegionPlacement.h"
@@ -59,6 +60,9 @@ private slots:
         placedInColumn(request);
         for (const char* mode : {"Vertical", "Horizontal", "Tile", "Free"})
             defaultLayout(mode, {huge, -huge, {0, huge, huge}, {huge, 0, 0}, 256});
+        const QRect rect = truncatedRect(huge, -huge, std::nan(""), -huge);
+        QCOMPARE(rect.bottom(), rect.y() + rect.height() - 1);
+        QVERIFY(rect.x() > 0 && rect.bottom() < rect.y());
     }
 
     /// Buttons as a text: "1" active, "0" inactive; expected "+" enabled, "c" and "l" disabled for

@@ -362,7 +362,9 @@ private slots:
         image = std::make_shared<QPixmap>(3000, 2000);
         image->fill(Qt::white);
         m_label->setBackgroundImage(image, {3000, 2000}, {});
+        QVERIFY(shownColor({300, 200}) != QColor(Qt::white)); // a hidden label scales nothing
         m_label->show();
+        QCOMPARE(shownColor({300, 200}), QColor(Qt::white));
         for (const QSize& size : {QSize(600, 400), QSize(300, 200)}) {
             m_label->resize(size);
             const QImage picture = m_label->pixmap(Qt::ReturnByValue).toImage();
@@ -393,6 +395,11 @@ private slots:
 
 private:
     Q_SLOT void deleteLabel() { m_label.reset(); }
+
+    QColor shownColor(const QPoint& point) const
+    {
+        return m_label->pixmap(Qt::ReturnByValue).toImage().pixelColor(point);
+    }
 
     void makeLabel(const QString& mode, const QVector<QRect>& regions)
     {
