@@ -236,9 +236,9 @@ void RectangleRubberBand::prepareNumber()
 {
     const QString text = numberText();
     const QFontMetrics metrics(numberFont(), this);
+    const QPoint baseline(-(metrics.horizontalAdvance(text) / 2), metrics.height() / 3);
     m_number = QPainterPath();
-    m_number.addText(-(metrics.horizontalAdvance(text) / 2), metrics.height() / 3, numberFont(),
-                     text);
+    m_number.addText(baseline, numberFont(), text);
     m_numberArea = m_number.boundingRect().toAlignedRect();
 }
 

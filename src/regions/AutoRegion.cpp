@@ -30,9 +30,9 @@ SensorRegion drawnAutoRegion(const AutoRegionFields& fields, const QPointF& orig
 
 double onGrid(double value, double step)
 {
-    const qint64 wholeStep = toInt64(step);
-    return wholeStep > 0 ? static_cast<double>(toInt64(value) / wholeStep * wholeStep)
-                         : static_cast<double>(toInt64(value));
+    const qint64 wholeStep = std::max<qint64>(1, toInt64(step));
+    const qint64 steps = toInt64(value) / wholeStep;
+    return static_cast<double>(steps * wholeStep);
 }
 
 bool exceedsLimit(double offset, double origin, double size, qint64 limit)
