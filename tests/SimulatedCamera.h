@@ -1,5 +1,7 @@
 #pragma once
 
+#include "features/FeatureManager.h"
+
 #include "simulator/Camera.h"
 
 #include <QSharedPointer>
@@ -10,4 +12,12 @@ inline QSharedPointer<QVector<ZebCPP::FeaturePtr>> featureList(const sim::Camera
 {
     const auto features = camera.features();
     return QSharedPointer<QVector<ZebCPP::FeaturePtr>>::create(features.begin(), features.end());
+}
+
+inline FeatureManager::Wrappers wrappers(const sim::Camera& camera)
+{
+    auto wrappers = FeatureManager::Wrappers::create();
+    for (const ZebCPP::FeaturePtr& feature : camera.features())
+        wrappers->append(std::make_shared<ZebFeatureWrapper>(feature));
+    return wrappers;
 }

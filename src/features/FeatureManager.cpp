@@ -1,11 +1,7 @@
 #include "FeatureManager.h"
 
-#include "features/FeatureInformation.h"
 #include "features/FeatureReading.h"
-#include "features/FeatureWriting.h"
 #include "features/SdkValues.h"
-
-#include <QDebug>
 
 #include <algorithm>
 
@@ -138,29 +134,6 @@ QString FeatureManager::GetExistingName(const QStringList& candidates)
     return feature ? readText(*feature, &ZebFeatureWrapper::GetName) : QString();
 }
 
-QString FeatureManager::GetDisplayName(const QString& name)
-{
-    return GetDisplayName(name, {});
-}
-
-QString FeatureManager::GetDisplayName(const QString& name, const QString& alternative)
-{
-    return GetDisplayName(name, alternative, {});
-}
-
-QString FeatureManager::GetDisplayName(const QString& name, const QString& alternative1,
-                                       const QString& alternative2)
-{
-    const auto feature = find(name, alternative1, alternative2);
-    return feature ? readText(*feature, &ZebFeatureWrapper::GetDisplayName) : QString();
-}
-
-QString FeatureManager::GetDisplayName(const QStringList& candidates)
-{
-    const auto feature = findFirst(candidates);
-    return feature ? readText(*feature, &ZebFeatureWrapper::GetDisplayName) : QString();
-}
-
 double FeatureManager::GetValueState(const QString& name, bool& writable, double& minimum,
                                      double& maximum, double& increment)
 {
@@ -246,23 +219,6 @@ QString FeatureManager::GetWritableStringValue(const QString& name)
     return readText(*feature, &ZebFeatureWrapper::GetValue);
 }
 
-QStringList FeatureManager::GetEnumEntries(const QString& name)
-{
-    return GetEnumEntries(name, {});
-}
-
-QStringList FeatureManager::GetEnumEntries(const QString& name, const QString& alternative)
-{
-    const auto feature = find(name, alternative);
-    std::vector<std::string> values;
-    if (!feature || feature->GetValues(values) != Sdk::success)
-        return {};
-    QStringList entries;
-    for (const std::string& value : values)
-        entries.append(QString::fromStdString(value));
-    return entries;
-}
-
 bool FeatureManager::HasFeature(const QString& name, const QString& alternative1,
                                 const QString& alternative2)
 {
@@ -296,137 +252,6 @@ bool FeatureManager::IsFeatureWritable(const QString& name)
     return IsFeatureWritable(name, QString());
 }
 
-bool FeatureManager::IsFloatFeature(const QString& name)
-{
-    return IsFloatFeature(name, QString());
-}
-
-bool FeatureManager::IsFloatFeature(const QString& name, const QString& alternative)
-{
-    return IsFloatFeature(name, alternative, {});
-}
-
-bool FeatureManager::IsFloatFeature(const QString& name, const QString& alternative1,
-                                    const QString& alternative2)
-{
-    const auto feature = find(name, alternative1, alternative2);
-    return feature && FeatureReading::readDataType(*feature) == Sdk::floatType;
-}
-
-QString FeatureManager::SetStringValue(const QString& name, const QString& value)
-{
-    return SetStringValue(name, {}, value);
-}
-
-QString FeatureManager::SetStringValue(const QString& name, const QString& alternative,
-                                       const QString& value)
-{
-    return SetStringValue(name, alternative, {}, value);
-}
-
-QString FeatureManager::SetStringValue(const QString& name, const QString& alternative1,
-                                       const QString& alternative2, const QString& value)
-{
-    const auto feature = find(name, alternative1, alternative2);
-    if (!feature)
-        return {};
-    FeatureWriting::writeText(*feature, value);
-    return GetStringValue(name);
-}
-
-double FeatureManager::SetValue(const QString& name, double value)
-{
-    return SetValue(name, {}, value);
-}
-
-double FeatureManager::SetValue(const QString& name, const QString& alternative, double value)
-{
-    return SetValue(name, alternative, {}, value);
-}
-
-double FeatureManager::SetValue(const QString& name, const QString& alternative1,
-                                const QString& alternative2, double value)
-{
-    const auto feature = find(name, alternative1, alternative2);
-    return feature ? FeatureWriting::writeNumber(*feature, name, value).value : value;
-}
-
-bool FeatureManager::RunCommand(const QString& name)
-{
-    const auto feature = find(name);
-    return feature && feature->RunCommand() == Sdk::success;
-}
-
-QString FeatureManager::GetCategory(const QString& name)
-{
-    const auto feature = find(name);
-    return feature ? readText(*feature, &ZebFeatureWrapper::GetCategory) : QString();
-}
-
-bool FeatureManager::IsValueAvailable(const QString& name, const QString& value)
-{
-    const auto feature = find(name);
-    bool available = false;
-    return feature
-        && feature->IsValueAvailable(value.toStdString().c_str(), available) == Sdk::success
-        && available;
-}
-
-QStringList FeatureManager::GetSelectedFeatureNames(const QString& name)
-{
-    const auto selector = find(name);
-    std::vector<ZebCPP::FeaturePtr> selected;
-    if (!selector || selector->GetSelectedFeatures(selected) != Sdk::success)
-        return {};
-    QStringList names;
-    for (const ZebCPP::FeaturePtr& feature : selected) {
-        std::string selectedName;
-        if (ZebFeatureWrapper(feature).GetName(selectedName) == Sdk::success)
-            names.append(QString::fromStdString(selectedName));
-    }
-    return names;
-}
-
-ZebFeatureDataType FeatureManager::GetDataType(const QString& name)
-{
-    const auto feature = find(name);
-    if (!feature) {
-        qDebug() << "Error: FeatureManager::GetDataType() - cannot get ZebFeatureWrapperPtr for "
-                 << name;
-        return Sdk::unknownType;
-    }
-    return FeatureReading::readDataType(*feature);
-}
-
-QString FeatureManager::GetRepresentation(const QString& name)
-{
-    const auto feature = find(name);
-    if (!feature) {
-        qDebug()
-            << "Error: FeatureManager::GetRepresentation() - cannot get ZebFeatureWrapperPtr for "
-            << name;
-        return {};
-    }
-    std::string representation;
-    if (feature->GetRepresentation(representation) != Sdk::success) {
-        qDebug() << "Error: FeatureManager::GetRepresentation() cannot get representaion for "
-                 << name;
-        return {};
-    }
-    return QString::fromStdString(representation);
-}
-
-QString FeatureManager::GetInformation(const QString& name)
-{
-    const auto feature = find(name);
-    if (!feature) {
-        qDebug() << "Error: FeatureManager::GetInformation() - cannot get ZebFeatureWrapperPtr for "
-                 << name;
-        return {};
-    }
-    return featureInformation(*feature);
-}
-
 QStringList FeatureManager::GetFeatureNames()
 {
     if (!m_features)
@@ -439,30 +264,6 @@ QStringList FeatureManager::GetFeatureNames()
             names.append(QString::fromStdString(name));
     }
     return names;
-}
-
-bool FeatureManager::SetVariantValue(const QString& name, const QVariant& value)
-{
-    const auto feature = find(name);
-    return feature && FeatureWriting::writeVariant(*feature, name, value);
-}
-
-QString FeatureManager::GetUnit(const QString& name)
-{
-    const auto feature = find(name);
-    return feature ? readText(*feature, &ZebFeatureWrapper::GetUnit) : QString();
-}
-
-QString FeatureManager::GetToolTip(const QString& name)
-{
-    const auto feature = find(name);
-    return feature ? readText(*feature, &ZebFeatureWrapper::GetToolTip) : QString();
-}
-
-QString FeatureManager::GetDescription(const QString& name)
-{
-    const auto feature = find(name);
-    return feature ? readText(*feature, &ZebFeatureWrapper::GetDescription) : QString();
 }
 
 IntegerState FeatureManager::GetIntegerState(const QString& name, bool& writable)

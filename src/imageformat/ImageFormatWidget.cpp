@@ -2,6 +2,7 @@
 
 #include "features/NumberConversion.h"
 #include "imageformat/FeatureBinding.h"
+#include "imageformat/ImageFormatNames.h"
 #include "imageformat/ImageReaderWidget.h"
 #include "multiregion/MultiROIWidget.h"
 #include "plugin/TENotSupported.h"
@@ -17,10 +18,7 @@
 #include <QSignalBlocker>
 #include <QSpinBox>
 
-#include <algorithm>
-#include <cmath>
-#include <functional>
-#include <limits>
+using namespace ImageFormatNames;
 
 // The icons sit in a static library, from which the linker takes them only when asked.
 static void initializeImages()
@@ -30,52 +28,11 @@ static void initializeImages()
 
 namespace {
 
-const QLatin1String binningHorizontal("BinningHorizontal");
-const QLatin1String binningVertical("BinningVertical");
-const QLatin1String reverseX("ReverseX");
-const QLatin1String reverseY("ReverseY");
-
-// A stored background image no longer matches the sensor once one of these changed.
-bool changesGeometry(const QString& featureName)
-{
-    return featureName == binningHorizontal || featureName == binningVertical
-        || featureName == reverseX || featureName == reverseY;
-}
-
-bool hasExactClass(const QWidget* widget, const char* className)
-{
-    return qstrcmp(widget->metaObject()->className(), className) == 0;
-}
-
-/// Of a class that is refreshed; subclasses have rules of their own.
-bool isField(const QWidget* widget)
-{
-    return hasExactClass(widget, "QSpinBox") || hasExactClass(widget, "QComboBox")
-        || hasExactClass(widget, "QCheckBox");
-}
-
 void showRange(QSpinBox* spinBox, FeatureManager& manager, const QString& featureName)
 {
     double minimum = 0.0;
     double maximum = 0.0;
     const double value = manager.GetValueLimits(featureName, minimum, maximum);
-    spinBox->setRange(toInt(minimum), toInt(maximum));
-    spinBox->setValue(toInt(value));
-}
-
-/// Shows range, value and access by one look-up; without the feature the box keeps what it shows.
-void updateSpinBox(QSpinBox* spinBox, FeatureManager& manager, const QString& featureName)
-{
-    constexpr double untouched = std::numeric_limits<double>::quiet_NaN();
-    bool isWritable = false;
-    double minimum = untouched;
-    double maximum = untouched;
-    double increment = untouched;
-    const double value
-        = manager.GetValueState(featureName, isWritable, minimum, maximum, increment);
-    spinBox->setEnabled(isWritable);
-    if (std::isnan(minimum) && std::isnan(maximum) && std::isnan(increment))
-        return;
     spinBox->setRange(toInt(minimum), toInt(maximum));
     spinBox->setValue(toInt(value));
 }
@@ -322,60 +279,6 @@ void ImageFormatWidget::resetImageSource()
 {
     m_ui->imageReaderWidget->setCurrentIndex(ImageReaderWidget::NoImage);
     m_ui->imageReaderWidget->onComboBoxItemActivated(ImageReaderWidget::NoImage);
-}
-
-bool ImageFormatWidget::showsCameraGeometry() const
-{
-    const auto showsNumber = [this](const QString& featureName, const QSpinBox* spinBox) {
-        return !featureManager->HasFeature(featureName)
-            || toInt(featureManager->GetValue(featureName)) == spinBox->value();
-    };
-    const auto showsFlag = [this](const QString& featureName, const QCheckBox* checkBox) {
-        const bool isSet = featureManager->HasFeature(featureName)
-            && featureManager->GetValue(featureName) != 0.0;
-        return isSet == checkBox->isChecked();
-    };
-    return showsNumber(binningHorizontal, m_ui->spbBinningHorizontal)
-        && showsNumber(binningVertical, m_ui->spbBinningVertical)
-        && showsFlag(reverseX, m_ui->chkReverseX) && showsFlag(reverseY, m_ui->chkReverseY);
-}
-
-void ImageFormatWidget::refreshFeatures()
-{
-    const QStringList names = *changedFeatures;
-    if (names.isEmpty())
-        return;
-
-    // Compared before the fields follow, so that a change made on this page, which its field shows
-    // already, does not reset the image a second time.
-    if (std::any_of(names.begin(), names.end(), changesGeometry) && !showsCameraGeometry())
-        resetImageSource();
-    auto fields = findChildren<QWidget*>();
-    fields.erase(std::remove_if(fields.begin(), fields.end(), std::not_fn(isField)), fields.end());
-    for (const QString& featureName : names) {
-        const auto bound = widgetsBoundTo(featureName, fields);
-        for (QWidget* field : bound)
-            updateField(field, featureName);
-    }
-    changedFeatures->clear();
-}
-
-void ImageFormatWidget::updateField(QWidget* field, const QString& featureName)
-{
-    const QSignalBlocker blocker(field);
-    if (hasExactClass(field, "QSpinBox")) {
-        updateSpinBox(static_cast<QSpinBox*>(field), *featureManager, featureName);
-        return;
-    }
-    if (!featureManager->HasFeature(featureName)) {
-        field->setEnabled(false);
-        return;
-    }
-    if (hasExactClass(field, "QComboBox"))
-        fillComboBox(featureName, static_cast<QComboBox*>(field), true);
-    else
-        static_cast<QCheckBox*>(field)->setChecked(featureManager->GetValue(featureName) != 0.0);
-    field->setEnabled(featureManager->IsFeatureWritable(featureName));
 }
 
 bool ImageFormatWidget::eventFilter(QObject* watched, QEvent* event)

@@ -13,19 +13,11 @@ using sim::Operation;
 
 namespace {
 
-FeatureManager::Wrappers wrap(const sim::Camera& camera)
-{
-    auto wrappers = FeatureManager::Wrappers::create();
-    for (const ZebCPP::FeaturePtr& feature : camera.features())
-        wrappers->append(std::make_shared<ZebFeatureWrapper>(feature));
-    return wrappers;
-}
-
 struct Fixture
 {
     explicit Fixture(sim::FeatureDescriptions features)
         : camera(std::move(features))
-        , manager(wrap(camera))
+        , manager(wrappers(camera))
     {
     }
     sim::Camera camera;
@@ -41,39 +33,30 @@ class FeatureManagerTest : public QObject
     Q_OBJECT
 
 private slots:
+    /// Rounding takes what the page asks for, so that the stored value is the one that was written.
     void alignsAndClampsIntegers_data()
     {
-        const DataTable<qint64, qint64, qint64, double, qint64> table{
-            "minimum", "maximum", "increment", "value", "expected"};
-
-        table.row("down to the grid", 0, 1023, 16, 1000.0, 992);
-        table.row("maximum on the grid", 0, 1023, 16, 1020.0, 1008);
-        table.row("lifted to the minimum", 8, 64, 4, 7.0, 8);
-        table.row("grid counted from 0", 6, 100, 4, 13.9, 12);
-        table.row("negative, toward zero", -100, 100, 8, -13.0, -8);
-        table.row("no increment", 0, 1023, noIncrement, 1021.7, 1021);
-        table.row("beyond 64 bits", 0, 1000, 1, 1e300, 1000);
-        table.row("not a number", 5, 1000, 1, std::nan(""), 5);
+        const DataTable row(
+            [](qint64 minimum, qint64 maximum, qint64 increment, double value, qint64 expected) {
+                Fixture f({sim::integerFeature("Width", minimum)
+                               .between(IntegerRange(minimum, maximum, increment))});
+                // The written value may be off the camera's own grid; what the camera makes of it
+                // is not the point.
+                f.manager.SetValue("Width", value);
+                const auto writes = f.camera.journal().writes();
+                QCOMPARE(int(writes.size()), 1);
+                QCOMPARE(qint64{writes.front().value.toInteger()}, expected);
+            });
+        row("down to the grid", 0, 1023, 16, 1000.0, 992);
+        row("maximum on the grid", 0, 1023, 16, 1020.0, 1008);
+        row("lifted to the minimum", 8, 64, 4, 7.0, 8);
+        row("grid counted from 0", 6, 100, 4, 13.9, 12);
+        row("negative, toward zero", -100, 100, 8, -13.0, -8);
+        row("no increment", 0, 1023, noIncrement, 1021.7, 1021);
+        row("beyond 64 bits", 0, 1000, 1, 1e300, 1000);
+        row("not a number", 5, 1000, 1, std::nan(""), 5);
     }
-
-    /// Rounding takes what the page asks for, so that the stored value is the one that was written.
-    void alignsAndClampsIntegers()
-    {
-        QFETCH(qint64, minimum);
-        QFETCH(qint64, maximum);
-        QFETCH(qint64, increment);
-        QFETCH(double, value);
-        QFETCH(qint64, expected);
-
-        Fixture f({sim::integerFeature("Width", minimum)
-                       .between(IntegerRange(minimum, maximum, increment))});
-        // The written value may be off the camera's own grid; what the camera makes of it is not
-        // the point.
-        f.manager.SetValue("Width", value);
-        const auto writes = f.camera.journal().writes();
-        QCOMPARE(int(writes.size()), 1);
-        QCOMPARE(qint64{writes.front().value.toInteger()}, expected);
-    }
+    void alignsAndClampsIntegers() { runRow(); }
 
     void convertsSaturating()
     {
@@ -87,43 +70,30 @@ private slots:
         QCOMPARE(quint64{toUInt64(-2.5)}, quint64{0});
     }
 
-    void writesFloats()
+    void answersWhatIsInEffect_data()
     {
-        Fixture f({sim::floatFeature("Gain", 3.3).between(FloatRange(0.0, 24.0, 0.5))});
-        const QString gain = "Gain";
-
-        QCOMPARE(f.manager.SetValue(gain, 30.0), 24.0);
-        QCOMPARE(f.manager.SetValue(gain, 7.5), 7.5);
-
-        // Refused: the present value is written once more, on its increment.
-        f.camera.force("Gain", 3.3);
-        f.camera.journal().clear();
-        f.camera.failures().add("Gain", Operation::SetValue, Failure::refuse(),
-                                sim::Occurrence::nth(1));
-        QCOMPARE(f.manager.SetValue(gain, 5.0), 3.0);
-        const auto writes = f.camera.journal().writes();
-        QCOMPARE(int(writes.size()), 2);
-        QCOMPARE(writes.back().value.toNumber(), 3.0);
+        const DataTable row([](const QString& name, double value, double expected, int writes) {
+            Fixture f({sim::floatFeature("Gain", 3.3).between(FloatRange(0.0, 24.0, 0.5)),
+                       sim::booleanFeature("ReverseX", true),
+                       sim::integerFeature("WidthMax", 640).readOnly(),
+                       sim::stringFeature("DeviceUserID", "left").readOnly()});
+            if (value == 5.0)
+                f.camera.failures().add("Gain", Operation::SetValue, Failure::refuse(),
+                                        sim::Occurrence::nth(1));
+            QCOMPARE(f.manager.SetValue(name, value), expected);
+            QCOMPARE(int(f.camera.journal().writes().size()), writes);
+            QCOMPARE(f.manager.GetWritableStringValue("DeviceUserID"), QString());
+        });
+        row("clamped", "Gain", 30.0, 24.0, 1);
+        row("float", "Gain", 7.5, 7.5, 1);
+        row("refused: what it has once more, on its increment", "Gain", 5.0, 3.0, 2);
+        row("little", "ReverseX", 0.2, 1.0, 1);
+        row("negative", "ReverseX", -0.5, 0.0, 1);
+        row("much", "ReverseX", 2.0, 1.0, 1);
+        row("read-only", "WidthMax", 320.0, 640.0, 0);
+        row("missing", "NoSuch", 12.5, 12.5, 0);
     }
-
-    void writesBooleans()
-    {
-        Fixture f({sim::booleanFeature("ReverseX")});
-        QCOMPARE(f.manager.SetValue("ReverseX", 0.2), 1.0);
-        QCOMPARE(f.manager.SetValue("ReverseX", -0.5), 0.0);
-        QCOMPARE(f.manager.SetValue("ReverseX", 2), 1.0);
-    }
-
-    void leavesReadOnlyFeaturesAlone()
-    {
-        Fixture f(
-            {sim::integerFeature("WidthMax", 640).between(IntegerRange{0, 4096, 1}).readOnly(),
-             sim::stringFeature("DeviceUserID", "left").readOnly()});
-        QCOMPARE(f.manager.SetValue("WidthMax", 320), 640.0);
-        QVERIFY(f.camera.journal().writes().empty());
-        QCOMPARE(f.manager.GetWritableStringValue("DeviceUserID"), QString());
-        QCOMPARE(f.manager.SetValue("NoSuch", 12.5), 12.5);
-    }
+    void answersWhatIsInEffect() { runRow(); }
 
     void triesAlternativesInOrder()
     {
@@ -153,35 +123,30 @@ private slots:
         QVERIFY(!f.manager.IsValueAvailable(mode, "Auto"));
     }
 
-    void fillsStateAndFieldRange()
+    /// The numbers are those of GetValueState() and, where they differ, of GetValueRange().
+    void fillsStateAndFieldRange_data()
     {
-        Fixture f({sim::integerFeature("Width", 640).between(IntegerRange{16, 1023, 16}),
-                   sim::floatFeature("Gain", 1.5).between(FloatRange(0.0, 2.0)),
-                   sim::stringFeature("Name", "x")});
-        bool writable = false;
-        double minimum = 0;
-        double maximum = 0;
-        double increment = 0;
-
-        QCOMPARE(f.manager.GetValueState("Width", writable, minimum, maximum, increment), 640.0);
-        QVERIFY(writable);
-        QCOMPARE(maximum, 1023.0);
-        QCOMPARE(f.manager.GetValueRange("Width", minimum, maximum, increment), 640.0);
-        QCOMPARE(minimum, 16.0);
-        QCOMPARE(maximum, 1008.0);
-        QCOMPARE(increment, 16.0);
-
-        f.manager.GetValueState("Gain", writable, minimum, maximum, increment);
-        QVERIFY(increment <= 0.0);
-        f.manager.GetValueRange("Gain", minimum, maximum, increment);
-        QCOMPARE(increment, 0.01);
-
-        QCOMPARE(f.manager.GetValueRange("Name", minimum, maximum, increment), -1.0);
-        QCOMPARE(maximum, -1.0);
-        maximum = 77.0;
-        QCOMPARE(f.manager.GetValueLimits("NoSuch", minimum, maximum), -1.0);
-        QCOMPARE(maximum, 77.0);
+        using Numbers = QVector<double>; // value, minimum, maximum, increment
+        const DataTable row([](const QString& name, const Numbers& state, const Numbers& range) {
+            Fixture f({sim::integerFeature("Width", 640).between(IntegerRange{16, 1023, 16}),
+                       sim::floatFeature("Gain", 1.5).between(FloatRange(0.0, 2.0)),
+                       sim::stringFeature("Name", "x")});
+            bool writable = false;
+            Numbers n{7.0, 7.0, 7.0, 7.0};
+            n[0] = f.manager.GetValueState(name, writable, n[1], n[2], n[3]);
+            QCOMPARE(n, state);
+            QCOMPARE(writable, name != "NoSuch");
+            n[0] = f.manager.GetValueRange(name, n[1], n[2], n[3]);
+            QCOMPARE(n, range);
+        });
+        const Numbers none{-1.0, -1.0, -1.0, -1.0};
+        const Numbers untouched{-1.0, 7.0, 7.0, 7.0};
+        row("integer", "Width", {640.0, 16.0, 1023.0, 16.0}, {640.0, 16.0, 1008.0, 16.0});
+        row("float", "Gain", {1.5, 0.0, 2.0, -1.0}, {1.5, 0.0, 2.0, 0.01});
+        row("text", "Name", none, none);
+        row("missing", "NoSuch", untouched, untouched);
     }
+    void fillsStateAndFieldRange() { runRow(); }
 
     void answersDefaults()
     {
@@ -220,40 +185,36 @@ private slots:
 
     void describesFeatures_data()
     {
-        const DataTable<QString, QString> table{"name", "expected"};
-
-        table.row("float, two precisions", "Gain",
-                  "<b>Feature Description:</b> <br/>First.<br/> Second.<br/><br/>"
-                  "<b>Feature Name:</b> Gain<br/><b>Visibility:</b> EXPERT<br/>"
-                  "<b>Type:</b> Float<br/><b>Minimum:</b> 0.123456789<br/>"
-                  "<b>Maximum:</b> 0.1234567891<br/><b>Interval:</b> 1.0000000000<br/>"
-                  "<b>Category:</b> /AnalogControl<br/>");
-        table.row("integer without interval", "Width",
-                  "<b>Feature Description:</b> N/A<br/><br/><b>Feature Name:</b> Width<br/>"
-                  "<b>Visibility:</b> BEGINNER<br/><b>Type:</b> Integer<br/><b>Minimum:</b> 8<br/>"
-                  "<b>Maximum:</b> 2048<br/><b>Category:</b> /ImageFormat<br/>");
-        table.row(
-            "description with a place marker", "Trigger",
+        const DataTable row([](const QString& name, const QString& expected) {
+            Fixture f({sim::floatFeature("Gain", 0.1234567891)
+                           .between(FloatRange(0.1234567891, 0.1234567891, 1.0))
+                           .in("/AnalogControl")
+                           .describedBy("First. Second.")
+                           .visibleTo(ZebFeatureVisibilityExpert),
+                       sim::integerFeature("Width", 8)
+                           .between(IntegerRange{8, 2048, 1})
+                           .in("/ImageFormat"),
+                       sim::commandFeature("Trigger")
+                           .describedBy("100 %1 sure")
+                           .visibleTo(ZebFeatureVisibilityInvisible)});
+            QCOMPARE(f.manager.GetInformation(name), expected);
+        });
+        row("float, two precisions", "Gain",
+            "<b>Feature Description:</b> <br/>First.<br/> Second.<br/><br/>"
+            "<b>Feature Name:</b> Gain<br/><b>Visibility:</b> EXPERT<br/>"
+            "<b>Type:</b> Float<br/><b>Minimum:</b> 0.123456789<br/>"
+            "<b>Maximum:</b> 0.1234567891<br/><b>Interval:</b> 1.0000000000<br/>"
+            "<b>Category:</b> /AnalogControl<br/>");
+        row("integer without interval", "Width",
+            "<b>Feature Description:</b> N/A<br/><br/><b>Feature Name:</b> Width<br/>"
+            "<b>Visibility:</b> BEGINNER<br/><b>Type:</b> Integer<br/><b>Minimum:</b> 8<br/>"
+            "<b>Maximum:</b> 2048<br/><b>Category:</b> /ImageFormat<br/>");
+        row("description with a place marker", "Trigger",
             "<b>Feature Description:</b> <br/>100 %1 sure<br/><b>Feature Name:</b> Trigger<br/>"
             "<b>Visibility:</b> INVISIBLE<br/><b>Type:</b> Command<br/><b>Category:</b> /<br/>");
-        table.row("missing", "NoSuch", "");
+        row("missing", "NoSuch", "");
     }
-
-    void describesFeatures()
-    {
-        QFETCH(QString, name);
-        Fixture f(
-            {sim::floatFeature("Gain", 0.1234567891)
-                 .between(FloatRange(0.1234567891, 0.1234567891, 1.0))
-                 .in("/AnalogControl")
-                 .describedBy("First. Second.")
-                 .visibleTo(ZebFeatureVisibilityExpert),
-             sim::integerFeature("Width", 8).between(IntegerRange{8, 2048, 1}).in("/ImageFormat"),
-             sim::commandFeature("Trigger")
-                 .describedBy("100 %1 sure")
-                 .visibleTo(ZebFeatureVisibilityInvisible)});
-        QTEST(f.manager.GetInformation(name), "expected");
-    }
+    void describesFeatures() { runRow(); }
 };
 
 QTEST_GUILESS_MAIN(FeatureManagerTest)

@@ -4,12 +4,9 @@
 #include "features/PluginFeatureObserver.h"
 
 #include <QSignalSpy>
-#include <QtTest>
 
 using sim::Failure;
 using sim::Operation;
-
-Q_DECLARE_METATYPE(sim::Failure)
 
 namespace {
 
@@ -28,72 +25,52 @@ class ZebFeatureWrapperTest : public QObject
 private slots:
     void readsTexts_data()
     {
-        const DataTable<sim::Failure, int, QByteArray, QByteArray> table{"failure", "result",
-                                                                         "value", "name"};
+        const DataTable row([](const sim::Failure& failure, int result, const QByteArray& value,
+                               const QByteArray& name) {
+            const sim::Camera camera({sim::stringFeature("DeviceUserID", "left")});
+            const auto feature = wrap(camera);
+            auto& failures = const_cast<sim::Camera&>(camera).failures();
+            failures.add("DeviceUserID", sim::Operations(Operation::GetValue) | Operation::GetName,
+                         failure);
 
+            std::string readValue = "kept";
+            QCOMPARE(int(feature->GetValue(readValue)), result);
+            QCOMPARE(QByteArray::fromStdString(readValue), value);
+            std::string readName = "kept";
+            QCOMPARE(int(feature->GetName(readName)), result);
+            QCOMPARE(QByteArray::fromStdString(readName), name);
+        });
         const QByteArray kept = "kept";
-        table.row("honest", Failure{}, 0, "left", "DeviceUserID");
-        table.row("refused", Failure::refuse(ZebErrorTimeout), int(ZebErrorTimeout), {}, kept);
-        table.row("empty", Failure::of(Failure::Kind::EmptyLength), 0, {}, {});
-        table.row("4 GiB", Failure::of(Failure::Kind::HugeLength), int(ZebErrorResources), {},
-                  kept);
-        table.row("grows", Failure::of(Failure::Kind::Grow), 0, "left?", "DeviceUserID?");
-        table.row("unterminated", Failure::of(Failure::Kind::Unterminated), 0, "left?",
-                  "DeviceUserID?");
-        table.row("exception", Failure::of(Failure::Kind::Throw), int(ZebErrorResources), {}, kept);
+        row("honest", Failure{}, 0, "left", "DeviceUserID");
+        row("refused", Failure::refuse(ZebErrorTimeout), int(ZebErrorTimeout), {}, kept);
+        row("empty", Failure::of(Failure::Kind::EmptyLength), 0, {}, {});
+        row("4 GiB", Failure::of(Failure::Kind::HugeLength), int(ZebErrorResources), {}, kept);
+        row("grows", Failure::of(Failure::Kind::Grow), 0, "left?", "DeviceUserID?");
+        row("unterminated", Failure::of(Failure::Kind::Unterminated), 0, "left?", "DeviceUserID?");
+        row("exception", Failure::of(Failure::Kind::Throw), int(ZebErrorResources), {}, kept);
     }
+    void readsTexts() { runRow(); }
 
-    void readsTexts()
+    void readsLists_data()
     {
-        QFETCH(sim::Failure, failure);
-        QFETCH(int, result);
-        QFETCH(QByteArray, value);
-        QFETCH(QByteArray, name);
-
-        const sim::Camera camera({sim::stringFeature("DeviceUserID", "left")});
-        const auto feature = wrap(camera);
-        auto& failures = const_cast<sim::Camera&>(camera).failures();
-        failures.add("DeviceUserID", sim::Operations(Operation::GetValue) | Operation::GetName,
-                     failure);
-
-        std::string readValue = "kept";
-        QCOMPARE(int(feature->GetValue(readValue)), result);
-        QCOMPARE(QByteArray::fromStdString(readValue), value);
-        std::string readName = "kept";
-        QCOMPARE(int(feature->GetName(readName)), result);
-        QCOMPARE(QByteArray::fromStdString(readName), name);
+        using Texts = std::vector<std::string>;
+        const DataTable row([](const Failure& failure, int result, const Texts& expected) {
+            sim::Camera camera({sim::enumFeature("Mode", {"Off", "On"})});
+            camera.failures().add("Mode", Operation::GetValues, failure);
+            Texts entries{"kept"};
+            QCOMPARE(int(wrap(camera)->GetValues(entries)), result);
+            QCOMPARE(entries, expected);
+            std::vector<ZebCPP::EnumEntry> records;
+            QCOMPARE(int(wrap(camera)->GetEntries(records)), 0);
+            QCOMPARE(int(records.size()), 2);
+        });
+        row("honest", {}, 0, {"Off", "On"});
+        row("null", Failure::of(Failure::Kind::NullEntries), 0, {"", ""});
+        row("4 GiB", Failure::of(Failure::Kind::HugeLength), int(ZebErrorResources), {"kept"});
+        row("grows", Failure::of(Failure::Kind::Grow), 0, {"Off", "On"});
+        row("empty", Failure::of(Failure::Kind::EmptyLength), 0, {});
     }
-
-    void readsLists()
-    {
-        sim::Camera camera({sim::enumFeature("Mode", {"Off", "On"})});
-        const auto feature = wrap(camera);
-        std::vector<std::string> entries;
-        std::vector<ZebCPP::EnumEntry> records;
-
-        QCOMPARE(int(feature->GetValues(entries)), 0);
-        QCOMPARE(entries, std::vector<std::string>({"Off", "On"}));
-        QCOMPARE(int(feature->GetEntries(records)), 0);
-        QCOMPARE(int(records.size()), 2);
-
-        camera.failures().add("Mode", Operation::GetValues, Failure::of(Failure::Kind::NullEntries),
-                              sim::Occurrence::nth(2));
-        QCOMPARE(int(feature->GetValues(entries)), 0);
-        QCOMPARE(entries, std::vector<std::string>({"", ""}));
-
-        camera.failures().clear();
-        camera.failures().add("Mode", Operation::GetValues, Failure::of(Failure::Kind::HugeLength));
-        QCOMPARE(int(feature->GetValues(entries)), int(ZebErrorResources));
-        camera.failures().clear();
-        camera.failures().add("Mode", Operation::GetValues, Failure::of(Failure::Kind::Grow));
-        feature->GetValues(entries);
-        QVERIFY(entries.size() <= 2);
-        camera.failures().clear();
-        camera.failures().add("Mode", Operation::GetValues,
-                              Failure::of(Failure::Kind::EmptyLength));
-        QCOMPARE(int(feature->GetValues(entries)), 0);
-        QVERIFY(entries.empty());
-    }
+    void readsLists() { runRow(); }
 
     void writesBytes()
     {
@@ -132,37 +109,33 @@ private slots:
 
     void sendsValuesAsText_data()
     {
-        const DataTable<int, QString> table{"index", "text"};
+        const DataTable row([](int index, const QString& text) {
+            sim::Camera camera({sim::integerFeature("F0", -12), sim::floatFeature("F1", 1234567.0),
+                                sim::floatFeature("F2", 0.5), sim::enumFeature("F3", {"Off", "On"}),
+                                sim::stringFeature("F4", "left"), sim::booleanFeature("F5", true),
+                                sim::commandFeature("F6"), sim::rawFeature("F7", {1}),
+                                sim::integerFeature("F8", 3)});
+            camera.failures().add("F8", Operation::GetValue, Failure::refuse());
+            PluginFeatureObserver observer;
+            QSignalSpy changed(&observer, &PluginFeatureObserver::setChangedFeature);
 
-        table.row("integer", 0, "-12");
-        table.row("large float", 1, "1.23457e+06");
-        table.row("small float", 2, "0.5");
-        table.row("entry", 3, "Off");
-        table.row("string", 4, "left");
-        table.row("boolean", 5, "true");
-        table.row("command", 6, "[COMMAND]");
-        table.row("raw", 7, "Click here to open");
-        table.row("unreadable integer", 8, "");
+            observer.FeatureChanged(camera.features().at(std::size_t(index)));
+
+            QCOMPARE(changed.size(), 1);
+            QCOMPARE(changed.first().at(0).toString(), QString("F%1").arg(index));
+            QCOMPARE(changed.first().at(1).toString(), text);
+        });
+        row("integer", 0, "-12");
+        row("large float", 1, "1.23457e+06");
+        row("small float", 2, "0.5");
+        row("entry", 3, "Off");
+        row("string", 4, "left");
+        row("boolean", 5, "true");
+        row("command", 6, "[COMMAND]");
+        row("raw", 7, "Click here to open");
+        row("unreadable integer", 8, "");
     }
-
-    void sendsValuesAsText()
-    {
-        QFETCH(int, index);
-        sim::Camera camera({sim::integerFeature("F0", -12), sim::floatFeature("F1", 1234567.0),
-                            sim::floatFeature("F2", 0.5), sim::enumFeature("F3", {"Off", "On"}),
-                            sim::stringFeature("F4", "left"), sim::booleanFeature("F5", true),
-                            sim::commandFeature("F6"), sim::rawFeature("F7", {1}),
-                            sim::integerFeature("F8", 3)});
-        camera.failures().add("F8", Operation::GetValue, Failure::refuse());
-        PluginFeatureObserver observer;
-        QSignalSpy changed(&observer, &PluginFeatureObserver::setChangedFeature);
-
-        observer.FeatureChanged(camera.features().at(std::size_t(index)));
-
-        QCOMPARE(changed.size(), 1);
-        QCOMPARE(changed.first().at(0).toString(), QString("F%1").arg(index));
-        QTEST(changed.first().at(1).toString(), "text");
-    }
+    void sendsValuesAsText() { runRow(); }
 
     void sendsNothingWithoutAName()
     {

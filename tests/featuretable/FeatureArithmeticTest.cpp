@@ -38,8 +38,6 @@ const IntegerNotation& notationOrDecimal(const QString& representation)
 
 } // namespace
 
-Q_DECLARE_METATYPE(QValidator::State)
-
 class FeatureArithmeticTest : public QObject
 {
     Q_OBJECT
@@ -49,169 +47,145 @@ private slots:
     /// The row's name is the representation.
     void readsAndWritesNotations_data()
     {
-        const DataTable<QString, qint64, QString> table{"typed", "value", "shown"};
-        table.row("HexNumber", "c0ffee", 0xC0FFEE, "C0FFEE");
-        table.row("HexNumber", "0", 0, "0");
-        table.row("HexNumber", "0000000a", 0xA, "A");
-        table.row("HexNumber", "FFFFFFFF", 0xFFFFFFFF, "FFFFFFFF");
-        table.row("IPV4Address", "192.168.10.2", 0xC0A80A02, "192.168.10.2");
-        table.row("IPV4Address", "010.0.0.255", 0x0A0000FF, "10.0.0.255");
-        table.row("IPV4Address", "255.255.255.255", 0xFFFFFFFF, "255.255.255.255");
-        table.row("MACAddress", "00-0A:1b-2C:3d-4E", 0x000A1B2C3D4E, "00:0a:1b:2c:3d:4e");
-        table.row("MACAddress", "ff:ff:ff:ff:ff:ff", 0xFFFFFFFFFFFF, "ff:ff:ff:ff:ff:ff");
-        table.row("", "-9223372036854775808", lowest, "-9223372036854775808");
-        table.row("Linear", "9007199254740993", twoTo53 + 1, "9007199254740993");
+        const DataTable row([](QString typed, qint64 value, const QString& shown) {
+            const IntegerNotation& notation = notationOrDecimal(QTest::currentDataTag());
+            int position = 0;
+            const IntegerValidator validator(notation, {lowest, highest}, nullptr);
+            QCOMPARE(validator.validate(typed, position), QValidator::Acceptable);
+            QCOMPARE(notation.toValue(typed), std::optional<std::int64_t>(value));
+            QCOMPARE(notation.toText(value), shown);
+        });
+        row("HexNumber", "c0ffee", 0xC0FFEE, "C0FFEE");
+        row("HexNumber", "0", 0, "0");
+        row("HexNumber", "0000000a", 0xA, "A");
+        row("HexNumber", "FFFFFFFF", 0xFFFFFFFF, "FFFFFFFF");
+        row("IPV4Address", "192.168.10.2", 0xC0A80A02, "192.168.10.2");
+        row("IPV4Address", "010.0.0.255", 0x0A0000FF, "10.0.0.255");
+        row("IPV4Address", "255.255.255.255", 0xFFFFFFFF, "255.255.255.255");
+        row("MACAddress", "00-0A:1b-2C:3d-4E", 0x000A1B2C3D4E, "00:0a:1b:2c:3d:4e");
+        row("MACAddress", "ff:ff:ff:ff:ff:ff", 0xFFFFFFFFFFFF, "ff:ff:ff:ff:ff:ff");
+        row("", "-9223372036854775808", lowest, "-9223372036854775808");
+        row("Linear", "9007199254740993", twoTo53 + 1, "9007199254740993");
     }
-
-    void readsAndWritesNotations()
-    {
-        QFETCH(QString, typed);
-        QFETCH(qint64, value);
-        const IntegerNotation& notation = notationOrDecimal(QTest::currentDataTag());
-        int position = 0;
-        const IntegerValidator validator(notation, {lowest, highest}, nullptr);
-        QCOMPARE(validator.validate(typed, position), QValidator::Acceptable);
-        QCOMPARE(notation.toValue(typed), std::optional<std::int64_t>(value));
-        QTEST(notation.toText(value), "shown");
-    }
+    void readsAndWritesNotations() { runRow(); }
 
     void acceptsIntegerText_data()
     {
-        const DataTable<QString, QValidator::State> table{"typed", "state"};
-        table.row("HexNumber", "", QValidator::Intermediate);
-        table.row("HexNumber", "0x1", QValidator::Invalid);
-        table.row("HexNumber", "100", QValidator::Acceptable);
-        table.row("HexNumber", "101", QValidator::Intermediate); // above the maximum
-        table.row("HexNumber", "123456789", QValidator::Invalid);
-        table.row("IPV4Address", "0.0.1", QValidator::Intermediate);
-        table.row("IPV4Address", "0.0.0.256", QValidator::Invalid);
-        table.row("MACAddress", "00:00:00:00:00:1", QValidator::Intermediate);
-        table.row("", "256", QValidator::Acceptable);
-        table.row("", "257", QValidator::Intermediate);
-        table.row("", "-", QValidator::Intermediate);
-        table.row("", "1,5", QValidator::Invalid);
-        table.row("", "9999999999999999999", QValidator::Intermediate); // beyond 64 bits
+        const DataTable row([](QString typed, QValidator::State state) {
+            const IntegerNotation& notation = notationOrDecimal(QTest::currentDataTag());
+            const IntegerValidator validator(notation, {0, 256}, nullptr);
+            int position = 0;
+            QCOMPARE(validator.validate(typed, position), state);
+        });
+        row("HexNumber", "", QValidator::Intermediate);
+        row("HexNumber", "0x1", QValidator::Invalid);
+        row("HexNumber", "100", QValidator::Acceptable);
+        row("HexNumber", "101", QValidator::Intermediate); // above the maximum
+        row("HexNumber", "123456789", QValidator::Invalid);
+        row("IPV4Address", "0.0.1", QValidator::Intermediate);
+        row("IPV4Address", "0.0.0.256", QValidator::Invalid);
+        row("MACAddress", "00:00:00:00:00:1", QValidator::Intermediate);
+        row("", "256", QValidator::Acceptable);
+        row("", "257", QValidator::Intermediate);
+        row("", "-", QValidator::Intermediate);
+        row("", "1,5", QValidator::Invalid);
+        row("", "9999999999999999999", QValidator::Intermediate); // beyond 64 bits
     }
+    void acceptsIntegerText() { runRow(); }
 
-    void acceptsIntegerText()
-    {
-        QFETCH(QString, typed);
-        const IntegerNotation& notation = notationOrDecimal(QTest::currentDataTag());
-        const IntegerValidator validator(notation, {0, 256}, nullptr);
-        int position = 0;
-        QTEST(validator.validate(typed, position), "state");
-    }
-
+    /// The row's name is the text.
     void readsAndWritesDoubles_data()
     {
-        const DataTable<double, QString> table{"number", "text"};
-        table.row("thousands", 10000000.0, "10000000");
-        table.row("fraction", 0.1, "0.1");
-        table.row("many digits", 12589.254117941673, "12589.254117941673");
-        table.row("small", 2.5e-6, "0.0000025");
-        table.row("smaller", 2.5e-12, "2.5e-12");
-        table.row("large", -1e300, "-1e+300");
-        table.row("zero", 0.0, "0");
-    }
-
-    void readsAndWritesDoubles()
-    {
-        QFETCH(double, number);
-        QTEST(DoubleText::fromNumber(number), "text");
-        QCOMPARE(DoubleText::toNumber(DoubleText::fromNumber(number)),
-                 std::optional<double>(number));
+        const DataTable row([](double number) {
+            const QString text = QTest::currentDataTag();
+            QCOMPARE(DoubleText::fromNumber(number), text);
+            QCOMPARE(DoubleText::toNumber(text), std::optional<double>(number));
+        });
+        row("10000000", 10000000.0);
+        row("0.1", 0.1);
+        row("12589.254117941673", 12589.254117941673);
+        row("0.0000025", 2.5e-6);
+        row("2.5e-12", 2.5e-12);
+        row("-1e+300", -1e300);
+        row("0", 0.0);
         for (const char* rubbish : {"", "1,5", "1.000,5", "nan", "inf", "1e400", "0x10"})
             QVERIFY2(!DoubleText::toNumber(rubbish), rubbish);
     }
 
+    void readsAndWritesDoubles() { runRow(); }
+
     void choosesTheIntegerField_data()
     {
-        const DataTable<qint64, qint64, qint64, int> table{"minimum", "maximum", "value", "field"};
+        const DataTable row([](qint64 minimum, qint64 maximum, qint64 value, int field) {
+            const IntegerRange range = integerRange(infoOf(value, minimum, maximum));
+            QCOMPARE(int(integerFieldFor(range, value)), field);
+        });
         const int spin32 = int(IntegerField::Spin32);
         const int spin53 = int(IntegerField::Spin53);
         const int text = int(IntegerField::Text);
         constexpr qint64 intMaximum = std::numeric_limits<int>::max();
-        table.row("32 bits", -intMaximum - 1, intMaximum, 5, spin32);
-        table.row("beyond 32 bits", 0, intMaximum + 1, 5, spin53);
-        table.row("2^53", -twoTo53, twoTo53, 5, spin53);
-        table.row("beyond 2^53", 0, twoTo53 + 1, 5, text);
-        table.row("unlimited", lowest, highest, 5, text);
-        table.row("stale value", 0, 10, twoTo53 + 1, text);
-        table.row("range not read", -1, -1, 5, spin53);
-        table.row("one value", 5, 5, 5, spin32);
+        row("32 bits", -intMaximum - 1, intMaximum, 5, spin32);
+        row("beyond 32 bits", 0, intMaximum + 1, 5, spin53);
+        row("2^53", -twoTo53, twoTo53, 5, spin53);
+        row("beyond 2^53", 0, twoTo53 + 1, 5, text);
+        row("unlimited", lowest, highest, 5, text);
+        row("stale value", 0, 10, twoTo53 + 1, text);
+        row("range not read", -1, -1, 5, spin53);
+        row("one value", 5, 5, 5, spin32);
     }
-
-    void choosesTheIntegerField()
-    {
-        QFETCH(qint64, minimum);
-        QFETCH(qint64, maximum);
-        QFETCH(qint64, value);
-        const IntegerRange range = integerRange(infoOf(value, minimum, maximum));
-        QTEST(int(integerFieldFor(range, value)), "field");
-    }
+    void choosesTheIntegerField() { runRow(); }
 
     void choosesTheSlider_data()
     {
-        const DataTable<FeatureInfo, QString> table{"info", "kind"};
-        table.row("integer", infoOf(5, 0, 10), "linear");
-        table.row("logarithmic integer", infoOf(5, 1, 10, "Logarithmic"), "logarithmic");
-        table.row("from 0", infoOf(5, 0, 10, "Logarithmic"), "linear");
-        table.row("exposure time as integer", infoOf(5, 1, 10, {}, "ExposureTime"), "linear");
-        table.row("one value", infoOf(5, 5, 5), "none");
-        table.row("beyond exact numbers", infoOf(5, 0, twoTo53 + 2), "none");
-        table.row("float", infoOf(5.0, 0.0, 10.0), "none");
-        table.row("logarithmic float", infoOf(5.0, 0.1, 10.0, "Logarithmic"), "logarithmic");
-        table.row("float from 0", infoOf(5.0, 0.0, 10.0, "Logarithmic"), "none");
-        table.row("exposure time", infoOf(5.0, 0.1, 10.0, {}, "ExposureTime"), "logarithmic");
-        table.row("older exposure time", infoOf(5.0, 0.1, 10.0, {}, "ExposureTimeAbs"),
-                  "logarithmic");
-        table.row("exposure time from 0", infoOf(5.0, 0.0, 10.0, {}, "ExposureTimeAbs"), "none");
-        table.row("unlimited", infoOf(5.0, 0.1, infinity, "Logarithmic"), "none");
-        table.row("not a number", infoOf(5.0, std::nan(""), 10.0, "Logarithmic"), "none");
+        const DataTable row([](const FeatureInfo& info, const QString& kind) {
+            const auto range = sliderRange(info);
+            const char* logarithmic = range && range->logarithmic ? "logarithmic" : "linear";
+            QCOMPARE(QString(range ? logarithmic : "none"), kind);
+        });
+        row("integer", infoOf(5, 0, 10), "linear");
+        row("logarithmic integer", infoOf(5, 1, 10, "Logarithmic"), "logarithmic");
+        row("from 0", infoOf(5, 0, 10, "Logarithmic"), "linear");
+        row("exposure time as integer", infoOf(5, 1, 10, {}, "ExposureTime"), "linear");
+        row("one value", infoOf(5, 5, 5), "none");
+        row("beyond exact numbers", infoOf(5, 0, twoTo53 + 2), "none");
+        row("float", infoOf(5.0, 0.0, 10.0), "none");
+        row("logarithmic float", infoOf(5.0, 0.1, 10.0, "Logarithmic"), "logarithmic");
+        row("float from 0", infoOf(5.0, 0.0, 10.0, "Logarithmic"), "none");
+        row("exposure time", infoOf(5.0, 0.1, 10.0, {}, "ExposureTime"), "logarithmic");
+        row("older exposure time", infoOf(5.0, 0.1, 10.0, {}, "ExposureTimeAbs"), "logarithmic");
+        row("exposure time from 0", infoOf(5.0, 0.0, 10.0, {}, "ExposureTimeAbs"), "none");
+        row("unlimited", infoOf(5.0, 0.1, infinity, "Logarithmic"), "none");
+        row("not a number", infoOf(5.0, std::nan(""), 10.0, "Logarithmic"), "none");
         FeatureInfo unbounded = infoOf(5, 0, 0);
         unbounded.maximum.reset();
-        table.row("no maximum", unbounded, "none");
+        row("no maximum", unbounded, "none");
     }
-
-    void choosesTheSlider()
-    {
-        QFETCH(FeatureInfo, info);
-        const auto range = sliderRange(info);
-        const char* logarithmic = range && range->logarithmic ? "logarithmic" : "linear";
-        QTEST(QString(range ? logarithmic : "none"), "kind");
-    }
+    void choosesTheSlider() { runRow(); }
 
     void snaps_data()
     {
-        const DataTable<double, double, double, double, double, int> table{
-            "minimum", "maximum", "increment", "value", "expected", "steps"};
-        table.row("nearest", 0.0, 1023.0, 16.0, 41.0, 48.0, 63);
-        table.row("last whole step", 0.0, 1023.0, 16.0, 1023.0, 1008.0, 63);
-        table.row("from the minimum", 3.0, 11.0, 4.0, 6.0, 7.0, 2);
-        table.row("below", 3.0, 11.0, 4.0, -5.0, 3.0, 2);
-        table.row("above", 3.0, 11.0, 4.0, infinity, 11.0, 2);
-        table.row("tenths", 0.0, 1.0, 0.1, 0.31, 0.3, 10);
-        table.row("last tenth", 0.0, 0.3, 0.1, 0.3, 0.3, 3);
-        table.row("no increment", 1.0, 2.0, 0.0, 1.23456789012, 1.23456789012, 10000);
-        table.row("increment -1", 1.0, 2.0, -1.0, 1.5, 1.5, 10000);
-        table.row("minimum with many digits", 1.0 / 3.0, 10.0, 0.1, 0.0, 1.0 / 3.0, 96);
-        table.row("larger than the range", 0.0, 5.0, 16.0, 4.0, 0.0, 1);
-        table.row("very many steps", 0.0, double(twoTo53), 1.0, double(twoTo53 - 1),
-                  double(twoTo53 - 1), 10000);
+        const DataTable row([](double minimum, double maximum, double increment, double value,
+                               double expected, int steps) {
+            const SliderRange range{minimum, maximum, increment, false};
+            QVERIFY(snapped(value, range) == expected); // exactly
+            QCOMPARE(sliderSteps(range), steps);
+            QCOMPARE(sliderValue(1.23456789, {1.0, 2.0, -1.0, true}), 1.23457);
+        });
+        row("nearest", 0.0, 1023.0, 16.0, 41.0, 48.0, 63);
+        row("last whole step", 0.0, 1023.0, 16.0, 1023.0, 1008.0, 63);
+        row("from the minimum", 3.0, 11.0, 4.0, 6.0, 7.0, 2);
+        row("below", 3.0, 11.0, 4.0, -5.0, 3.0, 2);
+        row("above", 3.0, 11.0, 4.0, infinity, 11.0, 2);
+        row("tenths", 0.0, 1.0, 0.1, 0.31, 0.3, 10);
+        row("last tenth", 0.0, 0.3, 0.1, 0.3, 0.3, 3);
+        row("no increment", 1.0, 2.0, 0.0, 1.23456789012, 1.23456789012, 10000);
+        row("increment -1", 1.0, 2.0, -1.0, 1.5, 1.5, 10000);
+        row("minimum with many digits", 1.0 / 3.0, 10.0, 0.1, 0.0, 1.0 / 3.0, 96);
+        row("larger than the range", 0.0, 5.0, 16.0, 4.0, 0.0, 1);
+        row("very many steps", 0.0, double(twoTo53), 1.0, double(twoTo53 - 1), double(twoTo53 - 1),
+            10000);
     }
-
-    void snaps()
-    {
-        QFETCH(double, minimum);
-        QFETCH(double, maximum);
-        QFETCH(double, increment);
-        QFETCH(double, value);
-        QFETCH(double, expected);
-        const SliderRange range{minimum, maximum, increment, false};
-        QVERIFY(snapped(value, range) == expected); // exactly
-        QTEST(sliderSteps(range), "steps");
-        QCOMPARE(sliderValue(1.23456789, {1.0, 2.0, -1.0, true}), 1.23457);
-    }
+    void snaps() { runRow(); }
 
     void stepsAtLeastOneIncrement()
     {
@@ -256,24 +230,21 @@ private slots:
 
     void filters_data()
     {
-        const DataTable<QString, bool> table{"filter", "matches"};
-        table.row("empty", "", true);
-        table.row("name", "exposuretime", true);
-        table.row("display name", " time (abs) ", true);
-        table.row("description", "SENSOR", true);
-        table.row("no pattern", "Expo.*Time", false);
-        table.row("none", "gain", false);
+        const DataTable row([](const QString& filter, bool matches) {
+            FeatureInfo info;
+            info.name = "ExposureTimeAbs";
+            info.displayName = "Exposure Time (abs)";
+            info.description = "Time that the sensor is exposed.";
+            QCOMPARE(matchesFilter(info, filter), matches);
+        });
+        row("empty", "", true);
+        row("name", "exposuretime", true);
+        row("display name", " time (abs) ", true);
+        row("description", "SENSOR", true);
+        row("no pattern", "Expo.*Time", false);
+        row("none", "gain", false);
     }
-
-    void filters()
-    {
-        QFETCH(QString, filter);
-        FeatureInfo info;
-        info.name = "ExposureTimeAbs";
-        info.displayName = "Exposure Time (abs)";
-        info.description = "Time that the sensor is exposed.";
-        QTEST(matchesFilter(info, filter), "matches");
-    }
+    void filters() { runRow(); }
 };
 
 QTEST_MAIN(FeatureArithmeticTest)

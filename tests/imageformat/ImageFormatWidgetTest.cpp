@@ -1,4 +1,5 @@
 #include "imageformat/ImageFormatWidget.h"
+#include "DataTable.h"
 #include "MessageHandlerGuard.h"
 #include "SimulatedCamera.h"
 #include "WheelEvent.h"
@@ -38,6 +39,7 @@ struct OpenPage
     ImageReaderWidget* source() const { return field<ImageReaderWidget>("imageReaderWidget"); }
     int value(const char* feature) const { return int(camera->feature(feature).integer()); }
 
+    const MessageHandlerGuard guard;
     std::unique_ptr<sim::Camera> camera;
     std::unique_ptr<ImageFormatWidget> page;
 };
@@ -110,29 +112,27 @@ private slots:
 
     void clearsTheImageAfterGeometryChanges_data()
     {
-        QTest::addColumn<bool>("clears");
+        const DataTable row([](bool clears) {
+            const OpenPage p;
+            QSignalSpy images(p.source(), &ImageReaderWidget::imageChanged);
+            p.source()->setCurrentIndex(ImageReaderWidget::LastAcquiredImage);
+            auto* const field = p.field<QWidget>(QTest::currentDataTag());
+            if (auto* const spinBox = qobject_cast<QSpinBox*>(field))
+                spinBox->setValue(2);
+            else if (auto* const checkBox = qobject_cast<QCheckBox*>(field))
+                checkBox->click();
+            else
+                p.format()->setCurrentIndex(1);
+            QCOMPARE(p.source()->currentIndex() == ImageReaderWidget::NoImage, clears);
+            p.page->updateTimer(); // the notification of the page's own write changes nothing more
+            QCOMPARE(images.size() == 1, clears);
+        });
         for (const char* field :
              {"spbBinningHorizontal", "spbBinningVertical", "chkReverseX", "chkReverseY"})
-            QTest::newRow(field) << true;
-        QTest::newRow("cmbPixelFormat") << false;
+            row(field, true);
+        row("cmbPixelFormat", false);
     }
-
-    void clearsTheImageAfterGeometryChanges()
-    {
-        const OpenPage p;
-        QSignalSpy images(p.source(), &ImageReaderWidget::imageChanged);
-        p.source()->setCurrentIndex(ImageReaderWidget::LastAcquiredImage);
-        auto* const field = p.field<QWidget>(QTest::currentDataTag());
-        if (auto* const spinBox = qobject_cast<QSpinBox*>(field))
-            spinBox->setValue(2);
-        else if (auto* const checkBox = qobject_cast<QCheckBox*>(field))
-            checkBox->click();
-        else
-            p.format()->setCurrentIndex(1);
-        QTEST(p.source()->currentIndex() == ImageReaderWidget::NoImage, "clears");
-        p.page->updateTimer(); // the notification of the page's own write changes nothing more
-        QTEST(images.size() == 1, "clears");
-    }
+    void clearsTheImageAfterGeometryChanges() { runRow(); }
 
     void followsOtherClients()
     {
@@ -211,21 +211,6 @@ private slots:
         sendWheel(p.binning());
         QCOMPARE(p.value("BinningHorizontal"), 1);
     }
-
-    void disablesWhileStreaming()
-    {
-        const OpenPage p;
-        QSignalSpy running(p.page.get(), &ImageFormatWidget::acquisitionRunning);
-        for (const bool isStreaming : {true, false}) {
-            p.page->camIsStreaming(isStreaming);
-            QCOMPARE(p.field<QWidget>("frmImageFormat")->isEnabled(), !isStreaming);
-            QCOMPARE(p.source()->isEnabled(), !isStreaming);
-        }
-        QCOMPARE(running.size(), 2);
-    }
-
-private:
-    MessageHandlerGuard m_guard;
 };
 
 QTEST_MAIN(ImageFormatWidgetTest)

@@ -6,7 +6,6 @@
 #include <QFileDialog>
 #include <QImageWriter>
 #include <QLineEdit>
-#include <QtTest>
 
 #ifdef Q_OS_UNIX
 #include <sys/stat.h>
@@ -33,16 +32,13 @@ private slots:
 
     void fileFilter_data()
     {
-        const DataTable<QList<QByteArray>, QString> table{"formats", "filter"};
-        table.row("none", {}, "Image files ()");
-        table.row("order and case", {"png", "BMP", "Jpg"}, "Image files (*.png *.bmp *.jpg)");
+        const DataTable row([](const QList<QByteArray>& formats, const QString& filter) {
+            QCOMPARE(imageFileFilter(formats), filter);
+        });
+        row("none", {}, "Image files ()");
+        row("order and case", {"png", "BMP", "Jpg"}, "Image files (*.png *.bmp *.jpg)");
     }
-
-    void fileFilter()
-    {
-        QFETCH(QList<QByteArray>, formats);
-        QTEST(imageFileFilter(formats), "filter");
-    }
+    void fileFilter() { runRow(); }
 
     void noImageIsAnnouncedEachTime()
     {
@@ -63,65 +59,58 @@ private slots:
         QCOMPARE(requests.count(), 1);
         QVERIFY(images->isEmpty());
         selector.onFrameReceived(QPixmap(4, 3));
-        QCOMPARE(images->size(), 1);
-        QCOMPARE(images->constFirst()->size(), QSize(4, 3));
+        QCOMPARE(images->value(0)->size(), QSize(4, 3));
     }
 
     void fileIsAnnounced_data()
     {
-        const DataTable<QString, bool, QList<QSize>> table{"file", "accepted", "announced"};
-        table.row("picture", "picture.png", true, {{30, 20}});
-        table.row("no picture", "broken.png", true, {{0, 0}});
-        table.row("cancelled", "picture.png", false, {});
+        const DataTable row(
+            [this](const QString& file, bool accepted, const QList<QSize>& announced) {
+                ImageReaderWidget selector(nullptr);
+                const auto images = announcedBy(selector);
+                whenDialogOpens([&](QFileDialog* dialog) {
+                    QCOMPARE(dialog->parentWidget(), &selector);
+                    QCOMPARE(dialog->fileMode(), QFileDialog::ExistingFile);
+                    QCOMPARE(dialog->nameFilters(),
+                             QStringList{imageFileFilter(QImageWriter::supportedImageFormats())});
+                    QCOMPARE(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
+                    dialog->setDirectory(m_folder.path());
+                    dialog->findChild<QLineEdit*>()->setText(m_folder.filePath(file));
+                    if (accepted)
+                        static_cast<QDialog*>(dialog)->accept();
+                    else
+                        dialog->reject();
+                });
+                selector.onComboBoxItemActivated(ImageReaderWidget::ImageFromFile);
+                QList<QSize> sizes;
+                for (const ImagePtr& image : *images)
+                    sizes << image->size();
+                QCOMPARE(sizes, announced);
+                selector.onComboBoxItemActivated(ImageReaderWidget::NoImage);
+                QVERIFY(!images->constLast());
+                QVERIFY(!QApplication::overrideCursor());
+            });
+        row("picture", "picture.png", true, {{30, 20}});
+        row("no picture", "broken.png", true, {{0, 0}});
+        row("cancelled", "picture.png", false, {});
     }
-
-    void fileIsAnnounced()
-    {
-        QFETCH(QString, file);
-        QFETCH(bool, accepted);
-        ImageReaderWidget selector(nullptr);
-        const auto images = announcedBy(selector);
-        whenDialogOpens([&](QFileDialog* dialog) {
-            QCOMPARE(dialog->parentWidget(), &selector);
-            QCOMPARE(dialog->fileMode(), QFileDialog::ExistingFile);
-            QCOMPARE(dialog->nameFilters(),
-                     QStringList{imageFileFilter(QImageWriter::supportedImageFormats())});
-            QCOMPARE(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
-            dialog->setDirectory(m_folder.path());
-            dialog->findChild<QLineEdit*>()->setText(m_folder.filePath(file));
-            if (accepted)
-                static_cast<QDialog*>(dialog)->accept();
-            else
-                dialog->reject();
-        });
-        selector.onComboBoxItemActivated(ImageReaderWidget::ImageFromFile);
-        QList<QSize> sizes;
-        for (const ImagePtr& image : *images)
-            sizes << image->size();
-        QTEST(sizes, "announced");
-        selector.onComboBoxItemActivated(ImageReaderWidget::NoImage);
-        QVERIFY(!images->constLast());
-        QVERIFY(!QApplication::overrideCursor());
-    }
+    void fileIsAnnounced() { runRow(); }
 
     void whatIsNoPictureIsNull_data()
     {
-        QTest::addColumn<QByteArray>("content");
-        QTest::newRow("empty") << QByteArray();
-        QTest::newRow("text") << QByteArray("This is no picture.");
-        QTest::newRow("900 megapixels, grey") << QByteArray("P5\n30000 30000 255\n");
-        QTest::newRow("900 megapixels, bits") << QByteArray("P4\n30000 30000\n");
+        const DataTable row([this](const QByteArray& content) {
+            QFile file(m_folder.filePath(QString("content")));
+            QVERIFY(file.open(QIODevice::WriteOnly));
+            file.write(content);
+            file.close();
+            QVERIFY(loadPicture(file.fileName()).isNull());
+        });
+        row("empty", QByteArray());
+        row("text", QByteArray("This is no picture."));
+        row("900 megapixels, grey", QByteArray("P5\n30000 30000 255\n"));
+        row("900 megapixels, bits", QByteArray("P4\n30000 30000\n"));
     }
-
-    void whatIsNoPictureIsNull()
-    {
-        QFETCH(QByteArray, content);
-        QFile file(m_folder.filePath(QString("content")));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(content);
-        file.close();
-        QVERIFY(loadPicture(file.fileName()).isNull());
-    }
+    void whatIsNoPictureIsNull() { runRow(); }
 
     // Opening a pipe for reading waits for a writer.
     void pipesAndFoldersAreNotOpened()

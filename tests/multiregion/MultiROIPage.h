@@ -1,5 +1,6 @@
 #pragma once
 
+#include "MessageHandlerGuard.h"
 #include "SimulatedCamera.h"
 #include "multiregion/MultiROIWidget.h"
 #include "multiregion/MultiRubberBandLabel.h"
@@ -9,6 +10,7 @@
 
 #include "simulator/Model.h"
 
+#include <QComboBox>
 #include <QLabel>
 #include <QMessageBox>
 #include <QTabBar>
@@ -177,6 +179,7 @@ struct MultiROIPage
         return {};
     }
 
+    const MessageHandlerGuard guard;
     std::unique_ptr<sim::Camera> camera;
     std::unique_ptr<MultiROIWidget> page;
     MultiRubberBandLabel* label = nullptr;

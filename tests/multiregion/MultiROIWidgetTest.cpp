@@ -1,14 +1,9 @@
 #include "multiregion/MultiROIWidget.h"
-#include "MessageHandlerGuard.h"
-#include "TestEvents.h"
-#include "multiregion/LineRubberBand.h"
-#include "multiregion/RegionSpan.h"
+#include "DataTable.h"
+#include "MultiROIPage.h"
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QRandomGenerator>
-
-#include "MultiROIPage.h"
 
 class MultiROIWidgetTest : public QObject
 {
@@ -17,98 +12,77 @@ class MultiROIWidgetTest : public QObject
 private slots:
     void loadsDefaults_data()
     {
-        QTest::addColumn<QByteArray>("mode");
-        QTest::addColumn<QByteArray>("model");
-        QTest::addColumn<QString>("active");
-        for (const char* mode : {"Vertical", "Horizontal", "Tile", "Free"}) {
-            const auto row = [mode](const char* model, const char* active) {
-                QTest::addRow("%s %s", mode, model)
-                    << QByteArray(mode) << QByteArray(model) << QString(active);
-            };
-            row("multi-region", "0123");
-            row("multi-region-6", "0123");
-            row("multi-region-integer", "0123");
-            row("multi-region-2", "01");
-            row("multi-region-3", qstrcmp(mode, "Tile") == 0 ? "" : "012");
-            row("multi-region-older", "0123");
+        const DataTable row(
+            [](const QByteArray& mode, const QByteArray& model, const QString& active) {
+                const MultiROIPage open(model, mode);
+                open.loadDefaults();
+                QCOMPARE(open.active(), active);
+                for (int region = 0; region < open.tabs->count(); ++region) {
+                    if (open.isOn(region))
+                        QCOMPARE(open.camera->feature("SubRegionStatus").textAt(region),
+                                 std::string("Valid"));
+                }
+                QCOMPARE(open.contradiction(), QString());
+                QCOMPARE(open.log.size(), open.active().isEmpty() ? 1 : 0);
+                // At rest the page leaves the camera alone.
+                open.camera->journal().clear();
+                open.settle();
+                QCOMPARE(open.camera->journal().writes().size(), 0u);
+            });
+        for (const QByteArray mode : {"Vertical", "Horizontal", "Tile", "Free"}) {
+            for (const char* model :
+                 {"multi-region", "multi-region-6", "multi-region-integer", "multi-region-older"})
+                row(mode + ' ' + model, mode, model, "0123");
+            row(mode + " two", mode, "multi-region-2", "01");
+            row(mode + " three", mode, "multi-region-3", mode == "Tile" ? "" : "012");
         }
-        QTest::addRow("many") << QByteArray("Free") << QByteArray("multi-region-256") << "0123";
+        row("many", "Free", "multi-region-256", "0123");
     }
-
-    void loadsDefaults()
-    {
-        QFETCH(QByteArray, mode);
-        QFETCH(QByteArray, model);
-        const MultiROIPage open(model, mode);
-        open.loadDefaults();
-        QTEST(open.active(), "active");
-        for (int region = 0; region < open.tabs->count(); ++region) {
-            if (open.isOn(region))
-                QCOMPARE(open.camera->feature("SubRegionStatus").textAt(region),
-                         std::string("Valid"));
-        }
-        QCOMPARE(open.contradiction(), QString());
-        QCOMPARE(open.log.size(), open.active().isEmpty() ? 1 : 0);
-        // At rest the page leaves the camera alone.
-        open.camera->journal().clear();
-        open.settle();
-        QCOMPARE(open.camera->journal().writes().size(), 0u);
-    }
+    void loadsDefaults() { runRow(); }
 
     /// With regions 0 to 3 active, a button is clicked, or the defaults are loaded for -1.
     void asks_data()
     {
-        QTest::addColumn<QByteArray>("mode");
-        QTest::addColumn<int>("region");
-        QTest::addColumn<QString>("answer");
-        QTest::addColumn<QString>("active");
-        QTest::addColumn<QString>("question");
-        const auto row = [](const char* mode, int region, const char* answer, const char* active,
-                            const char* question) {
-            QTest::addRow("%s %d %s", mode, region, answer)
-                << QByteArray(mode) << region << answer << active << question;
-        };
-        row("Tile", 3, "Row", "01", "deactivation of either a row or a column.\nWhat");
-        row("Tile", 3, "Column", "02", "either a row or a column");
-        row("Tile", 3, "Cancel", "0123", "either a row or a column");
-        row("Tile", 3, "Escape", "0123", "either a row or a column");
-        row("Tile", 1, "OK", "02", "'Tile' requires deactivation of the whole column.");
-        row("Tile", 2, "OK", "01", "the whole row.");
-        row("Tile", 2, "Cancel", "0123", "the whole row.");
-        row("Horizontal", 1, "OK", "0", "'Horizontal' requires deactivation of all subsequent");
-        row("Vertical", 1, "Cancel", "0123", "deactivation of all subsequent");
-        row("Free", -1, "No", "0123", "Overwrite the current region settings?");
-    }
-
-    void asks()
-    {
-        QFETCH(QByteArray, mode);
-        QFETCH(int, region);
-        QFETCH(QString, answer);
-        QFETCH(QString, question);
-        MultiROIPage open("multi-region", mode);
-        open.loadDefaults();
-        const QRect corner = open.onCamera(3);
-        const auto act = [&] {
-            region < 0 ? open.page->loadDefaultConfiguration() : open.button(region)->click();
-        };
-        {
-            Answers answers({answer});
+        const DataTable row([](const QByteArray& mode, int region, const QString& answer,
+                               const QString& active, const QString& question) {
+            MultiROIPage open("multi-region", mode);
+            open.loadDefaults();
+            const QRect corner = open.onCamera(3);
+            const auto act = [&] {
+                region < 0 ? open.page->loadDefaultConfiguration() : open.button(region)->click();
+            };
+            {
+                Answers answers({answer});
+                act();
+                QCOMPARE(open.active(), active);
+                QCOMPARE(answers.texts.size(), 1);
+                QVERIFY2(answers.texts[0].contains(question), qPrintable(answers.texts[0]));
+            }
+            open.settle();
+            QCOMPARE(open.contradiction(), QString());
+            QVERIFY(!open.isOn(3) || open.onCamera(3) == corner);
+            // The viewer may close the page while the question is open.
+            open.loadDefaults();
+            Answers closing({answer}, [&open] { open.page.reset(); });
             act();
-            QTEST(open.active(), "active");
-            QCOMPARE(answers.texts.size(), 1);
-            QVERIFY2(answers.texts[0].contains(question), qPrintable(answers.texts[0]));
-        }
-        open.settle();
-        QCOMPARE(open.contradiction(), QString());
-        QVERIFY(!open.isOn(3) || open.onCamera(3) == corner);
-        // The viewer may close the page while the question is open.
-        open.loadDefaults();
-        Answers closing({answer}, [&open] { open.page.reset(); });
-        act();
-        QVERIFY(!open.page);
-        QCOMPARE(open.active(4), QString("0123"));
+            QVERIFY(!open.page);
+            QCOMPARE(open.active(4), QString("0123"));
+        });
+        row("Tile 3 Row", "Tile", 3, "Row", "01",
+            "deactivation of either a row or a column.\nWhat");
+        row("Tile 3 Column", "Tile", 3, "Column", "02", "either a row or a column");
+        row("Tile 3 Cancel", "Tile", 3, "Cancel", "0123", "either a row or a column");
+        row("Tile 3 Escape", "Tile", 3, "Escape", "0123", "either a row or a column");
+        row("Tile 1 OK", "Tile", 1, "OK", "02",
+            "'Tile' requires deactivation of the whole column.");
+        row("Tile 2 OK", "Tile", 2, "OK", "01", "the whole row.");
+        row("Tile 2 Cancel", "Tile", 2, "Cancel", "0123", "the whole row.");
+        row("Horizontal 1 OK", "Horizontal", 1, "OK", "0",
+            "'Horizontal' requires deactivation of all subsequent");
+        row("Vertical 1 Cancel", "Vertical", 1, "Cancel", "0123", "deactivation of all subsequent");
+        row("Free -1 No", "Free", -1, "No", "0123", "Overwrite the current region settings?");
     }
+    void asks() { runRow(); }
 
     void activatesInARow()
     {
@@ -301,43 +275,40 @@ private slots:
     /// Cameras that notify of each registration, and late, keep no page busy.
     void restsWhateverTheCameraNotifies_data()
     {
-        QTest::addColumn<bool>("synchronous");
-        QTest::newRow("at once") << true;
-        QTest::newRow("later") << false;
+        const DataTable row([](bool synchronous) {
+            const MultiROIPage open("multi-region", "Free");
+            open.loadDefaults();
+            auto settings = synchronous ? sim::NotificationSettings::synchronous()
+                                        : sim::NotificationSettings::asynchronous();
+            settings.onRegistration = true;
+            settings.lateAfterUnregistration = true;
+            open.camera->setNotifications(settings);
+            open.page->hide();
+            open.page->show();
+            for (int i = 0; i < 4; ++i)
+                open.settle();
+            open.camera->journal().clear();
+            for (int i = 0; i < 3; ++i)
+                open.settle();
+            QCOMPARE(open.camera->journal().writes().size(), 0u);
+            // A region switched by another client in the second of a change of tabs is not lost.
+            open.tabs->setCurrentIndex(3);
+            open.switchAsOther(1, "Off");
+            open.writeAsOther("SubRegionSelector", "Region3");
+            for (int i = 0; i < 3; ++i)
+                open.settle();
+            QCOMPARE(open.contradiction(), QString());
+            QCOMPARE(open.tabs->currentIndex(), 3);
+            // Nor is a selection made while nobody looked.
+            open.page->hide();
+            open.writeAsOther("SubRegionSelector", "Region2");
+            open.page->show();
+            QCOMPARE(open.tabs->currentIndex(), 2);
+        });
+        row("at once", true);
+        row("later", false);
     }
-
-    void restsWhateverTheCameraNotifies()
-    {
-        QFETCH(bool, synchronous);
-        const MultiROIPage open("multi-region", "Free");
-        open.loadDefaults();
-        auto settings = synchronous ? sim::NotificationSettings::synchronous()
-                                    : sim::NotificationSettings::asynchronous();
-        settings.onRegistration = true;
-        settings.lateAfterUnregistration = true;
-        open.camera->setNotifications(settings);
-        open.page->hide();
-        open.page->show();
-        for (int i = 0; i < 4; ++i)
-            open.settle();
-        open.camera->journal().clear();
-        for (int i = 0; i < 3; ++i)
-            open.settle();
-        QCOMPARE(open.camera->journal().writes().size(), 0u);
-        // A region switched by another client in the second of a change of tabs is not lost.
-        open.tabs->setCurrentIndex(3);
-        open.switchAsOther(1, "Off");
-        open.writeAsOther("SubRegionSelector", "Region3");
-        for (int i = 0; i < 3; ++i)
-            open.settle();
-        QCOMPARE(open.contradiction(), QString());
-        QCOMPARE(open.tabs->currentIndex(), 3);
-        // Nor is a selection made while nobody looked.
-        open.page->hide();
-        open.writeAsOther("SubRegionSelector", "Region2");
-        open.page->show();
-        QCOMPARE(open.tabs->currentIndex(), 2);
-    }
+    void restsWhateverTheCameraNotifies() { runRow(); }
 
     void needsRegions()
     {
@@ -345,125 +316,6 @@ private slots:
         const MultiROIWidget page(featureList(*camera), nullptr);
         QVERIFY(page.accessibleName().isEmpty());
     }
-
-    /// Whatever is done, nothing is written between press and release, nothing but what others
-    /// wrote brings an overlap by a drag, what was in line stays in line, and in the end all agree
-    /// with the camera.
-    void keepsInStep_data()
-    {
-        QTest::addColumn<QByteArray>("mode");
-        for (const char* mode : {"Vertical", "Horizontal", "Tile", "Free"})
-            QTest::newRow(mode) << QByteArray(mode);
-    }
-
-    void keepsInStep()
-    {
-        QFETCH(QByteArray, mode);
-        const MultiROIPage open("multi-region", mode);
-        open.loadDefaults();
-        QRandomGenerator random(2);
-        Answers answers({});
-        const QStringList geometry{"SubRegionOffsetX", "SubRegionOffsetY", "SubRegionWidth",
-                                   "SubRegionHeight"};
-        for (int step = 0; step < 90; ++step) {
-            const int action = random.bounded(12);
-            const int region = random.bounded(4);
-            const QString& feature = geometry[random.bounded(4)];
-            const bool wasInLine = outOfLine(open).isEmpty();
-            bool mayLeaveLine = false;
-            if (action == 0) {
-                // Escape keeps what the arrangement needs; a button may stay without a place.
-                open.button(region)->click();
-                const bool isChecked = open.button(region)->isChecked();
-                mayLeaveLine = isChecked != open.isOn(region);
-                if (mayLeaveLine)
-                    open.page->setFeatureValue(region, -1, "SubRegionMode",
-                                               isChecked ? "On" : "Off");
-            } else if (action == 1) {
-                open.page->setFeatureValue(region, -1, feature, random.bounded(16, 400));
-            } else if (action == 2) {
-                open.camera->writeAsOtherClient(feature.toStdString(), 8 * random.bounded(2, 60));
-                mayLeaveLine = true;
-            } else if (action == 3) {
-                open.page->findChild<QComboBox*>()->setCurrentIndex(region);
-                mayLeaveLine = true;
-            } else if (action == 4) {
-                answers.buttons << "Yes";
-                open.page->loadDefaultConfiguration();
-            } else {
-                dragSomewhere(open, random, action < 8);
-            }
-            open.settle();
-            open.settle();
-            QString wrong = open.contradiction();
-            if (wasInLine && !mayLeaveLine)
-                wrong += outOfLine(open);
-            QVERIFY2(wrong.isEmpty(),
-                     qPrintable(QString("step %1: %2 after action %3, %4")
-                                    .arg(step)
-                                    .arg(wrong)
-                                    .arg(action)
-                                    .arg(region)));
-        }
-        for (const QString& line : qAsConst(open.log))
-            QVERIFY2(line.contains("minimum size"), qPrintable(line));
-    }
-
-private:
-    static int overlaps(const MultiROIPage& open)
-    {
-        int count = 0;
-        for (int a = 0; a < 4; ++a) {
-            for (int b = 0; b < a; ++b)
-                count
-                    += open.isOn(a) && open.isOn(b) && overlap(open.onCamera(a), open.onCamera(b));
-        }
-        return count;
-    }
-
-    /// Which regions do not share their rows or columns as the arrangement wants it.
-    static QString outOfLine(const MultiROIPage& open)
-    {
-        QVector<int> active;
-        for (const QChar region : open.active())
-            active << region.digitValue();
-        const QString mode = open.page->findChild<QComboBox*>()->currentText();
-        for (const ConstraintGroup& group : constraintGroups(arrangementMode(mode), active)) {
-            for (const int member : group.members) {
-                if (spanOf(open.onCamera(member), group.axis())
-                    != spanOf(open.onCamera(group.master()), group.axis()))
-                    return QString("%1 is not in line with %2").arg(member).arg(group.master());
-            }
-        }
-        return {};
-    }
-
-    /// From anywhere, or by a constraint line when there is one.
-    static void dragSomewhere(const MultiROIPage& open, QRandomGenerator& random, bool byLine)
-    {
-        const auto anywhere = [&random](const QRect& area) {
-            return area.topLeft()
-                + QPoint(random.bounded(area.width()), random.bounded(area.height()));
-        };
-        const QRect image({}, open.label->imageSize());
-        const auto lines = open.label->findChildren<LineRubberBand*>();
-        const QPoint from = anywhere(
-            byLine && !lines.isEmpty() ? lines[random.bounded(lines.size())]->geometry() : image);
-        const QPoint to = anywhere(image);
-        const int before = overlaps(open);
-        press(open.label, from);
-        open.camera->journal().clear();
-        for (int i = 1; i <= 5; ++i)
-            sendMouse(open.label, QEvent::MouseMove, from + (to - from) * i / 5);
-        QCOMPARE(open.camera->journal().writes().size(), 0u);
-        release(open.label, to);
-        // What overlaps already may be dragged anywhere.
-        QVERIFY(before > 0 || overlaps(open) == 0);
-        for (int region = 0; region < 4; ++region)
-            QVERIFY(QRect(0, 0, 2592, 1944).contains(open.onCamera(region)));
-    }
-
-    const MessageHandlerGuard m_guard;
 };
 
 QTEST_MAIN(MultiROIWidgetTest)

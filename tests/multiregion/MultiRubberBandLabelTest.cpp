@@ -1,25 +1,17 @@
 #include "multiregion/MultiRubberBandLabel.h"
+#include "DataTable.h"
+#include "RectText.h"
 #include "TestEvents.h"
 #include "multiregion/LineRubberBand.h"
 #include "multiregion/RectangleRubberBand.h"
 #include "multiregion/RegionLabelWidget.h"
 
 #include <QScreen>
-#include <QtTest>
 
 #include <functional>
 #include <memory>
 
-namespace {
-
-QString text(const QRect& rect)
-{
-    return QString("%1,%2 %3x%4").arg(rect.x()).arg(rect.y()).arg(rect.width()).arg(rect.height());
-}
-
-} // namespace
-
-Q_DECLARE_METATYPE(std::function<void(MultiRubberBandLabel*)>)
+using Label = MultiRubberBandLabel;
 
 class MultiRubberBandLabelTest : public QObject
 {
@@ -32,54 +24,48 @@ private slots:
     /// of size 100 x 100.
     void drags_data()
     {
-        QTest::addColumn<QString>("mode");
-        QTest::addColumn<QPoint>("from");
-        QTest::addColumn<QPoint>("to");
-        QTest::addColumn<QStringList>("expected");
-        const auto row = [](const QString& mode, const char* name, const QPoint& from,
-                            const QPoint& to, const QStringList& reports) {
-            QTest::newRow(name) << mode << from << to << QStringList{"start", "finish"} + reports;
-        };
-        row("Free", "move", {75, 75}, {85, 95}, {"0: 140,180 400x400"});
-        row("Free", "move to the border", {75, 75}, {75, 999}, {"0: 100,800 400x400"});
-        row("Free", "click inside", {75, 75}, {75, 75}, {});
-        row("Free", "click on an edge", {25, 75}, {25, 75}, {"0: 100,100 400x400"});
-        row("Free", "right edge", {122, 75}, {143, 75}, {"0: 100,100 476x400"});
-        row("Free", "not over the neighbour", {122, 75}, {300, 75}, {"0: 100,100 400x400"});
-        row("Free", "left edge over the border", {26, 75}, {-50, 75}, {"0: 0,100 500x400"});
-        QTest::newRow("nothing there")
-            << "Free" << QPoint(200, 200) << QPoint(220, 220) << QStringList();
-        row("Horizontal", "a member stays in the row", {275, 75}, {285, 95},
+        const DataTable row([this](const QString& mode, const QPoint& from, const QPoint& to,
+                                   const QStringList& expected) {
+            makeLabel(mode);
+            drag(m_label.get(), from, to);
+            QCOMPARE(m_events, (QStringList{"start", "finish"} + expected));
+            QVERIFY(!m_label->isDragging());
+        });
+        row("move", "Free", {75, 75}, {85, 95}, {"0: 140,180 400x400"});
+        row("move to the border", "Free", {75, 75}, {75, 999}, {"0: 100,800 400x400"});
+        row("click inside", "Free", {75, 75}, {75, 75}, {});
+        row("click on an edge", "Free", {25, 75}, {25, 75}, {"0: 100,100 400x400"});
+        row("right edge", "Free", {122, 75}, {143, 75}, {"0: 100,100 476x400"});
+        row("not over the neighbour", "Free", {122, 75}, {300, 75}, {"0: 100,100 400x400"});
+        row("left edge over the border", "Free", {26, 75}, {-50, 75}, {"0: 0,100 500x400"});
+        row("a member stays in the row", "Horizontal", {275, 75}, {285, 95},
             {"1: 940,100 400x400"});
-        row("Horizontal", "the master takes the row along", {75, 75}, {85, 95},
+        row("the master takes the row along", "Horizontal", {75, 75}, {85, 95},
             {"0: 140,180 400x400", "1: 900,180 400x400"});
-        row("Horizontal", "line", {350, 124}, {350, 155},
+        row("line", "Horizontal", {350, 124}, {350, 155},
             {"0: 100,100 400x528", "1: 900,100 400x528"});
-        row("Vertical", "columns block sideways", {275, 75}, {285, 95}, {"1: 940,180 400x400"});
+        row("columns block sideways", "Vertical", {275, 75}, {285, 95}, {"1: 940,180 400x400"});
     }
-
-    void drags()
-    {
-        QFETCH(QString, mode);
-        QFETCH(QPoint, from);
-        QFETCH(QPoint, to);
-        makeLabel(mode, {{100, 100, 400, 400}, {900, 100, 400, 400}});
-        drag(m_label.get(), from, to);
-        QTEST(m_events, "expected");
-        QVERIFY(!m_label->isDragging());
-    }
+    void drags() { runRow(); }
 
     /// What happens in the midst of a drag of region 0 from (75, 75) by (10, 20).
     void disturbedDrags_data()
     {
-        using Label = MultiRubberBandLabel;
-        QTest::addColumn<std::function<void(Label*)>>("disturb");
-        QTest::addColumn<QString>("report");
-        QTest::addColumn<QRect>("band");
-        const auto row = [](const char* name, const QString& report, const QRect& band,
-                            const std::function<void(Label*)>& disturb) {
-            QTest::newRow(name) << disturb << report << band;
-        };
+        const DataTable row([this](const QString& report, const QRect& band,
+                                   const std::function<void(Label*)>& disturb) {
+            makeLabel("Free");
+            press(m_label.get(), {75, 75});
+            sendMouse(m_label.get(), QEvent::MouseMove, {85, 95});
+            QCOMPARE(bandOf(0)->geometry(), QRect(35, 45, 100, 100));
+            disturb(m_label.get());
+            const QPoint end = m_label->width() == 800 ? QPoint(160, 170) : QPoint(85, 95);
+            sendMouse(m_label.get(), QEvent::MouseMove, end);
+            release(m_label.get(), end);
+            QCOMPARE(m_events.last(), report);
+            QCOMPARE(bandOf(0)->geometry(), band);
+            if (bandOf(2))
+                QCOMPARE(bandOf(2)->geometry(), QRect(300, 200, 100, 100));
+        });
         row("other buttons do nothing", "0: 140,180 400x400", {35, 45, 100, 100}, [](Label* label) {
             for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
                 QMouseEvent event(type, {275, 75}, label->mapToGlobal({275, 75}), Qt::RightButton,
@@ -102,30 +88,14 @@ private slots:
         row("goes on at another scale", "0: 120,140 400x400", {60, 70, 200, 200},
             [](Label* label) { label->resize(800, 600); });
     }
-
-    void disturbedDrags()
-    {
-        QFETCH(std::function<void(MultiRubberBandLabel*)>, disturb);
-        makeLabel("Free", {{100, 100, 400, 400}, {900, 100, 400, 400}});
-        press(m_label.get(), {75, 75});
-        sendMouse(m_label.get(), QEvent::MouseMove, {85, 95});
-        QCOMPARE(bandOf(0)->geometry(), QRect(35, 45, 100, 100));
-        disturb(m_label.get());
-        const QPoint end = m_label->width() == 800 ? QPoint(160, 170) : QPoint(85, 95);
-        sendMouse(m_label.get(), QEvent::MouseMove, end);
-        release(m_label.get(), end);
-        QTEST(m_events.last(), "report");
-        QTEST(bandOf(0)->geometry(), "band");
-        if (bandOf(2))
-            QCOMPARE(bandOf(2)->geometry(), QRect(300, 200, 100, 100));
-    }
+    void disturbedDrags() { runRow(); }
 
     void pressTellsInOrder()
     {
-        makeLabel("Free", {{100, 100, 400, 400}, {900, 100, 400, 400}});
-        connect(m_label.get(), &MultiRubberBandLabel::highlightSelectedRegion, this,
+        makeLabel("Free");
+        connect(m_label.get(), &Label::highlightSelectedRegion, this,
                 [this](int region) { m_events << QString("highlight %1").arg(region); });
-        connect(m_label.get(), &MultiRubberBandLabel::regionSelected, this, [this](int region) {
+        connect(m_label.get(), &Label::regionSelected, this, [this](int region) {
             m_events << QString("selected %1").arg(region);
             m_label->selectRegion(region);
             QVERIFY(m_label->isDragging());
@@ -144,7 +114,7 @@ private slots:
         m_label->resize(400, 300);
         QCOMPARE(bandOf(0)->geometry(), QRect(162, 159, 163, 120));
         QCOMPARE(m_label->regionRectangle(0), QRect(648, 636, 650, 480));
-        QSignalSpy spy(m_label.get(), &MultiRubberBandLabel::labelGeometryChanged);
+        QSignalSpy spy(m_label.get(), &Label::labelGeometryChanged);
         m_label->resize(800, 300);
         QCOMPARE(spy.takeFirst(), (QVariantList{1.0, 1.0, QSize(400, 300)}));
         m_label->resize(800, 600);
@@ -153,7 +123,7 @@ private slots:
 
     void higherNumberIsRed()
     {
-        makeLabel("Free", {{100, 100, 400, 400}, {900, 100, 400, 400}});
+        makeLabel("Free");
         const QColor own(0, 100, 255);
         m_label->onRegionGeometryChanged(0, {700, 100, 400, 400});
         QCOMPARE(m_label->shownColor(0), own);
@@ -183,8 +153,8 @@ private slots:
 
     void arrangesOnceForAllToldRegions()
     {
-        makeLabel("Horizontal", {{100, 100, 400, 400}, {900, 100, 400, 400}});
-        QSignalSpy colors(m_label.get(), &MultiRubberBandLabel::regionColorChanged);
+        makeLabel("Horizontal");
+        QSignalSpy colors(m_label.get(), &Label::regionColorChanged);
         QSignalSpy tests(bandOf(0), &RectangleRubberBand::colorChanged);
         {
             const QSignalBlocker blocker(m_label.get());
@@ -209,7 +179,7 @@ private slots:
 
     void linesComeAndGo()
     {
-        makeLabel("Horizontal", {{100, 100, 400, 400}, {900, 100, 400, 400}});
+        makeLabel("Horizontal");
         QCOMPARE(m_label->findChildren<LineRubberBand*>().size(), 2);
         // They end with the picture.
         m_label->resize(500, 300);
@@ -253,14 +223,14 @@ private slots:
     /// The page may take a region away while it is told of its new place.
     void survivesRemovalDuringReport()
     {
-        makeLabel("Horizontal", {{100, 100, 400, 400}, {900, 100, 400, 400}});
-        connect(m_label.get(), &MultiRubberBandLabel::regionGeometryChanged, this,
+        makeLabel("Horizontal");
+        connect(m_label.get(), &Label::regionGeometryChanged, this,
                 [this] { m_label->removeRectangle(0); });
         drag(m_label.get(), {75, 75}, {85, 95});
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         QVERIFY(!m_label->isRegionShown(0));
         QCOMPARE(m_label->regionUnder({85, 95}), -1);
-        connect(m_label.get(), &MultiRubberBandLabel::regionSelected, this,
+        connect(m_label.get(), &Label::regionSelected, this,
                 [this] { m_label->removeRectangle(1); });
         m_events.clear();
         press(m_label.get(), {275, 95});
@@ -271,54 +241,42 @@ private slots:
     /// The viewer may close the page in answer to any of a drag's signals.
     void survivesDeletionDuringDrag_data()
     {
-        const auto row = [](const char* name, const QByteArray& signal, const QPoint& from) {
-            QTest::newRow(name) << signal << from;
-        };
-        QTest::addColumn<QByteArray>("signal");
-        QTest::addColumn<QPoint>("from");
+        const DataTable row([this](const QByteArray& signal, const QPoint& from) {
+            makeLabel("Horizontal");
+            const QPointer<Label> label(m_label.get());
+            connect(label.data(), signal.constData(), this, SLOT(deleteLabel()));
+            const auto send = [&](QEvent::Type type, const QPoint& point) {
+                if (label)
+                    sendMouse(label, type, point);
+            };
+            send(QEvent::MouseButtonPress, from);
+            send(QEvent::MouseMove, from + QPoint(5, 10));
+            send(QEvent::MouseButtonRelease, from + QPoint(5, 10));
+            QVERIFY(!label);
+        });
         row("at the press", SIGNAL(regionSelected(int)), {75, 75});
         row("during a move", SIGNAL(mouseMoved(QPoint)), {75, 75});
         row("at the release", SIGNAL(rubberChangeFinished(QPoint)), {75, 75});
         row("at the report", SIGNAL(regionGeometryChanged(int, QRect)), {75, 75});
         row("at the report of a line", SIGNAL(regionGeometryChanged(int, QRect)), {150, 124});
     }
-
-    void survivesDeletionDuringDrag()
-    {
-        QFETCH(QByteArray, signal);
-        QFETCH(QPoint, from);
-        makeLabel("Horizontal", {{100, 100, 400, 400}, {900, 100, 400, 400}});
-        const QPointer<MultiRubberBandLabel> label(m_label.get());
-        connect(label.data(), signal.constData(), this, SLOT(deleteLabel()));
-        const auto send = [&](QEvent::Type type, const QPoint& point) {
-            if (label)
-                sendMouse(label, type, point);
-        };
-        send(QEvent::MouseButtonPress, from);
-        send(QEvent::MouseMove, from + QPoint(5, 10));
-        send(QEvent::MouseButtonRelease, from + QPoint(5, 10));
-        QVERIFY(!label);
-    }
+    void survivesDeletionDuringDrag() { runRow(); }
 
     /// What lines and bands that pass by leave is what a painting of all shows.
     void paintsPartsAsAll()
     {
-        makeLabel("Horizontal", {{100, 100, 400, 400}, {900, 100, 400, 400}});
-        const auto onScreen = [this] {
-            return m_label->screen()
-                ->grabWindow(m_label->winId())
-                .toImage()
-                .convertToFormat(QImage::Format_RGB32);
+        makeLabel("Horizontal");
+        const auto picture = [](const QPixmap& pixmap) {
+            return pixmap.toImage().convertToFormat(QImage::Format_RGB32);
         };
-        const auto all
-            = [this] { return m_label->grab().toImage().convertToFormat(QImage::Format_RGB32); };
+        const auto all = [&] { return picture(m_label->grab()); };
         const QImage before = all();
         press(m_label.get(), {75, 75});
         for (int y = 76; y < 130; y += 2) {
             sendMouse(m_label.get(), QEvent::MouseMove, {75, y});
             QCoreApplication::processEvents();
         }
-        QTRY_COMPARE(onScreen(), all());
+        QTRY_COMPARE(picture(m_label->screen()->grabWindow(m_label->winId())), all());
         const QRect number(265, 65, 20, 20); // which the upper line crosses in the end
         QVERIFY(all().copy(number) != before.copy(number));
         release(m_label.get(), {75, 75});
@@ -326,7 +284,7 @@ private slots:
 
     void showsCursors()
     {
-        makeLabel("Horizontal", {{100, 100, 400, 400}, {900, 100, 400, 400}});
+        makeLabel("Horizontal");
         const auto cursorAt = [this](const QPoint& point) {
             sendMouse(m_label.get(), QEvent::MouseMove, point, Qt::NoButton);
             return m_label->testAttribute(Qt::WA_SetCursor) ? m_label->cursor().shape()
@@ -343,33 +301,28 @@ private slots:
     /// Neither the placeholder of a large sensor nor its picture needs its pixels.
     void largeSensors()
     {
-        m_label = std::make_unique<MultiRubberBandLabel>(15000, 10000, QColor(0, 100, 255), "Free",
-                                                         nullptr);
-        QVERIFY(m_label->pixmap(Qt::ReturnByValue).width() <= 2048);
+        m_label = std::make_unique<Label>(15000, 10000, QColor(0, 100, 255), "Free", nullptr);
+        const auto shown = [this] { return m_label->pixmap(Qt::ReturnByValue).toImage(); };
+        QVERIFY(shown().width() <= 2048);
         m_label->resize(600, 500);
         m_label->show();
         QCOMPARE(m_label->imageSize(), QSize(600, 400));
         auto image = std::make_shared<QPixmap>(100, 100);
         image->fill(Qt::white);
         m_label->setBackgroundImage(image, {100, 200}, {});
-        const QImage shown = m_label->pixmap(Qt::ReturnByValue).toImage();
-        QCOMPARE(shown.size(), QSize(600, 400));
-        QCOMPARE(shown.pixelColor(50, 100), QColor(Qt::white));
-        QCOMPARE(shown.pixelColor(50, 300), QColor(Qt::black));
-
-        m_label->setSensorSize({3000, 2000});
+        QCOMPARE(shown().size(), QSize(600, 400));
+        QCOMPARE(shown().pixelColor(50, 100), QColor(Qt::white));
+        QCOMPARE(shown().pixelColor(50, 300), QColor(Qt::black));
+        // A hidden one composes when it is shown, and after each resize from the whole picture.
         m_label->hide();
-        image = std::make_shared<QPixmap>(3000, 2000);
-        image->fill(Qt::white);
-        m_label->setBackgroundImage(image, {3000, 2000}, {});
-        QVERIFY(shownColor({300, 200}) != QColor(Qt::white)); // a hidden label scales nothing
+        m_label->setBackgroundImage(image, {100, 100}, {});
+        QCOMPARE(shown().pixelColor(50, 300), QColor(Qt::black));
         m_label->show();
-        QCOMPARE(shownColor({300, 200}), QColor(Qt::white));
+        QCOMPARE(shown().pixelColor(50, 300), QColor(Qt::white));
         for (const QSize& size : {QSize(600, 400), QSize(300, 200)}) {
             m_label->resize(size);
-            const QImage picture = m_label->pixmap(Qt::ReturnByValue).toImage();
-            QCOMPARE(picture.size(), size);
-            QCOMPARE(picture.pixelColor(size.width() - 1, size.height() - 1), QColor(Qt::white));
+            QCOMPARE(shown().size(), size);
+            QCOMPARE(shown().pixelColor(50, size.height() - 1), QColor(Qt::white));
         }
     }
 
@@ -396,26 +349,20 @@ private slots:
 private:
     Q_SLOT void deleteLabel() { m_label.reset(); }
 
-    QColor shownColor(const QPoint& point) const
+    void makeLabel(const QString& mode,
+                   const QVector<QRect>& regions = {{100, 100, 400, 400}, {900, 100, 400, 400}})
     {
-        return m_label->pixmap(Qt::ReturnByValue).toImage().pixelColor(point);
-    }
-
-    void makeLabel(const QString& mode, const QVector<QRect>& regions)
-    {
-        m_label = std::make_unique<MultiRubberBandLabel>(1600, 1200, QColor(0, 100, 255), mode,
-                                                         nullptr);
-        MultiRubberBandLabel* label = m_label.get();
-        connect(label, &MultiRubberBandLabel::constraintsActivated, this,
+        m_label = std::make_unique<Label>(1600, 1200, QColor(0, 100, 255), mode, nullptr);
+        Label* label = m_label.get();
+        const auto note
+            = [this](const char* event) { return [this, event] { m_events << event; }; };
+        connect(label, &Label::rubberChangeStarted, this, note("start"));
+        connect(label, &Label::rubberChangeFinished, this, note("finish"));
+        connect(label, &Label::rubberChangeDropped, this, note("drop"));
+        connect(label, &Label::constraintsActivated, this,
                 [this](int region, const QStringList& f) { m_constraints.insert(region, f); });
-        connect(label, &MultiRubberBandLabel::regionRangeChanged, this,
+        connect(label, &Label::regionRangeChanged, this,
                 [this](int region, const QRect& range) { m_ranges.insert(region, range); });
-        connect(label, &MultiRubberBandLabel::rubberChangeStarted, this,
-                [this] { m_events << "start"; });
-        connect(label, &MultiRubberBandLabel::rubberChangeFinished, this,
-                [this] { m_events << "finish"; });
-        connect(label, &MultiRubberBandLabel::rubberChangeDropped, this,
-                [this] { m_events << "drop"; });
         label->resize(400, 300);
         label->show();
         QVERIFY(QTest::qWaitForWindowActive(label));
@@ -424,10 +371,9 @@ private:
             label->onRegionActivated(i, true);
         }
         m_events.clear();
-        connect(label, &MultiRubberBandLabel::regionGeometryChanged, this,
-                [this](int region, const QRect& rect) {
-                    m_events << QString("%1: %2").arg(region).arg(text(rect));
-                });
+        connect(label, &Label::regionGeometryChanged, this, [this](int region, const QRect& rect) {
+            m_events << QString("%1: %2").arg(region).arg(text(rect));
+        });
     }
 
     RectangleRubberBand* bandOf(int region) const
@@ -439,7 +385,7 @@ private:
         return nullptr;
     }
 
-    std::unique_ptr<MultiRubberBandLabel> m_label;
+    std::unique_ptr<Label> m_label;
     QStringList m_events;
     QMap<int, QStringList> m_constraints;
     QMap<int, QRect> m_ranges;

@@ -1,11 +1,10 @@
+#include "DataTable.h"
+#include "RectText.h"
 #include "multiregion/RegionRanges.h"
 #include "multiregion/RegionReports.h"
 #include "multiregion/TableConstraints.h"
 
 #include <QRandomGenerator>
-#include <QtTest>
-
-Q_DECLARE_METATYPE(RegionSizeLimits)
 
 namespace {
 
@@ -21,11 +20,6 @@ KnownRegions regionsAt(const QVector<QRect>& rectangles)
         regions.setShown(i, true);
     }
     return regions;
-}
-
-QString text(const QRect& rect)
-{
-    return QString("%1,%2 %3x%4").arg(rect.x()).arg(rect.y()).arg(rect.width()).arg(rect.height());
 }
 
 QStringList texts(const QVector<RegionChange>& changes)
@@ -62,79 +56,47 @@ private slots:
     /// band's left, top, right and bottom edges.
     void converts_data()
     {
-        QTest::addColumn<QVector<int>>("delta");
-        QTest::addColumn<int>("increment");
-        QTest::addColumn<QString>("expected");
-        const auto row
-            = [](const char* name, const QVector<int>& delta, int increment, const char* expected) {
-                  QTest::newRow(name) << delta << increment << expected;
-              };
-        row("unchanged", {0, 0, 0, 0}, 1, "648,640 650x480");
-        row("right edge", {0, 0, 10, 0}, 1, "648,640 713x480");
-        row("right edge at the border", {0, 0, 200, 0}, 1, "648,640 1944x480");
-        row("right edge beyond the border", {0, 0, 201, 0}, 1, "648,640 1944x480");
-        row("left edge", {10, 0, 0, 0}, 1, "713,640 585x480");
-        row("left edge on the increment", {10, 0, 0, 0}, 8, "712,640 586x480");
-        row("left edge at the border", {-100, 0, 0, 0}, 8, "0,640 1298x480");
-        row("left edge to the minimum", {99, 0, 0, 0}, 8, "1280,640 18x480");
-        row("top edge", {0, -10, 0, 0}, 1, "648,576 650x544");
-        row("bottom edge", {0, 0, 0, 10}, 1, "648,640 650x544");
-        row("right edge to the minimum", {0, 0, -99, 0}, 1, "648,640 16x480");
-        row("turned over", {0, 0, -130, 0}, 1, "648,640 16x480");
-        row("moved", {10, -10, 10, -10}, 1, "713,576 650x480");
-        row("moved on the increment", {10, 0, 10, 0}, 8, "712,640 650x480");
-        row("moved to the far border", {200, 125, 200, 125}, 1, "1942,1440 650x480");
-        row("moved to the near border", {-100, -101, -100, -101}, 1, "0,0 650x480");
-    }
-
-    void converts()
-    {
-        QFETCH(QVector<int>, delta);
-        QFETCH(int, increment);
-        const QRect stored(648, 640, 650, 480);
-        const QRect placed = labelRect(stored, mapping);
-        QCOMPARE(placed, QRect(QPoint(100, 100), QPoint(199, 174)) | QRect(200, 100, 0, 0));
-        DraggedRegion dragged{
-            stored, placed, placed.adjusted(delta[0], delta[1], delta[2], delta[3]), {}};
-        dragged.limits.horizontal = {16, 2592, increment, increment};
-        QTEST(text(convertedRegion(dragged, {}, mapping)), "expected");
-    }
-
-    void keepsOffNeighbours_data()
-    {
-        QTest::addColumn<QRect>("neighbour");
-        QTest::addColumn<QVector<int>>("delta");
-        QTest::addColumn<QString>("expected");
+        const DataTable row([](const QVector<int>& delta, int increment, const QRect& neighbour,
+                               const QString& expected) {
+            const QRect stored(648, 640, 650, 480);
+            const QRect placed = labelRect(stored, mapping);
+            QCOMPARE(placed, QRect(100, 100, 100, 75));
+            const QRect band = placed.adjusted(delta[0], delta[1], delta[2], delta[3]);
+            const AxisLimits limits{16, 2592, increment, increment};
+            QVector<RegionNeighbour> neighbours;
+            if (neighbour.isValid())
+                neighbours.append({neighbour, labelRect(neighbour, mapping)});
+            const DraggedRegion dragged{stored, placed, band, {limits, limits}};
+            QCOMPARE(text(convertedRegion(dragged, neighbours, mapping)), expected);
+        });
+        row("unchanged", {0, 0, 0, 0}, 1, {}, "648,640 650x480");
+        row("right edge", {0, 0, 10, 0}, 1, {}, "648,640 713x480");
+        row("right edge at the border", {0, 0, 200, 0}, 1, {}, "648,640 1944x480");
+        row("right edge beyond the border", {0, 0, 201, 0}, 1, {}, "648,640 1944x480");
+        row("left edge", {10, 0, 0, 0}, 1, {}, "713,640 585x480");
+        row("left edge on the increment", {10, 0, 0, 0}, 8, {}, "712,640 586x480");
+        row("left edge at the border", {-100, 0, 0, 0}, 8, {}, "0,640 1298x480");
+        row("left edge to the minimum", {99, 0, 0, 0}, 8, {}, "1280,640 18x480");
+        row("top edge", {0, -10, 0, 0}, 1, {}, "648,576 650x544");
+        row("bottom edge", {0, 0, 0, 10}, 1, {}, "648,640 650x544");
+        row("right edge to the minimum", {0, 0, -99, 0}, 1, {}, "648,640 16x480");
+        row("turned over", {0, 0, -130, 0}, 1, {}, "648,640 16x480");
+        row("moved", {10, -10, 10, -10}, 1, {}, "713,576 650x480");
+        row("moved on the increment", {10, 0, 10, 0}, 8, {}, "712,640 650x480");
+        row("moved to the far border", {200, 125, 200, 125}, 1, {}, "1942,1440 650x480");
+        row("moved to the near border", {-100, -101, -100, -101}, 1, {}, "0,0 650x480");
         // The band's right edge goes to 210, sensor pixel 1361; the neighbour's left edge rounds to
         // 210 as well.
-        QTest::newRow("right") << QRect(1358, 700, 100, 100) << QVector<int>{0, 0, 10, 0}
-                               << "648,640 704x480";
-        QTest::newRow("apart") << QRect(1361, 700, 100, 100) << QVector<int>{0, 0, 10, 0}
-                               << "648,640 713x480";
-        QTest::newRow("left") << QRect(400, 700, 186, 100) << QVector<int>{-10, 0, 0, 0}
-                              << "592,640 706x480";
-        QTest::newRow("moved right")
-            << QRect(1358, 700, 100, 100) << QVector<int>{10, 0, 10, 0} << "704,640 650x480";
-        QTest::newRow("moved left")
-            << QRect(400, 700, 186, 100) << QVector<int>{-10, 0, -10, 0} << "592,640 650x480";
-        QTest::newRow("below") << QRect(700, 1182, 100, 100) << QVector<int>{0, 0, 0, 10}
-                               << "648,640 650x536";
+        const QRect right(1358, 700, 100, 100);
+        const QRect left(400, 700, 186, 100);
+        row("off the right neighbour", {0, 0, 10, 0}, 8, right, "648,640 704x480");
+        row("apart", {0, 0, 10, 0}, 8, {1361, 700, 100, 100}, "648,640 713x480");
+        row("off the left neighbour", {-10, 0, 0, 0}, 8, left, "592,640 706x480");
+        row("moved right", {10, 0, 10, 0}, 8, right, "704,640 650x480");
+        row("moved left", {-10, 0, -10, 0}, 8, left, "592,640 650x480");
+        row("below", {0, 0, 0, 10}, 8, {700, 1182, 100, 100}, "648,640 650x536");
     }
-
-    void keepsOffNeighbours()
-    {
-        QFETCH(QRect, neighbour);
-        QFETCH(QVector<int>, delta);
-        const QRect stored(648, 640, 650, 480);
-        const QRect placed = labelRect(stored, mapping);
-        const AxisLimits limits{16, 2592, 8, 8};
-        const DraggedRegion dragged{stored,
-                                    placed,
-                                    placed.adjusted(delta[0], delta[1], delta[2], delta[3]),
-                                    {limits, limits}};
-        QTEST(text(convertedRegion(dragged, {{neighbour, labelRect(neighbour, mapping)}}, mapping)),
-              "expected");
-    }
+    void converts() { runRow(); }
 
     /// Bands that do not overlap on the label never give regions that do, at any scale.
     void neverMakesOverlaps()
@@ -223,12 +185,12 @@ private slots:
             return text(rangeBetweenNeighbours(regions, mode, constraintGroups(mode, {0, 1, 2}),
                                                {500, 400}, region));
         };
-        QCOMPARE(range(ArrangementMode::Free, 1), QString("0,0 500x400"));
-        QCOMPARE(range(ArrangementMode::Horizontal, 0), QString("0,0 150x400"));
+        for (const auto mode : {ArrangementMode::Free, ArrangementMode::Vertical})
+            QCOMPARE(range(mode, 1), QString("0,0 500x400"));
+        for (const auto mode : {ArrangementMode::Horizontal, ArrangementMode::Tile})
+            QCOMPARE(range(mode, 0), QString("0,0 150x400"));
         QCOMPARE(range(ArrangementMode::Horizontal, 1), QString("100,0 200x400"));
         QCOMPARE(range(ArrangementMode::Horizontal, 2), QString("250,0 250x400"));
-        QCOMPARE(range(ArrangementMode::Vertical, 1), QString("0,0 500x400"));
-        QCOMPARE(range(ArrangementMode::Tile, 0), QString("0,0 150x400"));
     }
 
     void findsMasters()
@@ -249,25 +211,20 @@ private slots:
 
     void constrainsTables_data()
     {
-        QTest::addColumn<QString>("feature");
-        QTest::addColumn<int>("increment");
-        QTest::addColumn<QPoint>("expected");
-        QTest::newRow("x") << "SubRegionOffsetX" << 8 << QPoint(10, 704);
-        QTest::newRow("x, older name") << "OffsetX" << 1 << QPoint(10, 710);
-        QTest::newRow("width") << "Width" << 8 << QPoint(-1, 992);
-        QTest::newRow("y") << "SubRegionOffsetY" << 0 << QPoint(20, 420);
-        QTest::newRow("height") << "SubRegionHeight" << -1 << QPoint(-1, 814);
-        QTest::newRow("other") << "Gain" << 8 << QPoint(-1, -1);
+        const DataTable row([](const QString& feature, int increment, const QPoint& expected) {
+            const ConstrainedRange range
+                = constrainedRange(feature, {10, 20, 1000, 800}, {12, 6, 300, 400}, increment);
+            QCOMPARE(QPoint(static_cast<int>(range.minimum), static_cast<int>(range.maximum)),
+                     expected);
+        });
+        row("x", "SubRegionOffsetX", 8, {10, 704});
+        row("x, older name", "OffsetX", 1, {10, 710});
+        row("width", "Width", 8, {-1, 992});
+        row("y", "SubRegionOffsetY", 0, {20, 420});
+        row("height", "SubRegionHeight", -1, {-1, 814});
+        row("other", "Gain", 8, {-1, -1});
     }
-
-    void constrainsTables()
-    {
-        QFETCH(QString, feature);
-        QFETCH(int, increment);
-        const ConstrainedRange range
-            = constrainedRange(feature, {10, 20, 1000, 800}, {12, 6, 300, 400}, increment);
-        QTEST(QPoint(static_cast<int>(range.minimum), static_cast<int>(range.maximum)), "expected");
-    }
+    void constrainsTables() { runRow(); }
 };
 
 QTEST_GUILESS_MAIN(RegionConversionTest)

@@ -11,7 +11,6 @@
 #include <QPluginLoader>
 #include <QProcess>
 #include <QSpinBox>
-#include <QtTest>
 
 /// The viewer's side: the object that owns the page and the members named in the table.
 class Host : public QWidget
@@ -89,12 +88,14 @@ private slots:
         QVERIFY(camera->journal().writes().empty());
 
         // Streaming disables, a logged error and a frame request arrive, a frame comes back.
-        auto* const frame = page->findChild<QWidget*>("frmImageFormat");
-        emit host.streaming(true);
-        QVERIFY(!frame->isEnabled());
-        emit host.streaming(false);
-        QVERIFY(frame->isEnabled());
         auto* const widget = page->layout()->itemAt(0)->widget();
+        QSignalSpy running(widget, SIGNAL(acquisitionRunning(bool)));
+        for (const bool isStreaming : {true, false}) {
+            emit host.streaming(isStreaming);
+            for (const char* name : {"frmImageFormat", "imageReaderWidget"})
+                QCOMPARE(page->findChild<QWidget*>(name)->isEnabled(), !isStreaming);
+        }
+        QCOMPARE(running.size(), 2);
         auto* const source = page->findChild<QComboBox*>("imageReaderWidget");
         QMetaObject::invokeMethod(source, "onComboBoxItemActivated", Q_ARG(int, 1));
         QCOMPARE(host.frameRequests, 1);
@@ -117,35 +118,33 @@ private slots:
 
     void connectsWhatIsNamed_data()
     {
-        const DataTable<bool, QString, bool, bool> table{"withTable", "missingKey", "withHost",
-                                                         "streamingArrives"};
-        table.row("all", true, "", true, true);
-        table.row("no table", false, "", true, false);
-        table.row("one key missing", true, "connectWidgetToSignal", true, false);
-        table.row("another key missing", true, "connectLoggingSlot", true, true);
-        table.row("page without parent", true, "", false, false);
-    }
+        const DataTable row([this](bool withTable, const QString& missingKey, bool withHost,
+                                   bool streamingArrives) {
+            const auto camera = sim::createCamera("current");
+            Host host;
+            QWidget page;
+            if (withHost)
+                page.setParent(&host);
+            auto connections = Host::connections();
+            connections.remove(missingKey);
 
+            QCOMPARE(m_plugin->createTab(featureList(*camera), &page,
+                                         withTable ? &connections : nullptr),
+                     0);
+            QVERIFY(page.layout());
+            emit host.streaming(true);
+            QCOMPARE(!page.findChild<QWidget*>("frmImageFormat")->isEnabled(), streamingArrives);
+            page.setParent(nullptr);
+        });
+        row("all", true, "", true, true);
+        row("no table", false, "", true, false);
+        row("one key missing", true, "connectWidgetToSignal", true, false);
+        row("another key missing", true, "connectLoggingSlot", true, true);
+        row("page without parent", true, "", false, false);
+    }
     void connectsWhatIsNamed()
     {
-        QFETCH(bool, withTable);
-        QFETCH(QString, missingKey);
-        QFETCH(bool, withHost);
-        const auto camera = sim::createCamera("current");
-        Host host;
-        QWidget page;
-        if (withHost)
-            page.setParent(&host);
-        auto connections = Host::connections();
-        connections.remove(missingKey);
-
-        QCOMPARE(
-            m_plugin->createTab(featureList(*camera), &page, withTable ? &connections : nullptr),
-            0);
-        QVERIFY(page.layout());
-        emit host.streaming(true);
-        QTEST(!page.findChild<QWidget*>("frmImageFormat")->isEnabled(), "streamingArrives");
-        page.setParent(nullptr);
+        runRow();
     }
 
     void refusesAndLeavesNothing()

@@ -1,13 +1,9 @@
 #include "DataTable.h"
-#include "MessageHandlerGuard.h"
-#include "RegionPage.h"
+#include "Visitor.h"
 
 #include "simulator/State.h"
 
 #include <optional>
-#include <random>
-
-Q_DECLARE_METATYPE(sim::NotificationSettings)
 
 namespace {
 
@@ -87,12 +83,15 @@ void fixRanges(sim::Camera& camera)
     fix("Height", "OffsetY", "HeightMax", {8, 1944, 2});
 }
 
-/// What a person or another client does next.
-class Visitor
+class AOIVisitor : public Visitor<AOIWidget>
 {
 public:
-    explicit Visitor(AOIPage& page)
-        : m_page(page)
+    explicit AOIVisitor(AOIPage& page)
+        : Visitor(page,
+                  {{"spinTop", "OffsetY"},
+                   {"spinLeft", "OffsetX"},
+                   {"spinWidth", "Width"},
+                   {"spinHeight", "Height"}})
     {
         QObject::connect(page.label, &RubberBandLabel::SendGeometry, page.label,
                          [this](int top, int left, int width, int height) {
@@ -100,44 +99,69 @@ public:
                          });
     }
 
-    void act()
+    bool act() override
     {
         m_expected.reset();
-        switch (below(12)) {
-        case 0:
-            preset(below(3));
-            break;
-        case 1:
-        case 2:
-            type(below(4));
-            break;
-        case 3:
-            m_page.camera->writeAsOtherClient(features[below(4)], std::int64_t{below(700) * 4});
-            break;
-        case 4:
-            if (m_page.camera->has("BinningVertical"))
-                m_page.camera->writeAsOtherClient(
-                    below(2) ? "BinningHorizontal" : "BinningVertical", std::int64_t{1 + below(2)});
-            break;
-        case 5:
-            m_page.comeBack();
-            break;
-        case 6:
-            m_page.resize(460 + below(100), 400 + below(400));
-            break;
-        default:
-            dragSomewhere();
-        }
+        return Visitor::act();
     }
 
-    /// What the camera has after an act about which the page alone decides.
-    const std::optional<SensorRegion>& expected() const { return m_expected; }
+    void compareWritten() const override
+    {
+        if (m_expected)
+            QCOMPARE(text(m_page.onCamera()), text(*m_expected));
+    }
+
+    void compare() const override
+    {
+        Visitor::compare();
+        const QSize sensor(m_page.value("WidthMax"), m_page.value("HeightMax"));
+        QCOMPARE(m_page.label->sensorSize(), sensor);
+        const QSize picture = m_page.label->pixmap(Qt::ReturnByValue).size();
+        QCOMPARE(m_page.band(), bandForRegion(drawn(), {m_page.label->size(), sensor, picture}));
+    }
+
+protected:
+    void preset(int which) override
+    {
+        const ExpectedAxis v = vertical();
+        const ExpectedAxis h = horizontal();
+        const int width = h.maximum >> which;
+        const int height = v.maximum >> which;
+        Visitor::preset(which);
+        expectWritten(v, h, {(v.maximum - height) / 2, (h.maximum - width) / 2, width, height});
+    }
+
+    bool type(int which, QDoubleSpinBox& field, int value) override
+    {
+        ExpectedAxis v = vertical();
+        ExpectedAxis h = horizontal();
+        ExpectedAxis& axis = which % 3 == 0 ? v : h;
+        const int typed = std::max(value, int(field.minimum()));
+        if (typed != int(field.value()))
+            which < 2 ? axis.writeOffset(typed) : axis.writeSize(typed);
+        expect(v, h);
+        return Visitor::type(which, field, value);
+    }
+
+    void changeImage() override
+    {
+        if (m_page.camera->has("BinningVertical"))
+            writeAsOther(below(2) ? "BinningHorizontal" : "BinningVertical", 1 + below(2));
+    }
+
+    void drop(const QPoint& pointer) override
+    {
+        const ExpectedAxis v = vertical();
+        const ExpectedAxis h = horizontal();
+        m_sent.reset();
+        Visitor::drop(pointer);
+        if (m_sent)
+            expectWritten(v, h, *m_sent);
+    }
+
+    SensorRegion drawn() const override { return m_page.onCamera(); }
 
 private:
-    static constexpr const char* features[]{"OffsetY", "OffsetX", "Width", "Height"};
-
-    int below(int limit) { return std::uniform_int_distribution<int>(0, limit - 1)(m_random); }
-
     ExpectedAxis axis(const char* offsetField, const char* sizeField, const char* offset,
                       const char* size, const char* maximum) const
     {
@@ -172,66 +196,8 @@ private:
         expect(vertical, horizontal);
     }
 
-    void preset(int which)
-    {
-        const ExpectedAxis v = vertical();
-        const ExpectedAxis h = horizontal();
-        const int part = 1 << which;
-        const int width = h.maximum / part;
-        const int height = v.maximum / part;
-        m_page.click(which == 0 ? "btnFull" : which == 1 ? "btnHalf" : "btnQuarter");
-        expectWritten(v, h, {(v.maximum - height) / 2, (h.maximum - width) / 2, width, height});
-    }
-
-    void type(int which)
-    {
-        static const char* const fields[]{"spinTop", "spinLeft", "spinWidth", "spinHeight"};
-        ExpectedAxis v = vertical();
-        ExpectedAxis h = horizontal();
-        QDoubleSpinBox* const field = m_page.field(fields[which]);
-        const int value = below(int(field->maximum()) + 1);
-        ExpectedAxis& axis = which % 3 == 0 ? v : h;
-        const int typed = std::max(value, int(field->minimum()));
-        if (typed != int(field->value()))
-            which < 2 ? axis.writeOffset(typed) : axis.writeSize(typed);
-        field->setValue(value);
-        expect(v, h);
-    }
-
-    /// By any edge, corner or the inside; while the page's size changes now and then.
-    void dragSomewhere()
-    {
-        const QRect band = m_page.band();
-        const int xs[]{band.left() + 1, band.center().x(), band.right() - 2};
-        const int ys[]{band.top() + 1, band.center().y(), band.bottom() - 2};
-        m_sent.reset();
-        press(m_page.label, {xs[below(3)], ys[below(3)]});
-        const auto writes = m_page.camera->journal().writes().size();
-        QPoint pointer;
-        for (int i = 0; i < 3; ++i) {
-            if (below(20) == 0)
-                m_page.resize(460 + below(100), 400 + below(400));
-            pointer
-                = {below(m_page.label->width() + 60) - 30, below(m_page.label->height() + 60) - 30};
-            const QSize size = m_page.label->size();
-            sendMouse(m_page.label, QEvent::MouseMove, pointer);
-            const QString shown = text(inFields(m_page));
-            m_page.settle();
-            QCOMPARE(text(inFields(m_page)), shown);
-            QCOMPARE(m_page.label->size(), size);
-        }
-        QCOMPARE(m_page.camera->journal().writes().size(), writes);
-        const ExpectedAxis v = vertical();
-        const ExpectedAxis h = horizontal();
-        release(m_page.label, pointer);
-        if (m_sent)
-            expectWritten(v, h, *m_sent);
-    }
-
-    AOIPage& m_page;
-    std::mt19937 m_random{7};
     std::optional<SensorRegion> m_sent;
-    std::optional<SensorRegion> m_expected;
+    std::optional<SensorRegion> m_expected; ///< after an act about which the page alone decides
 };
 
 } // namespace
@@ -241,54 +207,29 @@ class AOIVisitsTest : public QObject
     Q_OBJECT
 
 private slots:
+    /// The camera refuses what is off its grid or reaches beyond the maximum with what it has.
     void staysWithTheCamera_data()
     {
-        const DataTable<QByteArray, sim::NotificationSettings> table{"model", "settings"};
         using sim::NotificationSettings;
+        const DataTable row([](const QByteArray& model, const NotificationSettings& settings) {
+            AOIPage p(model, [&](sim::Camera& camera) {
+                if (model == "plain")
+                    fixRanges(camera);
+            });
+            p.camera->setNotifications(settings);
+            AOIVisitor visitor(p);
+            visit(p, visitor, 400);
+        });
         const auto synchronous = NotificationSettings::synchronous();
         const auto asynchronous = NotificationSettings::asynchronous(std::chrono::milliseconds(1));
-        table.row("current, synchronous", "current", synchronous);
-        table.row("current, asynchronous", "current", asynchronous);
-        table.row("current, silent", "current", NotificationSettings::off());
-        table.row("coarse", "coarse", synchronous);
-        table.row("bayer", "bayer", synchronous);
-        table.row("fixed ranges", "plain", synchronous);
+        row("current, synchronous", "current", synchronous);
+        row("current, asynchronous", "current", asynchronous);
+        row("current, silent", "current", NotificationSettings::off());
+        row("coarse", "coarse", synchronous);
+        row("bayer", "bayer", synchronous);
+        row("fixed ranges", "plain", synchronous);
     }
-
-    /// The camera refuses what is off its grid or reaches beyond the maximum with what it has.
-    void staysWithTheCamera()
-    {
-        QFETCH(QByteArray, model);
-        QFETCH(sim::NotificationSettings, settings);
-        AOIPage p(model, [&](sim::Camera& camera) {
-            if (model == "plain")
-                fixRanges(camera);
-        });
-        p.camera->setNotifications(settings);
-        Visitor visitor(p);
-        for (int i = 0; i < 400; ++i) {
-            visitor.act();
-            if (QTest::currentTestFailed())
-                return;
-            if (visitor.expected()) {
-                QCOMPARE(text(p.onCamera()), text(*visitor.expected()));
-                QVERIFY2(!p.anyRefused(), qPrintable(p.writes().join(", ")));
-            }
-            p.camera->journal().clear();
-            if (settings.mode == sim::NotificationSettings::Mode::Off)
-                p.comeBack(); // nobody tells of other clients' writes
-            p.settle();
-            QCOMPARE(text(inFields(p)), text(p.onCamera()));
-            QCOMPARE(text(p.label->region()), text(p.onCamera()));
-            QCOMPARE(p.label->sensorSize(), QSize(p.value("WidthMax"), p.value("HeightMax")));
-            const LabelGeometry where{p.label->size(), p.label->sensorSize(),
-                                      p.label->pixmap(Qt::ReturnByValue).size()};
-            QCOMPARE(p.band(), bandForRegion(p.onCamera(), where));
-        }
-    }
-
-private:
-    MessageHandlerGuard m_guard;
+    void staysWithTheCamera() { runRow(); }
 };
 
 QTEST_MAIN(AOIVisitsTest)

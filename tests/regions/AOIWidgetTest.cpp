@@ -1,5 +1,4 @@
 #include "DataTable.h"
-#include "MessageHandlerGuard.h"
 #include "RegionPage.h"
 
 #include <QGroupBox>
@@ -25,52 +24,6 @@ private slots:
                 < firstOf("Height", sim::Operation::SetValue));
     }
 
-    /// The height field's step vertically, the left field's horizontally.
-    void movesBackByOneStep()
-    {
-        const AOIPage p("coarse");
-        p.page->OnSendGeometry(160, 320, p.value("WidthMax"), p.value("HeightMax"));
-        QCOMPARE(text(p.onCamera()), QString("128 288 2304 1792"));
-    }
-
-    /// The text about invalid settings comes up during the drag.
-    void dragsAtAnyHeight_data()
-    {
-        const DataTable<QByteArray, int, QString> table{"model", "height", "expected"};
-        table.row("current, low", "current", 420, "0 2560 16 1944");
-        table.row("current", "current", 560, "0 2576 16 1944");
-        table.row("current, high", "current", 900, "0 2576 16 1944");
-        table.row("coarse, low", "coarse", 420, "0 2464 128 1920");
-        table.row("coarse", "coarse", 560, "0 2464 128 1920");
-    }
-
-    void dragsAtAnyHeight()
-    {
-        QFETCH(QByteArray, model);
-        QFETCH(int, height);
-        const AOIPage p(model);
-        p.click("btnFull");
-        p.resize(500, height);
-        const QPoint right(p.label->width() - 1, p.band().center().y());
-        press(p.label, {p.band().left() + 1, right.y()});
-        for (int x = 1; x <= 8; ++x) {
-            sendMouse(p.label, QEvent::MouseMove, {right.x() * x / 8, right.y()});
-            p.settle();
-        }
-        release(p.label, right);
-        QTEST(text(p.onCamera()), "expected");
-    }
-
-    void raisesToEven()
-    {
-        const AOIPage p("bayer");
-        p.click("btnQuarter");
-        p.settle();
-        p.page->OnSpinHeightValueChanged(101);
-        QCOMPARE(p.value("Height"), 102);
-        QCOMPARE(p.field("spinHeight")->value(), 102.0);
-    }
-
     /// A second click finds the stored maximum gone.
     void presetsTwiceAsOnce()
     {
@@ -89,21 +42,7 @@ private slots:
         QCOMPARE(p.writes().size(), writes);
     }
 
-    void leavesTypingAlone()
-    {
-        const AOIPage p("current");
-        QVERIFY(QTest::qWaitForWindowActive(p.page.get()));
-        QDoubleSpinBox* const width = p.field("spinWidth");
-        width->setFocus();
-        width->selectAll();
-        QTest::keyClicks(width, "64");
-        p.camera->writeAsOtherClient("Width", std::int64_t{512});
-        p.settle();
-        QCOMPARE(width->cleanText(), QString("64"));
-        QVERIFY(p.writes().isEmpty());
-        QTest::keyClick(width, Qt::Key_Return);
-        QCOMPARE(p.value("Width"), 64);
-    }
+    void leavesTypingAlone() { leaveTypingAlone(AOIPage("current"), "Width"); }
 
     /// The vertical increment becomes the step of the horizontal field.
     void refreshesByName()
@@ -123,32 +62,28 @@ private slots:
     /// A feature whose name cannot be read is not there for the page.
     void findsTheMaximum_data()
     {
-        const DataTable<QStringList, bool, int> table{"features", "areMissing", "expected"};
-        const QStringList both{"WidthMax", "SensorWidth"};
-        table.row("missing", {"WidthMax"}, true, 2592);
-        table.row("unreadable", {"WidthMax"}, false, 2592);
-        table.row("no sensor size either", both, true, 1296);
-        table.row("both unreadable", both, false, 1296);
-    }
-
-    void findsTheMaximum()
-    {
-        QFETCH(QStringList, features);
-        QFETCH(bool, areMissing);
-        const AOIPage p("older-names", [&](sim::Camera& camera) {
-            camera.writeAsOtherClient("BinningHorizontal", std::int64_t{2});
-            camera.writeAsOtherClient("Width", std::int64_t{640});
-            camera.writeAsOtherClient("OffsetX", std::int64_t{64});
-            for (const QString& name : features)
-                camera.failures().add(name.toStdString(),
-                                      areMissing ? sim::Operation::GetName
-                                                 : sim::Operation::GetValue,
-                                      sim::Failure::refuse());
+        const DataTable row([](const QStringList& features, bool areMissing, int expected) {
+            const AOIPage p("older-names", [&](sim::Camera& camera) {
+                camera.writeAsOtherClient("BinningHorizontal", std::int64_t{2});
+                camera.writeAsOtherClient("Width", std::int64_t{640});
+                camera.writeAsOtherClient("OffsetX", std::int64_t{64});
+                for (const QString& name : features)
+                    camera.failures().add(name.toStdString(),
+                                          areMissing ? sim::Operation::GetName
+                                                     : sim::Operation::GetValue,
+                                          sim::Failure::refuse());
+            });
+            QCOMPARE(p.label->sensorSize().width(), expected);
+            p.page->setBackgroundImage(std::make_shared<QPixmap>(8, 8));
+            QVERIFY(!p.label->pixmap(Qt::ReturnByValue).isNull());
         });
-        QTEST(p.label->sensorSize().width(), "expected");
-        p.page->setBackgroundImage(std::make_shared<QPixmap>(8, 8));
-        QVERIFY(!p.label->pixmap(Qt::ReturnByValue).isNull());
+        const QStringList both{"WidthMax", "SensorWidth"};
+        row("missing", {"WidthMax"}, true, 2592);
+        row("unreadable", {"WidthMax"}, false, 2592);
+        row("no sensor size either", both, true, 1296);
+        row("both unreadable", both, false, 1296);
     }
+    void findsTheMaximum() { runRow(); }
 
     /// -1 is neither a region nor a minimum of a field.
     void keepsWhatCannotBeRead()
@@ -246,9 +181,6 @@ private slots:
         QCOMPARE(p.pictureColor(), QColor(Qt::green));
         QVERIFY(!QApplication::overrideCursor());
     }
-
-private:
-    MessageHandlerGuard m_guard;
 };
 
 QTEST_MAIN(AOIWidgetTest)

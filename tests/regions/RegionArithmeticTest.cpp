@@ -38,47 +38,6 @@ private slots:
         QCOMPARE(evenOffsetRange({3.0, 98.0, 4.0}).minimum, 3.0);
     }
 
-    void correctsOverflow()
-    {
-        const FieldGrid size{16.0, 4.0};
-        const AxisSpan fits = overflowCorrected({20.0, 80.0}, 100.0, size, 4.0);
-        QCOMPARE(fits.offset, 20.0);
-        QCOMPARE(fits.size, 80.0);
-        const AxisSpan cut = overflowCorrected({22.0, 80.0}, 100.0, size, 4.0);
-        QCOMPARE(cut.size, 78.0);
-        QCOMPARE(cut.offset, 18.0);
-        QCOMPARE(overflowCorrected({22.0, 80.0}, 100.0, {16.0, 0.0}, 4.0).size, 78.0);
-    }
-
-    /// Whatever the way from one region to another, the first write fits beside the value that the
-    /// camera still has.
-    void ordersWritesWithinTheMaximum()
-    {
-        constexpr double maximum = 6.0;
-        QVector<AxisSpan> spans;
-        for (double offset = 0.0; offset < maximum; ++offset)
-            for (double size = 1.0; offset + size <= maximum; ++size)
-                spans.append({offset, size});
-        for (const AxisSpan& from : spans)
-            for (const AxisSpan& to : spans) {
-                const bool isOffsetFirst
-                    = writesOffsetFirst(to.offset, from.size, maximum, maximum - from.size);
-                QVERIFY((isOffsetFirst ? to.offset + from.size : from.offset + to.size) <= maximum);
-            }
-        QVERIFY(!writesOffsetFirst(2.0, 1.0, maximum, 1.0));
-    }
-
-    void centres()
-    {
-        const SensorRegion half = centredRegion({2048, 1536}, 0.5);
-        QVERIFY((half == SensorRegion{384, 512, 1024, 768}));
-        const SensorRegion odd = centredRegion({101, 51}, 0.25);
-        QVERIFY((odd == SensorRegion{19, 38, 25, 12}));
-        const AutoRegionPreset preset = centredAutoRegion({101, 50}, 0.5, {8.0, 4.0});
-        QCOMPARE(preset.size, QSize(50, 25));
-        QCOMPARE(preset.position, QPointF(33.5, 16.5));
-    }
-
     void namesProblems()
     {
         QCOMPARE(regionProblems({1.0, 9.0}, 10.0, {1.0, 9.0}, 10.0), QString());
@@ -114,27 +73,23 @@ private slots:
 
     void judgesDspRegions_data()
     {
-        const DataTable<double, double, bool, int, int> table{"top", "bottom", "valid", "drawnTop",
-                                                              "drawnHeight"};
-        table.row("whole", 0, 20, true, 0, 20);
-        table.row("empty", 5, 5, false, 5, 0);
-        table.row("crossed", 9, 5, false, 5, 0);
-        table.row("too low", 5, 21, false, 5, 15);
-        table.row("beyond", 30, 40, false, 20, 0);
+        const DataTable row(
+            [](double top, double bottom, bool valid, int drawnTop, int drawnHeight) {
+                const RegionLimits limits{10, 20};
+                QCOMPARE(isValidDspRegion({0.0, top, 10.0, bottom}, limits), valid);
+                const SensorRegion drawn = drawnDspRegion({0.0, top, 10.0, bottom}, limits);
+                QCOMPARE(drawn.top, drawnTop);
+                QCOMPARE(drawn.height, drawnHeight);
+                QVERIFY(writesFarEdgeFirst(1.0, 5.0, 4.0, 8.0));
+                QVERIFY(!writesFarEdgeFirst(1.0, 5.0, 4.0, 5.0));
+            });
+        row("whole", 0, 20, true, 0, 20);
+        row("empty", 5, 5, false, 5, 0);
+        row("crossed", 9, 5, false, 5, 0);
+        row("too low", 5, 21, false, 5, 15);
+        row("beyond", 30, 40, false, 20, 0);
     }
-
-    void judgesDspRegions()
-    {
-        QFETCH(double, top);
-        QFETCH(double, bottom);
-        const RegionLimits limits{10, 20};
-        QTEST(isValidDspRegion({0.0, top, 10.0, bottom}, limits), "valid");
-        const SensorRegion drawn = drawnDspRegion({0.0, top, 10.0, bottom}, limits);
-        QTEST(drawn.top, "drawnTop");
-        QTEST(drawn.height, "drawnHeight");
-        QVERIFY(writesFarEdgeFirst(1.0, 5.0, 4.0, 8.0));
-        QVERIFY(!writesFarEdgeFirst(1.0, 5.0, 4.0, 5.0));
-    }
+    void judgesDspRegions() { runRow(); }
 
     /// The camera takes what is as thin as its grid; nothing else is moved.
     void keepsEdgesApart()

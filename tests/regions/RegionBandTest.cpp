@@ -1,3 +1,4 @@
+#include "DataTable.h"
 #include "Pictures.h"
 #include "TestEvents.h"
 #include "regions/RubberBandLabel.h"
@@ -10,7 +11,6 @@
 #include <QStyle>
 #include <QStyleFactory>
 #include <QStyleOption>
-#include <QtTest>
 
 #include <memory>
 
@@ -56,89 +56,80 @@ class RegionBandTest : public QObject
 private slots:
     void looksAsTheStyleDrawsIt_data()
     {
-        QTest::addColumn<QString>("style");
+        const DataTable row([](const QString& style) {
+            QApplication::setStyle(style);
+            const QPixmap picture = noise({400, 300});
+            for (const QSize& size : {QSize(150, 90), QSize(2, 40), QSize(30, 1)}) {
+                const auto label = shownLabel(picture);
+                auto* band = label->findChild<QRubberBand*>();
+                band->setGeometry(QRect(QPoint(40, 50), size));
+                const QImage shown = label->grab().toImage();
+
+                QImage expected = label->pixmap(Qt::ReturnByValue).toImage();
+                QStyleOptionRubberBand option;
+                option.initFrom(band);
+                option.shape = QRubberBand::Rectangle;
+                option.opaque = true;
+                QPainter painter(&expected);
+                painter.translate(band->pos());
+                if (!band->mask().isEmpty())
+                    painter.setClipRegion(band->mask());
+                band->style()->drawControl(QStyle::CE_RubberBand, &option, &painter, band);
+                painter.end();
+                // Fill and frame come in one layer instead of several, each of which would round.
+                QVERIFY(largestDifference(shown, expected) <= 2);
+            }
+        });
         for (const QString& style : QStyleFactory::keys())
-            QTest::newRow(qPrintable(style)) << style;
+            row(style.toUtf8(), style);
     }
 
-    void looksAsTheStyleDrawsIt()
-    {
-        QFETCH(QString, style);
-        QApplication::setStyle(style);
-        const QPixmap picture = noise({400, 300});
-        for (const QSize& size : {QSize(150, 90), QSize(2, 40), QSize(30, 1)}) {
-            const auto label = shownLabel(picture);
-            auto* band = label->findChild<QRubberBand*>();
-            band->setGeometry(QRect(QPoint(40, 50), size));
-            const QImage shown = label->grab().toImage();
-
-            QImage expected = label->pixmap(Qt::ReturnByValue).toImage();
-            QStyleOptionRubberBand option;
-            option.initFrom(band);
-            option.shape = QRubberBand::Rectangle;
-            option.opaque = true;
-            QPainter painter(&expected);
-            painter.translate(band->pos());
-            if (!band->mask().isEmpty())
-                painter.setClipRegion(band->mask());
-            band->style()->drawControl(QStyle::CE_RubberBand, &option, &painter, band);
-            painter.end();
-            // Fill and frame come in one layer instead of several, each of which would round.
-            const int difference = largestDifference(shown, expected);
-            QVERIFY2(difference <= 2, qPrintable(QString::number(difference)));
-        }
-    }
+    void looksAsTheStyleDrawsIt() { runRow(); }
 
     void updatesAllThatChanges()
     {
         const auto label = shownLabel(noise({400, 300}));
         auto* band = label->findChild<QRubberBand*>();
-        QTRY_COMPARE(largestDifference(windowOf(*label), label->grab().toImage()), 0);
+        QPalette palette;
+        palette.setBrush(QPalette::Highlight, QColor(255, 0, 0, 80));
+        QVector<std::function<void()>> changes{[] {}};
         for (const QRect& next :
              {QRect(90, 65, 200, 140), QRect(60, 50, 200, 140), QRect(60, 50, 120, 100),
               QRect(70, 60, 5, 4), QRect(70, 60, 0, 0), QRect(70, 60, 2, 40),
-              QRect(200, 100, 150, 150), QRect(30, 20, 350, 250), QRect(380, 280, 60, 60)}) {
-            band->setGeometry(next);
-            QTRY_COMPARE(largestDifference(windowOf(*label), label->grab().toImage()), 0);
-        }
-        band->setGeometry(50, 50, 100, 100);
-        QTRY_COMPARE(largestDifference(windowOf(*label), label->grab().toImage()), 0);
-        const QImage withBand = label->grab().toImage();
-        QPalette palette;
-        palette.setBrush(QPalette::Highlight, QColor(255, 0, 0, 80));
-        for (const auto& change : std::initializer_list<std::function<void()>>{
-                 [band, palette] { band->setPalette(palette); }, [band] { band->hide(); },
-                 [band] { band->show(); }, [&label] { label->setEnabled(false); },
-                 [&label] { label->setEnabled(true); }}) {
+              QRect(200, 100, 150, 150), QRect(30, 20, 350, 250), QRect(380, 280, 60, 60),
+              QRect(50, 50, 100, 100)})
+            changes << [band, next] { band->setGeometry(next); };
+        changes << [&] { band->setPalette(palette); } << [&] { band->hide(); }
+                << [&] { band->show(); } << [&] { label->setEnabled(false); }
+                << [&] { label->setEnabled(true); };
+        QImage before;
+        for (const auto& change : changes) {
             change();
             QTRY_COMPARE(largestDifference(windowOf(*label), label->grab().toImage()), 0);
-            QVERIFY(label->grab().toImage() != withBand);
+            const QImage now = label->grab().toImage();
+            QVERIFY(now != std::exchange(before, now));
         }
     }
 
     void paintsLittleWhileDragging()
     {
-        class PaintArea : public QObject
+        struct PaintedArea : QObject
         {
-        public:
             bool eventFilter(QObject*, QEvent* event) override
             {
-                if (event->type() == QEvent::Paint) {
+                if (event->type() == QEvent::Paint)
                     for (const QRect& rect : static_cast<QPaintEvent*>(event)->region())
                         pixels += rect.width() * rect.height();
-                }
                 return false;
             }
             int pixels = 0;
         } painted;
-
         const auto label = shownLabel(noise({400, 300}));
         press(label.get(), {160, 120});
         label->installEventFilter(&painted);
         sendMouse(label.get(), QEvent::MouseMove, {163, 121});
         QTRY_VERIFY(painted.pixels > 0);
-        // The band has 200 x 140 pixels.
-        QVERIFY2(painted.pixels < 200 * 140 / 4, qPrintable(QString::number(painted.pixels)));
+        QVERIFY(painted.pixels < 200 * 140 / 4); // the band has 200 x 140
     }
 };
 

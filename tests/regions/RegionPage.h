@@ -1,5 +1,6 @@
 #pragma once
 
+#include "MessageHandlerGuard.h"
 #include "SimulatedCamera.h"
 #include "TestEvents.h"
 #include "regions/AOIWidget.h"
@@ -62,6 +63,11 @@ template <typename Page> struct RegionPage
         page->hide();
         page->show();
     }
+    /// Whether the camera tells of no change.
+    bool isSilent() const
+    {
+        return camera->notifications().mode == sim::NotificationSettings::Mode::Off;
+    }
 
     template <typename Widget> Widget* find(const QString& name) const
     {
@@ -112,6 +118,7 @@ template <typename Page> struct RegionPage
         return {value("OffsetY"), value("OffsetX"), value("Width"), value("Height")};
     }
 
+    const MessageHandlerGuard guard;
     std::unique_ptr<sim::Camera> camera;
     std::unique_ptr<Page> page;
     RubberBandLabel* label = nullptr;
@@ -137,6 +144,23 @@ inline std::shared_ptr<QPixmap> picture(Qt::GlobalColor color)
     auto image = std::make_shared<QPixmap>(2592, 1944);
     image->fill(color);
     return image;
+}
+
+/// Another client's write waits until the user has typed.
+template <typename Page> void leaveTypingAlone(const RegionPage<Page>& p, const char* feature)
+{
+    QVERIFY(QTest::qWaitForWindowActive(p.page.get()));
+    QDoubleSpinBox* const width = p.field("spinWidth");
+    width->setFocus();
+    width->selectAll();
+    QTest::keyClicks(width, "64");
+    p.camera->writeAsOtherClient(feature, std::int64_t{512});
+    p.settle();
+    QCOMPARE(width->cleanText(), QString("64"));
+    QCOMPARE(p.label->region().width, 512);
+    QVERIFY(p.writes().isEmpty());
+    QTest::keyClick(width, Qt::Key_Return);
+    QCOMPARE(p.value(feature), 64);
 }
 
 /// Calls every slot of a page's own, with default arguments, and shows it.

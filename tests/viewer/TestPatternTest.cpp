@@ -49,57 +49,44 @@ class TestPatternTest : public QObject
 private slots:
     void placesTheFrame_data()
     {
-        const DataTable<QSize, QRect, QRectF> table{"binning", "region", "frame"};
-
-        table.row("whole sensor", {1, 1}, {}, {0, 25, 200, 150});
-        table.row("region", {1, 1}, {100, 60, 40, 20}, {50, 55, 20, 10});
-        table.row("binned", {2, 2}, {}, {50, 62.5, 100, 75});
-        table.row("binned in one axis", {4, 1}, {}, {75, 25, 50, 150});
-        table.row("binned region", {2, 2}, {10, 20, 40, 20}, {55, 72.5, 20, 10});
-        table.row("region beyond the binned area", {2, 2}, {180, 0, 40, 20}, {140, 62.5, 10, 10});
+        const DataTable row([](const QSize& binning, const QRect& region, const QRectF& frame) {
+            SensorState state = upright();
+            state.binning = binning;
+            if (!region.isNull())
+                state.regions = {region};
+            const FramePlacement placement = placeFrame(state, QRectF(0, 0, 200, 200));
+            QCOMPARE(placement.sensor, QRectF(0, 25, 200, 150));
+            QCOMPARE(placement.frame, frame);
+        });
+        row("whole sensor", {1, 1}, {}, {0, 25, 200, 150});
+        row("region", {1, 1}, {100, 60, 40, 20}, {50, 55, 20, 10});
+        row("binned", {2, 2}, {}, {50, 62.5, 100, 75});
+        row("binned in one axis", {4, 1}, {}, {75, 25, 50, 150});
+        row("binned region", {2, 2}, {10, 20, 40, 20}, {55, 72.5, 20, 10});
+        row("region beyond the binned area", {2, 2}, {180, 0, 40, 20}, {140, 62.5, 10, 10});
     }
-
-    void placesTheFrame()
-    {
-        QFETCH(QSize, binning);
-        QFETCH(QRect, region);
-        QFETCH(QRectF, frame);
-
-        SensorState state = upright();
-        state.binning = binning;
-        if (!region.isNull())
-            state.regions = {region};
-        const FramePlacement placement = placeFrame(state, QRectF(0, 0, 200, 200));
-        QCOMPARE(placement.sensor, QRectF(0, 25, 200, 150));
-        QCOMPARE(placement.frame, frame);
-    }
+    void placesTheFrame() { runRow(); }
 
     void mirrorsWithinTheRegion_data()
     {
-        const DataTable<bool, bool> table{"reverseX", "reverseY"};
-
-        table.row("upright", false, false);
-        table.row("x", true, false);
-        table.row("y", false, true);
-        table.row("both", true, true);
+        const DataTable row([](bool reverseX, bool reverseY) {
+            SensorState state = upright();
+            const QRect region(40, 20, 200, 120);
+            const QImage expected = fullFrame(state).mirrored(reverseX, reverseY).copy(region);
+            state.reverseX = reverseX;
+            state.reverseY = reverseY;
+            state.regions = {region};
+            const QImage frame = fullFrame(state);
+            QCOMPARE(frame.size(), region.size());
+            QVERIFY2(difference(frame, expected) < 1.0,
+                     "the wrong part of the sensor, or mirrored wrongly");
+        });
+        row("upright", false, false);
+        row("x", true, false);
+        row("y", false, true);
+        row("both", true, true);
     }
-
-    void mirrorsWithinTheRegion()
-    {
-        QFETCH(bool, reverseX);
-        QFETCH(bool, reverseY);
-
-        SensorState state = upright();
-        const QRect region(40, 20, 200, 120);
-        const QImage expected = fullFrame(state).mirrored(reverseX, reverseY).copy(region);
-        state.reverseX = reverseX;
-        state.reverseY = reverseY;
-        state.regions = {region};
-        const QImage frame = fullFrame(state);
-        QCOMPARE(frame.size(), region.size());
-        QVERIFY2(difference(frame, expected) < 1.0,
-                 "the wrong part of the sensor, or mirrored wrongly");
-    }
+    void mirrorsWithinTheRegion() { runRow(); }
 
     void showsActiveRegionsOnly()
     {

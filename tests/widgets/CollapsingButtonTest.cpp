@@ -2,7 +2,6 @@
 #include "DataTable.h"
 
 #include <QLabel>
-#include <QtTest>
 
 #include <memory>
 
@@ -21,19 +20,16 @@ private slots:
 
     void foldsAtOnceOnlyWhenUnchecked_data()
     {
-        const DataTable<bool, int, Qt::ArrowType> table{"checked", "maximumHeight", "arrow"};
-        table.row("unchecked", false, 0, Qt::RightArrow);
-        table.row("checked", true, QWIDGETSIZE_MAX, Qt::DownArrow);
+        const DataTable row([this](bool checked, int maximumHeight, Qt::ArrowType arrow) {
+            m_button->setChecked(checked);
+            m_button->setContent(m_content);
+            QCOMPARE(m_content->maximumHeight(), maximumHeight);
+            QCOMPARE(m_button->arrowType(), arrow);
+        });
+        row("unchecked", false, 0, Qt::RightArrow);
+        row("checked", true, QWIDGETSIZE_MAX, Qt::DownArrow);
     }
-
-    void foldsAtOnceOnlyWhenUnchecked()
-    {
-        QFETCH(bool, checked);
-        m_button->setChecked(checked);
-        m_button->setContent(m_content);
-        QTEST(m_content->maximumHeight(), "maximumHeight");
-        QTEST(m_button->arrowType(), "arrow");
-    }
+    void foldsAtOnceOnlyWhenUnchecked() { runRow(); }
 
     void unfoldsToTheHeightItFound()
     {
@@ -68,12 +64,6 @@ private slots:
         m_button->click();
         m_button->click();
         QCOMPARE(m_button->arrowType(), Qt::DownArrow);
-    }
-
-    void keepsTheTitleClearOfTheArrow()
-    {
-        m_button->setText(QString("Image Format: "));
-        QCOMPARE(m_button->text(), QString(" Image Format: "));
     }
 
 private:

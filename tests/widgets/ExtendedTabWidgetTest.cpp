@@ -4,7 +4,6 @@
 #include <QMenu>
 #include <QTabBar>
 #include <QToolButton>
-#include <QtTest>
 
 class ExtendedTabWidgetTest : public QObject
 {
@@ -34,61 +33,55 @@ class ExtendedTabWidgetTest : public QObject
 private slots:
     void modesAddAndModeOneRemoves_data()
     {
-        const DataTable<QList<int>, int, int> table{"modes", "menus", "pluses"};
-        table.row("none yet", {}, 0, 0);
-        table.row("menu, twice", {2, 2}, 1, 0);
-        table.row("plus, twice", {3, 3}, 0, 1);
-        table.row("both, twice", {4, 4}, 1, 1);
-        table.row("back to plain", {4, 1}, 0, 0);
-        table.row("unknown mode", {4, 7}, 0, 0);
-        table.row("through all", {2, 1, 1, 3, 4, 1, 4}, 1, 1);
+        const DataTable row([](const QList<int>& modes, int menus, int pluses) {
+            ExtendedTabWidget tabs(nullptr);
+            const auto direct = Qt::FindDirectChildrenOnly;
+            tabs.show();
+            addTabs(tabs, 2);
+            for (const int mode : modes) {
+                tabs.setMode(mode);
+                tabs.resize(tabs.width() + 10, tabs.height()); // lays out, corners included
+            }
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+            QCOMPARE(tabs.findChildren<QMenu*>(QString(), direct).size(), menus);
+            QCOMPARE(tabs.findChildren<QToolButton*>(QString(), direct).size(), menus + pluses);
+            QCOMPARE(button(tabs, Qt::TopRightCorner) != nullptr, menus == 1);
+            QCOMPARE(button(tabs, Qt::TopLeftCorner) != nullptr, pluses == 1);
+        });
+        row("none yet", {}, 0, 0);
+        row("menu, twice", {2, 2}, 1, 0);
+        row("plus, twice", {3, 3}, 0, 1);
+        row("both, twice", {4, 4}, 1, 1);
+        row("back to plain", {4, 1}, 0, 0);
+        row("unknown mode", {4, 7}, 0, 0);
+        row("through all", {2, 1, 1, 3, 4, 1, 4}, 1, 1);
     }
-
-    void modesAddAndModeOneRemoves()
-    {
-        QFETCH(QList<int>, modes);
-        ExtendedTabWidget tabs(nullptr);
-        const auto direct = Qt::FindDirectChildrenOnly;
-        tabs.show();
-        addTabs(tabs, 2);
-        for (const int mode : modes) {
-            tabs.setMode(mode);
-            tabs.resize(tabs.width() + 10, tabs.height()); // lays out, corners included
-        }
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        QTEST(tabs.findChildren<QMenu*>(QString(), direct).size(), "menus");
-        QFETCH(int, menus);
-        QFETCH(int, pluses);
-        QCOMPARE(tabs.findChildren<QToolButton*>(QString(), direct).size(), menus + pluses);
-        QCOMPARE(button(tabs, Qt::TopRightCorner) != nullptr, menus == 1);
-        QCOMPARE(button(tabs, Qt::TopLeftCorner) != nullptr, pluses == 1);
-    }
+    void modesAddAndModeOneRemoves() { runRow(); }
 
     void showsTheMenuButtonOnOverflowOnly()
     {
         ExtendedTabWidget tabs(nullptr);
         tabs.setMode(ExtendedTabWidget::TabMenu);
-        const QToolButton* menuButton = button(tabs, Qt::TopRightCorner);
+        const auto isShown = [&] { return button(tabs, Qt::TopRightCorner)->isVisible(); };
         tabs.resize(400, 200);
         tabs.show();
-        QVERIFY(!menuButton->isVisible());
-        addTabs(tabs, 2);
-        QVERIFY(!menuButton->isVisible());
-        addTabs(tabs, 10);
-        QVERIFY(menuButton->isVisible());
-        tabs.resize(2000, 200);
-        QVERIFY(!menuButton->isVisible());
-        tabs.resize(200, 200);
-        QVERIFY(menuButton->isVisible());
+        for (const int added : {0, 2, 10}) {
+            addTabs(tabs, added);
+            QCOMPARE(isShown(), added == 10);
+        }
+        for (const int width : {2000, 200}) {
+            tabs.resize(width, 200);
+            QCOMPARE(isShown(), width == 200);
+        }
         tabs.clear();
-        QVERIFY(!menuButton->isVisible());
+        QVERIFY(!isShown());
         tabs.hide();
         addTabs(tabs, 3);
         tabs.resize(600, 200);
         tabs.show();
-        QVERIFY(!menuButton->isVisible());
+        QVERIFY(!isShown());
         tabs.setTabText(1, QString(200, QLatin1Char('x')));
-        QTRY_VERIFY(menuButton->isVisible());
+        QTRY_VERIFY(isShown());
     }
 
     void menuFollowsTheTabs()

@@ -5,12 +5,9 @@
 #include <QComboBox>
 #include <QFontComboBox>
 #include <QSpinBox>
-#include <QtTest>
 
 #include <functional>
-
-using Act = std::function<void(QSpinBox&)>;
-Q_DECLARE_METATYPE(Act)
+#include <memory>
 
 class FieldEventsTest : public QObject
 {
@@ -19,90 +16,70 @@ class FieldEventsTest : public QObject
 private slots:
     void mousePressEnds_data()
     {
-        const DataTable<Act, bool, int> table{"act", "pressed", "released"};
+        using Act = std::function<void(QSpinBox&)>;
+        const DataTable row([](bool pressed, int released, const Act& act) {
+            QWidget window;
+            auto* field = new QSpinBox(&window);
+            QSpinBoxMouseEventFilter filter(nullptr);
+            field->installEventFilter(&filter);
+            field->resize(100, 30);
+            window.show();
+            QSignalSpy releases(&filter, &QSpinBoxMouseEventFilter::mouseReleased);
+            QTest::mousePress(field, Qt::LeftButton, {}, {95, 5});
+            QCOMPARE(field->value(), 1); // the field itself was not left out
+            act(*field);
+            QCOMPARE(filter.isMousePressed(), pressed);
+            QCOMPARE(releases.count(), released);
+            field->setParent(&window);
+        });
         const auto release = [](QSpinBox& field) {
             QTest::mouseRelease(&field, Qt::LeftButton, {}, {95, 5});
         };
-        const auto sendDoubleClick = [](QSpinBox& field) {
+        row("held", true, 0, [](QSpinBox&) {});
+        row("released", false, 1, release);
+        row("double click", true, 1, [=](QSpinBox& field) {
+            release(field);
             QMouseEvent event(QEvent::MouseButtonDblClick, QPointF(95, 5), Qt::LeftButton,
                               Qt::LeftButton, {});
             QCoreApplication::sendEvent(&field, &event);
-        };
-        table.row("held", Act([](QSpinBox&) {}), true, 0);
-        table.row("released", Act(release), false, 1);
-        table.row("double click", Act([=](QSpinBox& field) {
-                      release(field);
-                      sendDoubleClick(field);
-                  }),
-                  true, 1);
-        table.row("hidden", Act([](QSpinBox& field) { field.hide(); }), false, 0);
-        table.row("page hidden", Act([](QSpinBox& field) { field.window()->hide(); }), false, 0);
-        table.row("disabled", Act([](QSpinBox& field) { field.setEnabled(false); }), false, 0);
-        table.row("taken out", Act([](QSpinBox& field) { field.setParent(nullptr); }), false, 0);
-        table.row("other window", Act([](QSpinBox& field) {
-                      QEvent event(QEvent::WindowDeactivate);
-                      QCoreApplication::sendEvent(field.window(), &event);
-                  }),
-                  false, 0);
+        });
+        row("hidden", false, 0, [](QSpinBox& field) { field.hide(); });
+        row("page hidden", false, 0, [](QSpinBox& field) { field.window()->hide(); });
+        row("disabled", false, 0, [](QSpinBox& field) { field.setEnabled(false); });
+        row("taken out", false, 0, [](QSpinBox& field) { field.setParent(nullptr); });
+        row("other window", false, 0, [](QSpinBox& field) {
+            QEvent event(QEvent::WindowDeactivate);
+            QCoreApplication::sendEvent(field.window(), &event);
+        });
     }
 
-    void mousePressEnds()
-    {
-        QFETCH(Act, act);
-        QWidget window;
-        auto* field = new QSpinBox(&window);
-        QSpinBoxMouseEventFilter filter(nullptr);
-        field->installEventFilter(&filter);
-        field->resize(100, 30);
-        window.show();
-        QSignalSpy released(&filter, &QSpinBoxMouseEventFilter::mouseReleased);
-        QTest::mousePress(field, Qt::LeftButton, {}, {95, 5});
-        QCOMPARE(field->value(), 1); // the field itself was not left out
-        act(*field);
-        QTEST(filter.isMousePressed(), "pressed");
-        QTEST(released.count(), "released");
-        field->setParent(&window);
-    }
+    void mousePressEnds() { runRow(); }
 
     void wheelGuard_data()
     {
-        const DataTable<QObject*, int, bool> table{"target", "type", "guarded"};
-        const int wheel = QEvent::Wheel;
-        const auto row = [](const char* name) -> QTestData& { return QTest::newRow(name); };
-        row("combo box") << owned(new QComboBox) << wheel << true;
-        row("spin box") << owned(new QSpinBox) << wheel << true;
-        row("double spin box") << owned(new QDoubleSpinBox) << wheel << true;
-        row("derived class") << owned(new QFontComboBox) << wheel << false;
-        row("other class") << owned(new QSlider) << wheel << false;
-        row("no widget") << owned(new QObject) << wheel << false;
-        row("other event") << owned(new QSpinBox) << int(QEvent::Enter) << false;
-        auto* focused = new QSpinBox;
-        focused->setObjectName(QString("focused"));
-        row("focused") << owned(focused) << wheel << false;
+        using Target = std::shared_ptr<QObject>;
+        const DataTable row([](const Target& target, QEvent::Type type, bool guarded) {
+            if (QByteArray(QTest::currentDataTag()) == "focused") {
+                auto* field = qobject_cast<QWidget*>(target.get());
+                field->show();
+                QApplication::setActiveWindow(field);
+                field->setFocus();
+            }
+            const QEvent event(type);
+            QCOMPARE(isUnfocusedFieldWheel(target.get(), &event), guarded);
+        });
+        row("combo box", std::make_shared<QComboBox>(), QEvent::Wheel, true);
+        row("spin box", std::make_shared<QSpinBox>(), QEvent::Wheel, true);
+        row("double spin box", std::make_shared<QDoubleSpinBox>(), QEvent::Wheel, true);
+        row("derived class", std::make_shared<QFontComboBox>(), QEvent::Wheel, false);
+        row("other class", std::make_shared<QSlider>(), QEvent::Wheel, false);
+        row("no widget", std::make_shared<QObject>(), QEvent::Wheel, false);
+        row("other event", std::make_shared<QSpinBox>(), QEvent::Enter, false);
+        row("focused", std::make_shared<QSpinBox>(), QEvent::Wheel, false);
     }
+    void wheelGuard() { runRow(); }
 
-    void wheelGuard()
-    {
-        QFETCH(QObject*, target);
-        QFETCH(int, type);
-        if (target->objectName() == QLatin1String("focused")) {
-            auto* field = qobject_cast<QWidget*>(target);
-            field->show();
-            QApplication::setActiveWindow(field);
-            field->setFocus();
-        }
-        const QEvent event(static_cast<QEvent::Type>(type));
-        QTEST(isUnfocusedFieldWheel(target, &event), "guarded");
-    }
-
-private:
-    QObject* owned(QObject* object)
-    {
-        m_owned.emplace_back(object);
-        return object;
-    }
-
-    std::vector<std::unique_ptr<QObject>> m_owned;
+    void cleanupTestCase() { DataTableRows::rows.clear(); } // widgets end before the application
 };
 
 QTEST_MAIN(FieldEventsTest)

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QLatin1String>
+
+// The features that change how a picture lies on the sensor.
+namespace ImageFormatNames {
+
+inline const QLatin1String binningHorizontal("BinningHorizontal");
+inline const QLatin1String binningVertical("BinningVertical");
+inline const QLatin1String reverseX("ReverseX");
+inline const QLatin1String reverseY("ReverseY");
+
+} // namespace ImageFormatNames

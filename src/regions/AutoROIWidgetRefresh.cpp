@@ -1,0 +1,127 @@
+// What the page shows of the camera.
+
+#include "AutoROIWidget.h"
+
+#include "AutoExposureEditor.h"
+#include "AutoRegionCamera.h"
+#include "AutoRegionEditor.h"
+#include "AutoRegionForm.h"
+#include "AutoRegionNames.h"
+#include "AutoRegionPicture.h"
+#include "RubberBandLabel.h"
+#include "ui_AutoROIWidget.h"
+
+#include <QScopedValueRollback>
+
+#include <algorithm>
+#include <utility>
+
+using namespace AutoRegionNames;
+
+void AutoROIWidget::showEvent(QShowEvent* event)
+{
+    m_fullRefreshPending = true;
+    BaseTabPluginWidget::showEvent(event);
+    m_isJustShown = true;
+}
+
+void AutoROIWidget::refreshFeatures()
+{
+    if (!m_ui || m_picture->label()->isDragging())
+        return;
+    const QScopedValueRollback<bool> refreshing(m_isRefreshing, true);
+    const auto blockers = blockFields(*m_ui);
+    const bool readsAll = std::exchange(m_fullRefreshPending, false);
+    const QStringList names = readsAll ? observedFeatures : *changedFeatures;
+    const auto reads = [&names](const QStringList& candidates) {
+        return std::any_of(candidates.begin(), candidates.end(),
+                           [&names](const QString& name) { return names.contains(name); });
+    };
+    m_ui->gb_AutoROI->setMaximumWidth(QWIDGETSIZE_MAX);
+
+    const bool isSizeTold
+        = changedFeatures->contains(imageHeight) || changedFeatures->contains(imageWidth);
+    const bool isNewSize = isSizeTold && !std::exchange(m_isJustShown, false);
+    const bool isResized = !names.isEmpty() && updateLimits(isNewSize);
+    const bool readsRegion = isResized || reads(regionNumbers);
+    if (readsRegion || reads({aoiEnable, aoiShowArea}))
+        refreshSwitches();
+    if (readsRegion)
+        refreshRegion();
+    else if (!names.isEmpty())
+        showRegion();
+    if (reads(exposureLimits))
+        refreshExposure();
+    if (reads({intensityRegion}))
+        fillComboBox(intensityRegion, m_ui->comboIntensityControllerRegion, false);
+    enableControls(!m_isStreaming);
+}
+
+// Whether they changed. Some cameras bound size and offset by each other, so the limits are taken
+// only for a new image size; otherwise they would shrink with each move of the region.
+bool AutoROIWidget::updateLimits(bool isSizeTold)
+{
+    const QSizeF imageSize = m_camera->imageSize();
+    if (!isSizeTold && imageSize == m_imageSize)
+        return false;
+    m_imageSize = imageSize;
+    const RegionLimits limits = m_camera->limits();
+    if (limits.width == m_limits.width && limits.height == m_limits.height)
+        return false;
+    m_limits = limits;
+    m_picture->setSize(m_limits);
+    loadRegion();
+    return true;
+}
+
+void AutoROIWidget::refreshSwitches()
+{
+    if (m_camera->has(aoiEnable))
+        showChecked(m_ui->cbEnable, m_camera->value(aoiEnable) != 0.0);
+    if (m_camera->has(aoiShowArea))
+        showChecked(m_ui->cbShowArea, m_camera->value(aoiShowArea) != 0.0);
+}
+
+void AutoROIWidget::refreshRegion()
+{
+    m_editor->refresh(m_limits);
+    fitColumns(*m_ui);
+    showRegion();
+    if (m_camera->usesEdges())
+        showEdgeProblems(m_editor->edges());
+    else if (m_camera->usesSizes())
+        checkSizes();
+}
+
+void AutoROIWidget::refreshExposure()
+{
+    if (m_camera->has(exposureAutoTimebase))
+        fillComboBox(exposureAutoTimebase, m_ui->comboExpAutoTimeBase, false);
+    m_exposure->refresh();
+    fitColumns(*m_ui);
+}
+
+void AutoROIWidget::showRegion()
+{
+    if (m_camera->usesEdges() || m_camera->has(autoModeHeight) || m_ui->cbEnable->isChecked())
+        m_picture->showRegion(m_limits);
+}
+
+void AutoROIWidget::showEdgeProblems(const DspEdges& edges)
+{
+    const QString problems = dspRegionProblems(edges, m_limits);
+    m_ui->labelInvalidSettings->setText(tr("Invalid settings: ") + problems);
+    m_ui->labelInvalidSettings->setVisible(!problems.isEmpty());
+}
+
+void AutoROIWidget::checkSizes()
+{
+    const QString problem = m_isTrusted ? QString() : m_camera->sizeProblem(m_limits);
+    m_ui->labelInvalidSettings->setVisible(!problem.isEmpty());
+    if (problem.isEmpty())
+        return;
+    m_ui->labelInvalidSettings->setText(problem);
+    // The automatic functions must not work on what is no part of the image.
+    if (isVisible())
+        OnEnableStateChanged(0);
+}

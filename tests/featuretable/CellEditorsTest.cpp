@@ -1,0 +1,320 @@
+#include "DataTable.h"
+#include "FeaturesTable.h"
+#include "TestEvents.h"
+#include "WheelEvent.h"
+
+#include <QComboBox>
+#include <QScrollBar>
+
+using sim::Failure;
+using sim::Operation;
+using Written = QVector<sim::Value>;
+
+namespace {
+
+void tabTwice(FeaturesTable& f, QWidget* control)
+{
+    type("42", Qt::Key_Tab)(f, control);
+    QVERIFY(f.slider()->hasFocus());
+    QTest::keyClick(f.slider(), Qt::Key_Tab);
+}
+
+void stepSlider(FeaturesTable& f, QWidget* control)
+{
+    f.slider()->setFocus();
+    QTest::keyClick(f.slider(), Qt::Key_Right);
+    leave(f, control);
+}
+
+void chooseFromList(FeaturesTable&, QWidget* control)
+{
+    auto* box = qobject_cast<QComboBox*>(control);
+    box->showPopup();
+    for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Down, Qt::Key_Return})
+        QTest::keyClick(box->view(), key);
+}
+
+Act typeAndLeave(const char* text)
+{
+    return [=](FeaturesTable& f, QWidget* control) {
+        type(text, Qt::Key_unknown)(f, control);
+        leave(f, control);
+    };
+}
+
+} // namespace
+
+/// The editors in the table's cells, by mouse and keyboard.
+class CellEditorsTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    /// A decimal comma must not get in the way anywhere.
+    void initTestCase() { QLocale::setDefault(QLocale(QLocale::German)); }
+
+    void choosesEditors_data()
+    {
+        const DataTable row([](const QString& feature, const QByteArray& control, bool slider) {
+            const FeaturesTable f;
+            const QWidget* focused = f.open(feature);
+            QVERIFY2(focused->inherits(control.constData()), focused->metaObject()->className());
+            QCOMPARE(f.features->isEditing(), control != "QTableWidget");
+            if (!f.editor())
+                return;
+            QCOMPARE(f.slider() != nullptr, slider);
+            QVERIFY(!focused->accessibleName().isEmpty());
+            const QSize cell = f.table->visualItemRect(f.item(feature)).size();
+            QCOMPARE(f.editor()->size(), cell);
+            QVERIFY(qMax(focused->height(), focused->sizeHint().height()) <= cell.height());
+        });
+        row("integer", "Count", "QSpinBox", true);
+        row("beyond 32 bits", "Wide", "QDoubleSpinBox", true);
+        row("beyond 2^53", "Unlimited", "QLineEdit", false);
+        row("float", "Gain", "QLineEdit", false);
+        row("exposure", "ExposureTime", "QLineEdit", true);
+        row("read-only", "Model", "QTableWidget", false);
+        row("raw", "Bytes", "QTableWidget", false);
+    }
+    void choosesEditors() { runRow(); }
+
+    void edits_data()
+    {
+        const DataTable row([](const QString& feature, const Act& act, const Written& written) {
+            const bool staysOpen = QByteArray(QTest::currentDataTag()).endsWith("stays open");
+            FeaturesTable f;
+            QWidget* control = f.open(feature);
+            QSignalSpy active(f.features, &FeaturesTableWidget::cellEditorActive);
+            QSignalSpy logged(f.features, &FeaturesTableWidget::loggingMessage);
+            QPointer<DelegateWidget> editor = f.editor();
+            act(f, control);
+            QCOMPARE(f.features->isEditing(), staysOpen);
+            QCOMPARE(f.writes(), int(written.size()));
+            QCOMPARE(logged.count(), 0);
+            if (staysOpen)
+                return;
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+            QVERIFY(!editor);
+            QVERIFY(active.count() >= int(written.size()) + 1); // handled, closed
+            QCOMPARE(active.last().at(0).toBool(), false);
+            if (!f.outside->hasFocus())
+                QCOMPARE(QApplication::focusWidget(), f.table);
+            if (written.isEmpty())
+                return;
+            QCOMPARE(f.camera.journal().writes().at(0).value, written.first());
+            // What was written is what the next refresh shows.
+            const QVariant shown = f.shown(feature);
+            f.features->updateFeatures({feature});
+            if (feature != "Run")
+                QCOMPARE(f.shown(feature), shown);
+            QCOMPARE(f.writes(), 1);
+        });
+        row("integer", "Count", type("42"), {42});
+        row("integer, left", "Count", typeAndLeave("42"), {42});
+        row("integer, arrow", "Count", keys({Qt::Key_Up, Qt::Key_Return}), {11});
+        row("integer, by way of the slider", "Count", tabTwice, {42});
+        row("slider by key", "Count", stepSlider, {11});
+        row("text, tab", "Text", type("new", Qt::Key_Tab), {"new"});
+        row("beyond 32 bits", "Wide", type("1099511627775"), {1099511627775});
+        row("64 bits", "Unlimited", type("-9007199254740993"), {-9007199254740993});
+        row("shown within its range", "Stale", keys({Qt::Key_Return}), {1000});
+        row("looks the same", "Gain", type("1.0000000000000002"), {1.0000000000000002});
+        row("float, left", "Gain", typeAndLeave("2.5"), {2.5});
+        row("float, comma refused", "Gain", type("1,5"), {15.0});
+        row("exponent", "ExposureTime", type("1e3"), {1000.0});
+        row("toggle", "Flag", keys({Qt::Key_Space}), {true});
+        row("toggle by mouse", "Flag", click, {true});
+        row("entry by keys", "ModeSelector", keys({Qt::Key_Down, Qt::Key_Down, Qt::Key_Return}),
+            {"Third"});
+        row("entry from the list", "ModeSelector", chooseFromList, {"Third"});
+        row("register", "Register", type("c0ffee"), {0xC0FFEE});
+        row("address", "Address", type("192.168.10.2"), {0xC0A80A02});
+        row("station", "Station", type("00-0A:1b-2C:3d-4E"), {0x000A1B2C3D4E});
+        row("command", "Run", click, {sim::Value()});
+        row("command by key", "Run", keys({Qt::Key_Return}), {sim::Value()});
+        row("nothing typed", "Count", keys({Qt::Key_Return}), {});
+        row("only looked at", "Gain", leave, {});
+        row("within its range, looked at", "Stale", leave, {});
+        row("the same", "Gain", type("1.0"), {});
+        row("cancelled", "Text", type("new", Qt::Key_Escape), {});
+        row("cancelled entry", "ModeSelector", keys({Qt::Key_Down, Qt::Key_Escape}), {});
+        row("command left", "Run", leave, {});
+        row("out of range, stays open", "Gain", type("25"), {});
+        row("out of range, left", "Gain", typeAndLeave("25"), {});
+        row("integer out of range, stays open", "Count", type("7000"), {});
+        row("integer out of range, left", "Count", typeAndLeave("7000"), {});
+        row("below the smallest, stays open", "Steps", type("0"), {});
+        row("no number, left", "Gain", typeAndLeave("-"), {});
+        row("half an address, stays open", "Address", type("10.0."), {});
+        row("empty register, left", "Register", typeAndLeave(""), {});
+    }
+    void edits() { runRow(); }
+
+    void runsACommandTwice()
+    {
+        FeaturesTable f;
+        for (int run = 1; run <= 3; ++run) {
+            click(f, f.open("Run"));
+            QCOMPARE(f.writes(), run);
+            if (run == 2)
+                f.features->updateFeatures({"Run"});
+        }
+        QCOMPARE(int(f.camera.journal().count(Operation::RunCommand)), 3);
+        f.camera.failures().add("Run", Operation::RunCommand, Failure::refuse());
+        QSignalSpy logged(f.features, &FeaturesTableWidget::loggingMessage);
+        click(f, f.open("Run"));
+        QCOMPARE(logged.at(0).at(1).toString(), QString("Saving feature 'Run' to value=0 failed."));
+    }
+
+    void logsARefusedWrite()
+    {
+        FeaturesTable f;
+        f.camera.failures().add("Text", Operation::SetValue, Failure::refuse());
+        QSignalSpy logged(f.features, &FeaturesTableWidget::loggingMessage);
+        type("%1 %2")(f, f.open("Text"));
+        QCOMPARE(logged.count(), 1);
+        QCOMPARE(int(logged.at(0).at(0).value<ZebViewerLogCategory>()), 2);
+        QCOMPARE(logged.at(0).at(1).toString(),
+                 QString("Saving feature 'Text' to value=%1 %2 failed."));
+        QCOMPARE(f.shown("Text"), QVariant("%1 %2"));
+        leave(f, f.open("Text"));
+        QCOMPARE(f.writes(), 1);
+        keys({Qt::Key_Return})(f, f.open("Text")); // tried again
+        QCOMPARE(logged.count(), 2);
+        f.features->updateFeatures({"Text"});
+        QCOMPARE(f.shown("Text"), QVariant("old"));
+        QCOMPARE(f.writes(), 2);
+    }
+
+    void keepsAnOpenEditor()
+    {
+        FeaturesTable f;
+        auto* field = qobject_cast<QLineEdit*>(f.open("Text"));
+        type("half", Qt::Key_unknown)(f, field);
+        f.camera.writeAsOtherClient("Text", "other");
+        f.features->updateFeatures({"Text"});
+        QCOMPARE(f.shown("Text"), QVariant("old"));
+        f.table->model()->dataChanged(f.table->currentIndex(), f.table->currentIndex());
+        QCOMPARE(field->text(), QString("half"));
+        QTest::keyClick(field, Qt::Key_Escape);
+        f.features->updateFeatures({"Text"});
+        QCOMPARE(f.shown("Text"), QVariant("other"));
+    }
+
+    void closesWithoutWriting()
+    {
+        const Act ask = [](FeaturesTable& f, QWidget*) { emit f.features->closingWidget(); };
+        const Act askWhenHidden = [&](FeaturesTable& f, QWidget* control) {
+            f.features->hide();
+            ask(f, control);
+        };
+        const Act askWhenMoved = [&](FeaturesTable& f, QWidget* control) {
+            const QSignalBlocker held(f.editor());
+            QTest::keyClick(f.slider(), Qt::Key_Right);
+            ask(f, control);
+        };
+        const Act deleteTable = [](FeaturesTable& f, QWidget*) { delete f.features; };
+        const Act deleteWindow = [](FeaturesTable& f, QWidget*) { f.window.reset(); };
+        for (const Act& close : {ask, askWhenHidden, askWhenMoved, deleteTable, deleteWindow}) {
+            FeaturesTable f;
+            QWidget* control = f.open("Count");
+            type("42", Qt::Key_unknown)(f, control);
+            QPointer<DelegateWidget> editor = f.editor();
+            close(f, control);
+            QTRY_VERIFY(!editor);
+            QTest::qWait(60);
+            QCOMPARE(f.writes(), 0);
+        }
+    }
+
+    void writesWhenHidden()
+    {
+        for (const bool active : {true, false}) {
+            FeaturesTable f;
+            if (!active)
+                QApplication::setActiveWindow(nullptr);
+            f.open("Count");
+            type("42", Qt::Key_unknown)(f, f.field());
+            f.features->hide();
+            QTRY_COMPARE(f.writes(), 1);
+            QTRY_VERIFY(!f.editor());
+            QCOMPARE(f.camera.feature("Count").integer(), std::int64_t{42});
+        }
+    }
+
+    void limitsTheRateOfASlider()
+    {
+        FeaturesTable f;
+        f.open("Count");
+        auto* slider = f.slider();
+        const int center = slider->height() / 2;
+        press(slider, {slider->width() * 10 / 1000, center});
+        QElapsedTimer held;
+        held.start();
+        int x = 10;
+        while (f.writes() < 5 && held.elapsed() < 5000) {
+            sendMouse(slider, QEvent::MouseMove, {x = (x + 7) % slider->width(), center});
+            QTest::qWait(2);
+        }
+        const int allowed = int(held.elapsed()) / 49 + 1; // timers keep to a millisecond
+        QVERIFY2(f.writes() == 5 && allowed >= 5, qPrintable(QString::number(allowed)));
+        // Handled values do not expose the open editor to a refresh.
+        const QVariant shown = f.shown("Count");
+        f.camera.failures().add("Count", Operation::GetValue, Failure::refuse());
+        f.features->updateFeatures({"Count"});
+        f.camera.failures().clear();
+        QCOMPARE(f.shown("Count"), shown);
+
+        sendMouse(slider, QEvent::MouseMove, {slider->width() / 2, center});
+        const int last = f.field()->value();
+        QTRY_COMPARE(f.camera.feature("Count").integer(), std::int64_t{last});
+        const int writes = f.writes();
+        release(slider, {slider->width() / 2, center});
+        QVERIFY(!f.features->isEditing());
+        QCOMPARE(f.writes(), writes);
+        QCOMPARE(f.shown("Count"), QVariant(qint64{last}));
+    }
+
+    void dragsLogarithmicSliders()
+    {
+        FeaturesTable f;
+        f.open("ExposureTime");
+        QVERIFY(std::abs(f.slider()->transform(100.0) - f.slider()->width() / 2) <= 1);
+        const QPoint handle(f.slider()->transform(100.0), f.slider()->height() / 2);
+        drag(f.slider(), handle, {f.slider()->width() * 2, handle.y()});
+        QCOMPARE(f.camera.feature("ExposureTime").number(), 10000.0);
+    }
+
+    void stepsLogarithmicSliders()
+    {
+        FeaturesTable f;
+        f.open("Steps");
+        for (int expected : {2, 3, 4}) {
+            QTest::keyClick(f.slider(), Qt::Key_Right);
+            QCOMPARE(f.field()->value(), expected);
+        }
+        QTest::keyClick(f.slider(), Qt::Key_Left);
+        QCOMPARE(f.field()->value(), 3);
+        // The groove moves by pages while it is held; its release finishes.
+        const QPoint end(f.slider()->width() - 8, f.slider()->height() / 2);
+        press(f.slider(), end);
+        QTRY_VERIFY(f.field()->value() > 10);
+        const int reached = f.field()->value();
+        release(f.slider(), end);
+        QVERIFY(!f.features->isEditing());
+        QCOMPARE(f.camera.feature("Steps").integer(), std::int64_t{reached});
+    }
+
+    void scrollsOverAnEditor()
+    {
+        FeaturesTable f;
+        f.window->resize(500, 200);
+        f.open("Count");
+        sendWheel(f.slider());
+        QVERIFY(f.table->verticalScrollBar()->value() > 0);
+        QCOMPARE(f.field()->value(), 10);
+    }
+};
+
+QTEST_MAIN(CellEditorsTest)
+#include "CellEditorsTest.moc"

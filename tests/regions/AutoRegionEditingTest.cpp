@@ -1,0 +1,321 @@
+#include "DataTable.h"
+#include "RegionPage.h"
+
+#include "simulator/State.h"
+
+#include <QCheckBox>
+
+namespace {
+
+using Numbers = QVector<int>;
+
+const QString dsp = "DSPSubregion";
+
+/// The features that tell the region: left, top, right, bottom, or left, top, width, height.
+QStringList features(const QString& family)
+{
+    QStringList names = family == dsp ? QStringList{"Left", "Top", "Right", "Bottom"}
+                                      : QStringList{"OffsetX", "OffsetY", "Width", "Height"};
+    return names.replaceInStrings(QRegularExpression("^"), family);
+}
+
+Numbers region(const AutoROIPage& p, const QString& family)
+{
+    Numbers numbers;
+    for (const QString& feature : features(family))
+        numbers << p.value(feature);
+    return numbers;
+}
+
+void setRegion(sim::Camera& camera, const QString& family, const Numbers& numbers)
+{
+    for (int i = 0; i < 4; ++i)
+        camera.force(features(family)[i].toStdString(), numbers[i]);
+}
+
+/// The edges of an axis bound each other.
+void boundEdges(sim::Camera& camera, const std::string& nearEdge, const std::string& farEdge,
+                const std::string& picture)
+{
+    camera.modify(nearEdge, [=](auto& edge) {
+        edge.within([=](const sim::State& state) {
+            return sim::IntegerRange(0, state.integer(farEdge) - 1);
+        });
+    });
+    camera.modify(farEdge, [=](auto& edge) {
+        edge.within([=](const sim::State& state) {
+            return sim::IntegerRange(state.integer(nearEdge) + 1, state.integer(picture));
+        });
+    });
+}
+
+} // namespace
+
+/// Drags, presets and typed numbers of the region of the automatic functions, and its limits.
+class AutoRegionEditingTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    /// Each begins with the region in the middle.
+    void writesDrags_data()
+    {
+        const DataTable row([](const QString& family, const QPoint& by, const QString& order) {
+            const AutoROIPage p(QTest::currentDataTag(), [&](sim::Camera& camera) {
+                if (family == dsp)
+                    setRegion(camera, dsp, {648, 486, 1944, 1458});
+            });
+            const Numbers before = region(p, family);
+            // Cameras with an origin of their own draw the region in the corner.
+            const QPoint middle = p.band().center();
+            const QPoint target = middle + p.at(by.x(), by.y());
+            press(p.label, middle);
+            sendMouse(p.label, QEvent::MouseMove, target);
+            p.camera->writeAsOtherClient("ExposureAutoMin", 200.0);
+            p.settle();
+            QVERIFY(p.writes().isEmpty());
+            QVERIFY(qAbs(p.field("spinLeft")->value() - before[0] - by.x()) < 12);
+            QCOMPARE(p.camera->observerCount(), std::size_t{0});
+            release(p.label, target);
+
+            QStringList written = p.writes().mid(0, 4);
+            for (QString& text : written)
+                text = text.section(' ', 0, 0).mid(family.size());
+            QCOMPARE(written.join(' '), order);
+            QVERIFY(!p.anyRefused());
+            const Numbers after = region(p, family);
+            QVERIFY(qAbs(after[0] - before[0] - by.x()) < 12);
+            QVERIFY(qAbs(after[1] - before[1] - by.y()) < 12);
+            QVERIFY(p.camera->observerCount() > 0);
+            p.settle();
+            QCOMPARE(p.field("spinExpAutoMin")->value(), 200.0);
+        });
+        const QString sizes("OffsetX OffsetY Height Width");
+        row("aoi", "AutofunctionAOI", {400, 300}, sizes);
+        row("automode-fixed", "AutoModeRegion", {400, 300}, sizes);
+        row("dsp", dsp, {400, 300}, "Right Left Bottom Top");
+        row("dsp", dsp, {-400, -300}, "Left Right Top Bottom");
+        row("dsp", dsp, {400, -300}, "Right Left Top Bottom");
+    }
+    void writesDrags() { runRow(); }
+
+    /// Being hidden ends a drag and confirms what was typed.
+    void isDeletedInMidAction()
+    {
+        AutoROIPage dragged("aoi");
+        press(dragged.label, dragged.at(1296, 972));
+        dragged.page.reset();
+        QVERIFY(dragged.writes().isEmpty());
+        AutoROIPage p("aoi");
+        QVERIFY(QTest::qWaitForWindowActive(p.page.get()));
+        p.field("spinWidth")->setFocus();
+        QTest::keyClicks(p.field("spinWidth"), "1");
+        p.page.reset();
+        QVERIFY(p.writes().isEmpty());
+    }
+
+    void dropsDrags()
+    {
+        const AutoROIPage p("aoi");
+        press(p.label, p.at(1296, 972));
+        sendMouse(p.label, QEvent::MouseMove, p.at(1400, 1000));
+        QVERIFY(p.field("spinLeft")->value() > 700);
+        p.label->setEnabled(false);
+        QTRY_COMPARE_WITH_TIMEOUT(p.field("spinLeft")->value(), 648.0, 500);
+        QVERIFY(p.label->isEnabled());
+        QVERIFY(p.camera->observerCount() > 0);
+        QVERIFY(p.writes().isEmpty());
+    }
+
+    void keepsNoDropThatTheCameraRefuses()
+    {
+        const AutoROIPage p("aoi-gated");
+        const SensorRegion before = p.label->region();
+        p.click("cbEnable");
+        drag(p.label, p.at(1296, 972), p.at(1500, 1100));
+        QCOMPARE(text(p.label->region()), text(before));
+    }
+
+    void drawsWithinTheRanges()
+    {
+        const AutoROIPage p("aoi");
+        p.page->OnUpdateGeometry(0, 0, 8, 5000);
+        QCOMPARE(p.field("spinWidth")->minimum(), 32.0);
+        QCOMPARE(p.field("spinWidth")->value(), 32.0);
+        QCOMPARE(p.field("spinHeight")->value(), p.field("spinHeight")->maximum());
+        QVERIFY(p.writes().isEmpty());
+    }
+
+    /// An edge must not pass its opposite on the way, wherever the region was.
+    void presetsKeepEdgesApart_data()
+    {
+        const DataTable row([](const Numbers& before, bool isBounded) {
+            const AutoROIPage p("dsp", [&](sim::Camera& camera) {
+                setRegion(camera, dsp, before);
+                if (!isBounded)
+                    return;
+                boundEdges(camera, "DSPSubregionLeft", "DSPSubregionRight", "Width");
+                boundEdges(camera, "DSPSubregionTop", "DSPSubregionBottom", "Height");
+            });
+            p.click("btnQuarter");
+            QCOMPARE(region(p, dsp), (Numbers{972, 729, 1620, 1215}));
+            p.click("btnHalf");
+            QCOMPARE(region(p, dsp), (Numbers{648, 486, 1944, 1458}));
+            p.click("btnFull");
+            QCOMPARE(region(p, dsp), (Numbers{0, 0, 2592, 1944}));
+            QVERIFY(!p.anyRefused());
+            QVERIFY(p.message()->isHidden());
+        });
+        for (const bool isBounded : {false, true}) {
+            row("top left", {0, 0, 100, 80}, isBounded);
+            row("bottom right", {2500, 1900, 2592, 1944}, isBounded);
+            row("full", {0, 0, 2592, 1944}, isBounded);
+        }
+    }
+    void presetsKeepEdgesApart() { runRow(); }
+
+    void presetsCentre()
+    {
+        for (const char* model : {"aoi", "aoi-plain", "automode-fixed", "automode-dynamic"}) {
+            const bool isAoi = QByteArray(model).startsWith("aoi");
+            const QString family = isAoi ? "AutofunctionAOI" : "AutoModeRegion";
+            const AutoROIPage p(model, [&](sim::Camera& camera) {
+                // Full size beforehand: the offsets are taken only beside the new size.
+                setRegion(camera, family, {0, 0, 2592, 1944});
+            });
+            p.click("btnHalf");
+            QCOMPARE(region(p, family), (Numbers{648, 486, 1296, 972}));
+            QVERIFY(!p.anyRefused());
+            if (isAoi) {
+                p.click("btnQuarter");
+                QCOMPARE(region(p, family), (Numbers{972, 728, 648, 484}));
+                p.click("btnFull");
+                QCOMPARE(region(p, family), (Numbers{0, 0, 2592, 1944}));
+            }
+        }
+    }
+
+    void cutsWhatIsTooLarge()
+    {
+        const AutoROIPage p("aoi-plain", [](sim::Camera& camera) {
+            camera.writeAsOtherClient("Width", std::int64_t{1296});
+            camera.force("AutofunctionAOIOffsetX", 0);
+            camera.force("AutofunctionAOIWidth", 2400);
+        });
+        QCOMPARE(p.field("spinWidth")->value(), 2400.0);
+        p.click("btnFull");
+        QCOMPARE(region(p, "AutofunctionAOI"), (Numbers{0, 0, 1296, 1944}));
+    }
+
+    void keepsTheLimitsOfTheImage()
+    {
+        const AutoROIPage p("automode-dynamic", [](sim::Camera& camera) {
+            camera.force("AutoModeRegionOffsetX", 0);
+            camera.force("AutoModeRegionOffsetY", 0);
+        });
+        const QSize image(2592, 1944);
+        for (const int left : {400, 800}) {
+            p.field("spinLeft")->setValue(left);
+            p.settle();
+            QCOMPARE(p.value("AutoModeRegionOffsetX"), left);
+            QCOMPARE(p.label->sensorSize(), image);
+        }
+        p.comeBack();
+        p.settle();
+        drag(p.label, p.at(100, 100), p.at(300, 200));
+        p.settle();
+        QCOMPARE(p.label->sensorSize(), image);
+        for (int times = 1; times <= 2; ++times) { // counted from where the region is
+            p.click("btnHalf");
+            p.settle();
+            QCOMPARE(region(p, "AutoModeRegion").mid(2), (Numbers{1296, 972}));
+        }
+        p.click("btnFull");
+        p.settle();
+        QCOMPARE(region(p, "AutoModeRegion"), (Numbers{0, 0, 2592, 1944}));
+        QVERIFY(!p.anyRefused());
+        p.camera->writeAsOtherClient("Width", std::int64_t{1296});
+        p.settle();
+        QCOMPARE(p.label->sensorSize(), QSize(1296, 1944));
+    }
+
+    void cutsNoImageToALimit()
+    {
+        const AutoROIPage p("automode-dynamic");
+        p.field("spinLeft")->setValue(400); // leaves more room than at first
+        p.settle();
+        p.click("btnFull");
+        QCOMPARE(p.value("Width"), 2592);
+    }
+
+    void replacesAnInvalidRegion()
+    {
+        const AutoROIPage p("dsp", [](sim::Camera& camera) {
+            setRegion(camera, dsp, {100, 500, 400, 500});
+        });
+        QCOMPARE(region(p, dsp), (Numbers{0, 0, 2592, 1944}));
+        QVERIFY(!p.constructionWrites.isEmpty());
+    }
+
+    void tellsOfCrossingEdges()
+    {
+        for (const bool isStrict : {true, false}) {
+            const AutoROIPage p("dsp", [&](sim::Camera& camera) {
+                setRegion(camera, dsp, {100, 100, 400, 400});
+                if (!isStrict)
+                    camera.modify("DSPSubregionLeft", [](auto& left) { left.accepts = nullptr; });
+            });
+            p.field("spinLeft")->setValue(500);
+            QVERIFY(p.message()->isVisible());
+            QCOMPARE(p.message()->text(), QString("Invalid settings: Left > Right! "));
+            QCOMPARE(p.field("spinLeft")->value(), isStrict ? 100.0 : 500.0);
+            p.settle();
+            QCOMPARE(p.message()->isVisible(), !isStrict);
+            p.field("spinRight")->setValue(600);
+            QVERIFY(p.message()->isHidden());
+        }
+    }
+
+    void switchesOffWhatExceedsTheImage_data()
+    {
+        const DataTable row([](const QString& feature, const QString& text) {
+            const AutoROIPage p("aoi");
+            const auto isOn = [&] { return p.camera->feature("AutofunctionAOIEnable").isOn(); };
+            const SensorRegion r = p.label->region();
+            p.page->OnSendGeometry(r.top, r.left, r.width, r.height);
+            p.camera->force(feature.toStdString(), 2400);
+            p.settle();
+            QVERIFY(isOn()); // still counts as part of the drag
+            QVERIFY(p.message()->isHidden());
+            QTest::qWait(300);
+            p.camera->force(feature.toStdString(), 2500);
+            p.settle();
+            QVERIFY(!isOn());
+            QCOMPARE(p.message()->text(), text);
+            QVERIFY(p.message()->isVisible());
+            QVERIFY(!p.find<QCheckBox>("cbEnable")->isChecked());
+            if (feature != "AutofunctionAOIWidth")
+                return;
+            // From then on the switch is the user's.
+            p.settle();
+            p.camera->journal().clear();
+            QTest::qWait(1000);
+            QVERIFY2(p.writes().isEmpty(), qPrintable(p.writes().join(", ")));
+            p.field("spinLeft")->setFocus();
+            p.page->OnSpinEditingFinished(); // the focus leaves a field
+            p.click("cbEnable");
+            QTest::qWait(1000);
+            QCOMPARE(p.writes(), QStringList("AutofunctionAOIEnable true"));
+            QVERIFY(isOn());
+        });
+        const QString tooHigh = "Invalid settings:\nHeight + OffsetY > AOI Height";
+        row("height", "AutofunctionAOIHeight", tooHigh);
+        row("top", "AutofunctionAOIOffsetY", tooHigh);
+        row("width", "AutofunctionAOIWidth", "Invalid settings:\nWidth + OffsetX > AOI Width");
+    }
+    void switchesOffWhatExceedsTheImage() { runRow(); }
+};
+
+QTEST_MAIN(AutoRegionEditingTest)
+
+#include "AutoRegionEditingTest.moc"
