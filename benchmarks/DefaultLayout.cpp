@@ -43,7 +43,7 @@ LayoutCost layoutCost(int regions)
 
     LayoutCost cost;
     cost.seconds = secondsOf([page] {
-        QTimer::singleShot(0, answerYes);
+        QTimer::singleShot(0, page, answerYes);
         page->loadDefaultConfiguration();
         Screen::flush();
     });

@@ -143,7 +143,8 @@ void MainWindow::createPanes()
 void MainWindow::createMenus()
 {
     QMenu* file = menuBar()->addMenu(tr("&File"));
-    file->addAction(tr("&Quit"), this, &QWidget::close, QKeySequence(Qt::CTRL + Qt::Key_Q));
+    file->addAction(tr("&Quit"), this, &QWidget::close,
+                    QKeySequence(int(Qt::CTRL) + int(Qt::Key_Q)));
 
     QMenu* view = menuBar()->addMenu(tr("&View"));
     for (QDockWidget* dock : {m_camerasDock, m_liveDock, m_featuresDock, m_logDock, m_outsideDock})

@@ -30,7 +30,8 @@ PageHost::PageHost(PluginHost& plugin, CameraSession& session, QWidget* parent)
         showRefusal();
     }
     connect(&session, &CameraSession::streamingChanged, this, &PageHost::streaming);
-    emit streaming(session.isStreaming());
+    emit streaming(
+        session.isStreaming()); // clazy:exclude=incorrect-emit, the page is connected by now
 }
 
 QString PageHost::title() const

@@ -100,7 +100,7 @@ bool setValue(QWidget* widget, const QString& value)
 
 QString clickWidget(QWidget* widget)
 {
-    const QString obstacle = whyUnusable(widget);
+    QString obstacle = whyUnusable(widget);
     if (!obstacle.isEmpty())
         return obstacle;
     if (auto* button = qobject_cast<QAbstractButton*>(widget)) {
@@ -118,7 +118,7 @@ QString clickWidget(QWidget* widget)
 
 QString setWidgetValue(QWidget* widget, const QString& value)
 {
-    const QString obstacle = whyUnusable(widget);
+    QString obstacle = whyUnusable(widget);
     if (!obstacle.isEmpty())
         return obstacle;
     widget->setFocus();

@@ -225,7 +225,7 @@ void MultiRubberBandLabel::resizeEvent(QResizeEvent* event)
     if (m_dragState == BandDrag)
         draggedTo = changesAfterBandDrag(m_regions, m_groups, m_mapping, m_draggedRegion,
                                          m_regions.band(m_draggedRegion))
-                        .first()
+                        .constFirst()
                         .rectangle;
 
     fitBackground();
@@ -354,7 +354,8 @@ void MultiRubberBandLabel::restack()
 
 void MultiRubberBandLabel::testConflicts()
 {
-    for (RectangleRubberBand* band : m_bands.values())
+    const QList<RectangleRubberBand*> bands = m_bands.values();
+    for (RectangleRubberBand* band : bands)
         band->onIntersectionFound(intersectingRegion(band->regionNo(), band->geometry()));
 }
 
@@ -363,7 +364,8 @@ void MultiRubberBandLabel::announceConstraints()
     if (signalsBlocked())
         return;
     QMap<int, QStringList> constraints;
-    for (const int region : m_bands.keys()) {
+    const QList<int> shown = m_bands.keys();
+    for (const int region : shown) {
         const QStringList features = sharedFeatures(region, m_groups);
         if (!features.isEmpty())
             constraints.insert(region, features);

@@ -6,6 +6,7 @@
 #include <QPainter>
 #include <QtMath>
 
+#include <cstddef>
 #include <tuple>
 
 namespace {
@@ -26,7 +27,8 @@ QSize fittedSize(const QSize& size, const QSize& bounds)
 /// A part of an image that shares the image's pixels, which must outlive it.
 QImage viewOf(const QImage& image, const QRect& part)
 {
-    const uchar* firstPixel = image.constScanLine(part.y()) + part.x() * (image.depth() / 8);
+    const std::ptrdiff_t before = image.depth() / 8 * std::ptrdiff_t{part.x()};
+    const uchar* firstPixel = image.constScanLine(part.y()) + before;
     return QImage(firstPixel, part.width(), part.height(), image.bytesPerLine(), image.format());
 }
 

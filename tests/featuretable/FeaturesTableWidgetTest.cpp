@@ -47,7 +47,7 @@ private slots:
 
         const QTableWidgetItem* const name = f.item("Count", nameColumn);
         QCOMPARE(name->text(), QString("The Count"));
-        QCOMPARE(name->foreground().color(), QColor("#006400"));
+        QCOMPARE(name->foreground().color(), QColor(0x00, 0x64, 0x00));
         QCOMPARE(name->toolTip(), QString("Count"));
         QVERIFY(!(name->flags() & Qt::ItemIsEditable));
         QVERIFY(f.item("Count")->flags() & Qt::ItemIsEditable);

@@ -76,10 +76,8 @@ private slots:
                     QCOMPARE(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
                     dialog->setDirectory(m_folder.path());
                     dialog->findChild<QLineEdit*>()->setText(m_folder.filePath(file));
-                    if (accepted)
-                        static_cast<QDialog*>(dialog)->accept();
-                    else
-                        dialog->reject();
+                    QDialog* const base = dialog; // whose accept() is public
+                    accepted ? base->accept() : base->reject();
                 });
                 selector.onComboBoxItemActivated(ImageReaderWidget::ImageFromFile);
                 QList<QSize> sizes;

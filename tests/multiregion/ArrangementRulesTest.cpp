@@ -94,7 +94,7 @@ private slots:
         const DataTable row([](const LayoutRequest& request, const Regions& expected) {
             const QString mode = QString(QTest::currentDataTag()).section(':', 0, 0);
             const DefaultLayout layout = defaultLayout(mode, request);
-            QCOMPARE(layout.regions.values().toVector(), expected);
+            QCOMPARE(Regions::fromList(layout.regions.values()), expected);
             const QString unknown = "Unknown Arrangement Mode '%1', no default settings %2.";
             QString message;
             if (mode == "Tile" && request.regionCount == 3)

@@ -68,8 +68,8 @@ protected:
     void onPaletteChanged(QEvent*) override { ++paletteChanges; }
 };
 
-const QString width = "Width";
-const QString height = "Height";
+const char* const width = "Width";
+const char* const height = "Height";
 
 } // namespace
 

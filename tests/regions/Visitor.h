@@ -17,6 +17,8 @@ public:
     {
     }
     virtual ~Visitor() = default;
+    Visitor(const Visitor&) = delete;
+    Visitor& operator=(const Visitor&) = delete;
 
     /// Whether a strict camera has to take all that the page writes.
     virtual bool act()
@@ -32,7 +34,7 @@ public:
             return type(which, *field, below(int(field->maximum()) + 1));
         }
         case 3:
-            writeAsOther(m_fields[below(4)].second, below(500) * 4);
+            writeAsOther(m_fields[below(4)].second, std::int64_t{4} * below(500));
             break;
         case 4:
             changeImage();

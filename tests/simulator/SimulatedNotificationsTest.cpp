@@ -96,13 +96,13 @@ private slots:
         camera->writeAsOtherClient("BinningSelector", "Digital"); // with a factor of its own
         QCOMPARE(calls().mid(0, 3), (QVector<int>{2, 1, 1}));
         camera->setStreaming(true); // locks
-        QCOMPARE(calls()[2], 2);
+        QCOMPARE(calls().at(2), 2);
         settings.cascades = false;
         camera->setNotifications(settings);
         camera->setStreaming(false);
-        const int before = calls()[1];
+        const int before = calls().at(1);
         camera->writeAsOtherClient("BinningHorizontal", 3);
-        QCOMPARE(calls()[1], before);
+        QCOMPARE(calls().at(1), before);
     }
 
     void registration()
@@ -149,6 +149,7 @@ private slots:
         camera->failures().add("*", sim::Operations::all(), sim::Failure::refuse(),
                                sim::Occurrence::randomly(0.05, 7));
         std::vector<std::thread> threads;
+        threads.reserve(4);
         for (int t = 0; t < 4; ++t)
             threads.emplace_back([&camera, t] {
                 const auto observer = std::make_shared<Observer>();

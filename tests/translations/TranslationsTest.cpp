@@ -9,12 +9,13 @@
 #include <QTranslator>
 #include <QXmlStreamReader>
 
+#include <array>
 #include <memory>
 
 namespace {
 
-const QStringList bases{"tabextensionaoi", "tabextensionautoaoi", "tabextensionimgfmt"};
-const QStringList languages{"de", "fr", "ja", "zh_CN"};
+const std::array bases{"tabextensionaoi", "tabextensionautoaoi", "tabextensionimgfmt"};
+const std::array languages{"de", "fr", "ja", "zh_CN"};
 
 const char* const localeTest = "loadsForTheSystemLocale";
 const char* const localeVariable = "TRANSLATIONS_TEST_LANGUAGE";
@@ -99,14 +100,14 @@ private slots:
         const DataTable row([](const QString& base, const QString& language) {
             const Messages messages = readMessages(base, language);
             QVERIFY2(!messages.isEmpty(), "no file, or no texts in it");
-            QCOMPARE(messages.keys(), readMessages(base, languages.first()).keys());
+            QCOMPARE(messages.keys(), readMessages(base, languages.front()).keys());
             for (auto message = messages.begin(); message != messages.end(); ++message) {
                 const QString lost = loss(*message);
                 QVERIFY2(lost.isEmpty(), qPrintable(message.key() + ' ' + lost));
             }
         });
-        for (const QString& base : bases)
-            for (const QString& language : languages)
+        for (const QString base : bases)
+            for (const QString language : languages)
                 row((base + '_' + language).toUtf8(), base, language);
     }
     void textsAreComplete() { runRow(); }
@@ -149,7 +150,7 @@ private slots:
         if (!qEnvironmentVariableIsSet(localeVariable))
             QSKIP("Run once for each locale, by the test above.");
         QVERIFY(QDir::setCurrent(BINARY_FOLDER));
-        for (const QString& base : bases) {
+        for (const QString base : bases) {
             const std::unique_ptr<QTranslator> translator(
                 BaseTabPluginWidget::loadTranslator(base));
             QCOMPARE(translator->language(), qEnvironmentVariable(localeVariable));
