@@ -7,6 +7,8 @@
 #include <QFileDialog>
 #include <QImageWriter>
 
+#include <utility>
+
 ImageReaderWidget::ImageReaderWidget(QWidget* parent)
     : QComboBox(parent)
 {
@@ -14,6 +16,11 @@ ImageReaderWidget::ImageReaderWidget(QWidget* parent)
     addItems({QStringLiteral("No image"), QStringLiteral("Last acquired image"),
               QStringLiteral("Image from file")});
     connect(this, QOverload<int>::of(&QComboBox::activated), this, &ImageReaderWidget::activate);
+}
+
+ImageReaderWidget::~ImageReaderWidget()
+{
+    closeDialog();
 }
 
 // The list still has a signal to emit after this one, and the camera may be closed, and the list
@@ -56,9 +63,10 @@ void ImageReaderWidget::clearImage()
     emit imageChanged(m_fileImage);
 }
 
-// The camera may be closed while the dialog is open, and the dialog and this widget with it.
+// The camera may be closed while the dialog is open, and this widget with it.
 void ImageReaderWidget::chooseFile()
 {
+    const QPointer<ImageReaderWidget> self(this);
     const QPointer<QFileDialog> dialog = new QFileDialog(this, QString(), QString(), QString());
     m_dialog = dialog;
     dialog->setNameFilter(imageFileFilter(QImageWriter::supportedImageFormats()));
@@ -69,13 +77,22 @@ void ImageReaderWidget::chooseFile()
 
     const QStringList files = dialog->selectedFiles();
     dialog->deleteLater();
-    if (accepted && !files.isEmpty())
+    if (self && accepted && !files.isEmpty())
         loadFile(files.first());
 }
 
 void ImageReaderWidget::closeDialog()
 {
-    delete m_dialog.data();
+    const QPointer<QFileDialog> dialog = std::exchange(m_dialog, nullptr);
+    if (!dialog)
+        return;
+    // What the dialog itself asks lies on the stack: neither may be deleted before that has
+    // unwound.
+    const auto questions = dialog->findChildren<QDialog*>();
+    for (QDialog* const question : questions)
+        question->reject();
+    dialog->reject();
+    dialog->setParent(nullptr, dialog->windowFlags());
 }
 
 void ImageReaderWidget::loadFile(const QString& fileName)

@@ -25,6 +25,7 @@ public:
     };
 
     explicit ImageReaderWidget(QWidget* parent);
+    ~ImageReaderWidget() override;
 
     /// As if it were cancelled, if there is one.
     void closeDialog();

@@ -10,7 +10,10 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QFileDialog>
 #include <QLabel>
+#include <QLineEdit>
+#include <QPointer>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSpinBox>
@@ -177,21 +180,35 @@ private slots:
     }
 
     // Its end gives the focus back to a field, which tells the page.
-    void outlivesItsPictureDialog()
+    void outlivesItsPictureDialog_data()
     {
-        QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
-        OpenPage p;
-        QByteArray pageAtEnd;
-        QTimer::singleShot(50, this, [&] {
-            auto* const dialog = QApplication::activeModalWidget();
-            QVERIFY(dialog);
-            connect(dialog, &QObject::destroyed, this,
-                    [&, page = p.page.get()] { pageAtEnd = page->metaObject()->className(); });
-            p.page.reset();
+        const DataTable row([](bool asks) {
+            QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+            OpenPage p;
+            QPointer<QFileDialog> dialog;
+            QByteArray pageAtEnd;
+            QTimer::singleShot(50, qApp, [&] {
+                dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+                QVERIFY(dialog);
+                connect(dialog, &QDialog::rejected, qApp,
+                        [&, page = p.page.get()] { pageAtEnd = page->metaObject()->className(); });
+                dialog->findChild<QLineEdit*>()->setText("missing.png");
+                if (asks)
+                    QMetaObject::invokeMethod(dialog, "accept", Qt::QueuedConnection);
+            });
+            QTimer::singleShot(150, qApp, [&] {
+                QCOMPARE(QApplication::activeModalWidget() != dialog, asks);
+                p.page.reset();
+            });
+            p.source()->onComboBoxItemActivated(ImageReaderWidget::ImageFromFile);
+            QCOMPARE(pageAtEnd, QByteArray("ImageFormatWidget"));
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+            QVERIFY(!dialog && !QApplication::activeModalWidget());
         });
-        p.source()->onComboBoxItemActivated(ImageReaderWidget::ImageFromFile);
-        QCOMPARE(pageAtEnd, QByteArray("ImageFormatWidget"));
+        row("open", false);
+        row("telling of a missing file", true);
     }
+    void outlivesItsPictureDialog() { runRow(); }
 
     void guardsFieldsAgainstTheWheel()
     {

@@ -10,6 +10,7 @@
 
 #include <QApplication>
 #include <QElapsedTimer>
+#include <QPixmapCache>
 #include <QTimer>
 
 #include <array>
@@ -81,6 +82,9 @@ void openAndClose(TabExtensionInterface& module, Watchdog& watchdog, Report& rep
 {
     constexpr int firstLook = 100;
     constexpr std::array models{"current", "dsp", "aoi", "multi-region", "automode-dynamic"};
+    // Qt's cache of pictures names them after palettes, of which each page has its own: it fills,
+    // and keeps the names of what it drops until a timer of half a minute comes by.
+    QPixmapCache::setCacheLimit(0);
     ProcessState before;
     for (int i = 1; i <= count; ++i) {
         watchdog.beat();

@@ -4,7 +4,6 @@
 #include <QApplication>
 #include <QDir>
 #include <QFile>
-#include <QPixmapCache>
 #include <QTranslator>
 #include <QWidget>
 
@@ -16,7 +15,6 @@ namespace {
 
 std::int64_t residentBytes()
 {
-    QPixmapCache::clear();
     malloc_trim(0);
     QFile file(QStringLiteral("/proc/self/statm"));
     if (!file.open(QIODevice::ReadOnly))
