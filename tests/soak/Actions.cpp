@@ -4,7 +4,6 @@
 #include "PictureFiles.h"
 #include "UserInput.h"
 
-#include <QAbstractItemView>
 #include <QAbstractSpinBox>
 #include <QBitmap>
 #include <QCheckBox>
@@ -12,6 +11,7 @@
 #include <QPushButton>
 #include <QScrollBar>
 #include <QTabBar>
+#include <QTableView>
 #include <QWheelEvent>
 
 #include <array>
@@ -102,7 +102,9 @@ void scroll(Session& session)
 void editCell(Session& session)
 {
     Random& random = session.random;
-    const QPointer<QAbstractItemView> table = anyUsable<QAbstractItemView>(session);
+    if (usable<QTableView>(session).isEmpty())
+        switchTab(session);
+    const QPointer<QTableView> table = anyUsable<QTableView>(session);
     if (!table || !table->model() || table->model()->rowCount() == 0)
         return;
     const auto* const model = table->model();
