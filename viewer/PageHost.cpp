@@ -30,8 +30,8 @@ PageHost::PageHost(PluginHost& plugin, CameraSession& session, QWidget* parent)
         showRefusal();
     }
     connect(&session, &CameraSession::streamingChanged, this, &PageHost::streaming);
-    emit streaming(
-        session.isStreaming()); // clazy:exclude=incorrect-emit, the page is connected by now
+    // The page is connected by now.
+    emit streaming(session.isStreaming()); // clazy:exclude=incorrect-emit
 }
 
 QString PageHost::title() const

@@ -106,9 +106,9 @@ private slots:
                 QVERIFY2(lost.isEmpty(), qPrintable(message.key() + ' ' + lost));
             }
         });
-        for (const QString base : bases)
-            for (const QString language : languages)
-                row((base + '_' + language).toUtf8(), base, language);
+        for (const char* const base : bases)
+            for (const char* const language : languages)
+                row(QByteArray(base) + '_' + language, base, language);
     }
     void textsAreComplete() { runRow(); }
 
@@ -150,7 +150,7 @@ private slots:
         if (!qEnvironmentVariableIsSet(localeVariable))
             QSKIP("Run once for each locale, by the test above.");
         QVERIFY(QDir::setCurrent(BINARY_FOLDER));
-        for (const QString base : bases) {
+        for (const char* const base : bases) {
             const std::unique_ptr<QTranslator> translator(
                 BaseTabPluginWidget::loadTranslator(base));
             QCOMPARE(translator->language(), qEnvironmentVariable(localeVariable));
