@@ -19,6 +19,8 @@
 #include <QSpinBox>
 #include <QTimer>
 
+#include <array>
+
 namespace {
 
 /// A page over a model's camera, shown, with one refresh done.
@@ -107,9 +109,8 @@ private slots:
             QCOMPARE(int(p.camera->journal().writes().size()), click);
             QVERIFY(reverse->isChecked());
         }
-        for (const QWidget* field :
-             {static_cast<QWidget*>(p.binning()), static_cast<QWidget*>(p.format()),
-              static_cast<QWidget*>(reverse)})
+        const std::array<QWidget*, 3> fields{p.binning(), p.format(), reverse};
+        for (const QWidget* field : fields)
             QVERIFY(!field->signalsBlocked());
     }
 
