@@ -188,19 +188,23 @@ private slots:
             OpenPage p;
             QPointer<QFileDialog> dialog;
             QByteArray pageAtEnd;
-            QTimer::singleShot(50, qApp, [&] {
-                dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-                QVERIFY(dialog);
-                connect(dialog, &QDialog::rejected, qApp,
-                        [&, page = p.page.get()] { pageAtEnd = page->metaObject()->className(); });
-                dialog->findChild<QLineEdit*>()->setText("missing.png");
-                if (asks)
-                    QMetaObject::invokeMethod(dialog, "accept", Qt::QueuedConnection);
+            QTimer user;
+            connect(&user, &QTimer::timeout, qApp, [&] {
+                QWidget* const modal = QApplication::activeModalWidget();
+                if (!dialog && modal) {
+                    dialog = qobject_cast<QFileDialog*>(modal);
+                    connect(dialog, &QDialog::rejected, qApp, [&, page = p.page.get()] {
+                        pageAtEnd = page->metaObject()->className();
+                    });
+                    dialog->findChild<QLineEdit*>()->setText("missing.png");
+                    if (asks)
+                        QMetaObject::invokeMethod(dialog, "accept", Qt::QueuedConnection);
+                } else if (dialog && (modal != dialog) == asks) {
+                    user.stop();
+                    p.page.reset();
+                }
             });
-            QTimer::singleShot(150, qApp, [&] {
-                QCOMPARE(QApplication::activeModalWidget() != dialog, asks);
-                p.page.reset();
-            });
+            user.start(20);
             p.source()->onComboBoxItemActivated(ImageReaderWidget::ImageFromFile);
             QCOMPARE(pageAtEnd, QByteArray("ImageFormatWidget"));
             QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
