@@ -194,7 +194,7 @@ private slots:
         f.camera.writeAsOtherClient("Text", "other");
         f.features->updateFeatures({"Text"});
         QCOMPARE(f.shown("Text"), QVariant("old"));
-        f.table->model()->dataChanged(f.table->currentIndex(), f.table->currentIndex());
+        emit f.table->model()->dataChanged(f.table->currentIndex(), f.table->currentIndex());
         QCOMPARE(field->text(), QString("half"));
         QTest::keyClick(field, Qt::Key_Escape);
         f.features->updateFeatures({"Text"});
