@@ -29,7 +29,8 @@ private slots:
                 open.settle();
                 QCOMPARE(open.camera->journal().writes().size(), 0u);
             });
-        for (const QByteArray mode : {"Vertical", "Horizontal", "Tile", "Free"}) {
+        const QByteArrayList modes{"Vertical", "Horizontal", "Tile", "Free"};
+        for (const QByteArray& mode : modes) {
             for (const char* model :
                  {"multi-region", "multi-region-6", "multi-region-integer", "multi-region-older"})
                 row(mode + ' ' + model, mode, model, "0123");

@@ -24,7 +24,8 @@ private slots:
             QCOMPARE(p.find<QGroupBox>("gb_AutoROI")->title(), group);
             QCOMPARE(p.find<QGroupBox>("gb_Region")->title(), caption);
             QStringList visible;
-            for (const QString name : {"Left", "Top", "Right", "Bottom", "Width", "Height"}) {
+            const QStringList names{"Left", "Top", "Right", "Bottom", "Width", "Height"};
+            for (const QString& name : names) {
                 const auto* const label = p.find<QLabel>("label" + name);
                 if (label->isVisible())
                     visible << label->text();
