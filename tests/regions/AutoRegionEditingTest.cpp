@@ -9,7 +9,7 @@ namespace {
 
 using Numbers = QVector<int>;
 
-const QString dsp = "DSPSubregion";
+const char* const dsp = "DSPSubregion";
 
 /// The features that tell the region: left, top, right, bottom, or left, top, width, height.
 QStringList features(const QString& family)
@@ -30,7 +30,7 @@ Numbers region(const AutoROIPage& p, const QString& family)
 void setRegion(sim::Camera& camera, const QString& family, const Numbers& numbers)
 {
     for (int i = 0; i < 4; ++i)
-        camera.force(features(family)[i].toStdString(), numbers[i]);
+        camera.force(features(family).at(i).toStdString(), numbers[i]);
 }
 
 /// The edges of an axis bound each other.
