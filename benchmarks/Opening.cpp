@@ -86,6 +86,7 @@ std::vector<double> openingSeconds(const std::vector<int>& features, int rounds)
         }
     }
     std::vector<double> medians;
+    medians.reserve(samples.size());
     for (const std::vector<double>& times : samples)
         medians.push_back(percentilesOf(times).p50);
     return medians;

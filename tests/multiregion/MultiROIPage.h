@@ -50,8 +50,10 @@ protected:
         texts << box->text();
         const QString wanted = buttons.isEmpty() ? "Escape" : buttons.takeFirst();
         for (QAbstractButton* button : box->buttons()) {
-            if (button->text().remove('&') == wanted)
-                return button->click();
+            if (button->text().remove('&') != wanted)
+                continue;
+            button->click();
+            return;
         }
         QTest::keyClick(box, Qt::Key_Escape);
     }

@@ -110,7 +110,7 @@ private slots:
         QCOMPARE(p.field("spinExpAutoMax")->maximum(), 6553500.0);
         p.camera->force("ExposureTimeAbs", 7000.0);
         p.click("btnExpAutoMinCurrent");
-        QCOMPARE(p.writes().last(), QString("ExposureAutoMin 7000"));
+        QCOMPARE(p.writes().constLast(), QString("ExposureAutoMin 7000"));
         p.camera->writeAsOtherClient("ExposureAutoTimebase", "1us");
         p.settle();
         QCOMPARE(p.field("spinExpAutoMax")->maximum(), 65535.0);
