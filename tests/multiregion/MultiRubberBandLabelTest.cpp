@@ -48,6 +48,15 @@ private slots:
     }
     void drags() { runRow(); }
 
+    /// The window system may leave out the moves.
+    void releaseElsewhereIsReported()
+    {
+        makeLabel("Free");
+        press(m_label.get(), {75, 75});
+        release(m_label.get(), {90, 90});
+        QCOMPARE(m_events.last(), QString("0: 100,100 400x400"));
+    }
+
     /// What happens in the midst of a drag of region 0 from (75, 75) by (10, 20).
     void disturbedDrags_data()
     {
