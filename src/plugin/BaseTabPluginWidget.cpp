@@ -147,8 +147,9 @@ bool BaseTabPluginWidget::isVendorSupported(FeatureManager* manager)
 
 void BaseTabPluginWidget::OnFeatureChanged(const QString& name, const QString&)
 {
-    // A notification from another thread may be under way when the page hides.
-    if (sender() == observer.get() && !m_observing)
+    // A notification from another thread may be under way when the page hides. While it observes,
+    // sender() is not asked: it would wait for a lock that the notifying thread still holds.
+    if (!m_observing && sender() == observer.get())
         return;
     noteOrKeep(name);
 }
