@@ -218,6 +218,18 @@ private slots:
         QCOMPARE(shown().pixelColor(200, 150), QColor(Qt::green));
     }
 
+    /// A picture keeps the whole pixels of the size at which it was chosen.
+    void endsItsBandWithThePicture()
+    {
+        m_label->setMinimumSize(1, 1);
+        m_label->resize(40, 29);
+        m_label->showBackground(std::make_shared<QPixmap>(1600, 1200), {1600, 1200}, {});
+        m_label->resize(400, 300);
+        m_label->setRegion(0, 0, 1600, 1200);
+        QCOMPARE(m_label->pixmap(Qt::ReturnByValue).size(), QSize(393, 300));
+        QCOMPARE(m_band->geometry(), QRect(0, 0, 393, 300));
+    }
+
 private:
     QString takeEvents() { return std::exchange(m_events, {}).join(", "); }
 
