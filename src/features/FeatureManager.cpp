@@ -14,13 +14,6 @@ namespace {
 
 constexpr std::size_t usualNameLength = 63; ///< longer names cost an allocation
 
-/// From the end, byte by byte: a camera's names begin alike, and wider reads of what was just
-/// written would wait for it.
-bool isSameName(const std::string& name, const std::string& other)
-{
-    return name.size() == other.size() && std::equal(name.rbegin(), name.rend(), other.rbegin());
-}
-
 } // namespace
 
 FeatureManager::FeatureManager(const Wrappers& features)
@@ -40,7 +33,7 @@ ZebFeatureWrapperPtr FeatureManager::find(const QString& name) const
     std::string candidate;
     candidate.reserve(usualNameLength);
     for (const ZebFeatureWrapperPtr& feature : features) {
-        if (feature && feature->GetName(candidate) == Sdk::success && isSameName(candidate, wanted))
+        if (feature && feature->GetName(candidate) == Sdk::success && candidate == wanted)
             return feature;
     }
     return {};
