@@ -22,7 +22,7 @@ class Table
 public:
     Table()
         : m_camera(cameraWith(rows))
-        , m_manager(wrappers(m_camera))
+        , m_manager(m_camera.wrappers())
         , m_names(m_manager.GetFeatureNames())
         , m_table(new FeaturesTableWidget(m_names, &m_manager, nullptr))
         , m_window(Screen::show(m_table, windowSize))
@@ -65,15 +65,6 @@ public:
     int callsWhilePainting() const { return m_callsWhilePainting; }
 
 private:
-    static FeatureManager::Wrappers wrappers(const PlainCamera& camera)
-    {
-        const auto features = camera.features();
-        auto list = FeatureManager::Wrappers::create();
-        for (const ZebCPP::FeaturePtr& feature : *features)
-            list->append(std::make_shared<ZebFeatureWrapper>(feature));
-        return list;
-    }
-
     /// As many as change between two ticks; the integers among them have new values.
     QStringList changedNames() const { return m_names.mid(m_steps * 20 % rows, 20); }
 

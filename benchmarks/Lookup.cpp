@@ -18,7 +18,7 @@ class Lookup
 public:
     Lookup()
         : m_camera(cameraWith(featureCount))
-        , m_manager(wrappers(m_camera))
+        , m_manager(m_camera.wrappers())
     {
         for (const QString& name : m_manager.GetFeatureNames())
             m_names.push_back(name.toStdString());
@@ -64,15 +64,6 @@ private:
         const std::size_t before = allocationCount();
         m_found += manager.HasFeature(m_wanted);
         return allocationCount() - before;
-    }
-
-    static FeatureManager::Wrappers wrappers(const PlainCamera& camera)
-    {
-        const auto features = camera.features();
-        auto list = FeatureManager::Wrappers::create();
-        for (const ZebCPP::FeaturePtr& feature : *features)
-            list->append(std::make_shared<ZebFeatureWrapper>(feature));
-        return list;
     }
 
     PlainCamera m_camera;

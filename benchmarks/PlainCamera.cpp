@@ -251,6 +251,14 @@ PlainCamera::PlainCamera(const sim::FeatureDescriptions& features)
 
 PlainCamera::~PlainCamera() = default;
 
+FeatureManager::Wrappers PlainCamera::wrappers() const
+{
+    auto list = FeatureManager::Wrappers::create();
+    for (const ZebCPP::FeaturePtr& feature : *m_features)
+        list->append(std::make_shared<ZebFeatureWrapper>(feature));
+    return list;
+}
+
 ZebCPP::FeaturePtr PlainCamera::feature(const char* name) const
 {
     for (const ZebCPP::FeaturePtr& feature : *m_features)

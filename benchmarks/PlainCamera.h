@@ -1,5 +1,6 @@
 #pragma once
 
+#include "features/FeatureManager.h"
 #include "simulator/FeatureDescription.h"
 #include "simulator/SensorSize.h"
 
@@ -23,6 +24,7 @@ public:
 
     using Features = QSharedPointer<QVector<ZebCPP::FeaturePtr>>;
     Features features() const { return m_features; }
+    FeatureManager::Wrappers wrappers() const;
     ZebCPP::FeaturePtr feature(const char* name) const;
 
     /// Calls of all operations since the last reset, on any feature.
