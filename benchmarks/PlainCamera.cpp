@@ -1,6 +1,6 @@
 #include "PlainCamera.h"
 
-#include "features/ZebFeatureWrapper.h"
+#include "features/FeatureWrapping.h"
 #include "simulator/Camera.h"
 #include "simulator/models/FeatureBlocks.h"
 
@@ -253,10 +253,7 @@ PlainCamera::~PlainCamera() = default;
 
 FeatureManager::Wrappers PlainCamera::wrappers() const
 {
-    auto list = FeatureManager::Wrappers::create();
-    for (const ZebCPP::FeaturePtr& feature : *m_features)
-        list->append(std::make_shared<ZebFeatureWrapper>(feature));
-    return list;
+    return wrapFeatures(*m_features);
 }
 
 ZebCPP::FeaturePtr PlainCamera::feature(const char* name) const

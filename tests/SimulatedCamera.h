@@ -1,6 +1,6 @@
 #pragma once
 
-#include "features/FeatureManager.h"
+#include "features/FeatureWrapping.h"
 
 #include "simulator/Camera.h"
 
@@ -16,8 +16,5 @@ inline QSharedPointer<QVector<ZebCPP::FeaturePtr>> featureList(const sim::Camera
 
 inline FeatureManager::Wrappers wrappers(const sim::Camera& camera)
 {
-    auto wrappers = FeatureManager::Wrappers::create();
-    for (const ZebCPP::FeaturePtr& feature : camera.features())
-        wrappers->append(std::make_shared<ZebFeatureWrapper>(feature));
-    return wrappers;
+    return wrapFeatures(*featureList(camera));
 }

@@ -2,6 +2,7 @@
 
 #include "CameraSession.h"
 #include "UserInput.h"
+#include "features/FeatureWrapping.h"
 #include "featuretable/FeaturesTableWidget.h"
 
 #include <QLineEdit>
@@ -14,14 +15,6 @@
 namespace {
 
 constexpr int refreshIntervalMs = 500;
-
-FeatureManager::Wrappers wrap(const QVector<ZebCPP::FeaturePtr>& features)
-{
-    auto wrappers = FeatureManager::Wrappers::create();
-    for (const ZebCPP::FeaturePtr& feature : features)
-        wrappers->append(std::make_shared<ZebFeatureWrapper>(feature));
-    return wrappers;
-}
 
 } // namespace
 
@@ -63,7 +56,7 @@ void FeatureTablePane::setSession(CameraSession* session)
 
 void FeatureTablePane::openTable(const TabExtensionInterface::FeatureList& features)
 {
-    m_features = wrap(*features);
+    m_features = wrapFeatures(*features);
     m_manager = std::make_unique<FeatureManager>(m_features);
     m_table = std::make_unique<FeaturesTableWidget>(m_manager->GetFeatureNames(), m_manager.get(),
                                                     this);

@@ -1,6 +1,7 @@
 #include "BaseTabPluginWidget.h"
 
 #include "features/CameraLink.h"
+#include "features/FeatureWrapping.h"
 #include "plugin/TENotSupported.h"
 #include "plugin/Translators.h"
 
@@ -35,19 +36,6 @@ void silenceQt()
                        reinterpret_cast<LPCWSTR>(&discardMessage), &module);
 #endif
     qInstallMessageHandler(discardMessage);
-}
-
-FeatureManager::Wrappers wrapFeatures(const BaseTabPluginWidget::FeatureList& features,
-                                      const std::shared_ptr<CameraLink>& link)
-{
-    auto wrappers = FeatureManager::Wrappers::create();
-    if (!features)
-        return wrappers;
-    const QVector<ZebCPP::FeaturePtr> list = *features;
-    wrappers->reserve(list.size());
-    for (const ZebCPP::FeaturePtr& feature : list)
-        wrappers->append(std::make_shared<ZebFeatureWrapper>(feature, link));
-    return wrappers;
 }
 
 } // namespace
@@ -93,7 +81,8 @@ BaseTabPluginWidget::BaseTabPluginWidget(const FeatureList& features, QWidget* p
     // A page within another page works on the same camera.
     const auto* const outerPage = qobject_cast<BaseTabPluginWidget*>(parent);
     m_link = outerPage ? outerPage->m_link : std::make_shared<CameraLink>();
-    featureManager = std::make_unique<FeatureManager>(wrapFeatures(features, m_link));
+    featureManager = std::make_unique<FeatureManager>(
+        features ? wrapFeatures(*features, m_link) : FeatureManager::Wrappers::create());
     if (!BaseTabPluginWidget::isVendorSupported(featureManager.get())) {
         throw TENotSupported(QStringLiteral("BaseTabPluginWidget::BaseTabPluginWidget"),
                              tr("Vendor not supported for plugins, widget not created."));

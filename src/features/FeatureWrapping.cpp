@@ -1,0 +1,14 @@
+#include "FeatureWrapping.h"
+
+#include <deque>
+
+FeatureManager::Wrappers wrapFeatures(const QVector<ZebCPP::FeaturePtr>& features,
+                                      const std::shared_ptr<CameraLink>& link)
+{
+    auto wrappers = FeatureManager::Wrappers::create();
+    wrappers->reserve(features.size());
+    const auto store = std::make_shared<std::deque<ZebFeatureWrapper>>();
+    for (const ZebCPP::FeaturePtr& feature : features)
+        wrappers->append(ZebFeatureWrapperPtr(store, &store->emplace_back(feature, link)));
+    return wrappers;
+}
