@@ -73,8 +73,9 @@ private:
 
 Work scaling(const std::shared_ptr<Page>& page)
 {
-    return [page, size = page->shownSize()] {
-        page->picture().scaled(size, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+    // A first picture may still change the layout.
+    return [page] {
+        page->picture().scaled(page->shownSize(), Qt::KeepAspectRatio, Qt::SmoothTransformation);
     };
 }
 
