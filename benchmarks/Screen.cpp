@@ -3,6 +3,9 @@
 #include <QApplication>
 #include <QImage>
 #include <QMouseEvent>
+#include <QTest>
+
+#include <stdexcept>
 
 namespace {
 
@@ -47,7 +50,9 @@ std::unique_ptr<QWidget> show(QWidget* content, const QSize& size)
     content->setGeometry(QRect(QPoint(0, 0), size));
     content->show();
     window->show();
-    QCoreApplication::processEvents();
+    // Nothing is painted on a window that the window system does not show yet.
+    if (!QTest::qWaitForWindowExposed(window.get()))
+        throw std::runtime_error("a window does not appear");
     flush();
     return window;
 }
