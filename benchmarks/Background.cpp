@@ -53,11 +53,12 @@ public:
         Screen::flush();
     }
 
-    /// Of the picture on the visible region page.
-    QSize shownSize() const
+    /// Of the picture on a region page.
+    QSize shownSize(int tab) const
     {
-        for (const QLabel* label : tabs()->currentWidget()->findChildren<QLabel*>())
-            if (label->isVisible() && label->pixmap(Qt::ReturnByValue).width() >= 100)
+        const QWidget* const page = tabs()->widget(tab);
+        for (const QLabel* label : page->findChildren<QLabel*>())
+            if (label->isVisibleTo(page) && label->pixmap(Qt::ReturnByValue).width() >= 100)
                 return label->pixmap(Qt::ReturnByValue).size();
         throw std::logic_error("no page shows the picture");
     }
@@ -71,11 +72,11 @@ private:
     std::unique_ptr<QWidget> m_window;
 };
 
-Work scaling(const std::shared_ptr<Page>& page)
+Work scaling(const std::shared_ptr<Page>& page, int tab)
 {
     // A first picture may still change the layout.
-    return [page] {
-        page->picture().scaled(page->shownSize(), Qt::KeepAspectRatio, Qt::SmoothTransformation);
+    return [page, tab] {
+        page->picture().scaled(page->shownSize(tab), Qt::KeepAspectRatio, Qt::SmoothTransformation);
     };
 }
 
@@ -88,13 +89,13 @@ void addRows(const std::string& prefix, const QSize& size)
                       [tab = tab, size]() -> Contest {
                           const auto page = std::make_shared<Page>(size);
                           page->showTab(tab);
-                          return {[page] { page->choose(); }, scaling(page)};
+                          return {[page] { page->choose(); }, scaling(page, tab)};
                       });
         addComparison(prefix + "/turned-to-" + name, "one QPixmap::scaled", std::nullopt, sampling,
                       [tab = tab, size]() -> Contest {
                           const auto page = std::make_shared<Page>(size);
                           page->showTab(tab);
-                          const Work reference = scaling(page);
+                          const Work reference = scaling(page, tab);
                           return {[page, tab] { page->showTab(tab); },
                                   reference,
                                   {},
