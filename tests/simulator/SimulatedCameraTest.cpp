@@ -1,6 +1,7 @@
 #include "DataTable.h"
 #include "simulator/Camera.h"
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 
@@ -34,9 +35,9 @@ std::vector<bool> strikes(std::uint64_t seed)
     const auto camera = createCamera("plain");
     camera->failures().add("Width", Operation::SetValue, Failure::refuse(),
                            Occurrence::randomly(0.3, seed));
-    std::vector<bool> results;
-    for (int i = 0; i < 100; ++i)
-        results.push_back(write(*camera, "Width 640") != ZebErrorSuccess);
+    std::vector<bool> results(100);
+    std::generate(results.begin(), results.end(),
+                  [&] { return write(*camera, "Width 640") != ZebErrorSuccess; });
     return results;
 }
 
