@@ -125,14 +125,45 @@ private:
     std::thread m_thread;
 };
 
-/// What a queued signal costs by itself: the thread wakes up, and Qt finds out what for.
-double bareBusyShare(double seconds)
+/// Answers a notification with a signal, as a page does, but of no content.
+class BareObserver : public ZebCPP::IFeatureObserver
+{
+public:
+    explicit BareObserver(Host& host)
+        : m_host(host)
+    {
+    }
+    void FeatureChanged(const ZebCPP::FeaturePtr&) override { emit m_host.streaming(true); }
+
+private:
+    Host& m_host;
+};
+
+void notify(sim::Camera& camera, int i)
+{
+    camera.burst(i % 2 ? "Width" : "PixelFormat", 1);
+}
+
+/// What the same notifications cost with a slot that does nothing: the thread wakes up, and Qt
+/// finds out what for.
+double bareBusyShare(sim::Camera& camera, double seconds)
 {
     Host sender;
     QObject receiver;
     QObject::connect(&sender, &Host::streaming, &receiver, [](bool) {});
-    const EveryMillisecond source([&sender](int) { emit sender.streaming(true); });
-    return busyShare(seconds);
+    const auto observer = std::make_shared<BareObserver>(sender);
+    const std::array features{camera.feature("Width").pointer(),
+                              camera.feature("PixelFormat").pointer()};
+    for (const ZebCPP::FeaturePtr& feature : features)
+        feature->RegisterObserver(observer);
+    double share = 0.0;
+    {
+        const EveryMillisecond source([&camera](int i) { notify(camera, i); });
+        share = busyShare(seconds);
+    }
+    for (const ZebCPP::FeaturePtr& feature : features)
+        feature->UnregisterObserver(observer);
+    return share;
 }
 
 } // namespace
@@ -171,11 +202,10 @@ void storm(TabExtensionInterface& module, Watchdog& watchdog, Report& report, do
     QObject::connect(&heart, &QTimer::timeout, [&watchdog] { watchdog.beat(); });
     heart.start(1000);
 
-    const double bare = bareBusyShare(std::min(60.0, minutes * 6.0));
+    const double bare = bareBusyShare(*camera, std::min(60.0, minutes * 6.0));
     Host host;
     openPage(module, *camera, host);
-    const EveryMillisecond source(
-        [&camera](int i) { camera->burst(i % 2 ? "Width" : "PixelFormat", 1); });
+    const EveryMillisecond source([&camera](int i) { notify(*camera, i); });
     wait(5.0);
     const ProcessState before = ProcessState::now();
     const double busy = busyShare(minutes * 60.0);
