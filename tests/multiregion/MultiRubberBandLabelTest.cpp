@@ -4,7 +4,6 @@
 #include "TestEvents.h"
 #include "multiregion/LineRubberBand.h"
 #include "multiregion/RectangleRubberBand.h"
-#include "multiregion/RegionLabelWidget.h"
 
 #include <QScreen>
 
@@ -333,26 +332,6 @@ private slots:
             QCOMPARE(shown().size(), size);
             QCOMPARE(shown().pixelColor(50, size.height() - 1), QColor(Qt::white));
         }
-    }
-
-    void regionLabels()
-    {
-        RegionLabelWidget widget(3, {16, 8, 640, 480}, QColor(0, 100, 255), nullptr);
-        const auto* number = widget.findChild<QLabel*>("lbl_ID");
-        const auto* size = widget.findChild<QLabel*>("lbl_Size");
-        QCOMPARE(number->text(), QString("3"));
-        QCOMPARE(size->text(), QString("(  16,    8)\n 640 x  480"));
-        widget.highlightIfSelected(3);
-        QCOMPARE(number->text(), QString(">  3"));
-        QCOMPARE(number->font().weight(), 75);
-        widget.highlightIfSelected(1);
-        QCOMPARE(number->text(), QString("   3"));
-        QCOMPARE(number->font().weight(), 50);
-        widget.updateColor(2, Qt::green);
-        widget.updateColor(3, QColor(255, 0, 0, 80));
-        QCOMPARE(size->styleSheet(), QString("QLabel { color: #ff0000; border-color: #ff0000 }"));
-        QCOMPARE(number->styleSheet(), size->styleSheet());
-        QCOMPARE(widget.minimumSizeHint().width(), number->width() + size->width() + 20);
     }
 
 private:
