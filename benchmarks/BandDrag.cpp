@@ -1,6 +1,6 @@
 #include "Row.h"
 #include "Screen.h"
-#include "multiregion/MultiRubberBandLabel.h"
+#include "multiregion/label/MultiRubberBandLabel.h"
 
 #include <stdexcept>
 

@@ -3,7 +3,7 @@
 #include "Row.h"
 #include "Screen.h"
 #include "imageformat/ImageFormatWidget.h"
-#include "regions/RubberBandLabel.h"
+#include "regions/label/RubberBandLabel.h"
 #include "ui_AOIWidget.h"
 #include "ui_AutoROIWidget.h"
 #include "ui_ImageFormatWidget.h"

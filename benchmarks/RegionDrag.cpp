@@ -1,6 +1,6 @@
 #include "Row.h"
 #include "Screen.h"
-#include "regions/RubberBandLabel.h"
+#include "regions/label/RubberBandLabel.h"
 
 #include <QApplication>
 #include <QGraphicsPixmapItem>

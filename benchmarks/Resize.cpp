@@ -1,7 +1,7 @@
 #include "Row.h"
 #include "Screen.h"
-#include "multiregion/MultiRubberBandLabel.h"
-#include "regions/RubberBandLabel.h"
+#include "multiregion/label/MultiRubberBandLabel.h"
+#include "regions/label/RubberBandLabel.h"
 
 #include <QApplication>
 #include <QLabel>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "SensorState.h"
-#include "plugin/TabExtensionInterface.h"
+#include "host/TabExtensionInterface.h"
 
 #include <QObject>
 #include <QStringList>

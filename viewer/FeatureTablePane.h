@@ -2,7 +2,7 @@
 
 #include "features/FeatureManager.h"
 #include "features/PluginFeatureObserver.h"
-#include "plugin/TabExtensionInterface.h"
+#include "host/TabExtensionInterface.h"
 
 #include <QSet>
 #include <QWidget>

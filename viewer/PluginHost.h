@@ -1,6 +1,6 @@
 #pragma once
 
-#include "plugin/TabExtensionInterface.h"
+#include "host/TabExtensionInterface.h"
 
 #include <QCoreApplication>
 #include <QPluginLoader>

@@ -1,4 +1,4 @@
-#include "CameraLink.h"
+#include "features/CameraLink.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "FeatureInformation.h"
+#include "features/FeatureInformation.h"
 
 #include "features/FeatureReading.h"
 #include "features/SdkValues.h"

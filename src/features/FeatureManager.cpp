@@ -1,4 +1,4 @@
-#include "FeatureManager.h"
+#include "features/FeatureManager.h"
 
 #include "features/FeatureReading.h"
 #include "features/SdkValues.h"

@@ -1,6 +1,6 @@
 // What the camera tells of its features beside their values.
 
-#include "FeatureManager.h"
+#include "features/FeatureManager.h"
 
 #include "features/FeatureInformation.h"
 #include "features/FeatureReading.h"

@@ -1,6 +1,6 @@
 // What changes the camera.
 
-#include "FeatureManager.h"
+#include "features/FeatureManager.h"
 
 #include "features/FeatureWriting.h"
 #include "features/SdkValues.h"

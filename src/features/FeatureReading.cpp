@@ -1,4 +1,4 @@
-#include "FeatureReading.h"
+#include "features/FeatureReading.h"
 
 #include "features/SdkValues.h"
 

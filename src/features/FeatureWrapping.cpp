@@ -1,4 +1,4 @@
-#include "FeatureWrapping.h"
+#include "features/FeatureWrapping.h"
 
 #include <deque>
 

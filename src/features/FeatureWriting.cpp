@@ -1,4 +1,4 @@
-#include "FeatureWriting.h"
+#include "features/FeatureWriting.h"
 
 #include "features/FeatureReading.h"
 #include "features/NumberConversion.h"

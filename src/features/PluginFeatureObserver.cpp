@@ -1,4 +1,4 @@
-#include "PluginFeatureObserver.h"
+#include "features/PluginFeatureObserver.h"
 
 #include "features/SdkValues.h"
 #include "features/TwoCallPattern.h"

@@ -1,4 +1,4 @@
-#include "ZebFeatureWrapper.h"
+#include "features/ZebFeatureWrapper.h"
 
 #include "features/CameraLink.h"
 #include "features/SdkValues.h"

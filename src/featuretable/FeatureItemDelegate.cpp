@@ -1,8 +1,8 @@
-#include "FeatureItemDelegate.h"
+#include "featuretable/FeatureItemDelegate.h"
 
-#include "CellText.h"
-#include "DelegateWidget.h"
-#include "DelegateWidgetFactory.h"
+#include "featuretable/record/CellText.h"
+#include "featuretable/editors/DelegateWidget.h"
+#include "featuretable/editors/DelegateWidgetFactory.h"
 
 #include <QComboBox>
 #include <QDebug>

@@ -1,4 +1,4 @@
-#include "FeatureNameDelegate.h"
+#include "featuretable/FeatureNameDelegate.h"
 
 #include <algorithm>
 

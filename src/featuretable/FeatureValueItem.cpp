@@ -1,6 +1,6 @@
-#include "FeatureValueItem.h"
+#include "featuretable/FeatureValueItem.h"
 
-#include "CellText.h"
+#include "featuretable/record/CellText.h"
 
 #include <QSignalBlocker>
 #include <QTableWidget>

@@ -1,11 +1,11 @@
-#include "FeaturesTableWidget.h"
+#include "featuretable/FeaturesTableWidget.h"
 
-#include "FeatureFilter.h"
-#include "FeatureInfoReading.h"
-#include "FeatureItemDelegate.h"
-#include "FeatureNameDelegate.h"
-#include "FeatureValueItem.h"
-#include "MyTableWidget.h"
+#include "featuretable/record/FeatureFilter.h"
+#include "featuretable/record/FeatureInfoReading.h"
+#include "featuretable/FeatureItemDelegate.h"
+#include "featuretable/FeatureNameDelegate.h"
+#include "featuretable/FeatureValueItem.h"
+#include "featuretable/MyTableWidget.h"
 #include "features/FeatureManager.h"
 
 #include <QBrush>

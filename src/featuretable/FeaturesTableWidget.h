@@ -1,8 +1,8 @@
 #pragma once
 
-#include "FeatureInfo.h"
+#include "featuretable/record/FeatureInfo.h"
 
-#include "plugin/TabExtensionInterface.h"
+#include "host/TabExtensionInterface.h"
 
 #include <QHash>
 #include <QModelIndex>

@@ -1,4 +1,4 @@
-#include "MyTableWidget.h"
+#include "featuretable/MyTableWidget.h"
 
 #include <QHeaderView>
 #include <QPainter>

@@ -1,4 +1,4 @@
-#include "FeatureBinding.h"
+#include "imageformat/FeatureBinding.h"
 
 #include <QWidget>
 

@@ -1,4 +1,4 @@
-#include "ImageFileFilter.h"
+#include "imageformat/ImageFileFilter.h"
 
 #include <QStringList>
 

@@ -3,11 +3,11 @@
 #include <QLatin1String>
 
 // The features that change how a picture lies on the sensor.
-namespace ImageFormatNames {
+namespace FeatureNames {
 
 inline const QLatin1String binningHorizontal("BinningHorizontal");
 inline const QLatin1String binningVertical("BinningVertical");
 inline const QLatin1String reverseX("ReverseX");
 inline const QLatin1String reverseY("ReverseY");
 
-} // namespace ImageFormatNames
+} // namespace FeatureNames

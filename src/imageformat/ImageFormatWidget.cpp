@@ -1,11 +1,11 @@
-#include "ImageFormatWidget.h"
+#include "imageformat/ImageFormatWidget.h"
 
 #include "features/NumberConversion.h"
 #include "imageformat/FeatureBinding.h"
-#include "imageformat/ImageFormatNames.h"
+#include "features/FeatureNames.h"
 #include "imageformat/ImageReaderWidget.h"
 #include "multiregion/MultiROIWidget.h"
-#include "plugin/TENotSupported.h"
+#include "page/TENotSupported.h"
 #include "regions/AOIWidget.h"
 #include "regions/AutoROIWidget.h"
 #include "ui_ImageFormatWidget.h"
@@ -18,7 +18,7 @@
 #include <QSignalBlocker>
 #include <QSpinBox>
 
-using namespace ImageFormatNames;
+using namespace FeatureNames;
 
 // The icons sit in a static library, from which the linker takes them only when asked.
 static void initializeImages()

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "plugin/BaseTabPluginWidget.h"
+#include "page/BaseTabPluginWidget.h"
 
 #include <memory>
 

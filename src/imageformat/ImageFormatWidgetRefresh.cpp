@@ -1,10 +1,10 @@
 // What the page shows of the camera.
 
-#include "ImageFormatWidget.h"
+#include "imageformat/ImageFormatWidget.h"
 
 #include "features/NumberConversion.h"
 #include "imageformat/FeatureBinding.h"
-#include "imageformat/ImageFormatNames.h"
+#include "features/FeatureNames.h"
 #include "ui_ImageFormatWidget.h"
 
 #include <QCheckBox>
@@ -17,7 +17,7 @@
 #include <functional>
 #include <limits>
 
-using namespace ImageFormatNames;
+using namespace FeatureNames;
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "ImageReaderWidget.h"
+#include "imageformat/ImageReaderWidget.h"
 
 #include "imageformat/ImageFileFilter.h"
 #include "imageformat/PictureFile.h"

@@ -1,4 +1,4 @@
-#include "PictureFile.h"
+#include "imageformat/PictureFile.h"
 
 #include <QDebug>
 #include <QFileInfo>

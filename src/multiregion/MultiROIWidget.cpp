@@ -1,15 +1,15 @@
-#include "MultiROIWidget.h"
+#include "multiregion/MultiROIWidget.h"
 
-#include "MultiRegionNames.h"
-#include "MultiRubberBandLabel.h"
-#include "RegionLabelWidget.h"
-#include "RegionTableWidget.h"
+#include "features/FeatureNames.h"
+#include "multiregion/label/MultiRubberBandLabel.h"
+#include "multiregion/RegionLabelWidget.h"
+#include "multiregion/RegionTableWidget.h"
 #include "ui_MultiROIWidget.h"
 
 #include <mutex>
 #include <utility>
 
-namespace Name = MultiRegionNames;
+namespace Name = FeatureNames;
 
 namespace {
 
@@ -180,7 +180,7 @@ bool MultiROIWidget::select(int region)
         const std::unique_lock<QMutex> lock(m_selectorLock, std::try_to_lock);
         if (!lock)
             return false;
-        const ModeReports::Selecting selecting(m_modeReports);
+        const ModeWatch::Selecting selecting(m_modeReports);
         failure = m_regions.select(region);
         if (failure.isEmpty())
             m_selectedByPage = region;

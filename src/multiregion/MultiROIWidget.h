@@ -1,9 +1,9 @@
 #pragma once
 
-#include "ArrangementMode.h"
-#include "ModeReports.h"
-#include "RegionFeatures.h"
-#include "plugin/BaseTabPluginWidget.h"
+#include "multiregion/rules/ArrangementMode.h"
+#include "multiregion/ModeWatch.h"
+#include "multiregion/RegionCamera.h"
+#include "page/BaseTabPluginWidget.h"
 
 #include <QColor>
 #include <QMutex>
@@ -147,7 +147,7 @@ private:
     void refreshPendingSoon();
 
     std::unique_ptr<Ui::MultiROIWidget> m_ui;
-    RegionFeatures m_regions;
+    RegionCamera m_regions;
     std::unique_ptr<FeatureManager> m_tableManager;
     MultiRubberBandLabel* m_label = nullptr;
     std::vector<RegionTab> m_tabs;
@@ -158,7 +158,7 @@ private:
     QMutex m_selectorLock;
 
     int m_selectedByPage = -1; ///< what the page wrote to the selector last
-    ModeReports m_modeReports;
+    ModeWatch m_modeReports;
     QPointer<RoundButton> m_toggledButton; ///< whose signal is being handled
     QSize m_sensorSize;                    ///< as the label has it
     int m_suspensions = 0;                 ///< drags, boxes and loads under way

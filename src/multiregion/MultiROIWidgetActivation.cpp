@@ -1,12 +1,12 @@
 // Switching regions on and off under the rules of the arrangement, and the default layouts.
 
-#include "MultiROIWidget.h"
+#include "multiregion/MultiROIWidget.h"
 
-#include "ArrangementQuestions.h"
-#include "DefaultLayouts.h"
-#include "MultiRubberBandLabel.h"
-#include "RegionButtonRules.h"
-#include "RegionPlacement.h"
+#include "multiregion/rules/ArrangementQuestions.h"
+#include "multiregion/rules/DefaultLayouts.h"
+#include "multiregion/label/MultiRubberBandLabel.h"
+#include "multiregion/rules/RegionButtonRules.h"
+#include "multiregion/rules/RegionPlacement.h"
 #include "ui_MultiROIWidget.h"
 #include "widgets/OverrideCursor.h"
 #include "widgets/RoundButton.h"

@@ -1,10 +1,10 @@
 // Following the camera: what changed is gathered while the user is at work and read afterwards.
 
-#include "MultiROIWidget.h"
+#include "multiregion/MultiROIWidget.h"
 
-#include "MultiRegionNames.h"
-#include "MultiRubberBandLabel.h"
-#include "RegionTableWidget.h"
+#include "features/FeatureNames.h"
+#include "multiregion/label/MultiRubberBandLabel.h"
+#include "multiregion/RegionTableWidget.h"
 #include "ui_MultiROIWidget.h"
 
 #include <QSignalBlocker>
@@ -13,7 +13,7 @@
 #include <algorithm>
 #include <utility>
 
-namespace Name = MultiRegionNames;
+namespace Name = FeatureNames;
 
 namespace {
 

@@ -1,16 +1,16 @@
 // The page's parts and their connections.
 
-#include "MultiROIWidget.h"
+#include "multiregion/MultiROIWidget.h"
 
-#include "MultiRegionNames.h"
-#include "MultiRubberBandLabel.h"
-#include "RegionLabelWidget.h"
-#include "RegionTableWidget.h"
+#include "features/FeatureNames.h"
+#include "multiregion/label/MultiRubberBandLabel.h"
+#include "multiregion/RegionLabelWidget.h"
+#include "multiregion/RegionTableWidget.h"
 #include "features/FeatureReading.h"
 #include "features/NumberConversion.h"
 #include "ui_MultiROIWidget.h"
 #include "widgets/RoundButton.h"
-#include "widgets/TextColors.h"
+#include "widgets/Theme.h"
 
 #include <QTabBar>
 #include <QTimer>
@@ -18,7 +18,7 @@
 #include <algorithm>
 #include <utility>
 
-namespace Name = MultiRegionNames;
+namespace Name = FeatureNames;
 
 namespace {
 

@@ -3,7 +3,7 @@
 #include <QStringList>
 
 // The camera's features that the multi-region page reads and writes.
-namespace MultiRegionNames {
+namespace FeatureNames {
 
 inline const QString enable = QStringLiteral("MultipleRegionEnable");
 inline const QString otherEnable = QStringLiteral("MultipleRegionsEnable");
@@ -30,4 +30,4 @@ inline const QStringList sensorNames{widthMax, heightMax};
 inline const QStringList regionNames{regionMode, status, offsetX,    olderOffsetX,
                                      offsetY,    width,  olderWidth, height};
 
-} // namespace MultiRegionNames
+} // namespace FeatureNames

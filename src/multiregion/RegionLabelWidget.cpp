@@ -1,4 +1,4 @@
-#include "RegionLabelWidget.h"
+#include "multiregion/RegionLabelWidget.h"
 
 #include "ui_RegionLabelWidget.h"
 

@@ -1,13 +1,13 @@
-#include "RegionTableWidget.h"
+#include "multiregion/RegionTableWidget.h"
 
-#include "MultiROIWidget.h"
-#include "MultiRegionNames.h"
-#include "TableConstraints.h"
+#include "multiregion/MultiROIWidget.h"
+#include "features/FeatureNames.h"
+#include "multiregion/rules/TableConstraints.h"
 #include "features/FeatureManager.h"
 
 #include <QPointer>
 
-namespace Name = MultiRegionNames;
+namespace Name = FeatureNames;
 
 RegionTableWidget::RegionTableWidget(int regionNo, MultiROIWidget* page,
                                      const QStringList& features, QWidget* parent)

@@ -1,7 +1,7 @@
-#include "TabExtensionPlugin.h"
+#include "plugin/TabExtensionPlugin.h"
 
 #include "imageformat/ImageFormatWidget.h"
-#include "plugin/TabExtensionException.h"
+#include "page/TabExtensionException.h"
 
 #include <QVBoxLayout>
 #include <QWidget>

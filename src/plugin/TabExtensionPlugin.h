@@ -1,6 +1,6 @@
 #pragma once
 
-#include "plugin/TabExtensionInterface.h"
+#include "host/TabExtensionInterface.h"
 
 /// The root object of the plug-in. It keeps no list of pages: each belongs to the viewer's widget
 /// that it was created on.

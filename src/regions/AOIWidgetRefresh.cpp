@@ -1,8 +1,8 @@
-#include "AOIWidget.h"
+#include "regions/AOIWidget.h"
 
-#include "RegionAxis.h"
-#include "RegionConsistency.h"
-#include "RubberBandLabel.h"
+#include "regions/image/RegionAxis.h"
+#include "regions/image/RegionConsistency.h"
+#include "regions/label/RubberBandLabel.h"
 #include "features/NumberConversion.h"
 #include "ui_AOIWidget.h"
 

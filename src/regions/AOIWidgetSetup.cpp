@@ -1,11 +1,11 @@
-#include "AOIWidget.h"
+#include "regions/AOIWidget.h"
 
-#include "RegionAxis.h"
-#include "RegionConsistency.h"
-#include "RubberBandLabel.h"
+#include "regions/image/RegionAxis.h"
+#include "regions/image/RegionConsistency.h"
+#include "regions/label/RubberBandLabel.h"
 #include "features/NumberConversion.h"
 #include "ui_AOIWidget.h"
-#include "widgets/TextColors.h"
+#include "widgets/Theme.h"
 
 #include <QLabel>
 #include <QTimer>

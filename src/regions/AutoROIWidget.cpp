@@ -1,14 +1,14 @@
-#include "AutoROIWidget.h"
+#include "regions/AutoROIWidget.h"
 
-#include "AutoExposureEditor.h"
-#include "AutoRegionCamera.h"
-#include "AutoRegionEditor.h"
-#include "AutoRegionForm.h"
-#include "AutoRegionNames.h"
-#include "AutoRegionPicture.h"
-#include "AutoRegionWriter.h"
-#include "NumberField.h"
-#include "RubberBandLabel.h"
+#include "regions/automatic/AutoExposureEditor.h"
+#include "regions/automatic/AutoRegionCamera.h"
+#include "regions/automatic/AutoRegionView.h"
+#include "regions/automatic/AutoRegionForm.h"
+#include "features/FeatureNames.h"
+#include "regions/automatic/AutoRegionPicture.h"
+#include "regions/automatic/AutoRegionWriter.h"
+#include "page/NumberField.h"
+#include "regions/label/RubberBandLabel.h"
 #include "ui_AutoROIWidget.h"
 #include "widgets/WheelGuard.h"
 
@@ -18,7 +18,7 @@
 
 #include <utility>
 
-using namespace AutoRegionNames;
+using namespace FeatureNames;
 
 namespace {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "RegionLimits.h"
-#include "plugin/BaseTabPluginWidget.h"
+#include "regions/automatic/RegionLimits.h"
+#include "page/BaseTabPluginWidget.h"
 
 #include <QPixmap>
 #include <QPointF>
@@ -12,7 +12,7 @@
 
 class AutoExposureEditor;
 class AutoRegionCamera;
-class AutoRegionEditor;
+class AutoRegionView;
 class AutoRegionPicture;
 class AutoRegionWriter;
 enum class RegionNumber;
@@ -98,7 +98,7 @@ private:
 
     std::unique_ptr<Ui::AutoROIWidget> m_ui; ///< null, as all below, when the page does not apply
     std::unique_ptr<AutoRegionCamera> m_camera;
-    std::unique_ptr<AutoRegionEditor> m_editor;
+    std::unique_ptr<AutoRegionView> m_editor;
     std::unique_ptr<AutoRegionWriter> m_writer;
     std::unique_ptr<AutoRegionPicture> m_picture;
     std::unique_ptr<AutoExposureEditor> m_exposure;

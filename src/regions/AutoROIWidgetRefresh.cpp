@@ -1,14 +1,14 @@
 // What the page shows of the camera.
 
-#include "AutoROIWidget.h"
+#include "regions/AutoROIWidget.h"
 
-#include "AutoExposureEditor.h"
-#include "AutoRegionCamera.h"
-#include "AutoRegionEditor.h"
-#include "AutoRegionForm.h"
-#include "AutoRegionNames.h"
-#include "AutoRegionPicture.h"
-#include "RubberBandLabel.h"
+#include "regions/automatic/AutoExposureEditor.h"
+#include "regions/automatic/AutoRegionCamera.h"
+#include "regions/automatic/AutoRegionView.h"
+#include "regions/automatic/AutoRegionForm.h"
+#include "features/FeatureNames.h"
+#include "regions/automatic/AutoRegionPicture.h"
+#include "regions/label/RubberBandLabel.h"
 #include "ui_AutoROIWidget.h"
 
 #include <QScopedValueRollback>
@@ -16,7 +16,7 @@
 #include <algorithm>
 #include <utility>
 
-using namespace AutoRegionNames;
+using namespace FeatureNames;
 
 void AutoROIWidget::showEvent(QShowEvent* event)
 {

@@ -1,13 +1,13 @@
-#include "AutoROIWidget.h"
+#include "regions/AutoROIWidget.h"
 
-#include "AutoExposureEditor.h"
-#include "AutoRegionCamera.h"
-#include "AutoRegionEditor.h"
-#include "AutoRegionForm.h"
-#include "AutoRegionNames.h"
-#include "AutoRegionPicture.h"
-#include "AutoRegionWriter.h"
-#include "RubberBandLabel.h"
+#include "regions/automatic/AutoExposureEditor.h"
+#include "regions/automatic/AutoRegionCamera.h"
+#include "regions/automatic/AutoRegionView.h"
+#include "regions/automatic/AutoRegionForm.h"
+#include "features/FeatureNames.h"
+#include "regions/automatic/AutoRegionPicture.h"
+#include "regions/automatic/AutoRegionWriter.h"
+#include "regions/label/RubberBandLabel.h"
 #include "ui_AutoROIWidget.h"
 #include "widgets/QSpinBoxMouseEventFilter.h"
 
@@ -15,7 +15,7 @@
 
 // The page's parts and their connections.
 
-using namespace AutoRegionNames;
+using namespace FeatureNames;
 
 namespace {
 
@@ -95,9 +95,9 @@ void AutoROIWidget::createParts()
     filterOn(m_ui->spinLeft);
     const auto* const widthFilter = filterOn(m_ui->spinWidth);
     const auto* const heightFilter = filterOn(m_ui->spinHeight);
-    m_editor = std::make_unique<AutoRegionEditor>(
+    m_editor = std::make_unique<AutoRegionView>(
         *m_camera,
-        AutoRegionEditor::Fields{m_ui->spinTop, m_ui->spinLeft, m_ui->spinRight, m_ui->spinBottom,
+        AutoRegionView::Fields{m_ui->spinTop, m_ui->spinLeft, m_ui->spinRight, m_ui->spinBottom,
                                  m_ui->spinWidth, m_ui->spinHeight},
         [widthFilter, heightFilter](RegionNumber size) {
             return (size == RegionNumber::Width ? widthFilter : heightFilter)->isMousePressed();

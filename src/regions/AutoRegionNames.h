@@ -3,7 +3,7 @@
 #include <QStringList>
 
 // The camera's features around its automatic functions.
-namespace AutoRegionNames {
+namespace FeatureNames {
 
 inline const QString aoiOffsetX = QStringLiteral("AutofunctionAOIOffsetX");
 inline const QString aoiOffsetY = QStringLiteral("AutofunctionAOIOffsetY");
@@ -37,4 +37,4 @@ inline const QStringList regionNumbers{
     aoiOffsetX, aoiOffsetY, autoModeHeight, autoModeWidth, autoModeOffsetX, autoModeOffsetY};
 inline const QStringList exposureLimits{exposureAutoMin, exposureAutoMax, exposureAutoTimebase};
 
-} // namespace AutoRegionNames
+} // namespace FeatureNames

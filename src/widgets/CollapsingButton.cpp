@@ -1,4 +1,4 @@
-#include "CollapsingButton.h"
+#include "widgets/CollapsingButton.h"
 
 #include <QApplication>
 #include <QPropertyAnimation>

@@ -1,4 +1,4 @@
-#include "ExtendedTabWidget.h"
+#include "widgets/ExtendedTabWidget.h"
 
 #include <QEvent>
 #include <QMenu>

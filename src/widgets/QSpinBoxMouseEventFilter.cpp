@@ -1,4 +1,4 @@
-#include "QSpinBoxMouseEventFilter.h"
+#include "widgets/QSpinBoxMouseEventFilter.h"
 
 #include <QEvent>
 #include <QWidget>

@@ -1,4 +1,4 @@
-#include "RoundButton.h"
+#include "widgets/RoundButton.h"
 
 namespace {
 constexpr char indicatorStyle[]

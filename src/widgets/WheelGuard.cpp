@@ -1,4 +1,4 @@
-#include "WheelGuard.h"
+#include "widgets/WheelGuard.h"
 
 #include <QEvent>
 #include <QWidget>

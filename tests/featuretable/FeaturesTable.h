@@ -1,7 +1,7 @@
 #pragma once
 
 #include "SimulatedCamera.h"
-#include "featuretable/DelegateWidget.h"
+#include "featuretable/editors/DelegateWidget.h"
 #include "featuretable/FeaturesTableWidget.h"
 #include "featuretable/MyTableWidget.h"
 

@@ -4,7 +4,7 @@
 #include "SimulatedCamera.h"
 #include "WheelEvent.h"
 #include "imageformat/ImageReaderWidget.h"
-#include "plugin/TabExtensionException.h"
+#include "page/TabExtensionException.h"
 
 #include "simulator/Model.h"
 

@@ -3,7 +3,7 @@
 #include "MessageHandlerGuard.h"
 #include "SimulatedCamera.h"
 #include "multiregion/MultiROIWidget.h"
-#include "multiregion/MultiRubberBandLabel.h"
+#include "multiregion/label/MultiRubberBandLabel.h"
 #include "multiregion/RegionLabelWidget.h"
 #include "multiregion/RegionTableWidget.h"
 #include "widgets/RoundButton.h"

@@ -1,8 +1,8 @@
 #include "DataTable.h"
 #include "MultiROIPage.h"
 #include "TestEvents.h"
-#include "multiregion/LineRubberBand.h"
-#include "multiregion/RegionSpan.h"
+#include "multiregion/label/LineRubberBand.h"
+#include "sensor/Span.h"
 
 #include <QComboBox>
 #include <QRandomGenerator>

@@ -1,7 +1,7 @@
 #include "DataTable.h"
 #include "MessageHandlerGuard.h"
 #include "SimulatedCamera.h"
-#include "plugin/TabExtensionInterface.h"
+#include "host/TabExtensionInterface.h"
 
 #include "simulator/Model.h"
 

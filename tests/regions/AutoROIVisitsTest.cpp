@@ -1,7 +1,7 @@
 #include "DataTable.h"
 #include "Visitor.h"
-#include "regions/AutoRegion.h"
-#include "regions/DspRegion.h"
+#include "regions/automatic/AutoRegion.h"
+#include "regions/automatic/DspRegion.h"
 
 using Mode = sim::NotificationSettings::Mode;
 

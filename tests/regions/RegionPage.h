@@ -5,7 +5,7 @@
 #include "TestEvents.h"
 #include "regions/AOIWidget.h"
 #include "regions/AutoROIWidget.h"
-#include "regions/RubberBandLabel.h"
+#include "regions/label/RubberBandLabel.h"
 
 #include "simulator/Model.h"
 

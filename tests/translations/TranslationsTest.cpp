@@ -1,5 +1,5 @@
 #include "DataTable.h"
-#include "plugin/BaseTabPluginWidget.h"
+#include "page/BaseTabPluginWidget.h"
 
 #include <QDir>
 #include <QMap>

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "featuretable/editors/DelegateWidget.h"
+
+class QCheckBox;
+
+class BooleanEditor : public DelegateWidget
+{
+    Q_OBJECT
+
+public:
+    BooleanEditor(const FeatureInfo& info, QWidget* parent);
+
+protected:
+    bool showValue(const QVariant& value) override;
+    QVariant enteredValue() override;
+
+private:
+    void onClicked(bool checked);
+
+    QCheckBox* m_box;
+};

@@ -1,0 +1,38 @@
+#include "featuretable/editors/CommandEditor.h"
+
+#include <QPushButton>
+
+CommandEditor::CommandEditor(const FeatureInfo& info, QWidget* parent)
+    : DelegateWidget(info, parent)
+{
+    auto* button = new QPushButton(tr("Execute"), this);
+    button->setAutoDefault(false);
+    addControl(button, "editorButton", 1);
+    button->setAccessibleName(tr("Execute %1").arg(accessibleName()));
+    connect(button, &QPushButton::clicked, this, &CommandEditor::onClicked);
+}
+
+bool CommandEditor::showValue(const QVariant& value)
+{
+    m_value = value;
+    return true;
+}
+
+QVariant CommandEditor::enteredValue()
+{
+    return m_clicked ? m_value : QVariant();
+}
+
+void CommandEditor::confirm()
+{
+    onClicked();
+}
+
+void CommandEditor::onClicked()
+{
+    if (!end())
+        return;
+    m_clicked = true;
+    forgetKnownValue();
+    emit newIntValueToSet(m_value.toLongLong());
+}

@@ -1,0 +1,35 @@
+#include "featuretable/editors/EnumerationEditor.h"
+
+#include "featuretable/editors/EntryBox.h"
+
+EnumerationEditor::EnumerationEditor(const FeatureInfo& info, QWidget* parent)
+    : DelegateWidget(info, parent)
+    , m_box(new EntryBox(this))
+{
+    for (const FeatureValue& entry : info.enumEntries)
+        m_box->addItem(toVariant(entry).toString());
+    addControl(m_box, "editorEntries", 1);
+    connect(m_box, qOverload<int>(&QComboBox::activated), this, &EnumerationEditor::onActivated);
+}
+
+bool EnumerationEditor::showValue(const QVariant& value)
+{
+    // An entry that is not listed leaves the box blank.
+    m_box->setCurrentIndex(
+        m_box->findText(value.toString(), Qt::MatchExactly | Qt::MatchCaseSensitive));
+    return value.canConvert<QString>();
+}
+
+QVariant EnumerationEditor::enteredValue()
+{
+    return m_box->currentIndex() < 0 ? QVariant() : m_box->currentText();
+}
+
+void EnumerationEditor::onActivated()
+{
+    if (m_box->isStepping())
+        return;
+    touch();
+    if (end())
+        emit newStringValueToSet(m_box->currentText());
+}

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "featuretable/editors/DelegateWidget.h"
+
+class EntryBox;
+
+/// The entries of an enumeration. One chosen from the open list is final; keys and wheel walk
+/// through the closed list until Return.
+class EnumerationEditor : public DelegateWidget
+{
+    Q_OBJECT
+
+public:
+    EnumerationEditor(const FeatureInfo& info, QWidget* parent);
+
+protected:
+    bool showValue(const QVariant& value) override;
+    QVariant enteredValue() override;
+
+private:
+    void onActivated();
+
+    EntryBox* m_box;
+};

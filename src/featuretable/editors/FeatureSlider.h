@@ -1,0 +1,35 @@
+#pragma once
+
+#include "featuretable/editors/SliderRange.h"
+
+#include <qwt_slider.h>
+
+/// The slider beside a numeric field.
+class FeatureSlider : public QwtSlider
+{
+    Q_OBJECT
+
+public:
+    FeatureSlider(const SliderRange& range, QWidget* parent);
+
+    /// Moves the handle without telling.
+    void follow(double value);
+
+signals:
+    /// The user moved the handle; @p value is one that the feature can take.
+    void moved(double value);
+    /// The mouse button was released, from the handle or from the groove.
+    void released();
+
+protected:
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void drawSlider(QPainter* painter, const QRect& rect) const override;
+    void drawHandle(QPainter* painter, const QRect& rect, int position) const override;
+
+private:
+    void onValueChanged(double value);
+
+    SliderRange m_range;
+    double m_position;
+    bool m_dragged = false;
+};

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "featuretable/editors/DelegateWidget.h"
+#include "featuretable/editors/RateLimiter.h"
+#include "featuretable/editors/SliderRange.h"
+
+class FeatureSlider;
+
+/// A numeric field that may have a slider. Moves of the slider go to the field at once and are
+/// announced at most 20 times a second; its release finishes the editing. The last value always
+/// arrives, unless Escape cancels it: what was written until then stays, nothing more is written.
+///
+/// A narrow cell shows the field alone.
+class SliderEditor : public DelegateWidget
+{
+    Q_OBJECT
+
+public:
+    SliderEditor(const FeatureInfo& info, QWidget* parent);
+
+protected:
+    /// Shows a value of the slider in the field.
+    virtual void showNumber(double value) = 0;
+
+    void addSlider(const std::optional<SliderRange>& range);
+    /// The field's value changed.
+    void moveSlider(double value);
+
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void onSliderMoved(double value);
+    void onAnnouncementDue();
+
+    FeatureSlider* m_slider = nullptr;
+    RateLimiter m_announcements;
+    double m_movedTo = 0.0;
+    int m_widthWithSlider = 0;
+};

@@ -1,0 +1,93 @@
+#include "featuretable/record/FeatureInfo.h"
+
+#include "features/NumberConversion.h"
+
+#include <cmath>
+#include <tuple>
+
+namespace {
+
+auto membersOf(const FeatureInfo& info)
+{
+    return std::tie(info.value, info.writable, info.minimum, info.maximum, info.increment,
+                    info.enumEntries, info.information, info.readable, info.isRaw, info.isCommand,
+                    info.name, info.displayName, info.description, info.toolTip,
+                    info.representation, info.unit);
+}
+
+} // namespace
+
+bool operator==(const FeatureInfo& left, const FeatureInfo& right)
+{
+    return membersOf(left) == membersOf(right);
+}
+
+const FeatureInfo* recordIn(const QVariant& data)
+{
+    return data.userType() == qMetaTypeId<FeatureInfo>()
+        ? static_cast<const FeatureInfo*>(data.constData())
+        : nullptr;
+}
+
+QVariant toVariant(const FeatureValue& value)
+{
+    if (const auto* integer = std::get_if<std::int64_t>(&value))
+        return QVariant::fromValue<qint64>(*integer);
+    if (const auto* number = std::get_if<double>(&value))
+        return *number;
+    if (const auto* flag = std::get_if<bool>(&value))
+        return *flag;
+    return toText(value);
+}
+
+FeatureValue toFeatureValue(const QVariant& value)
+{
+    switch (static_cast<QMetaType::Type>(value.type())) {
+    case QMetaType::Bool:
+        return value.toBool();
+    case QMetaType::Int:
+    case QMetaType::LongLong:
+        return std::int64_t{value.toLongLong()};
+    case QMetaType::Double:
+        return value.toDouble();
+    default:
+        return value.toString().toStdString();
+    }
+}
+
+bool isSameValue(const QVariant& left, const QVariant& right)
+{
+    if (left.type() == QVariant::Double && right.type() == QVariant::Double)
+        return left.toDouble() == right.toDouble();
+    return left == right;
+}
+
+std::optional<double> toNumber(const std::optional<FeatureValue>& value)
+{
+    if (!value)
+        return {};
+    if (const auto* number = std::get_if<double>(&*value))
+        return std::isnan(*number) ? std::optional<double>() : *number;
+    if (const auto* integer = std::get_if<std::int64_t>(&*value))
+        return static_cast<double>(*integer);
+    if (const auto* flag = std::get_if<bool>(&*value))
+        return *flag ? 1.0 : 0.0;
+    return {};
+}
+
+std::optional<std::int64_t> toInteger(const std::optional<FeatureValue>& value)
+{
+    if (!value)
+        return {};
+    if (const auto* integer = std::get_if<std::int64_t>(&*value))
+        return *integer;
+    if (const auto number = toNumber(value))
+        return toInt64(*number);
+    return {};
+}
+
+QString toText(const FeatureValue& value)
+{
+    const auto* text = std::get_if<std::string>(&value);
+    return text ? QString::fromStdString(*text) : QString();
+}

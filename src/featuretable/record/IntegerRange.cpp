@@ -1,0 +1,27 @@
+#include "featuretable/record/IntegerRange.h"
+
+#include <algorithm>
+#include <limits>
+
+IntegerRange integerRange(const FeatureInfo& info)
+{
+    IntegerRange range;
+    range.minimum = toInteger(info.minimum).value_or(range.minimum);
+    range.maximum = toInteger(info.maximum).value_or(range.maximum);
+    const auto value = toInteger(info.value);
+    const bool holdsNothing = range.minimum > range.maximum
+        || (range.minimum == range.maximum && value != range.minimum);
+    return holdsNothing ? IntegerRange() : range;
+}
+
+IntegerField integerFieldFor(const IntegerRange& range, std::int64_t value)
+{
+    const auto fits
+        = [lowest = std::min(range.minimum, value), highest = std::max(range.maximum, value)](
+              const IntegerRange& type) { return type.contains(lowest) && type.contains(highest); };
+    constexpr IntegerRange ofInt{std::numeric_limits<int>::lowest(),
+                                 std::numeric_limits<int>::max()};
+    if (fits(ofInt))
+        return IntegerField::Spin32;
+    return fits(IntegerRange()) ? IntegerField::Spin53 : IntegerField::Text;
+}

@@ -1,0 +1,94 @@
+#include "multiregion/label/ConstraintLineRules.h"
+
+#include <algorithm>
+#include <cstdlib>
+
+namespace {
+
+constexpr int grabZone = 4;           ///< pixels to either side
+constexpr int alignmentTolerance = 1; ///< pixels, for rounding
+
+/// The edge itself: the first pixel of the span, or the one behind its last.
+int markedEdge(LineEdge edge, int position)
+{
+    return edge == LineEdge::Leading ? position : position + constraintLineThickness;
+}
+
+} // namespace
+
+int linePosition(LineEdge edge, const RegionSpan& master)
+{
+    return edge == LineEdge::Leading ? master.start : master.end() - constraintLineThickness;
+}
+
+RegionSpan spanForLine(LineEdge edge, int position, const RegionSpan& span)
+{
+    const int marked = markedEdge(edge, position);
+    return edge == LineEdge::Leading ? RegionSpan{marked, span.end() - marked}
+                                     : RegionSpan{span.start, marked - span.start};
+}
+
+LineBounds lineBounds(LineEdge edge, const LineSurroundings& surroundings)
+{
+    const RegionSpan& group = surroundings.group;
+    LineBounds bounds;
+    if (edge == LineEdge::Leading) {
+        int lowest = std::max(0, group.end() - surroundings.maximum);
+        for (const RegionSpan& other : surroundings.others) {
+            if (other.end() <= group.start)
+                lowest = std::max(lowest, other.end());
+        }
+        bounds = {lowest, group.end() - surroundings.minimum};
+    } else {
+        int highest = std::min(surroundings.image, group.start + surroundings.maximum);
+        for (const RegionSpan& other : surroundings.others) {
+            if (other.start >= group.end())
+                highest = std::min(highest, other.start);
+        }
+        bounds = {group.start + surroundings.minimum - constraintLineThickness,
+                  highest - constraintLineThickness};
+    }
+    bounds.upper = std::max(bounds.lower, bounds.upper);
+    return bounds;
+}
+
+std::optional<int> grabDistance(int position, int point)
+{
+    const int distance
+        = std::max({position - point, point - (position + constraintLineThickness - 1), 0});
+    return distance <= grabZone ? std::optional(distance) : std::nullopt;
+}
+
+bool isAlongLine(int length, int point)
+{
+    return point >= -grabZone && point < length + grabZone;
+}
+
+MoveConstraints constraintsFromLine(const LineOnBand& line, const QRect& band)
+{
+    MoveConstraints constraints;
+    const RegionSpan span = spanOf(band, line.axis);
+    const int marked = markedEdge(line.edge, line.position);
+    if (line.ownGroup) {
+        const int edge = line.edge == LineEdge::Leading ? span.start : span.end();
+        if (!line.master && std::abs(edge - marked) <= alignmentTolerance) {
+            if (line.axis == Qt::Vertical)
+                constraints.blocked = {MoveDirection::Up, MoveDirection::Down};
+            else
+                constraints.blocked = {MoveDirection::Left, MoveDirection::Right};
+        }
+    } else if (line.edge == LineEdge::Trailing && marked <= span.start) {
+        if (line.axis == Qt::Vertical)
+            constraints.lowerBound.setY(marked);
+        else
+            constraints.lowerBound.setX(marked);
+    }
+    return constraints;
+}
+
+MoveConstraints combined(const MoveConstraints& a, const MoveConstraints& b)
+{
+    return {a.blocked + b.blocked,
+            {std::max(a.lowerBound.x(), b.lowerBound.x()),
+             std::max(a.lowerBound.y(), b.lowerBound.y())}};
+}

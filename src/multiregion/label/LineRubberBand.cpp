@@ -1,0 +1,109 @@
+#include "multiregion/label/LineRubberBand.h"
+
+#include "multiregion/label/MultiRubberBandLabel.h"
+
+#include <QPainter>
+#include <QStyle>
+#include <QStyleOption>
+
+#include <algorithm>
+
+LineRubberBand::LineRubberBand(int orientation, int position, QWidget* parent, int length,
+                               const QColor& color, MultiRubberBandLabel* label)
+    : QRubberBand(QRubberBand::Line, parent)
+    , m_orientation(orientation)
+    , m_position(position)
+{
+    if (label)
+        m_bounds.upper = isVertical() ? label->imageSize().width() : label->imageSize().height();
+    place(position, length);
+    setColor(color);
+}
+
+void LineRubberBand::setEdge(const ConstraintGroup& group, LineEdge edge)
+{
+    m_group = group;
+    m_edge = edge;
+}
+
+int LineRubberBand::distanceTo(const QPoint& point) const
+{
+    const int length = isVertical() ? height() : width();
+    if (!isAlongLine(length, isVertical() ? point.y() : point.x()))
+        return -1;
+    return grabDistance(m_position, isVertical() ? point.x() : point.y()).value_or(-1);
+}
+
+void LineRubberBand::setBounds(const LineBounds& bounds)
+{
+    m_bounds = bounds;
+}
+
+void LineRubberBand::place(int position, int length)
+{
+    m_position = position;
+    if (isVertical()) {
+        setFixedSize(constraintLineThickness, length);
+        move(position, 0);
+    } else {
+        setFixedSize(length, constraintLineThickness);
+        move(0, position);
+    }
+}
+
+void LineRubberBand::setColor(const QColor& color)
+{
+    if (color == m_color)
+        return;
+    m_color = color;
+    QPalette colors = palette();
+    colors.setBrush(QPalette::Highlight, QBrush(color, Qt::SolidPattern));
+    setPalette(colors);
+}
+
+void LineRubberBand::announce()
+{
+    emit geometryChanged(geometry());
+}
+
+void LineRubberBand::onMoveStarted()
+{
+    m_dragging = true;
+}
+
+void LineRubberBand::onMoveFinished()
+{
+    m_dragging = false;
+}
+
+void LineRubberBand::moveToPoint(QPoint point)
+{
+    if (!m_dragging)
+        return;
+    const int wanted = isVertical() ? point.x() : point.y();
+    m_position = std::clamp(wanted, m_bounds.lower, std::max(m_bounds.lower, m_bounds.upper));
+    move(isVertical() ? QPoint(m_position, 0) : QPoint(0, m_position));
+    announce();
+}
+
+void LineRubberBand::changeEvent(QEvent* event)
+{
+    QRubberBand::changeEvent(event);
+    m_picture = {};
+}
+
+/// A style smooths all of the line, whose picture stays the same while it is dragged.
+void LineRubberBand::paintEvent(QPaintEvent*)
+{
+    const QSize pixels = size() * devicePixelRatioF();
+    if (m_picture.size() != pixels) {
+        m_picture = QPixmap(pixels);
+        m_picture.setDevicePixelRatio(devicePixelRatioF());
+        m_picture.fill(Qt::transparent);
+        QStyleOptionRubberBand option;
+        initStyleOption(&option);
+        QPainter painter(&m_picture);
+        style()->drawControl(QStyle::CE_RubberBand, &option, &painter, this);
+    }
+    QPainter(this).drawPixmap(0, 0, m_picture);
+}

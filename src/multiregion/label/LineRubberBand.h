@@ -1,0 +1,68 @@
+#pragma once
+
+#include "multiregion/rules/ConstraintGroups.h"
+#include "multiregion/label/ConstraintLineRules.h"
+
+#include <QPixmap>
+#include <QRubberBand>
+
+class MultiRubberBandLabel;
+
+/// A constraint line on the region label: an edge that the members of a group share. Label pixels
+/// throughout.
+class LineRubberBand : public QRubberBand
+{
+    Q_OBJECT
+
+public:
+    static constexpr int vertical = 1;
+    static constexpr int horizontal = 2;
+
+    /// @param orientation 1 for a vertical line, any other value for a horizontal one
+    /// @param position x of a vertical line, y of a horizontal one
+    /// @param label bounds the line by its image; may be null
+    LineRubberBand(int orientation, int position, QWidget* parent, int length, const QColor& color,
+                   MultiRubberBandLabel* label);
+
+    /// Which edge of which regions the line marks.
+    void setEdge(const ConstraintGroup& group, LineEdge edge);
+    const ConstraintGroup& group() const { return m_group; }
+    LineEdge edge() const { return m_edge; }
+
+    int position() const { return m_position; }
+    bool isDragging() const { return m_dragging; }
+    /// -1 when the point is too far away to grab the line.
+    int distanceTo(const QPoint& point) const;
+
+    void setBounds(const LineBounds& bounds);
+    /// Places the line without a signal.
+    void place(int position, int length);
+    void setColor(const QColor& color);
+    /// Tells the bands where the line is.
+    void announce();
+
+signals:
+    /// A null rectangle: the line goes.
+    void geometryChanged(QRect newGeometry);
+
+public slots:
+    void onMoveStarted();
+    void onMoveFinished();
+    void moveToPoint(QPoint point);
+
+protected:
+    void changeEvent(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    bool isVertical() const { return m_orientation == vertical; }
+
+    const int m_orientation;
+    int m_position;
+    QColor m_color;
+    bool m_dragging = false;
+    LineBounds m_bounds;
+    ConstraintGroup m_group;
+    LineEdge m_edge = LineEdge::Leading;
+    QPixmap m_picture; ///< as the style draws the line, null until it is painted
+};

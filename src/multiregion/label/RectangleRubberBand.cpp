@@ -1,0 +1,260 @@
+#include "multiregion/label/RectangleRubberBand.h"
+
+#include "multiregion/label/LineRubberBand.h"
+#include "multiregion/label/MultiRubberBandLabel.h"
+
+#include <QPaintEvent>
+#include <QPainter>
+#include <QPainterPath>
+#include <QStyleOption>
+
+#include <utility>
+
+namespace {
+
+constexpr int bandAlpha = 80;
+
+const QFont& numberFont()
+{
+    static const QFont font(QStringLiteral("Helvetica"), 12);
+    return font;
+}
+
+/// What the label shows in @p area, without its bands: rendering those would paint a band from
+/// within its own painting.
+QImage negativeOf(QWidget* label, const QRect& area)
+{
+    QImage image(area.size(), QImage::Format_RGB32);
+    image.fill(label->palette().color(QPalette::Window));
+    label->render(&image, QPoint(), area, QWidget::DrawWindowBackground);
+    image.invertPixels();
+    return image;
+}
+
+} // namespace
+
+RectangleRubberBand::RectangleRubberBand(int regionNo, const QRect& geometry,
+                                         const QSize& minimumSize, const QColor& color,
+                                         MultiRubberBandLabel* label)
+    : QRubberBand(QRubberBand::Rectangle, label)
+    , m_regionNo(regionNo)
+    , m_color(color)
+    , m_label(label)
+{
+    m_limits.minimum = minimumSize;
+    setGeometry(geometry);
+    applyColor();
+    prepareNumber();
+}
+
+QColor RectangleRubberBand::shownColor() const
+{
+    return m_inConflict ? QColor(QStringLiteral("red")) : m_color;
+}
+
+void RectangleRubberBand::setOwnColor(const QColor& color)
+{
+    if (color == m_color)
+        return;
+    m_color = color;
+    applyColor();
+    emit colorChanged(m_regionNo, shownColor());
+}
+
+void RectangleRubberBand::setSizeLimits(const BandSizeLimits& limits)
+{
+    m_limits = limits;
+}
+
+HandleGrab RectangleRubberBand::grabAt(const QPoint& point) const
+{
+    return handleGrabAt(geometry(), point);
+}
+
+void RectangleRubberBand::press(const QPoint& point)
+{
+    m_grab = grabAt(point);
+    m_pressPoint = point;
+    m_atPress = geometry();
+    emit regionBandSelected(m_regionNo);
+}
+
+void RectangleRubberBand::rescaleDrag(const QPoint& pressPoint, const QRect& atPress)
+{
+    m_pressPoint = pressPoint;
+    m_atPress = atPress;
+}
+
+void RectangleRubberBand::dropDrag()
+{
+    m_pressPoint = noPoint;
+    m_grab = HandleGrab::Move;
+}
+
+void RectangleRubberBand::onResizeFinished(QPoint point)
+{
+    // The press point follows the pointer, and a release mostly comes where the last move ended:
+    // then the geometry tells whether the drag led anywhere.
+    const bool isMoved = isPressed() && (point != m_pressPoint || geometry() != m_atPress);
+    const bool report = m_grab != HandleGrab::Move || isMoved;
+    dropDrag();
+    if (report)
+        emit geometryChanged(m_regionNo, geometry());
+}
+
+void RectangleRubberBand::resizeMoveToPoint(QPoint point)
+{
+    if (!m_label)
+        return;
+    if (m_grab != HandleGrab::Move) {
+        showIfAllowed(resizedRegionBand(geometry(), m_grab, point, m_limits));
+        return;
+    }
+    if (!isPressed() || point == m_pressPoint)
+        return;
+    MoveConstraints constraints;
+    for (const MoveConstraints& line : qAsConst(m_lineConstraints))
+        constraints = combined(constraints, line);
+    const QPoint delta = point - std::exchange(m_pressPoint, point);
+    showIfAllowed(movedRegionBand(geometry(), delta, m_label->imageSize(), constraints));
+}
+
+void RectangleRubberBand::onIntersectionFound(int conflictRegion)
+{
+    m_inConflict = isConflict(m_regionNo, conflictRegion);
+    applyColor();
+    emit colorChanged(m_regionNo, shownColor());
+}
+
+void RectangleRubberBand::highlightIfSelected(int selectedRegion)
+{
+    const bool selected = selectedRegion == m_regionNo;
+    if (selected == m_selected)
+        return;
+    m_selected = selected;
+    prepareNumber();
+    update();
+}
+
+void RectangleRubberBand::onNeighbourRegionActivated(int regionNo, bool activated)
+{
+    // Region 0 has none below it; neighbours that go can only solve a conflict.
+    if (m_regionNo == 0 || regionNo >= m_regionNo || (!activated && !m_inConflict) || !m_label)
+        return;
+    const bool before = m_inConflict;
+    onIntersectionFound(m_label->intersectingRegion(m_regionNo, geometry()));
+    if (m_inConflict != before)
+        emit geometryChanged(m_regionNo, geometry());
+}
+
+void RectangleRubberBand::onConstraintBandChanged(QRect lineBandGeometry)
+{
+    const auto* line = qobject_cast<LineRubberBand*>(sender());
+    if (!line)
+        return;
+    if (lineBandGeometry.isNull()) {
+        m_lineConstraints.remove(line);
+        return;
+    }
+    const ConstraintGroup& group = line->group();
+    m_lineConstraints[line]
+        = constraintsFromLine({group.axis(), line->edge(), line->position(),
+                               group.members.contains(m_regionNo), group.master() == m_regionNo},
+                              geometry());
+}
+
+void RectangleRubberBand::changeEvent(QEvent* event)
+{
+    QRubberBand::changeEvent(event);
+    m_image.reset();
+}
+
+void RectangleRubberBand::paintEvent(QPaintEvent* event)
+{
+    paintPlain(event);
+    if (!m_label) {
+        QPainter painter(this);
+        painter.setFont(numberFont());
+        painter.drawText(rect(), Qt::AlignCenter, numberText());
+        return;
+    }
+    // Lines and other bands that pass by touch the number seldom, and it is dear.
+    if (event->region().intersects(m_numberArea.translated(rect().center())))
+        drawNumber();
+}
+
+void RectangleRubberBand::paintPlain(QPaintEvent* event)
+{
+    if (!m_image) {
+        QStyleOptionRubberBand option;
+        initStyleOption(&option);
+        m_image.emplace(option, *this);
+    }
+    if (!m_image->fits(size())) {
+        QRubberBand::paintEvent(event);
+        return;
+    }
+    QPainter painter(this);
+    m_image->paint(painter, rect(), event->region());
+}
+
+/// A band in conflict may go anywhere, so that it can be pulled free; any other only where it
+/// overlaps none.
+void RectangleRubberBand::showIfAllowed(const QRect& band)
+{
+    // A corner can collapse the band; what is shown keeps a pixel.
+    const QRect shown(band.topLeft(), band.size().expandedTo({1, 1}));
+    const int conflict = m_label->intersectingRegion(m_regionNo, shown);
+    const bool isFree = conflict < 0 && m_label->canBeFollowed(m_regionNo, shown);
+    if (!isFree && !m_inConflict)
+        return;
+    setGeometry(shown);
+    onIntersectionFound(conflict);
+}
+
+void RectangleRubberBand::applyColor()
+{
+    const QColor color = shownColor();
+    if (color == m_appliedColor)
+        return;
+    m_appliedColor = color;
+    setStyleSheet(QStringLiteral("QLabel { color: %1; border-color: %1 }").arg(color.name()));
+    QColor highlight = color;
+    highlight.setAlpha(bandAlpha);
+    QPalette colors = palette();
+    colors.setBrush(QPalette::Highlight, highlight);
+    setPalette(colors);
+}
+
+QString RectangleRubberBand::numberText() const
+{
+    return m_selected ? QStringLiteral("[ %1 ]").arg(m_regionNo) : QString::number(m_regionNo);
+}
+
+/// Around the origin.
+void RectangleRubberBand::prepareNumber()
+{
+    const QString text = numberText();
+    const QFontMetrics metrics(numberFont(), this);
+    const QPoint baseline(-(metrics.horizontalAdvance(text) / 2), metrics.height() / 3);
+    m_number = QPainterPath();
+    m_number.addText(baseline, numberFont(), text);
+    m_numberArea = m_number.boundingRect().toAlignedRect();
+}
+
+void RectangleRubberBand::drawNumber()
+{
+    const QPainterPath digits = m_number.translated(rect().center());
+    const QRect area
+        = m_numberArea.translated(rect().center()).intersected(rect()).translated(pos());
+    const QRect onLabel = area.intersected(m_label->rect());
+    if (onLabel.isEmpty())
+        return;
+    // A brush smooths the digits; a clip would leave them jagged.
+    const QPoint origin = onLabel.topLeft() - pos();
+    QBrush negative(negativeOf(m_label, onLabel));
+    negative.setTransform(QTransform::fromTranslate(origin.x(), origin.y()));
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.fillPath(digits, negative);
+}

@@ -1,0 +1,93 @@
+#pragma once
+
+#include "multiregion/label/HandleDrag.h"
+#include "sensor/BandImage.h"
+
+#include <QColor>
+#include <QHash>
+#include <QPainterPath>
+#include <QRubberBand>
+
+#include <optional>
+
+class LineRubberBand;
+class MultiRubberBandLabel;
+
+/// One region on the region label, which hands it the mouse. It cannot be dragged over another
+/// region; while it overlaps one with a lower number it is red. Label pixels throughout.
+///
+/// Shared rows and columns stay free of overlaps: a band on whose edges others depend goes only
+/// where these can follow it. The camera takes the shared edges for all members at once, so a free
+/// place for the one band alone would bring the others over their neighbours.
+class RectangleRubberBand : public QRubberBand
+{
+    Q_OBJECT
+
+public:
+    /// @param label the parent, which knows the other regions; may be null
+    RectangleRubberBand(int regionNo, const QRect& geometry, const QSize& minimumSize,
+                        const QColor& color, MultiRubberBandLabel* label);
+
+    int regionNo() const { return m_regionNo; }
+    bool isInConflict() const { return m_inConflict; }
+    /// Red in a conflict, else the region's own.
+    QColor shownColor() const;
+    void setOwnColor(const QColor& color);
+    void setSizeLimits(const BandSizeLimits& limits);
+
+    HandleGrab grabAt(const QPoint& point) const;
+
+    /// Takes hold of the band.
+    void press(const QPoint& point);
+    /// Carries a drag over to a new scale of the label.
+    /// @param pressPoint and @p atPress as they would have been at that scale
+    void rescaleDrag(const QPoint& pressPoint, const QRect& atPress);
+    QPoint pressPoint() const { return m_pressPoint; }
+    /// Lets go without a report.
+    void dropDrag();
+
+signals:
+    void regionBandSelected(int regionNo);
+    /// A drag has ended here, or a neighbour has brought or solved a conflict.
+    void geometryChanged(int regionNo, QRect newGeometry);
+    void colorChanged(int regionNo, QColor color);
+
+public slots:
+    void onResizeFinished(QPoint point);
+    void resizeMoveToPoint(QPoint point);
+    void onIntersectionFound(int conflictRegion);
+    void highlightIfSelected(int selectedRegion);
+    void onNeighbourRegionActivated(int regionNo, bool activated);
+    /// Reads the sending line; a null rectangle lifts what it set.
+    void onConstraintBandChanged(QRect lineBandGeometry);
+
+protected:
+    void changeEvent(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    bool isPressed() const { return m_pressPoint != noPoint; }
+    void showIfAllowed(const QRect& band);
+    void applyColor();
+    void paintPlain(QPaintEvent* event);
+    QString numberText() const;
+    void prepareNumber();
+    void drawNumber();
+
+    static constexpr QPoint noPoint{-1, -1};
+
+    const int m_regionNo;
+    QColor m_color;
+    QColor m_appliedColor;
+    bool m_inConflict = false;
+    bool m_selected = true;
+    HandleGrab m_grab = HandleGrab::Move;
+    QPoint m_pressPoint = noPoint;
+    QRect m_atPress;
+    BandSizeLimits m_limits;
+    QHash<const LineRubberBand*, MoveConstraints> m_lineConstraints;
+    MultiRubberBandLabel* const m_label;
+    std::optional<BandImage> m_image;
+    QPainterPath m_number; ///< around the origin
+    QRect m_numberArea;
+};

@@ -1,0 +1,131 @@
+#include "multiregion/label/RegionConversion.h"
+
+#include <algorithm>
+
+namespace {
+
+int roundedDown(int value, int increment)
+{
+    return increment > 1 ? value - value % increment : value;
+}
+
+int roundedUp(int value, int increment)
+{
+    return increment > 1 ? roundedDown(value + (increment - 1), increment) : value;
+}
+
+/// The spans of a dragged region along one axis.
+struct SpanDrag
+{
+    SpanDrag(const DraggedRegion& dragged, Qt::Orientation axis)
+        : stored(spanOf(dragged.stored, axis))
+        , placed(spanOf(dragged.placed, axis))
+        , band(spanOf(dragged.band, axis))
+        , limits(dragged.limits.along(axis))
+    {
+    }
+
+    bool startMoved() const { return band.start != placed.start; }
+    bool endMoved() const { return band.end() != placed.end(); }
+    bool movedAsWhole() const { return startMoved() && band.length == placed.length; }
+
+    RegionSpan stored;
+    RegionSpan placed;
+    RegionSpan band;
+    const AxisLimits& limits;
+};
+
+RegionSpan movedSpan(const SpanDrag& drag, int shown, int sensor)
+{
+    const int length = drag.stored.length;
+    const int farthest = std::max(0, sensor - length);
+    const int start = drag.band.start > 0 && drag.band.end() >= shown
+        ? farthest
+        : std::min(farthest, sensorEdge(drag.band.start, shown, sensor));
+    return {roundedDown(start, drag.limits.offsetIncrement), length};
+}
+
+RegionSpan resizedSpan(const SpanDrag& drag, int shown, int sensor)
+{
+    const int minimum = std::max(1, drag.limits.minimum);
+    int start = drag.stored.start;
+    int end = drag.stored.end();
+    if (drag.endMoved())
+        end = std::min(sensor,
+                       std::max(start + minimum, sensorEdge(drag.band.end(), shown, sensor)));
+    if (drag.startMoved()) {
+        const int last = std::max(0, end - minimum);
+        start = roundedDown(std::min(last, sensorEdge(drag.band.start, shown, sensor)),
+                            drag.limits.offsetIncrement);
+    }
+    return end > start ? RegionSpan{start, end - start} : drag.stored;
+}
+
+bool touchesOnlyOnSensor(const QRect& region, const DraggedRegion& dragged,
+                         const RegionNeighbour& neighbour)
+{
+    return overlap(region, neighbour.stored) && !overlap(dragged.band, neighbour.band);
+}
+
+} // namespace
+
+RegionSpan convertedSpan(const DraggedRegion& dragged, Qt::Orientation axis,
+                         const SensorMapping& mapping)
+{
+    const SpanDrag drag(dragged, axis);
+    if (mapping.isEmpty() || (!drag.startMoved() && !drag.endMoved()))
+        return drag.stored;
+    const int shown = lengthOf(mapping.shown, axis);
+    const int sensor = lengthOf(mapping.sensor, axis);
+    return drag.movedAsWhole() ? movedSpan(drag, shown, sensor) : resizedSpan(drag, shown, sensor);
+}
+
+RegionSpan keptOffNeighbour(const RegionSpan& span, const DraggedRegion& dragged,
+                            Qt::Orientation axis, const RegionNeighbour& neighbour)
+{
+    const SpanDrag drag(dragged, axis);
+    const RegionSpan other = spanOf(neighbour.stored, axis);
+    const RegionSpan otherBand = spanOf(neighbour.band, axis);
+    if (!overlap(span, other) || overlap(drag.band, otherBand))
+        return span;
+
+    RegionSpan result = span;
+    if (otherBand.end() <= drag.band.start && drag.startMoved()) {
+        result.start = roundedUp(other.end(), drag.limits.offsetIncrement);
+        if (!drag.movedAsWhole())
+            result.length = span.end() - result.start;
+    } else if (drag.band.end() <= otherBand.start && drag.endMoved()) {
+        if (drag.movedAsWhole())
+            result.start
+                = roundedDown(std::max(0, other.start - span.length), drag.limits.offsetIncrement);
+        else
+            result.length = roundedDown(other.start - span.start, drag.limits.increment);
+    }
+    return result.length >= std::max(1, drag.limits.minimum) ? result : drag.stored;
+}
+
+QRect convertedRegion(const DraggedRegion& dragged, const QVector<RegionNeighbour>& neighbours,
+                      const SensorMapping& mapping)
+{
+    QRect result = dragged.stored;
+    for (const Qt::Orientation axis : {Qt::Horizontal, Qt::Vertical})
+        result = withSpan(result, axis, convertedSpan(dragged, axis, mapping));
+
+    for (const RegionNeighbour& neighbour : neighbours) {
+        for (const Qt::Orientation axis : {Qt::Horizontal, Qt::Vertical}) {
+            if (touchesOnlyOnSensor(result, dragged, neighbour))
+                result = withSpan(result, axis,
+                                  keptOffNeighbour(spanOf(result, axis), dragged, axis, neighbour));
+        }
+    }
+
+    const auto overlapsAnew = [&](const RegionNeighbour& neighbour) {
+        return touchesOnlyOnSensor(result, dragged, neighbour)
+            && !overlap(dragged.stored, neighbour.stored);
+    };
+    const bool sensorFits = QRect(QPoint(0, 0), mapping.sensor).contains(result);
+    if (std::any_of(neighbours.begin(), neighbours.end(), overlapsAnew)
+        || (!sensorFits && result != dragged.stored))
+        return dragged.stored;
+    return result;
+}

@@ -1,0 +1,62 @@
+#pragma once
+
+#include "sensor/Span.h"
+#include "multiregion/label/SensorMapping.h"
+
+#include <QVector>
+
+#include <limits>
+
+/// What the camera allows on one axis of a region, in sensor pixels. An increment below 2 rounds
+/// nothing.
+struct AxisLimits
+{
+    int minimum = 1;                               ///< of the size
+    int maximum = std::numeric_limits<int>::max(); ///< of the size, at the present offset
+    int increment = 1;                             ///< of the size
+    int offsetIncrement = 1;
+};
+
+struct RegionSizeLimits
+{
+    AxisLimits horizontal;
+    AxisLimits vertical;
+
+    const AxisLimits& along(Qt::Orientation axis) const
+    {
+        return axis == Qt::Horizontal ? horizontal : vertical;
+    }
+};
+
+/// A region after a drag: what is known of it in sensor pixels and on the label.
+struct DraggedRegion
+{
+    QRect stored; ///< sensor pixels, before the drag
+    QRect placed; ///< the band that stands for it, label pixels
+    QRect band;   ///< where the drag left the band
+    RegionSizeLimits limits;
+};
+
+/// Another shown region.
+struct RegionNeighbour
+{
+    QRect stored; ///< sensor pixels
+    QRect band;   ///< label pixels
+};
+
+/// One axis of a region after a drag.
+///
+/// Only edges that the drag moved are converted, to where the camera would round them; a span that
+/// moved as a whole keeps its stored length.
+RegionSpan convertedSpan(const DraggedRegion& dragged, Qt::Orientation axis,
+                         const SensorMapping& mapping);
+
+/// Takes a converted span back to the edge of a neighbour that it overlaps on the sensor though not
+/// on the label, rounded away from it. Edges that the drag did not move stay.
+RegionSpan keptOffNeighbour(const RegionSpan& span, const DraggedRegion& dragged,
+                            Qt::Orientation axis, const RegionNeighbour& neighbour);
+
+/// The region in sensor pixels. A region that would still overlap a neighbour from which the label
+/// shows it apart keeps its stored rectangle.
+QRect convertedRegion(const DraggedRegion& dragged, const QVector<RegionNeighbour>& neighbours,
+                      const SensorMapping& mapping);

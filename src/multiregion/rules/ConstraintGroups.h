@@ -1,0 +1,37 @@
+#pragma once
+
+#include "multiregion/rules/ArrangementMode.h"
+
+#include <QStringList>
+#include <QVector>
+#include <Qt>
+
+/// Shown regions that share their rows (offset and height) or their columns (offset and width).
+struct ConstraintGroup
+{
+    enum Kind {
+        Row,
+        Column,
+    };
+
+    Kind kind = Row;
+    QVector<int> members; ///< ascending, at least two
+
+    /// The member whose edges the others follow.
+    int master() const { return members.first(); }
+    /// The axis of the shared edges.
+    Qt::Orientation axis() const { return kind == Row ? Qt::Vertical : Qt::Horizontal; }
+};
+
+inline bool operator==(const ConstraintGroup& a, const ConstraintGroup& b)
+{
+    return a.kind == b.kind && a.members == b.members;
+}
+
+/// The groups of an arrangement: all regions are one row or one column, tiles are rows of two and
+/// two columns, free regions share nothing.
+/// @param shown region numbers, ascending
+QVector<ConstraintGroup> constraintGroups(ArrangementMode mode, const QVector<int>& shown);
+
+/// The features that a region takes from the masters of its groups.
+QStringList sharedFeatures(int region, const QVector<ConstraintGroup>& groups);

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "multiregion/rules/SizeRange.h"
+
+#include <QMap>
+#include <QRect>
+#include <QString>
+
+/// What a default layout depends on, as read from the camera.
+struct LayoutRequest
+{
+    double sensorWidth = 0.0;
+    double sensorHeight = 0.0;
+    SizeRange width;
+    SizeRange height;
+    int regionCount = 0;
+};
+
+struct DefaultLayout
+{
+    QMap<int, QRect> regions; ///< by region number, in sensor pixels
+    QString message;          ///< why there are none, for the log; empty otherwise
+};
+
+/// The layout of up to four regions for an entry of "MultipleRegionArrangement". Sizes are computed
+/// with fractions; each rectangle is truncated to whole pixels. A layout that leaves a region no
+/// size places none.
+DefaultLayout defaultLayout(const QString& mode, const LayoutRequest& request);

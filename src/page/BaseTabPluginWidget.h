@@ -1,0 +1,127 @@
+#pragma once
+
+#include "features/FeatureManager.h"
+#include "features/PluginFeatureObserver.h"
+#include "features/SdkValues.h"
+#include "host/TabExtensionInterface.h"
+
+#include <QStringList>
+#include <QWidget>
+
+#include <memory>
+
+class CameraLink;
+class QComboBox;
+class QMutex;
+class QTimer;
+class QTranslator;
+
+/// Common base of all pages: opens the camera's features to the page, refuses cameras of other
+/// vendors, and gathers change notifications, which it hands to the page once a second while the
+/// page is visible, not suspended, and the camera answers.
+///
+/// The SDK may notify on any thread, also on the GUI thread in the middle of a write or of a
+/// registration. Names noted while the base works on its list go to a side list and are refreshed
+/// next time.
+///
+/// Constructing a page silences Qt's log output for the whole process.
+class BaseTabPluginWidget : public QWidget
+{
+    Q_OBJECT
+
+public:
+    using FeatureList = TabExtensionInterface::FeatureList;
+
+    /// Throws TENotSupported when isVendorSupported() denies the camera.
+    BaseTabPluginWidget(const FeatureList& features, QWidget* parent);
+    ~BaseTabPluginWidget() override;
+
+    /// Both answer the SDK's code of the last feature handled, or Sdk::notFound for a camera
+    /// without features. With @p markChanged the features handled count as changed. What was
+    /// registered is remembered, so that a camera which has forgotten its names, or does not answer
+    /// any more, is left without questions.
+    ZebErrorType registerObservers(bool markChanged);
+    ZebErrorType unregisterObservers(bool markChanged);
+
+    /// Fills @p comboBox with the entries of an enumeration and selects the current one, without a
+    /// signal. False when the current value is no entry; then nothing is selected. With
+    /// @p withItemData each item's tool tip is its entry's name.
+    bool fillComboBox(const QString& featureName, QComboBox* comboBox, bool withItemData);
+
+    /// Looks in the folder "qm/" of the working directory for the system's locale, then for its
+    /// language alone. The caller owns the translator, which is empty when there is no file.
+    static QTranslator* loadTranslator(const QString& baseName);
+
+signals:
+    void resetFPS();
+
+public slots:
+    void updateTimer();
+    void OnFeatureChanged(const QString& name, const QString& value);
+
+protected:
+    /// Refreshes the page from the features named in changedFeatures; called with the list locked.
+    /// The page works on a copy of the list.
+    virtual void refreshFeatures() = 0;
+    virtual bool isVendorSupported(FeatureManager* manager);
+    /// The palette of the page or of the application changed. This may come while a derived
+    /// constructor runs.
+    virtual void onPaletteChanged(QEvent* event) = 0;
+
+    void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+    /// Stops the timer and the observation until as many resumeUpdates() came; hiding the page
+    /// ends every suspension. The names gathered so far are kept.
+    void suspendUpdates();
+    void resumeUpdates(bool markChanged);
+
+    /// Whether the application's windows are dark. The page's own palette does not tell, for its
+    /// style sheet cuts it off from the application's.
+    static bool isDarkMode();
+
+    /// Installs a translation in the application, once for each base name; true when it did so now.
+    static bool installTranslator(const QString& baseName);
+
+    std::unique_ptr<FeatureManager> featureManager;
+    std::unique_ptr<QStringList> changedFeatures;
+    QStringList observedFeatures;
+    FeatureList cameraFeatures;
+    QTimer* refreshTimer = nullptr;
+    std::unique_ptr<QMutex> mutex;
+    std::shared_ptr<PluginFeatureObserver> observer;
+
+private:
+    class ListLock;
+
+    struct Registration
+    {
+        ZebCPP::FeaturePtr feature;
+        QString name;
+    };
+
+    /// Runs @p work with the list held, once; its argument tells whether it was held already, as it
+    /// is when the page is shown or hidden from within a refresh.
+    template <typename Work> void withList(Work&& work);
+    /// The features of the camera that the page observes, as the camera names them now.
+    QVector<Registration> findObserved();
+    bool hasFeatures() const;
+    bool isCameraLost();
+    void observeAgain();
+    void markRegistered();
+    void startUpdates(bool markChanged);
+    void stopUpdates();
+    void noteChanged(const QString& name);
+    void noteOrKeep(const QString& name);
+    void onApplicationPaletteChanged();
+
+    std::shared_ptr<CameraLink> m_link;
+    QVector<Registration> m_registrations;
+    QStringList m_namesDuringLock;
+    bool m_locked = false;
+    bool m_observing = false;
+    bool m_wasLost = false; ///< the camera did not answer when the page was to be refreshed
+    bool m_built = false;
+    int m_suspensions = 0;
+};

@@ -1,0 +1,209 @@
+#include "regions/automatic/AutoRegionForm.h"
+
+#include "regions/automatic/AutoRegionCamera.h"
+#include "features/FeatureNames.h"
+#include "ui_AutoROIWidget.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <array>
+#include <initializer_list>
+
+using namespace FeatureNames;
+
+namespace {
+
+constexpr int groupWidth = 350; ///< until the first refresh
+constexpr int fieldWidthMin = 60;
+constexpr int fieldWidthMax = 90;
+constexpr int exposureFieldWidth = 80;
+
+struct Text
+{
+    Q_DECLARE_TR_FUNCTIONS(AutoROIWidget)
+};
+
+std::array<QDoubleSpinBox*, 8> spinBoxes(const Ui::AutoROIWidget& form)
+{
+    return {form.spinTop,   form.spinLeft,   form.spinRight,      form.spinBottom,
+            form.spinWidth, form.spinHeight, form.spinExpAutoMin, form.spinExpAutoMax};
+}
+
+void adaptTexts(const Ui::AutoROIWidget& form, const AutoRegionCamera& camera)
+{
+    QString title = Text::tr("Autofunction ROI");
+    QString regionTitle = Text::tr("AutoMode Region");
+    if (camera.has(aoiHeight)) {
+        title = Text::tr("Autofunction AOI");
+        regionTitle = title;
+    } else {
+        if (camera.has(autoModeHeight))
+            title = Text::tr("AutoMode ROI");
+        if (camera.has(dspTop))
+            regionTitle = Text::tr("DSPSubregion");
+    }
+    form.gb_AutoROI->setTitle(title);
+    form.gb_Region->setTitle(regionTitle);
+    form.labelTop->setText(camera.has(dspTop) ? Text::tr("Top:") : Text::tr("OffsetY:"));
+    form.labelLeft->setText(camera.has(dspLeft) ? Text::tr("Left:") : Text::tr("OffsetX:"));
+}
+
+/// Lines up the fields behind them.
+void alignCaptions(std::initializer_list<QLabel*> captions)
+{
+    int width = 0;
+    for (const QLabel* caption : captions)
+        if (!caption->isHidden())
+            width = std::max(width, caption->sizeHint().width());
+    for (QLabel* caption : captions)
+        caption->setFixedWidth(width);
+}
+
+void adaptRegionFields(const Ui::AutoROIWidget& form, const AutoRegionCamera& camera)
+{
+    for (QDoubleSpinBox* field : {form.spinTop, form.spinLeft, form.spinRight, form.spinBottom,
+                                  form.spinWidth, form.spinHeight}) {
+        field->setKeyboardTracking(false);
+        field->setMinimumWidth(fieldWidthMin);
+        field->setMaximumWidth(fieldWidthMax);
+        field->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+        field->setEnabled(true);
+        field->setDecimals(0);
+    }
+    std::vector<QWidget*> hidden;
+    if (camera.has(dspBottom))
+        hidden = {form.spinWidth, form.labelWidth, form.spinHeight, form.labelHeight};
+    else if (camera.usesSizes())
+        hidden = {form.spinBottom, form.labelBottom, form.spinRight, form.labelRight};
+    for (QWidget* widget : hidden)
+        widget->hide();
+    alignCaptions({form.labelLeft, form.labelRight, form.labelWidth});
+    alignCaptions({form.labelTop, form.labelBottom, form.labelHeight});
+    // A row whose fields are hidden would keep its column at the minimum width.
+    for (QHBoxLayout* row :
+         {form.horizontalLayout_2, form.horizontalLayout_3, form.horizontalLayout_4,
+          form.horizontalLayout_5, form.horizontalLayout_6, form.horizontalLayout_7})
+        row->addStretch();
+    form.labelInvalidSettings->hide();
+    for (QPushButton* button : {form.btnFull, form.btnHalf, form.btnQuarter})
+        button->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+}
+
+void adaptSwitches(const Ui::AutoROIWidget& form, const AutoRegionCamera& camera)
+{
+    // Without a switch the region is always on.
+    form.cbEnable->setVisible(camera.has(aoiEnable));
+    form.cbEnable->setChecked(!camera.has(aoiEnable));
+    form.cbShowArea->setVisible(camera.has(aoiShowArea));
+    form.labelIntensityControllerRegion->setVisible(camera.has(intensityRegion));
+    form.comboIntensityControllerRegion->setVisible(camera.has(intensityRegion));
+    if (!camera.has(intensityRegion))
+        form.horizontalSpacer->changeSize(0, 0);
+}
+
+void adaptExposure(const Ui::AutoROIWidget& form, const AutoRegionCamera& camera)
+{
+    const bool hasMin = camera.has(exposureAutoMin);
+    const bool hasMax = camera.has(exposureAutoMax);
+    const bool hasTimebase = camera.has(exposureAutoTimebase);
+    const bool hasTime = camera.has(exposureTime) || camera.has(exposureTimeAbs);
+    for (QDoubleSpinBox* field : {form.spinExpAutoMin, form.spinExpAutoMax}) {
+        field->setMinimumWidth(exposureFieldWidth);
+        field->setKeyboardTracking(false);
+    }
+    form.labelExpAutoMin->setEnabled(hasMin);
+    form.spinExpAutoMin->setEnabled(hasMin);
+    form.btnExpAutoMinCurrent->setEnabled(hasMin && hasTime);
+    form.labelExpAutoMax->setEnabled(hasMax);
+    form.spinExpAutoMax->setEnabled(hasMax);
+    form.btnExpAutoMaxCurrent->setEnabled(hasMax && hasTime);
+    form.labelExpAutoTimeBase->setVisible(hasTimebase);
+    form.comboExpAutoTimeBase->setVisible(hasTimebase);
+    form.gb_ExposureAuto->setVisible(hasMin || hasMax || hasTimebase);
+}
+
+} // namespace
+
+void adaptForm(const Ui::AutoROIWidget& form, const AutoRegionCamera& camera)
+{
+    form.gb_AutoROI->setMaximumWidth(groupWidth);
+    adaptTexts(form, camera);
+    adaptRegionFields(form, camera);
+    adaptSwitches(form, camera);
+    adaptExposure(form, camera);
+}
+
+void fitColumns(const Ui::AutoROIWidget& form)
+{
+    const auto fieldWidth = [](std::initializer_list<const QDoubleSpinBox*> fields) {
+        int width = 0;
+        for (const QDoubleSpinBox* field : fields)
+            if (!field->isHidden())
+                width = std::max(width,
+                                 std::clamp(field->sizeHint().width(), field->minimumWidth(),
+                                            field->maximumWidth()));
+        return width;
+    };
+    const auto column = [&](const QHBoxLayout* row, const QLabel* caption,
+                            std::initializer_list<const QDoubleSpinBox*> fields) {
+        return caption->minimumWidth() + row->spacing() + fieldWidth(fields);
+    };
+    form.gridLayout_2->setColumnMinimumWidth(
+        0,
+        column(form.horizontalLayout_2, form.labelLeft,
+               {form.spinLeft, form.spinRight, form.spinWidth}));
+    form.gridLayout_2->setColumnMinimumWidth(
+        1,
+        column(form.horizontalLayout_3, form.labelTop,
+               {form.spinTop, form.spinBottom, form.spinHeight}));
+    form.gridLayout->setColumnMinimumWidth(1,
+                                           fieldWidth({form.spinExpAutoMin, form.spinExpAutoMax}));
+}
+
+std::vector<QSignalBlocker> blockFields(const Ui::AutoROIWidget& form)
+{
+    std::vector<QSignalBlocker> blockers;
+    for (QDoubleSpinBox* field : spinBoxes(form))
+        blockers.emplace_back(field);
+    for (QObject* field : std::initializer_list<QObject*>{form.comboExpAutoTimeBase,
+                                                          form.comboIntensityControllerRegion,
+                                                          form.cbEnable, form.cbShowArea})
+        blockers.emplace_back(field);
+    return blockers;
+}
+
+void showChecked(QCheckBox* box, bool isChecked)
+{
+    const QSignalBlocker blocker(box);
+    // Not setChecked(): in the middle of a click it would leave the box's published state behind,
+    // and the next click would not be told.
+    box->setCheckState(isChecked ? Qt::Checked : Qt::Unchecked);
+}
+
+void guardAgainstWheel(const Ui::AutoROIWidget& form, QObject* filter)
+{
+    const auto guard = [filter](QWidget* field) {
+        // The default policy lets the wheel itself take the focus.
+        field->setFocusPolicy(Qt::StrongFocus);
+        field->installEventFilter(filter);
+    };
+    for (QDoubleSpinBox* field : spinBoxes(form))
+        guard(field);
+    guard(form.comboExpAutoTimeBase);
+    guard(form.comboIntensityControllerRegion);
+}
+
+void enableRegion(const Ui::AutoROIWidget& form, const AutoRegionCamera& camera, bool enabled)
+{
+    if (!form.cbShowArea->isHidden())
+        form.cbShowArea->setEnabled(enabled);
+    if (camera.usesSizes()) {
+        form.spinWidth->setEnabled(enabled);
+        form.spinHeight->setEnabled(enabled);
+    }
+    for (QWidget* widget :
+         std::initializer_list<QWidget*>{form.spinTop, form.spinLeft, form.btnFull, form.btnHalf,
+                                         form.btnQuarter, form.gb_AutoROI, form.gb_Region})
+        widget->setEnabled(enabled);
+}

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "regions/automatic/AutoRegion.h"
+#include "regions/automatic/AutoRegionCamera.h"
+
+class AutoRegionView;
+
+/// Writes the region to the camera, from a field, from the label or as a preset.
+class AutoRegionWriter
+{
+public:
+    AutoRegionWriter(AutoRegionCamera& camera, AutoRegionView& editor);
+
+    /// Writes one number and shows what the camera reports.
+    void write(RegionNumber number, double value);
+
+    /// Writes a region drawn on the label: edges in an order that leaves the camera an area at
+    /// every write, or offsets and then sizes. True when it lies within the limits, so that
+    /// whatever the camera passes through meanwhile is no error.
+    bool writeDrawn(const SensorRegion& region, const RegionLimits& limits);
+
+    /// Lets the image and the size fields grow to what the camera allows now.
+    void setFullArea(const RegionLimits& limits);
+
+    // The presets set the fields; the page writes each one that changes.
+    void presetFull(const RegionLimits& limits);
+    void presetCentred(const RegionLimits& limits, double factor);
+
+private:
+    void writeEdges(const SensorRegion& region, const RegionLimits& limits);
+    bool writeSizes(const SensorRegion& region, const RegionLimits& limits);
+    void writeAxis(RegionNumber nearEdge, RegionNumber farEdge, double position, double extent,
+                   qint64 limit);
+    void makeRoom(const DspEdges& wanted);
+    void setEdge(RegionNumber number, double value);
+    void growImage(const QString& name, qint64 current, qint64 former);
+    void setSizeMaximum(RegionNumber size, double maximum);
+    void settleOffset(RegionNumber offset, double wanted);
+
+    AutoRegionCamera& m_camera;
+    AutoRegionView& m_editor;
+};

@@ -1,0 +1,84 @@
+#include "regions/label/LabelBand.h"
+
+#include <QEvent>
+#include <QPainter>
+#include <QStyle>
+
+LabelBand::LabelBand(QWidget* parent)
+    : QRubberBand(QRubberBand::Rectangle, parent)
+{
+    setUpdatesEnabled(false);
+    // Else Qt would let the parent paint all that the band has covered when it shrinks.
+    setAttribute(Qt::WA_StaticContents);
+}
+
+void LabelBand::paint(QPainter& painter, const QRegion& region)
+{
+    if (isHidden() || size().isEmpty())
+        return;
+    if (mask().isEmpty() && image().fits(size())) {
+        image().paint(painter, geometry(), region & geometry());
+        return;
+    }
+    painter.save();
+    painter.translate(pos());
+    if (!mask().isEmpty())
+        painter.setClipRegion(mask(), Qt::IntersectClip);
+    const QStyleOptionRubberBand option = styleOption();
+    style()->drawControl(QStyle::CE_RubberBand, &option, &painter, this);
+    painter.restore();
+}
+
+QStyleOptionRubberBand LabelBand::styleOption() const
+{
+    QStyleOptionRubberBand option;
+    initStyleOption(&option);
+    return option;
+}
+
+const BandImage& LabelBand::image()
+{
+    if (!m_image)
+        m_image.emplace(styleOption(), *this);
+    return *m_image;
+}
+
+void LabelBand::changeEvent(QEvent* event)
+{
+    QRubberBand::changeEvent(event);
+    m_image.reset();
+    parentWidget()->update(geometry());
+}
+
+void LabelBand::moveEvent(QMoveEvent* event)
+{
+    QRubberBand::moveEvent(event);
+    follow();
+}
+
+void LabelBand::resizeEvent(QResizeEvent* event)
+{
+    QRubberBand::resizeEvent(event);
+    follow();
+}
+
+void LabelBand::showEvent(QShowEvent* event)
+{
+    QRubberBand::showEvent(event);
+    m_shown = geometry();
+    parentWidget()->update(m_shown);
+}
+
+void LabelBand::hideEvent(QHideEvent* event)
+{
+    QRubberBand::hideEvent(event);
+    parentWidget()->update(m_shown);
+}
+
+void LabelBand::follow()
+{
+    if (isHidden())
+        return;
+    parentWidget()->update(image().changed(m_shown, geometry()));
+    m_shown = geometry();
+}

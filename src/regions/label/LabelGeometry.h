@@ -1,0 +1,54 @@
+#pragma once
+
+#include "regions/label/SensorRegion.h"
+#include "features/NumberConversion.h"
+
+#include <QPoint>
+#include <QRect>
+
+/// Where a label shows the sensor area: in its top left corner, scaled to fit, aspect ratio kept.
+///
+/// Two sizes describe the picture on the label and differ by rounding. The displayed size is
+/// computed from label and sensor; the scale and the limits of a move use it. The shown size is
+/// that of the pixmap on the label; the pointer and a placed band stay within it.
+struct LabelGeometry
+{
+    QSize label;  ///< label pixels
+    QSize sensor; ///< sensor pixels
+    QSize shown;  ///< label pixels
+};
+
+/// The rounding of all region arithmetic: add a half and truncate. Unlike lround() it takes -0.7 to
+/// 0.
+constexpr int roundHalfUp(double value)
+{
+    return toInt(value + 0.5);
+}
+
+/// Size of the sensor area on the label, in label pixels; empty when label or sensor are.
+QSize displayedSize(const LabelGeometry& geometry);
+
+/// The height that shows a sensor in its aspect ratio at this width; 0 without a sensor.
+int heightForWidth(int width, const QSize& sensor);
+
+/// Sensor pixels per label pixel, one factor for both axes; 0 when nothing is displayed.
+double sensorPerLabel(const LabelGeometry& geometry);
+
+/// Label pixels per sensor pixel; 0 when nothing is displayed.
+double labelPerSensor(const LabelGeometry& geometry);
+
+/// Below this many label pixels per sensor pixel no band can be placed.
+constexpr double smallestScale = 0.00001;
+
+/// The band that stands for a region, in label pixels, cut to the shown picture at right and
+/// bottom. Negative values count as 0, and a region far away stays within Qt's coordinates.
+QRect bandForRegion(const SensorRegion& region, const LabelGeometry& geometry);
+
+/// The band of a label that has no region yet: all of its width.
+QRect bandWithoutRegion(const LabelGeometry& geometry);
+
+/// What the mouse can hold: no band is thinner while it is dragged.
+QRect atLeastOnePixel(const QRect& band);
+
+/// The point of the shown picture next to @p point, its right and bottom border included.
+QPoint clampedToPicture(const QPoint& point, const LabelGeometry& geometry);

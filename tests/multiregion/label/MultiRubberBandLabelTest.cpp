@@ -1,0 +1,383 @@
+#include "multiregion/label/MultiRubberBandLabel.h"
+#include "DataTable.h"
+#include "RectText.h"
+#include "TestEvents.h"
+#include "multiregion/label/LineRubberBand.h"
+#include "multiregion/label/RectangleRubberBand.h"
+
+#include <QScreen>
+
+#include <functional>
+#include <memory>
+
+using Label = MultiRubberBandLabel;
+
+class MultiRubberBandLabelTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void cleanup() { m_label.reset(); }
+
+    /// A drag: the picture is 400 x 300 of a sensor of 1600 x 1200, bands at (25, 25) and (225, 25)
+    /// of size 100 x 100.
+    void drags_data()
+    {
+        const DataTable row([this](const QString& mode, const QPoint& from, const QPoint& to,
+                                   const QStringList& expected) {
+            makeLabel(mode);
+            drag(m_label.get(), from, to);
+            QCOMPARE(m_events, (QStringList{"start", "finish"} + expected));
+            QVERIFY(!m_label->isDragging());
+        });
+        row("move", "Free", {75, 75}, {85, 95}, {"0: 140,180 400x400"});
+        row("move to the border", "Free", {75, 75}, {75, 999}, {"0: 100,800 400x400"});
+        row("click inside", "Free", {75, 75}, {75, 75}, {});
+        row("click on an edge", "Free", {25, 75}, {25, 75}, {"0: 100,100 400x400"});
+        row("right edge", "Free", {122, 75}, {143, 75}, {"0: 100,100 476x400"});
+        row("not over the neighbour", "Free", {122, 75}, {300, 75}, {"0: 100,100 400x400"});
+        row("left edge over the border", "Free", {26, 75}, {-50, 75}, {"0: 0,100 500x400"});
+        row("a member stays in the row", "Horizontal", {275, 75}, {285, 95},
+            {"1: 940,100 400x400"});
+        row("the master takes the row along", "Horizontal", {75, 75}, {85, 95},
+            {"0: 140,180 400x400", "1: 900,180 400x400"});
+        row("line", "Horizontal", {350, 124}, {350, 155},
+            {"0: 100,100 400x528", "1: 900,100 400x528"});
+        row("columns block sideways", "Vertical", {275, 75}, {285, 95}, {"1: 940,180 400x400"});
+    }
+    void drags() { runRow(); }
+
+    /// The window system may leave out the moves.
+    void releaseElsewhereIsReported()
+    {
+        makeLabel("Free");
+        press(m_label.get(), {75, 75});
+        release(m_label.get(), {90, 90});
+        QCOMPARE(m_events.last(), QString("0: 100,100 400x400"));
+    }
+
+    /// What happens in the midst of a drag of region 0 from (75, 75) by (10, 20).
+    void disturbedDrags_data()
+    {
+        const DataTable row([this](const QString& report, const QRect& band,
+                                   const std::function<void(Label*)>& disturb) {
+            makeLabel("Free");
+            press(m_label.get(), {75, 75});
+            sendMouse(m_label.get(), QEvent::MouseMove, {85, 95});
+            QCOMPARE(bandOf(0)->geometry(), QRect(35, 45, 100, 100));
+            disturb(m_label.get());
+            const QPoint end = m_label->width() == 800 ? QPoint(160, 170) : QPoint(85, 95);
+            sendMouse(m_label.get(), QEvent::MouseMove, end);
+            release(m_label.get(), end);
+            QCOMPARE(m_events.last(), report);
+            QCOMPARE(bandOf(0)->geometry(), band);
+            if (bandOf(2))
+                QCOMPARE(bandOf(2)->geometry(), QRect(300, 200, 100, 100));
+        });
+        row("other buttons do nothing", "0: 140,180 400x400", {35, 45, 100, 100}, [](Label* label) {
+            for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+                QMouseEvent event(type, {275, 75}, label->mapToGlobal({275, 75}), Qt::RightButton,
+                                  Qt::LeftButton | Qt::RightButton, Qt::NoModifier);
+                QApplication::sendEvent(label, &event);
+            }
+        });
+        row("what is told waits for the end", "0: 140,180 400x400", {35, 45, 100, 100},
+            [](Label* label) {
+                label->onRegionGeometryChanged(0, {200, 100, 200, 400});
+                label->onRegionGeometryChanged(2, {1200, 800, 400, 400});
+                label->onRegionActivated(2, true);
+            });
+        row("dropped when disabled", "drop", {50, 25, 100, 100}, [](Label* label) {
+            label->onRegionGeometryChanged(0, {200, 100, 400, 400});
+            label->setEnabled(false);
+            label->setEnabled(true);
+        });
+        row("dropped when hidden", "drop", {25, 25, 100, 100}, [](Label* label) { label->hide(); });
+        row("goes on at another scale", "0: 120,140 400x400", {60, 70, 200, 200},
+            [](Label* label) { label->resize(800, 600); });
+    }
+    void disturbedDrags() { runRow(); }
+
+    void pressTellsInOrder()
+    {
+        makeLabel("Free");
+        connect(m_label.get(), &Label::highlightSelectedRegion, this,
+                [this](int region) { m_events << QString("highlight %1").arg(region); });
+        connect(m_label.get(), &Label::regionSelected, this, [this](int region) {
+            m_events << QString("selected %1").arg(region);
+            m_label->selectRegion(region);
+            QVERIFY(m_label->isDragging());
+        });
+        press(m_label.get(), {275, 75});
+        QCOMPARE(m_events, (QStringList{"highlight 1", "selected 1", "start"}));
+        m_label->selectRegion(1);
+        QCOMPARE(m_events.last(), QString("highlight 1"));
+    }
+
+    void keepsRegionsThroughResizes()
+    {
+        makeLabel("Free", {{648, 636, 650, 480}});
+        for (int i = 0; i < 50; ++i)
+            m_label->resize(300 + 7 * i % 331, 200 + 11 * i % 257);
+        m_label->resize(400, 300);
+        QCOMPARE(bandOf(0)->geometry(), QRect(162, 159, 163, 120));
+        QCOMPARE(m_label->regionRectangle(0), QRect(648, 636, 650, 480));
+        QSignalSpy spy(m_label.get(), &Label::labelGeometryChanged);
+        m_label->resize(800, 300);
+        QCOMPARE(spy.takeFirst(), (QVariantList{1.0, 1.0, QSize(400, 300)}));
+        m_label->resize(800, 600);
+        QCOMPARE(spy.takeFirst(), (QVariantList{2.0, 2.0, QSize(800, 600)}));
+    }
+
+    void higherNumberIsRed()
+    {
+        makeLabel("Free");
+        const QColor own(0, 100, 255);
+        m_label->onRegionGeometryChanged(0, {700, 100, 400, 400});
+        QCOMPARE(m_label->shownColor(0), own);
+        QCOMPARE(m_label->shownColor(1), QColor("red"));
+        QCOMPARE(m_label->regionColor(1), own);
+        // The lower one is held by the overlap, the red one can be pulled free.
+        drag(m_label.get(), {185, 75}, {195, 75});
+        QCOMPARE(m_events, (QStringList{"start", "finish"}));
+        // Where they overlap the selected one is on top, else the higher number.
+        QCOMPARE(m_label->regionUnder({250, 75}), 0);
+        m_label->selectRegion(-1);
+        QCOMPARE(m_label->regionUnder({250, 75}), 1);
+        press(m_label.get(), {310, 75});
+        sendMouse(m_label.get(), QEvent::MouseMove, {320, 75});
+        QCOMPARE(bandOf(1)->x(), 235);
+        sendMouse(m_label.get(), QEvent::MouseMove, {370, 75});
+        release(m_label.get(), {370, 75});
+        QCOMPARE(m_events.last(), QString("1: 1140,100 400x400"));
+        QCOMPARE(m_label->shownColor(1), own);
+        // A neighbour that goes solves a conflict, which the band reports.
+        m_label->onRegionGeometryChanged(0, {900, 100, 400, 400});
+        m_events.clear();
+        m_label->onRegionActivated(0, false);
+        QCOMPARE(m_events, QStringList("1: 1140,100 400x400"));
+        QCOMPARE(m_label->shownColor(1), own);
+    }
+
+    void arrangesOnceForAllToldRegions()
+    {
+        makeLabel("Horizontal");
+        QSignalSpy colors(m_label.get(), &Label::regionColorChanged);
+        QSignalSpy tests(bandOf(0), &RectangleRubberBand::colorChanged);
+        {
+            const QSignalBlocker blocker(m_label.get());
+            m_label->onRegionGeometryChanged(0, {500, 100, 400, 400});
+            m_label->onRegionGeometryChanged(1, {800, 100, 400, 400});
+            m_label->onRegionGeometryChanged(2, {1300, 100, 200, 400});
+            m_label->onRegionActivated(2, true);
+        }
+        m_label->announceRegions();
+        QCOMPARE(tests.size(), 1);
+        QCOMPARE(colors.size(), 3);
+        QCOMPARE(m_label->shownColor(1), QColor("red"));
+        QCOMPARE(m_label->sharingRegions(0, Qt::Vertical), (QVector<int>{0, 1, 2}));
+        // Nobody has to announce.
+        {
+            const QSignalBlocker blocker(m_label.get());
+            m_label->onRegionGeometryChanged(1, {900, 100, 400, 400});
+        }
+        QCoreApplication::processEvents();
+        QCOMPARE(bandOf(1)->x(), 225);
+    }
+
+    void linesComeAndGo()
+    {
+        makeLabel("Horizontal");
+        QCOMPARE(m_label->findChildren<LineRubberBand*>().size(), 2);
+        // They end with the picture.
+        m_label->resize(500, 300);
+        drag(m_label.get(), {404, 123}, {404, 123});
+        QVERIFY(m_events.isEmpty());
+        drag(m_label.get(), {403, 123}, {403, 123});
+        QCOMPARE(m_events, (QStringList{"start", "finish"}));
+        // Alone again, the other one is free.
+        m_label->onRegionActivated(0, false);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QVERIFY(m_label->findChildren<LineRubberBand*>().isEmpty());
+        drag(m_label.get(), {285, 95}, {285, 85});
+        QCOMPARE(m_events.last(), QString("1: 900,60 400x400"));
+    }
+
+    void tileLines()
+    {
+        m_constraints.clear();
+        makeLabel("Tile",
+                  {{0, 0, 800, 600}, {800, 0, 800, 600}, {0, 600, 800, 600}, {800, 600, 800, 600}});
+        QCOMPARE(m_label->findChildren<LineRubberBand*>().size(), 8);
+        // The first row's lower line stops at the second row and the minimum.
+        m_label->setRegionLimits(1, {{}, {400, 1200, 1, 1}});
+        drag(m_label.get(), {100, 146}, {100, 200});
+        QCOMPARE(m_events, (QStringList{"start", "finish"}));
+        m_events.clear();
+        drag(m_label.get(), {100, 146}, {100, 20});
+        QCOMPARE(m_events, (QStringList{"start", "finish", "0: 0,0 800x400", "1: 800,0 800x400"}));
+        QCOMPARE(m_constraints.value(0).size(), 0);
+        QCOMPARE(m_constraints.value(2).first(), QString("SubRegionOffsetX"));
+        QCOMPARE(m_constraints.value(3).size(), 4);
+        // The first row bounds the second: it cannot go back over the line.
+        QCOMPARE(m_ranges.value(2), QRect(0, 400, 800, 800));
+        drag(m_label.get(), {100, 225}, {100, 60});
+        QCOMPARE(m_label->regionRectangle(3), QRect(800, 400, 800, 600));
+        m_label->setArrangementMode("Free");
+        QVERIFY(m_constraints.value(3).isEmpty());
+        QCOMPARE(m_ranges.value(2), QRect(0, 0, 1600, 1200));
+    }
+
+    /// The page may take a region away while it is told of its new place.
+    void survivesRemovalDuringReport()
+    {
+        makeLabel("Horizontal");
+        connect(m_label.get(), &Label::regionGeometryChanged, this,
+                [this] { m_label->removeRectangle(0); });
+        drag(m_label.get(), {75, 75}, {85, 95});
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QVERIFY(!m_label->isRegionShown(0));
+        QCOMPARE(m_label->regionUnder({85, 95}), -1);
+        connect(m_label.get(), &Label::regionSelected, this,
+                [this] { m_label->removeRectangle(1); });
+        m_events.clear();
+        press(m_label.get(), {275, 95});
+        QVERIFY(!m_label->isDragging());
+        QCOMPARE(m_events, QStringList("drop"));
+    }
+
+    /// The viewer may close the page in answer to any of a drag's signals.
+    void survivesDeletionDuringDrag_data()
+    {
+        const DataTable row([this](const QByteArray& signal, const QPoint& from) {
+            makeLabel("Horizontal");
+            const QPointer<Label> label(m_label.get());
+            connect(label.data(), signal.constData(), this, SLOT(deleteLabel()));
+            const auto send = [&](QEvent::Type type, const QPoint& point) {
+                if (label)
+                    sendMouse(label, type, point);
+            };
+            send(QEvent::MouseButtonPress, from);
+            send(QEvent::MouseMove, from + QPoint(5, 10));
+            send(QEvent::MouseButtonRelease, from + QPoint(5, 10));
+            QVERIFY(!label);
+        });
+        row("at the press", SIGNAL(regionSelected(int)), {75, 75});
+        row("during a move", SIGNAL(mouseMoved(QPoint)), {75, 75});
+        row("at the release", SIGNAL(rubberChangeFinished(QPoint)), {75, 75});
+        row("at the report", SIGNAL(regionGeometryChanged(int, QRect)), {75, 75});
+        row("at the report of a line", SIGNAL(regionGeometryChanged(int, QRect)), {150, 124});
+    }
+    void survivesDeletionDuringDrag() { runRow(); }
+
+    /// What lines and bands that pass by leave is what a painting of all shows.
+    void paintsPartsAsAll()
+    {
+        makeLabel("Horizontal");
+        const auto picture = [](const QPixmap& pixmap) {
+            return pixmap.toImage().convertToFormat(QImage::Format_RGB32);
+        };
+        const auto all = [&] { return picture(m_label->grab()); };
+        const QImage before = all();
+        press(m_label.get(), {75, 75});
+        for (int y = 76; y < 130; y += 2) {
+            sendMouse(m_label.get(), QEvent::MouseMove, {75, y});
+            QCoreApplication::processEvents();
+        }
+        QTRY_COMPARE(picture(m_label->screen()->grabWindow(m_label->winId())), all());
+        const QRect number(265, 65, 20, 20); // which the upper line crosses in the end
+        QVERIFY(all().copy(number) != before.copy(number));
+        release(m_label.get(), {75, 75});
+    }
+
+    void showsCursors()
+    {
+        makeLabel("Horizontal");
+        const auto cursorAt = [this](const QPoint& point) {
+            sendMouse(m_label.get(), QEvent::MouseMove, point, Qt::NoButton);
+            return m_label->testAttribute(Qt::WA_SetCursor) ? m_label->cursor().shape()
+                                                            : Qt::ArrowCursor;
+        };
+        QCOMPARE(cursorAt({75, 75}), Qt::SizeAllCursor);
+        QCOMPARE(cursorAt({122, 75}), Qt::SizeHorCursor);
+        // A line leaves the cursor as it is, on a band and beside it.
+        QCOMPARE(cursorAt({75, 122}), Qt::SizeHorCursor);
+        QCOMPARE(cursorAt({150, 75}), Qt::ArrowCursor);
+        QCOMPARE(cursorAt({150, 124}), Qt::ArrowCursor);
+    }
+
+    /// Neither the placeholder of a large sensor nor its picture needs its pixels.
+    void largeSensors()
+    {
+        m_label = std::make_unique<Label>(15000, 10000, QColor(0, 100, 255), "Free", nullptr);
+        const auto shown = [this] { return m_label->pixmap(Qt::ReturnByValue).toImage(); };
+        QVERIFY(shown().width() <= 2048);
+        m_label->resize(600, 500);
+        m_label->show();
+        QCOMPARE(m_label->imageSize(), QSize(600, 400));
+        auto image = std::make_shared<QPixmap>(100, 100);
+        image->fill(Qt::white);
+        m_label->setBackgroundImage(image, {100, 200}, {});
+        QCOMPARE(shown().size(), QSize(600, 400));
+        QCOMPARE(shown().pixelColor(50, 100), QColor(Qt::white));
+        QCOMPARE(shown().pixelColor(50, 300), QColor(Qt::black));
+        // A hidden one composes when it is shown, and after each resize from the whole picture.
+        m_label->hide();
+        m_label->setBackgroundImage(image, {100, 100}, {});
+        QCOMPARE(shown().pixelColor(50, 300), QColor(Qt::black));
+        m_label->show();
+        QCOMPARE(shown().pixelColor(50, 300), QColor(Qt::white));
+        for (const QSize& size : {QSize(600, 400), QSize(300, 200)}) {
+            m_label->resize(size);
+            QCOMPARE(shown().size(), size);
+            QCOMPARE(shown().pixelColor(50, size.height() - 1), QColor(Qt::white));
+        }
+    }
+
+private:
+    Q_SLOT void deleteLabel() { m_label.reset(); }
+
+    void makeLabel(const QString& mode,
+                   const QVector<QRect>& regions = {{100, 100, 400, 400}, {900, 100, 400, 400}})
+    {
+        m_label = std::make_unique<Label>(1600, 1200, QColor(0, 100, 255), mode, nullptr);
+        Label* label = m_label.get();
+        const auto note
+            = [this](const char* event) { return [this, event] { m_events << event; }; };
+        connect(label, &Label::rubberChangeStarted, this, note("start"));
+        connect(label, &Label::rubberChangeFinished, this, note("finish"));
+        connect(label, &Label::rubberChangeDropped, this, note("drop"));
+        connect(label, &Label::constraintsActivated, this,
+                [this](int region, const QStringList& f) { m_constraints.insert(region, f); });
+        connect(label, &Label::regionRangeChanged, this,
+                [this](int region, const QRect& range) { m_ranges.insert(region, range); });
+        label->resize(400, 300);
+        label->show();
+        QVERIFY(QTest::qWaitForWindowActive(label));
+        for (int i = 0; i < regions.size(); ++i) {
+            label->onRegionGeometryChanged(i, regions[i]);
+            label->onRegionActivated(i, true);
+        }
+        m_events.clear();
+        connect(label, &Label::regionGeometryChanged, this, [this](int region, const QRect& rect) {
+            m_events << QString("%1: %2").arg(region).arg(text(rect));
+        });
+    }
+
+    RectangleRubberBand* bandOf(int region) const
+    {
+        for (auto* band : m_label->findChildren<RectangleRubberBand*>()) {
+            if (band->regionNo() == region)
+                return band;
+        }
+        return nullptr;
+    }
+
+    std::unique_ptr<Label> m_label;
+    QStringList m_events;
+    QMap<int, QStringList> m_constraints;
+    QMap<int, QRect> m_ranges;
+};
+
+QTEST_MAIN(MultiRubberBandLabelTest)
+#include "MultiRubberBandLabelTest.moc"

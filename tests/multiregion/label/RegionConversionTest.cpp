@@ -1,0 +1,231 @@
+#include "DataTable.h"
+#include "RectText.h"
+#include "multiregion/label/RegionRanges.h"
+#include "multiregion/label/DragChanges.h"
+#include "multiregion/rules/TableConstraints.h"
+
+#include <QRandomGenerator>
+
+namespace {
+
+/// A sensor that is 6.48 and 6.4 times as large as its picture.
+const SensorMapping mapping{{2592, 1920}, {400, 300}};
+
+KnownRegions regionsAt(const QVector<QRect>& rectangles)
+{
+    KnownRegions regions(Qt::blue);
+    for (int i = 0; i < rectangles.size(); ++i) {
+        regions.setRectangle(i, rectangles[i]);
+        regions.setBand(i, labelRect(rectangles[i], mapping));
+        regions.setShown(i, true);
+    }
+    return regions;
+}
+
+QStringList texts(const QVector<RegionChange>& changes)
+{
+    QStringList result;
+    for (const RegionChange& change : changes)
+        result << QString("%1: %2").arg(change.region).arg(text(change.rectangle));
+    return result;
+}
+
+} // namespace
+
+class RegionConversionTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void placesEdges()
+    {
+        // Neighbours share an edge on the label at every scale.
+        for (int x = 1; x < 2592; ++x) {
+            const QRect left = labelRect({0, 0, x, 10}, mapping);
+            const QRect right = labelRect({x, 0, 2592 - x, 10}, mapping);
+            if (x > 3 && x < 2589)
+                QCOMPARE(left.x() + left.width(), right.x());
+            QVERIFY(left.width() >= 1 && right.width() >= 1);
+        }
+        QCOMPARE(labelRect({0, 0, 2592, 1920}, mapping), QRect(0, 0, 400, 300));
+        QCOMPARE(labelRect({5, 5, 10, 10}, {{0, 0}, {400, 300}}).size(), QSize(1, 1));
+        labelRect({INT_MAX - 10, 0, 10, 1}, {{1, 1}, {INT_MAX, 1}});
+    }
+
+    /// Stored (648, 640) 650 x 480, which is (100, 100) to (200, 175) on the label; delta of the
+    /// band's left, top, right and bottom edges.
+    void converts_data()
+    {
+        const DataTable row([](const QVector<int>& delta, int increment, const QRect& neighbour,
+                               const QString& expected) {
+            const QRect stored(648, 640, 650, 480);
+            const QRect placed = labelRect(stored, mapping);
+            QCOMPARE(placed, QRect(100, 100, 100, 75));
+            const QRect band = placed.adjusted(delta[0], delta[1], delta[2], delta[3]);
+            const AxisLimits limits{16, 2592, increment, increment};
+            QVector<RegionNeighbour> neighbours;
+            if (neighbour.isValid())
+                neighbours.append({neighbour, labelRect(neighbour, mapping)});
+            const DraggedRegion dragged{stored, placed, band, {limits, limits}};
+            QCOMPARE(text(convertedRegion(dragged, neighbours, mapping)), expected);
+        });
+        row("unchanged", {0, 0, 0, 0}, 1, {}, "648,640 650x480");
+        row("right edge", {0, 0, 10, 0}, 1, {}, "648,640 713x480");
+        row("right edge at the border", {0, 0, 200, 0}, 1, {}, "648,640 1944x480");
+        row("right edge beyond the border", {0, 0, 201, 0}, 1, {}, "648,640 1944x480");
+        row("left edge", {10, 0, 0, 0}, 1, {}, "713,640 585x480");
+        row("left edge on the increment", {10, 0, 0, 0}, 8, {}, "712,640 586x480");
+        row("left edge at the border", {-100, 0, 0, 0}, 8, {}, "0,640 1298x480");
+        row("left edge to the minimum", {99, 0, 0, 0}, 8, {}, "1280,640 18x480");
+        row("top edge", {0, -10, 0, 0}, 1, {}, "648,576 650x544");
+        row("bottom edge", {0, 0, 0, 10}, 1, {}, "648,640 650x544");
+        row("right edge to the minimum", {0, 0, -99, 0}, 1, {}, "648,640 16x480");
+        row("turned over", {0, 0, -130, 0}, 1, {}, "648,640 16x480");
+        row("moved", {10, -10, 10, -10}, 1, {}, "713,576 650x480");
+        row("moved on the increment", {10, 0, 10, 0}, 8, {}, "712,640 650x480");
+        row("moved to the far border", {200, 125, 200, 125}, 1, {}, "1942,1440 650x480");
+        row("moved to the near border", {-100, -101, -100, -101}, 1, {}, "0,0 650x480");
+        // The band's right edge goes to 210, sensor pixel 1361; the neighbour's left edge rounds to
+        // 210 as well.
+        const QRect right(1358, 700, 100, 100);
+        const QRect left(400, 700, 186, 100);
+        row("off the right neighbour", {0, 0, 10, 0}, 8, right, "648,640 704x480");
+        row("apart", {0, 0, 10, 0}, 8, {1361, 700, 100, 100}, "648,640 713x480");
+        row("off the left neighbour", {-10, 0, 0, 0}, 8, left, "592,640 706x480");
+        row("moved right", {10, 0, 10, 0}, 8, right, "704,640 650x480");
+        row("moved left", {-10, 0, -10, 0}, 8, left, "592,640 650x480");
+        row("below", {0, 0, 0, 10}, 8, {700, 1182, 100, 100}, "648,640 650x536");
+    }
+    void converts() { runRow(); }
+
+    /// Bands that do not overlap on the label never give regions that do, at any scale.
+    void neverMakesOverlaps()
+    {
+        QRandomGenerator random(20);
+        const auto between = [&random](int low, int high) { return random.bounded(low, high + 1); };
+        for (int i = 0; i < 20000; ++i) {
+            const SensorMapping scale{{between(20, 9000), between(20, 9000)},
+                                      {between(20, 900), between(20, 900)}};
+            const auto anyRect = [&](const QSize& size) {
+                const int x = between(0, size.width() - 2);
+                const int y = between(0, size.height() - 2);
+                return QRect(x, y, between(1, size.width() - x), between(1, size.height() - y));
+            };
+            const QRect stored = anyRect(scale.sensor);
+            const QRect other = anyRect(scale.sensor);
+            const AxisLimits limits{between(1, 16), 9000, between(1, 16), between(1, 16)};
+            DraggedRegion dragged{
+                stored, labelRect(stored, scale), anyRect(scale.shown), {limits, limits}};
+            if (between(0, 1))
+                dragged.band.setSize(dragged.placed.size());
+            const RegionNeighbour neighbour{other, labelRect(other, scale)};
+            const QRect result = convertedRegion(dragged, {neighbour}, scale);
+            QVERIFY(result == stored || QRect(QPoint(), scale.sensor).contains(result));
+            if (!overlap(stored, other) && !overlap(dragged.band, neighbour.band))
+                QVERIFY2(!overlap(result, other), qPrintable(text(result) + " " + text(other)));
+        }
+    }
+
+    void groupsFollow()
+    {
+        const auto row = constraintGroups(ArrangementMode::Horizontal, {0, 1, 2});
+        KnownRegions regions
+            = regionsAt({{0, 640, 648, 640}, {1296, 640, 648, 640}, {1944, 320, 324, 640}});
+        // The master takes the row along, and the last member into line.
+        QCOMPARE(texts(changesAfterBandDrag(regions, row, mapping, 0, {0, 110, 100, 100})),
+                 (QStringList{"0: 0,704 648x640", "1: 1296,704 648x640", "2: 1944,704 324x640"}));
+        // A member in line takes the row along too; one out of line joins it.
+        QCOMPARE(texts(changesAfterBandDrag(regions, row, mapping, 1, {200, 90, 100, 110})),
+                 (QStringList{"1: 1296,576 648x704", "0: 0,576 648x704", "2: 1944,576 324x704"}));
+        QCOMPARE(texts(changesAfterBandDrag(regions, row, mapping, 2, {310, 50, 50, 100})),
+                 (QStringList{"2: 2009,640 324x640"}));
+        // Unchanged: only the region itself, as it is stored.
+        QCOMPARE(texts(changesAfterBandDrag(regions, row, mapping, 2, regions.band(2))),
+                 (QStringList{"2: 1944,320 324x640"}));
+        // A member stays where it would come to lie on another one.
+        regions.setRectangle(2, {1300, 0, 324, 320});
+        QCOMPARE(texts(changesAfterBandDrag(regions, row, mapping, 0, {0, 110, 100, 100})),
+                 (QStringList{"0: 0,704 648x640", "1: 1296,704 648x640"}));
+    }
+
+    void linesReportEachMember()
+    {
+        const auto tile = constraintGroups(ArrangementMode::Tile, {0, 1, 2, 3});
+        const KnownRegions regions = regionsAt({{0, 0, 1296, 643},
+                                                {1296, 0, 1296, 643},
+                                                {0, 640 + 11, 1296, 640},
+                                                {1296, 640 + 11, 1296, 640}});
+        // The edge at 102 is sensor pixel 653, which lies in the second row: it stops before it.
+        QCOMPARE(texts(changesAfterLineDrag(regions, tile[0], mapping, {0, 102})),
+                 (QStringList{"0: 0,0 1296x651", "1: 1296,0 1296x651"}));
+        // So does the edge of a member, for the sake of the other one.
+        KnownRegions apart = regions;
+        apart.setRectangle(2, {0, 800, 1296, 640});
+        QCOMPARE(texts(changesAfterBandDrag(apart, tile, mapping, 0, {0, 0, 200, 102})),
+                 (QStringList{"0: 0,0 1296x651", "1: 1296,0 1296x651"}));
+        QCOMPARE(texts(changesAfterLineDrag(regions, tile[0], mapping, {0, 90})),
+                 (QStringList{"0: 0,0 1296x576", "1: 1296,0 1296x576"}));
+        QVERIFY(changesAfterLineDrag(regions, tile[0], mapping, {0, 100}).isEmpty());
+    }
+
+    void membersNeedRoomToFollow()
+    {
+        const auto row = constraintGroups(ArrangementMode::Tile, {0, 1, 3});
+        const KnownRegions regions
+            = regionsAt({{0, 0, 1296, 640}, {1296, 0, 1296, 640}, {}, {1296, 700, 1296, 640}});
+        QVERIFY(membersCanFollow(regions, row, 0, {0, 0, 200, 105}));
+        QVERIFY(!membersCanFollow(regions, row, 0, {0, 20, 200, 100}));
+    }
+
+    void ranges()
+    {
+        const KnownRegions regions
+            = regionsAt({{0, 10, 100, 200}, {150, 10, 100, 200}, {300, 20, 50, 100}});
+        const auto range = [&regions](ArrangementMode mode, int region) {
+            return text(rangeBetweenNeighbours(regions, mode, constraintGroups(mode, {0, 1, 2}),
+                                               {500, 400}, region));
+        };
+        for (const auto mode : {ArrangementMode::Free, ArrangementMode::Vertical})
+            QCOMPARE(range(mode, 1), QString("0,0 500x400"));
+        for (const auto mode : {ArrangementMode::Horizontal, ArrangementMode::Tile})
+            QCOMPARE(range(mode, 0), QString("0,0 150x400"));
+        QCOMPARE(range(ArrangementMode::Horizontal, 1), QString("100,0 200x400"));
+        QCOMPARE(range(ArrangementMode::Horizontal, 2), QString("250,0 250x400"));
+    }
+
+    void findsMasters()
+    {
+        const QStringList two{"SubRegionOffsetY", "SubRegionHeight"};
+        const QStringList four
+            = two + QStringList{"SubRegionOffsetX", "SubRegionWidth", "Width", "Gain"};
+        QCOMPARE(masterRegion(1, "SubRegionHeight", two), 0);
+        QCOMPARE(masterRegion(1, "SubRegionWidth", two), -1);
+        QCOMPARE(masterRegion(0, "SubRegionHeight", two), -1);
+        QCOMPARE(masterRegion(3, "SubRegionHeight", two), 0);
+        QCOMPARE(masterRegion(3, "SubRegionHeight", four), 2);
+        QCOMPARE(masterRegion(3, "Width", four), 1);
+        QCOMPARE(masterRegion(3, "OffsetX", four), -1);
+        QCOMPARE(masterRegion(3, "Gain", four), 0);
+        QCOMPARE(masterRegion(5, "Width", four), 0);
+    }
+
+    void constrainsTables_data()
+    {
+        const DataTable row([](const QString& feature, int increment, const QPoint& expected) {
+            const ConstrainedRange range
+                = constrainedRange(feature, {10, 20, 1000, 800}, {12, 6, 300, 400}, increment);
+            QCOMPARE(QPoint(static_cast<int>(range.minimum), static_cast<int>(range.maximum)),
+                     expected);
+        });
+        row("x", "SubRegionOffsetX", 8, {10, 704});
+        row("x, older name", "OffsetX", 1, {10, 710});
+        row("width", "Width", 8, {-1, 992});
+        row("y", "SubRegionOffsetY", 0, {20, 420});
+        row("height", "SubRegionHeight", -1, {-1, 814});
+        row("other", "Gain", 8, {-1, -1});
+    }
+    void constrainsTables() { runRow(); }
+};
+
+QTEST_GUILESS_MAIN(RegionConversionTest)
+#include "RegionConversionTest.moc"

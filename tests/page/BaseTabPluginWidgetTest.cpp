@@ -1,0 +1,328 @@
+#include "page/BaseTabPluginWidget.h"
+#include "DataTable.h"
+#include "MessageHandlerGuard.h"
+#include "SimulatedCamera.h"
+#include "page/TENotSupported.h"
+
+#include <QComboBox>
+
+#include <functional>
+
+using sim::Failure;
+using sim::NotificationSettings;
+using sim::Operation;
+
+namespace {
+
+struct SmallCamera : sim::Camera
+{
+    explicit SmallCamera(const NotificationSettings& notifications, const QByteArray& vendor = {})
+        : Camera({sim::stringFeature("DeviceVendorName", vendor.toStdString()),
+                  sim::integerFeature("Width", 640), sim::integerFeature("Height", 480),
+                  sim::enumFeature("PixelFormat", {"Mono8", "Mono12"})})
+    {
+        setNotifications(notifications);
+    }
+    SmallCamera()
+        : SmallCamera(NotificationSettings::synchronous(), "Brontax Vision GmbH")
+    {
+    }
+    int observers() const { return int(observerCount()); }
+};
+
+/// Lists with holes have been seen.
+BaseTabPluginWidget::FeatureList withNullPointer(const BaseTabPluginWidget::FeatureList& features)
+{
+    features->insert(1, ZebCPP::FeaturePtr());
+    return features;
+}
+
+/// Observes Width and Height; a refresh records the names and may do more.
+class Page : public BaseTabPluginWidget
+{
+public:
+    explicit Page(const sim::Camera& camera, QWidget* parent = nullptr)
+        : BaseTabPluginWidget(withNullPointer(featureList(camera)), parent)
+    {
+        observedFeatures = QStringList{"Width", "Height"};
+    }
+
+    using BaseTabPluginWidget::changedFeatures;
+    using BaseTabPluginWidget::featureManager;
+    using BaseTabPluginWidget::isDarkMode;
+    using BaseTabPluginWidget::refreshTimer;
+    using BaseTabPluginWidget::resumeUpdates;
+    using BaseTabPluginWidget::suspendUpdates;
+
+    QList<QStringList> refreshes;
+    std::function<void()> duringRefresh;
+    int paletteChanges = 0;
+
+protected:
+    void refreshFeatures() override
+    {
+        refreshes.append(*changedFeatures);
+        if (duringRefresh)
+            duringRefresh();
+    }
+    void onPaletteChanged(QEvent*) override { ++paletteChanges; }
+};
+
+const char* const width = "Width";
+const char* const height = "Height";
+
+} // namespace
+
+class BaseTabPluginWidgetTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void refusesOtherVendors()
+    {
+        const auto codeFor = [](const QByteArray& vendor) {
+            const SmallCamera camera(NotificationSettings::off(), vendor);
+            QWidget parent;
+            try {
+                new Page(camera, &parent);
+                return qint32{0};
+            } catch (const TENotSupported& exception) {
+                const bool isPlain = parent.children().isEmpty()
+                    && exception.function() == "BaseTabPluginWidget::BaseTabPluginWidget";
+                return isPlain ? exception.code() : qint32{-1};
+            }
+        };
+        for (const char* vendor : {"Brontax", "BrontaxVision"})
+            QCOMPARE(codeFor(vendor), 0);
+        for (const char* vendor : {"brontax", "Other Brontax", ""})
+            QCOMPARE(codeFor(vendor), 4);
+    }
+
+    void gathersChangesOnceEach()
+    {
+        SmallCamera camera;
+        camera.setNotifications(NotificationSettings::asynchronous());
+        Page page(camera);
+        page.show();
+        QCOMPARE(page.refreshes.size(), 1); // at once, before any tick
+        page.updateTimer();
+        QCOMPARE(page.refreshes.last(), QStringList({width, height}));
+
+        for (int i = 0; i < 50; ++i)
+            camera.writeAsOtherClient("Height", 100 + i);
+        camera.writeAsOtherClient("PixelFormat", "Mono12"); // not observed
+        camera.flushNotifications();
+        QCoreApplication::processEvents();
+        page.updateTimer();
+        QCOMPARE(page.refreshes.last(), QStringList({height}));
+        QVERIFY(page.changedFeatures->isEmpty());
+        QTRY_COMPARE_WITH_TIMEOUT(page.refreshes.size(), 4, 1500); // the timer's own tick
+
+        camera.writeAsOtherClient("Width", 100);
+        camera.flushNotifications();
+        QCoreApplication::processEvents();
+        page.hide(); // discards what was gathered
+        QVERIFY(page.changedFeatures->isEmpty());
+        QVERIFY(!page.refreshTimer->isActive());
+        page.show();
+        QCOMPARE(page.refreshes.last(), QStringList());
+    }
+
+    /// A refresh that writes gets its own change back while the list is held; QtTest's own timeout
+    /// is the watchdog.
+    void neverBlocksOnNotifications()
+    {
+        auto busy = NotificationSettings::synchronous();
+        busy.onRegistration = true;
+        busy.lateAfterUnregistration = true;
+        busy.repeats = 20;
+        for (const auto& settings :
+             {NotificationSettings::off(), NotificationSettings::synchronous(),
+              NotificationSettings::asynchronous(), busy}) {
+            SmallCamera camera;
+            camera.setNotifications(settings);
+            Page page(camera);
+            page.duringRefresh
+                = [&page] { page.featureManager->SetValue(width, 700 + page.refreshes.size()); };
+            page.show();
+            page.updateTimer();
+            camera.flushNotifications();
+            QCoreApplication::processEvents();
+            const bool isTold = settings.mode != NotificationSettings::Mode::Off;
+            QCOMPARE(page.changedFeatures->contains(width), isTold);
+            page.updateTimer();
+            QCOMPARE(page.refreshes.last().contains(width), isTold);
+            page.hide();
+            camera.flushNotifications();
+            QCOMPARE(camera.observers(), 0);
+        }
+    }
+
+    void survivesNestedEventsDuringRefresh()
+    {
+        SmallCamera camera;
+        Page page(camera);
+        page.show();
+        page.duringRefresh = [&] {
+            page.updateTimer(); // a tick delivered by a nested event loop returns
+            page.hide();
+            page.show();
+            camera.writeAsOtherClient("Height", 100 + page.refreshes.size());
+        };
+        const int before = page.refreshes.size();
+        page.updateTimer();
+        QCOMPARE(page.refreshes.size(), before + 1);
+        QCOMPARE(*page.changedFeatures, QStringList({width, height})); // those of the show, too
+        QVERIFY(page.refreshTimer->isActive());
+        QCOMPARE(int(camera.observerCount("Height")), 1);
+    }
+
+    void leavesNoObserver()
+    {
+        SmallCamera camera;
+        QWidget window;
+        auto page = std::make_unique<Page>(camera, &window);
+        QCOMPARE(camera.observers(), 0);
+        window.show();
+        QCOMPARE(camera.observers(), 2);
+        window.hide();
+        QCOMPARE(camera.observers(), 0);
+        window.show();
+        page.reset(); // while visible: no hide event comes
+        QCOMPARE(camera.observers(), 0);
+
+        page = std::make_unique<Page>(camera);
+        page->registerObservers(true);
+        QCOMPARE(*page->changedFeatures, QStringList({width, height}));
+        page.reset();
+        QCOMPARE(camera.observers(), 0);
+    }
+
+    void leavesNoObserverOnAForgetfulCamera_data()
+    {
+        const DataTable row([](Operation operation, const Failure& failure, bool once) {
+            SmallCamera camera;
+            auto page = std::make_unique<Page>(camera);
+            page->show();
+            QCOMPARE(camera.observers(), 2);
+            camera.failures().add("*", operation, failure,
+                                  once ? sim::Occurrence::nth(1) : sim::Occurrence::always());
+            page->hide();
+            page.reset();
+            QCOMPARE(camera.observers(), 0);
+        });
+        const auto mangled = Failure::of(Failure::Kind::Unterminated);
+        const auto denied = Failure::of(Failure::Kind::Report);
+        row("names fail", Operation::GetName, Failure::refuse(), false);
+        row("names differ", Operation::GetName, mangled, false);
+        row("refuses once", Operation::UnregisterObserver, Failure::refuse(), true);
+        row("denies", Operation::UnregisterObserver, denied, false);
+    }
+    void leavesNoObserverOnAForgetfulCamera() { runRow(); }
+
+    void asksALostCameraNoMore()
+    {
+        constexpr std::chrono::milliseconds wait{150};
+        SmallCamera camera;
+        auto page = std::make_unique<Page>(camera);
+        auto* const inner = new Page(camera, page.get());
+        page->show();
+        const int refreshes = page->refreshes.size();
+        // A camera that fails quickly is asked on.
+        camera.failures().add("Width", Operation::GetValue, Failure::refuse(),
+                              sim::Occurrence{1, 9, 1.0, 0});
+        for (int i = 0; i < 10; ++i)
+            QCOMPARE(page->featureManager->GetValue(width), i < 9 ? -1.0 : 640.0);
+
+        camera.lose(wait);
+        camera.journal().clear();
+        page->featureManager->GetFeatureNames();
+        page->updateTimer();
+        inner->updateTimer();
+        page->hide();
+        page->show();
+        QCOMPARE(page->refreshes.size(), refreshes);
+        QCOMPARE(int(camera.journal().count()), 2);
+
+        camera.recover();
+        QTRY_COMPARE_WITH_TIMEOUT(page->refreshes.size(), refreshes + 1, 8000);
+        QVERIFY(page->refreshes.last().contains(width));
+        QVERIFY(camera.observerCount() > 0);
+        camera.lose(wait);
+        page->featureManager->GetFeatureNames();
+        camera.journal().clear();
+        page.reset();
+        QCOMPARE(int(camera.journal().count()), 0);
+    }
+
+    void suspends()
+    {
+        SmallCamera camera;
+        Page page(camera);
+        page.resumeUpdates(true); // one too many does nothing
+        QCOMPARE(camera.observers(), 0);
+        page.show();
+        page.updateTimer();
+
+        page.suspendUpdates();
+        page.suspendUpdates();
+        QCOMPARE(camera.observers(), 0);
+        page.OnFeatureChanged(width, QString());
+        const int before = page.refreshes.size();
+        page.updateTimer();
+        QCOMPARE(page.refreshes.size(), before);
+        QCOMPARE(*page.changedFeatures, QStringList({width}));
+        page.resumeUpdates(false);
+        QVERIFY(!page.refreshTimer->isActive());
+        page.resumeUpdates(false);
+        QVERIFY(page.refreshTimer->isActive());
+        QCOMPARE(camera.observers(), 2);
+        QCOMPARE(*page.changedFeatures, QStringList({width}));
+
+        page.suspendUpdates();
+        page.hide(); // ends the suspension
+        page.resumeUpdates(true);
+        QCOMPARE(camera.observers(), 0);
+        page.show();
+        QCOMPARE(camera.observers(), 2);
+    }
+
+    void fillsComboBoxes()
+    {
+        SmallCamera camera;
+        Page page(camera);
+        QComboBox comboBox;
+        QSignalSpy changed(&comboBox, &QComboBox::currentTextChanged);
+
+        QVERIFY(page.fillComboBox("PixelFormat", &comboBox, true));
+        QCOMPARE(comboBox.currentText(), QString("Mono8"));
+        QCOMPARE(comboBox.itemData(1, Qt::ToolTipRole).toString(), QString("Mono12"));
+        camera.failures().add("PixelFormat", Operation::GetValue, Failure::value("Odd"));
+        QVERIFY(!page.fillComboBox("PixelFormat", &comboBox, false));
+        QCOMPARE(comboBox.currentIndex(), -1);
+        QCOMPARE(comboBox.count(), 2);
+        QCOMPARE(changed.size(), 0);
+        QVERIFY(!comboBox.signalsBlocked());
+    }
+
+    void tellsPaletteChanges()
+    {
+        SmallCamera camera;
+        const QPalette light = QApplication::palette();
+        QPalette dark = light;
+        dark.setColor(QPalette::Window, QColor(30, 30, 30));
+        Page page(camera);
+
+        QApplication::setPalette(dark);
+        QVERIFY(page.paletteChanges > 0);
+        QVERIFY(Page::isDarkMode());
+        QApplication::setPalette(light);
+        QVERIFY(!Page::isDarkMode());
+    }
+
+private:
+    MessageHandlerGuard m_guard;
+};
+
+QTEST_MAIN(BaseTabPluginWidgetTest)
+#include "BaseTabPluginWidgetTest.moc"

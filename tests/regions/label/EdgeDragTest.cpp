@@ -1,0 +1,189 @@
+#include "DataTable.h"
+#include "regions/label/EdgeDrag.h"
+#include "regions/label/BandResize.h"
+
+namespace {
+
+// Four sensor pixels a label pixel; the band's last pixels are (299, 224).
+const LabelGeometry geometry{{400, 300}, {1600, 1200}, {400, 300}};
+const QRect band(100, 75, 200, 150);
+const SensorRegion region{300, 400, 800, 600};
+
+/// What a drag changes, as in "left top".
+EdgeGrab flags(const QString& text)
+{
+    return {text == "move", text.contains("left"), text.contains("right"), text.contains("top"),
+            text.contains("bottom")};
+}
+
+QString text(const EdgeGrab& f)
+{
+    QStringList words;
+    const bool held[]{f.moving, f.left, f.right, f.top, f.bottom};
+    const char* const names[]{"move", "left", "right", "top", "bottom"};
+    for (int i = 0; i < 5; ++i)
+        if (held[i])
+            words << names[i];
+    return words.join(' ');
+}
+
+} // namespace
+
+char* toString(const SensorRegion& r)
+{
+    const auto text
+        = QString("top %1 left %2 width %3 height %4").arg(r.top).arg(r.left).arg(r.width);
+    return qstrdup(qPrintable(text.arg(r.height)));
+}
+
+class EdgeDragTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void placesRegions_data()
+    {
+        const DataTable row([](const LabelGeometry& where, const QSize& displayed,
+                               const SensorRegion& value, const QRect& expected) {
+            QCOMPARE(displayedSize(where), displayed);
+            QCOMPARE(bandForRegion(value, where), expected);
+        });
+        row("high label", {{400, 900}, {1600, 1200}, {400, 300}}, {400, 300}, region, band);
+        row("wide label", {{900, 300}, {1600, 1200}, {400, 300}}, {400, 300}, region, band);
+        row("cut to the shown picture, half up", {{401, 300}, {1601, 1201}, {399, 299}}, {400, 300},
+            {2, 2, 1599, 1199}, {0, 0, 399, 299});
+        row("beyond the picture", geometry, {400, 300}, {0, 2000, 100, 100}, {500, 0, 0, 25});
+        row("no sensor", {{400, 300}, {-1, -1}, {}}, {0, 0}, region, {0, 0, 0, 0});
+        row("sliver", {{100, 100}, {1, 100000}, {1, 100}}, {0, 100}, region, {0, 0, 0, 0});
+    }
+    void placesRegions() { runRow(); }
+
+    void takesEdgesOnPress_data()
+    {
+        const DataTable row([](const QRect& at, const QPoint& pointer, const QString& expected) {
+            QCOMPARE(text(flagsForPress(at, pointer)), expected);
+        });
+        row("inside", band, {200, 150}, "move");
+        row("4 right of the right edge", band, {303, 150}, "right");
+        row("5 right of the right edge", band, {304, 150}, "");
+        row("4 left of the left edge", band, {96, 150}, "left");
+        row("5 left of the left edge", band, {95, 150}, "");
+        row("on the right edge's extension", band, {299, 10}, "right");
+        row("top right corner", band, {295, 79}, "right top");
+        row("bottom left corner", band, {104, 228}, "left bottom");
+        row("thin: right and top win", {50, 50, 3, 3}, {50, 50}, "right top");
+    }
+    void takesEdgesOnPress() { runRow(); }
+
+    void showsCursors_data()
+    {
+        const DataTable row([](const QPoint& pointer, Qt::CursorShape expected) {
+            QCOMPARE(cursorForHover(band, pointer, pointer), expected);
+            QCOMPARE(cursorForHover(band, QPoint(200, 150), QPoint(900, 150)), Qt::ArrowCursor);
+        });
+        row("before the right edge", {298, 150}, Qt::SizeHorCursor);
+        row("4 before it", {295, 150}, Qt::SizeHorCursor);
+        row("5 before it", {294, 150}, Qt::SizeAllCursor);
+        row("on it", {299, 150}, Qt::SizeAllCursor);
+        row("above the band", {298, 74}, Qt::SizeHorCursor);
+        row("top right", {298, 78}, Qt::SizeBDiagCursor);
+        row("bottom right", {298, 224}, Qt::SizeFDiagCursor);
+        row("left edge", {103, 79}, Qt::SizeHorCursor);
+        row("before the left edge", {99, 150}, Qt::ArrowCursor);
+        row("top left", {100, 75}, Qt::SizeFDiagCursor);
+        row("bottom left", {100, 230}, Qt::SizeBDiagCursor);
+        row("top", {200, 78}, Qt::SizeVerCursor);
+        row("bottom", {200, 220}, Qt::SizeVerCursor);
+        row("on the bottom edge", {200, 224}, Qt::SizeAllCursor);
+    }
+    void showsCursors() { runRow(); }
+
+    /// The row's name tells what is dragged.
+    void drags_data()
+    {
+        const DataTable row([](Qt::CursorShape cursor, const QPoint& pointer,
+                               const QRect& expectedBand, const SensorRegion& expected) {
+            const auto dragged = flags(QString(QTest::currentDataTag()).section(',', 0, 0));
+            const auto step
+                = dragBand({dragged, cursor, QPoint(10, 10), region}, band, pointer, geometry);
+            QCOMPARE(step.band, expectedBand);
+            QCOMPARE(step.region, expected);
+        });
+        const auto across = Qt::SizeHorCursor;
+        const auto upright = Qt::SizeVerCursor;
+        const auto falling = Qt::SizeFDiagCursor;
+        const auto rising = Qt::SizeBDiagCursor;
+        const auto all = Qt::SizeAllCursor;
+        row("right", across, {349, 9}, {100, 75, 250, 150}, {300, 400, 1000, 600});
+        row("right top", rising, {349, 50}, {100, 50, 250, 175}, {199, 400, 1000, 600});
+        row("right bottom", falling, {349, 249}, {100, 75, 250, 175}, {300, 400, 1000, 700});
+        row("left top", falling, {50, 40}, {50, 40, 250, 185}, {160, 200, 1000, 740});
+        row("left", across, {50, 9}, {50, 75, 250, 150}, {300, 200, 1000, 600});
+        row("left bottom", rising, {50, 249}, {50, 75, 250, 175}, {300, 200, 1000, 700});
+        row("left, without a hover", Qt::ArrowCursor, {50, 9}, band, region);
+        row("top, keeps the height", upright, {9, 40}, {100, 40, 200, 185}, {160, 400, 800, 600});
+        row("bottom", upright, {9, 249}, {100, 75, 200, 175}, {300, 400, 800, 700});
+        row("move", all, {120, 20}, {110, 10, 200, 150}, {40, 440, 800, 600});
+        row("move", all, {400, 300}, {200, 150, 200, 150}, {600, 800, 800, 600});
+        row("right, to the border", across, {400, 9}, {100, 75, 301, 150}, {300, 400, 1200, 600});
+        row("right, onto the other edge", across, {0, 9}, {100, 75, 1, 150}, {300, 400, 4, 600});
+        row("left, onto the other edge", across, {400, 9}, {299, 75, 1, 150}, {300, 1196, 4, 600});
+        row("top, onto the other edge", upright, {9, 300}, {100, 224, 200, 1},
+            {600, 400, 800, 600});
+    }
+    void drags() { runRow(); }
+
+    void releases_data()
+    {
+        const DataTable row(
+            [](const QRect& at, const QPoint& pointer, const SensorRegion& expected) {
+                const auto dragged = flags(QString(QTest::currentDataTag()).section(',', 0, 0));
+                const LabelGeometry wideLabel{{500, 300}, geometry.sensor, geometry.shown};
+                QCOMPARE(regionForRelease({dragged, Qt::ArrowCursor, {}, region}, at, pointer,
+                                          wideLabel),
+                         expected);
+            });
+        row("right", {100, 75, 250, 150}, {349, 0}, {300, 400, 1000, 600});
+        row("right, out of the label", {100, 75, 301, 150}, {500, 0}, {300, 400, 1200, 600});
+        row("top, sets the height", {100, 40, 200, 185}, {0, 40}, {160, 400, 800, 740});
+        row("bottom, out of the label", {100, 75, 200, 226}, {0, 300}, {300, 400, 800, 900});
+        row("left, out of the picture", {299, 75, 1, 150}, {450, 0}, {300, 1196, 4, 600});
+        row("left, out of the label", {299, 75, 1, 150}, {500, 0}, {300, 1196, 404, 600});
+        row("right bottom, clamped", {100, 75, 301, 226}, {399, 299}, {300, 400, 1200, 900});
+        row("move", {110, 10, 200, 150}, {999, 999}, {40, 440, 800, 600});
+    }
+    void releases() { runRow(); }
+
+    /// 150 of 300 label pixels stand for 501 of 1000 sensor pixels.
+    void moveEndsOnTheSensor()
+    {
+        const LabelGeometry where{{300, 225}, {1000, 750}, {300, 225}};
+        const EdgeDrag state{flags("move"), Qt::SizeAllCursor, {}, {0, 0, 501, 376}};
+        const QRect start = bandForRegion(state.region, where);
+        const EdgeDragStep step = dragBand(state, start, {300, 225}, where);
+        const SensorRegion expected{373, 499, 501, 376};
+        QCOMPARE(step.region, expected);
+        QCOMPARE(regionForRelease(state, step.band, {300, 225}, where), expected);
+    }
+
+    void resizes_data()
+    {
+        const DataTable row([](const QRect& before, const QSize& oldSize, const QSize& newSize,
+                               const QRect& expected) {
+            const QSize displayed = displayedSize({newSize, geometry.sensor, newSize});
+            QCOMPARE(bandForResize(before, newSize, oldSize, displayed), expected);
+        });
+        const QSize small(380, 285);
+        const QSize large(400, 300);
+        row("scaled", {50, 30, 60, 40}, small, large, {53, 32, 63, 42});
+        row("full stays full", {0, 0, 380, 285}, small, large, {0, 0, 400, 300});
+        row("full in width only", {0, 0, 350, 264}, small, large, {0, 0, 400, 278});
+        row("cut behind the old left", {300, 30, 79, 40}, small, large, {316, 32, 83, 42});
+        row("wider margin", {50, 30, 60, 40}, {500, 300}, {520, 300}, {50, 30, 60, 40});
+    }
+    void resizes() { runRow(); }
+};
+
+QTEST_APPLESS_MAIN(EdgeDragTest)
+
+#include "EdgeDragTest.moc"

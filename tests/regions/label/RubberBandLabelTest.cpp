@@ -1,0 +1,243 @@
+#include "regions/label/RubberBandLabel.h"
+#include "DataTable.h"
+#include "TestEvents.h"
+
+#include <QRubberBand>
+#include <limits>
+#include <memory>
+
+using Act = std::function<void(RubberBandLabel&)>;
+
+namespace {
+
+QString text(const SensorRegion& r)
+{
+    return QString("%1 %2 %3 %4").arg(r.top).arg(r.left).arg(r.width).arg(r.height);
+}
+
+} // namespace
+
+class RubberBandLabelTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    /// Four sensor pixels a label pixel, the band at (100, 75) of size 200 x 150.
+    void init()
+    {
+        m_label = std::make_unique<RubberBandLabel>(1600, 1200, QColor(0, 100, 255), nullptr);
+        m_band = m_label->findChild<QRubberBand*>();
+        m_label->resize(400, 300);
+        m_label->setRegion(300, 400, 800, 600);
+        m_label->show();
+        QVERIFY(QTest::qWaitForWindowActive(m_label.get()));
+        m_events.clear();
+        const auto note = [this](const char* name) {
+            return [this, name](int top, int left, int width, int height) {
+                m_events << name + QString(" ") + text({top, left, width, height});
+            };
+        };
+        const RubberBandLabel* label = m_label.get();
+        connect(label, &RubberBandLabel::UpdateGeometry, this, note("update"));
+        connect(label, &RubberBandLabel::SendGeometry, this, note("send"));
+        connect(label, &RubberBandLabel::GeometryChangeStarted, this,
+                [this] { m_events << "started"; });
+        connect(label, &RubberBandLabel::clicked, this, [this] { m_events << "clicked"; });
+        connect(label, &RubberBandLabel::GeometryChangeAborted, this,
+                [this] { m_events << "aborted"; });
+    }
+
+    void cleanup() { m_label.reset(); }
+
+    void clicksAndDrags()
+    {
+        drag(m_label.get(), {20, 20}, {60, 60}); // outside
+        QCOMPARE(takeEvents(), QString("clicked"));
+        drag(m_label.get(), {298, 150}, {400, 150});
+        QCOMPARE(takeEvents(),
+                 QString("started, clicked, update 300 400 1200 600, send 300 400 1200 600"));
+        QCOMPARE(text(m_label->region()), QString("300 400 1200 600"));
+        press(m_label.get(), {200, 150});
+        sendMouse(m_label.get(), QEvent::MouseButtonPress, {20, 20}); // a second one
+        QVERIFY(m_label->isDragging());
+        release(m_label.get(), {210, 160});
+        QCOMPARE(takeEvents(), QString("started, clicked, clicked, send 300 400 1200 600"));
+        QVERIFY(!m_label->isDragging());
+    }
+
+    void dropsDrags_data()
+    {
+        const DataTable row([this](const Act& act) {
+            press(m_label.get(), {200, 150});
+            sendMouse(m_label.get(), QEvent::MouseMove, {220, 150});
+            QCOMPARE(m_band->geometry(), QRect(120, 75, 200, 150));
+            act(*m_label);
+            QCoreApplication::processEvents();
+            QCOMPARE(takeEvents(), QString("started, clicked, update 300 480 800 600, aborted"));
+            QVERIFY(!m_label->isDragging());
+            if (m_label->sensorSize().isValid())
+                QCOMPARE(m_band->geometry(), QRect(100, 75, 200, 150));
+            release(m_label.get(), {220, 150});
+            QCOMPARE(takeEvents(), QString());
+        });
+        row("disabled", [](auto& label) { label.setEnabled(false); });
+        row("hidden", [](auto& label) { label.hide(); });
+        row("sensor lost", [](auto& label) { label.setSensorSize(-1, -1); });
+        row("window", [](auto& label) {
+            QEvent event(QEvent::WindowDeactivate);
+            QApplication::sendEvent(&label, &event);
+        });
+        row("missed release", [](auto& label) {
+            QTest::mouseMove(label.windowHandle(), {230, 150});
+        });
+    }
+    void dropsDrags() { runRow(); }
+
+    void regionsWaitForTheDrag()
+    {
+        press(m_label.get(), {200, 150});
+        m_label->setRegion(0, 0, 400, 400);
+        QCOMPARE(m_band->geometry(), QRect(100, 75, 200, 150));
+        m_label->setEnabled(false);
+        QCOMPARE(m_band->geometry(), QRect(0, 0, 100, 100));
+        m_label->setEnabled(true);
+
+        press(m_label.get(), {50, 50});
+        m_label->setRegion(300, 400, 800, 600);
+        release(m_label.get(), {50, 50});
+        QCOMPARE(m_events.last(), QString("send 0 0 400 400"));
+        press(m_label.get(), {50, 50});
+        m_label->setEnabled(false);
+        QVERIFY((m_label->region() == SensorRegion{0, 0, 400, 400}));
+    }
+
+    void settlesAfterAResize()
+    {
+        m_label->resize(300, 225);
+        QVERIFY(m_band->geometry() != QRect(75, 56, 150, 113));
+        QTRY_COMPARE_WITH_TIMEOUT(m_band->geometry(), QRect(75, 56, 150, 113), 400);
+        QCOMPARE(m_label->pixmap(Qt::ReturnByValue).size(), QSize(300, 225));
+    }
+
+    /// A layout or a window may resize the label while the mouse holds the band.
+    void keepsTheHeldRegionOnAResize_data()
+    {
+        const DataTable row(
+            [this](const QPoint& from, const QPoint& to, const SensorRegion& expected) {
+                press(m_label.get(), from);
+                sendMouse(m_label.get(), QEvent::MouseMove, to);
+                for (const QSize& size : {QSize(200, 150), QSize(333, 100), QSize(100, 75)}) {
+                    m_label->resize(size);
+                    const LabelGeometry where{
+                        size, {1600, 1200}, m_label->pixmap(Qt::ReturnByValue).size()};
+                    QCOMPARE(m_band->geometry(), atLeastOnePixel(bandForRegion(expected, where)));
+                }
+                if (from == QPoint(200, 150)) // the mouse holds the band where it did
+                    sendMouse(m_label.get(), QEvent::MouseMove, to / 4);
+                m_label->resize(400, 300);
+                release(m_label.get(), {390, 10});
+                QCOMPARE(text(m_label->region()), text(expected));
+            });
+        row("move", {200, 150}, {220, 175}, {400, 480, 800, 600});
+        row("left onto right", {100, 150}, {380, 150}, {300, 1196, 4, 600});
+        row("top, whose height waits for the release", {200, 76}, {200, 100}, {400, 400, 800, 500});
+    }
+    void keepsTheHeldRegionOnAResize() { runRow(); }
+
+    void placesAbsurdRegions()
+    {
+        constexpr int least = std::numeric_limits<int>::min();
+        constexpr int most = std::numeric_limits<int>::max();
+        m_label->setRegion(least, least, most, most);
+        QCOMPARE(text(m_label->region()), text({least, 0, most, most}));
+        QCOMPARE(m_band->geometry(), QRect(0, 0, 400, 300));
+        drag(m_label.get(), {200, 150}, {210, 160});
+        QCOMPARE(m_events.last(), QString("send 0 0 %1 %1").arg(most));
+        m_label->setRegion(-1, 400, 800, 600);
+        QCOMPARE(m_band->geometry(), QRect(100, 0, 200, 150));
+        m_label->hide();
+        m_label->show();
+        QCOMPARE(m_band->geometry(), QRect(0, 0, 400, 299));
+        m_label->setRegion(most, most, 0, 0);
+        constexpr int distant = 1'000'000'000; // Qt itself rounds no pointer beyond
+        drag(m_label.get(), {distant, -distant}, {-distant, distant});
+        QCOMPARE(m_events.last(), QString("clicked"));
+    }
+
+    void withoutARegionFillsTheWidth()
+    {
+        RubberBandLabel label(1600, 1200, Qt::red, nullptr);
+        label.resize(402, 300);
+        label.show();
+        QCOMPARE(label.findChild<QRubberBand*>()->geometry(), QRect(0, 0, 402, 300));
+        QTest::qWait(250);
+        QCOMPARE(label.findChild<QRubberBand*>()->geometry(), QRect(0, 0, 402, 300));
+        QSignalSpy sent(&label, &RubberBandLabel::SendGeometry);
+        press(&label, {401, 150});
+        release(&label, {402, 150});
+        QCOMPARE(sent.value(0), (QVariantList{0, 0, 1600, 1200}));
+
+        RubberBandLabel tiny(std::numeric_limits<int>::max(), 1200, Qt::red, nullptr);
+        tiny.show();
+        QCOMPARE(tiny.findChild<QRubberBand*>()->width(), tiny.width());
+    }
+
+    void survivesMissingSizes()
+    {
+        RubberBandLabel label(-1, 0, Qt::red, nullptr);
+        label.show();
+        label.setRegion(0, 0, 10, 10);
+        drag(&label, {10, 10}, {20, 20});
+        label.showBackground(std::make_shared<QPixmap>(8, 8), QSize(-1, -1), QRect());
+        label.setFixedSize(0, 0);
+        QTest::qWait(250);
+        QVERIFY(!label.isDragging());
+        label.setSensorSize(1600, 1200);
+        label.setRegion(300, 400, 800, 600);
+        QVERIFY((label.region() == SensorRegion{300, 400, 800, 600}));
+    }
+
+    void showsABackgroundOfTheShownSize()
+    {
+        auto image = std::make_shared<QPixmap>(1600, 1200);
+        image->fill(Qt::green);
+        QApplication::setOverrideCursor(Qt::WaitCursor);
+        m_label->showBackground(image, {1600, 1200}, {});
+        QVERIFY(!QApplication::overrideCursor());
+        const auto shown = [this] { return m_label->pixmap(Qt::ReturnByValue).toImage(); };
+        QCOMPARE(shown().size(), QSize(400, 300));
+        QCOMPARE(shown().pixelColor(200, 150), QColor(Qt::green));
+        m_label->showBackground(nullptr, {1600, 1200}, {});
+        const bool opaque = needsOpaquePlaceholder(QOperatingSystemVersion::current());
+        QCOMPARE(shown().pixelColor(200, 150).alpha(), opaque ? 255 : 185);
+
+        m_label->hide();
+        m_label->showBackground(image, {1600, 1200}, {});
+        QVERIFY(shown().pixelColor(200, 150) != QColor(Qt::green));
+        m_label->show();
+        QCOMPARE(shown().pixelColor(200, 150), QColor(Qt::green));
+    }
+
+    /// A picture keeps the whole pixels of the size at which it was chosen.
+    void endsItsBandWithThePicture()
+    {
+        m_label->setMinimumSize(1, 1);
+        m_label->resize(40, 29);
+        m_label->showBackground(std::make_shared<QPixmap>(1600, 1200), {1600, 1200}, {});
+        m_label->resize(400, 300);
+        m_label->setRegion(0, 0, 1600, 1200);
+        QCOMPARE(m_label->pixmap(Qt::ReturnByValue).size(), QSize(393, 300));
+        QCOMPARE(m_band->geometry(), QRect(0, 0, 393, 300));
+    }
+
+private:
+    QString takeEvents() { return std::exchange(m_events, {}).join(", "); }
+
+    std::unique_ptr<RubberBandLabel> m_label;
+    QRubberBand* m_band = nullptr;
+    QStringList m_events;
+};
+
+QTEST_MAIN(RubberBandLabelTest)
+
+#include "RubberBandLabelTest.moc"

@@ -1,0 +1,157 @@
+#include "sensor/SensorBackground.h"
+#include "DataTable.h"
+#include "Pictures.h"
+#include "multiregion/label/MultiRubberBandLabel.h"
+#include "regions/label/RubberBandLabel.h"
+
+#include <QBitmap>
+#include <QPainter>
+
+#include <array>
+
+namespace {
+
+/// Stripes and a gradient, so that a shift or a wrong scale shows.
+QPixmap picture(const QSize& size, double devicePixelRatio = 1.0)
+{
+    QImage image(size, QImage::Format_RGB32);
+    for (int y = 0; y < size.height(); ++y)
+        for (int x = 0; x < size.width(); ++x)
+            image.setPixel(
+                x, y,
+                qRgb(x * 255 / size.width(), y * 255 / size.height(), (x / 16) % 2 ? 200 : 0));
+    QPixmap pixmap = QPixmap::fromImage(image);
+    pixmap.setDevicePixelRatio(devicePixelRatio);
+    return pixmap;
+}
+
+/// The plain way, by full-size copies.
+QPixmap composedByCopies(QPixmap image, const QSize& sensor, const QRect& crop, const QSize& target)
+{
+    image.setDevicePixelRatio(1.0);
+    QPixmap area(sensor);
+    area.fill(Qt::black);
+    QPainter(&area).drawPixmap(0, 0, image);
+    if (!crop.isEmpty())
+        area = area.copy(crop);
+    QPixmap result(target);
+    result.fill(Qt::black);
+    QPainter(&result).drawPixmap(
+        0, 0, area.scaled(target, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+    return result;
+}
+
+} // namespace
+
+class SensorBackgroundTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void composesAsByCopies_data()
+    {
+        const DataTable row(
+            [](const QSize& imageSize, double ratio, const QRect& crop, const QSize& target) {
+                const QSize sensor(640, 480);
+                const QPixmap image = picture(imageSize, ratio);
+                const QPixmap composed = composeBackground(image, sensor, crop, target);
+                QCOMPARE(composed.size(), target);
+                const int difference = largestDifference(
+                    composed.toImage(), composedByCopies(image, sensor, crop, target).toImage());
+                // Only then are the margins averaged from less than all pixels.
+                const bool isApproximate = imageSize.width() < 640 && target.width() * 4 < 640;
+                QVERIFY2(difference <= (isApproximate ? 16 : 0),
+                         qPrintable(QString::number(difference)));
+            });
+        const QSize sensor(640, 480);
+        row("fits", sensor, 1.0, {}, {200, 150});
+        row("device pixel ratio", sensor, 2.0, {}, {200, 150});
+        row("cut", {900, 700}, 1.0, {}, {200, 150});
+        row("black margins", {320, 240}, 1.0, {}, {160, 120});
+        row("margins within pixels", {331, 247}, 1.0, {}, {171, 128});
+        row("margins within pixels of a large sensor", {331, 247}, 1.0, {}, {50, 38});
+        row("margins within pixels, enlarged", {331, 247}, 1.0, {300, 200, 55, 67}, {200, 150});
+        row("crop", sensor, 1.0, {160, 80, 320, 240}, {200, 150});
+        row("crop beyond the sensor", sensor, 1.0, {320, 240, 640, 480}, {160, 120});
+        row("crop of another aspect ratio", sensor, 1.0, {0, 0, 480, 120}, {160, 120});
+        row("enlarged", sensor, 1.0, {0, 0, 64, 48}, {640, 480});
+    }
+    void composesAsByCopies() { runRow(); }
+
+    void placeholderIsAPlainTint()
+    {
+        const QColor tint = placeholderTint(QColor(0, 100, 255));
+        QCOMPARE(tint.rgba(), qRgba(0x60, 0x7a, 0xa0, 185));
+        // The plain way: a masked pixmap of the sensor's size, scaled.
+        QPixmap full(640, 481);
+        full.fill(tint);
+        full.setMask(full.createMaskFromColor(Qt::transparent));
+
+        SensorBackground background;
+        background.setPlaceholder(tint, full.size());
+        for (const QSize& bounds : {QSize(300, 150), QSize(100, 399), QSize(2000, 1)}) {
+            const QPixmap plain
+                = full.scaled(bounds, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+            QCOMPARE(background.fitted(bounds).toImage(), plain.toImage());
+        }
+        background.setPlaceholder(tint, {14192, 10640});
+        QCOMPARE(background.beforeLayout().size(), QSize(2048, 1535));
+    }
+
+    void nothingWithoutASensor()
+    {
+        SensorBackground background;
+        background.setPlaceholder(Qt::red, {-1, -1});
+        QVERIFY(background.beforeLayout().isNull());
+        QVERIFY(composeBackground(picture({8, 8}), {}, {}, {}).isNull());
+        QCOMPARE(composeBackground({}, {8, 8}, {}, {8, 8}).toImage().pixelColor(4, 4),
+                 QColor(Qt::black));
+    }
+
+    void labelsHideOnlyWhatTheyPaint_data()
+    {
+        using Change = std::function<void(QLabel*)>;
+        const DataTable row([](const Change& change, bool hides) {
+            const QSize sensor(640, 480);
+            RubberBandLabel one(sensor.width(), sensor.height(), Qt::blue, nullptr);
+            MultiRubberBandLabel several(sensor.width(), sensor.height(), Qt::blue, "Free",
+                                         nullptr);
+            const std::array<QLabel*, 2> labels{&one, &several};
+            for (QLabel* const label : labels) {
+                label->resize(200, 150);
+                label->show();
+                QVERIFY(!label->testAttribute(Qt::WA_OpaquePaintEvent)); // it is translucent still
+            }
+            QApplication::setOverrideCursor(Qt::WaitCursor); // which the label takes back
+            one.showBackground(std::make_shared<QPixmap>(picture(sensor)), sensor, {});
+            several.setBackgroundImage(std::make_shared<QPixmap>(picture(sensor)), sensor, {});
+            for (QLabel* const label : labels) {
+                change(label);
+                QCOMPARE(label->testAttribute(Qt::WA_OpaquePaintEvent), hides);
+            }
+        });
+        row(
+            "as it is", [](QLabel*) {}, true);
+        row(
+            "resized", [](QLabel* label) { label->resize(400, 300); }, true);
+        row(
+            "wider than the picture", [](QLabel* label) { label->resize(300, 150); }, false);
+        row(
+            "disabled", [](QLabel* label) { label->setEnabled(false); }, false);
+        row(
+            "margins", [](QLabel* label) { label->setContentsMargins(0, 9, 0, 0); }, false);
+    }
+    void labelsHideOnlyWhatTheyPaint() { runRow(); }
+
+    void knowsOldWindows()
+    {
+        using System = QOperatingSystemVersion;
+        QVERIFY(needsOpaquePlaceholder(System(System::Windows, 6, 1, 7601)));
+        QVERIFY(!needsOpaquePlaceholder(System(System::Windows, 6, 2)));
+        QVERIFY(!needsOpaquePlaceholder(System(System::Android, 6, 1)));
+    }
+};
+
+QTEST_MAIN(SensorBackgroundTest)
+
+#include "SensorBackgroundTest.moc"
