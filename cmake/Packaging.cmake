@@ -1,7 +1,9 @@
 # What a package holds, and its name: a .zip for Windows, a .tar.gz for Linux. scripts/package writes both.
 install(TARGETS tabextensionimgfmt LIBRARY DESTINATION plugins)
 install(DIRECTORY ${CMAKE_BINARY_DIR}/qm DESTINATION . FILES_MATCHING PATTERN *.qm)
-install(FILES ${PROJECT_SOURCE_DIR}/src/plugin/TabExtensionInterface.h DESTINATION include)
+install(FILES ${PROJECT_SOURCE_DIR}/src/host/TabExtensionInterface.h
+              ${PROJECT_SOURCE_DIR}/src/host/ZebViewerLogCategory.h
+        DESTINATION include)
 if(TARGET viewer)
     install(TARGETS viewer RUNTIME DESTINATION .)
     install(DIRECTORY ${PROJECT_SOURCE_DIR}/sdk/ZebCPP DESTINATION include)

@@ -1,8 +1,8 @@
 #include "featuretable/FeatureItemDelegate.h"
 
-#include "featuretable/record/CellText.h"
 #include "featuretable/editors/DelegateWidget.h"
 #include "featuretable/editors/DelegateWidgetFactory.h"
+#include "featuretable/record/CellText.h"
 
 #include <QComboBox>
 #include <QDebug>

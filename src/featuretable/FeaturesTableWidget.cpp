@@ -1,12 +1,12 @@
 #include "featuretable/FeaturesTableWidget.h"
 
-#include "featuretable/record/FeatureFilter.h"
-#include "featuretable/record/FeatureInfoReading.h"
+#include "features/FeatureManager.h"
 #include "featuretable/FeatureItemDelegate.h"
 #include "featuretable/FeatureNameDelegate.h"
 #include "featuretable/FeatureValueItem.h"
 #include "featuretable/MyTableWidget.h"
-#include "features/FeatureManager.h"
+#include "featuretable/record/FeatureFilter.h"
+#include "featuretable/record/FeatureInfoReading.h"
 
 #include <QBrush>
 #include <QDebug>

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ZebViewerLogCategory.h" // beside this header, wherever a viewer keeps the two
+
 #include <ZebCPP/ZebCPP.h>
 
 #include <QMap>
@@ -16,14 +18,6 @@
 
 class QWidget;
 
-/// Log categories of the viewer; first argument of every page's loggingMessage() signal.
-enum ZebViewerLogCategory : int {
-    ZebViewerLogGeneral = 0,
-    ZebViewerLogFeatureAccess = 1,
-    ZebViewerLogMultiRegion = 2,
-};
-
-Q_DECLARE_METATYPE(ZebViewerLogCategory)
 Q_DECLARE_METATYPE(std::shared_ptr<QPixmap>)
 
 /// The viewer's interface to the root object of a tab extension plug-in.

@@ -1,8 +1,8 @@
 #include "imageformat/ImageFormatWidget.h"
 
+#include "features/FeatureNames.h"
 #include "features/NumberConversion.h"
 #include "imageformat/FeatureBinding.h"
-#include "features/FeatureNames.h"
 #include "imageformat/ImageReaderWidget.h"
 #include "multiregion/MultiROIWidget.h"
 #include "page/TENotSupported.h"
@@ -18,7 +18,7 @@
 #include <QSignalBlocker>
 #include <QSpinBox>
 
-using namespace FeatureNames;
+namespace Name = FeatureNames;
 
 // The icons sit in a static library, from which the linker takes them only when asked.
 static void initializeImages()
@@ -42,8 +42,7 @@ void showRange(QSpinBox* spinBox, FeatureManager& manager, const QString& featur
 ImageFormatWidget::ImageFormatWidget(const FeatureList& camera, QWidget* parent)
     : BaseTabPluginWidget(camera, parent)
 {
-    if (!featureManager->HasFeature(QStringLiteral("Height"))
-        || !featureManager->HasFeature(QStringLiteral("Width"))) {
+    if (!featureManager->HasFeature(Name::height) || !featureManager->HasFeature(Name::width)) {
         // The text does not describe the test; viewers and their users know it as it is.
         throw TENotSupported(
             QStringLiteral("ImageFormatWidget::ImageFormatWidget"),
@@ -71,11 +70,11 @@ ImageFormatWidget::ImageFormatWidget(const FeatureList& camera, QWidget* parent)
     bindSpinBoxes();
     bindCheckBoxes();
     updateIcon();
-    if (!featureManager->HasFeature(reverseX))
+    if (!featureManager->HasFeature(Name::reverseX))
         disableMissing(m_ui->chkReverseX, tr("Feature 'ReverseX' is not available in the camera."));
-    if (!featureManager->HasFeature(reverseY))
+    if (!featureManager->HasFeature(Name::reverseY))
         disableMissing(m_ui->chkReverseY, tr("Feature 'ReverseY' is not available in the camera."));
-    if (!featureManager->HasFeature(QStringLiteral("BinningSelector")))
+    if (!featureManager->HasFeature(Name::binningSelector))
         disableMissing(m_ui->cmbBinningSelector,
                        tr("Feature 'BinningSelector' is not available in the camera."));
 }
@@ -244,7 +243,7 @@ void ImageFormatWidget::OnChangeSpinbox(int value)
         const QSignalBlocker blocker(spinBox);
         spinBox->setValue(toInt(featureManager->SetValue(featureName, value)));
     }
-    if (featureName == binningHorizontal || featureName == binningVertical)
+    if (featureName == Name::binningHorizontal || featureName == Name::binningVertical)
         resetImageSource();
 }
 
@@ -271,7 +270,7 @@ void ImageFormatWidget::OnChangeCheckbox(int state)
         const bool isSet = featureManager->SetValue(featureName, state) != 0.0;
         checkBox->setCheckState(isSet ? Qt::Checked : Qt::Unchecked);
     }
-    if (featureName == reverseX || featureName == reverseY)
+    if (featureName == Name::reverseX || featureName == Name::reverseY)
         resetImageSource();
 }
 

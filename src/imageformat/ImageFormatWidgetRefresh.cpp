@@ -2,9 +2,9 @@
 
 #include "imageformat/ImageFormatWidget.h"
 
+#include "features/FeatureNames.h"
 #include "features/NumberConversion.h"
 #include "imageformat/FeatureBinding.h"
-#include "features/FeatureNames.h"
 #include "ui_ImageFormatWidget.h"
 
 #include <QCheckBox>
@@ -17,15 +17,15 @@
 #include <functional>
 #include <limits>
 
-using namespace FeatureNames;
+namespace Name = FeatureNames;
 
 namespace {
 
 // A stored background image no longer matches the sensor once one of these changed.
 bool changesGeometry(const QString& featureName)
 {
-    return featureName == binningHorizontal || featureName == binningVertical
-        || featureName == reverseX || featureName == reverseY;
+    return featureName == Name::binningHorizontal || featureName == Name::binningVertical
+        || featureName == Name::reverseX || featureName == Name::reverseY;
 }
 
 bool hasExactClass(const QWidget* widget, const char* className)
@@ -70,9 +70,10 @@ bool ImageFormatWidget::showsCameraGeometry() const
             && featureManager->GetValue(featureName) != 0.0;
         return isSet == checkBox->isChecked();
     };
-    return showsNumber(binningHorizontal, m_ui->spbBinningHorizontal)
-        && showsNumber(binningVertical, m_ui->spbBinningVertical)
-        && showsFlag(reverseX, m_ui->chkReverseX) && showsFlag(reverseY, m_ui->chkReverseY);
+    return showsNumber(Name::binningHorizontal, m_ui->spbBinningHorizontal)
+        && showsNumber(Name::binningVertical, m_ui->spbBinningVertical)
+        && showsFlag(Name::reverseX, m_ui->chkReverseX)
+        && showsFlag(Name::reverseY, m_ui->chkReverseY);
 }
 
 void ImageFormatWidget::refreshFeatures()

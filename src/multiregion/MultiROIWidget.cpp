@@ -1,9 +1,9 @@
 #include "multiregion/MultiROIWidget.h"
 
 #include "features/FeatureNames.h"
-#include "multiregion/label/MultiRubberBandLabel.h"
 #include "multiregion/RegionLabelWidget.h"
 #include "multiregion/RegionTableWidget.h"
+#include "multiregion/label/MultiRubberBandLabel.h"
 #include "ui_MultiROIWidget.h"
 
 #include <mutex>
@@ -77,7 +77,7 @@ void MultiROIWidget::onArrangementModeChanged(int index)
 {
     if (!m_ui || index < 0)
         return;
-    featureManager->SetStringValue(Name::arrangement,
+    featureManager->SetStringValue(Name::multipleRegionArrangement,
                                    m_ui->cmbMultipleRegionArrangement->itemText(index));
     refreshArrangement();
 }
@@ -225,7 +225,8 @@ void MultiROIWidget::onPaletteChanged(QEvent*) { }
 
 void MultiROIWidget::onEnableToggled(bool enabled)
 {
-    featureManager->SetValue(Name::enable, Name::otherEnable, enabled ? 1.0 : 0.0);
+    featureManager->SetValue(Name::multipleRegionEnable, Name::multipleRegionsEnable,
+                             enabled ? 1.0 : 0.0);
     m_enabled.reset(); // a refused switch is told too
     refreshSwitch();
 }

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "multiregion/rules/ArrangementMode.h"
 #include "multiregion/ModeWatch.h"
 #include "multiregion/RegionCamera.h"
+#include "multiregion/rules/ArrangementMode.h"
 #include "page/BaseTabPluginWidget.h"
 
 #include <QColor>

@@ -2,9 +2,9 @@
 
 #include "multiregion/MultiROIWidget.h"
 
+#include "multiregion/label/MultiRubberBandLabel.h"
 #include "multiregion/rules/ArrangementQuestions.h"
 #include "multiregion/rules/DefaultLayouts.h"
-#include "multiregion/label/MultiRubberBandLabel.h"
 #include "multiregion/rules/RegionButtonRules.h"
 #include "multiregion/rules/RegionPlacement.h"
 #include "ui_MultiROIWidget.h"

@@ -3,8 +3,8 @@
 #include "multiregion/MultiROIWidget.h"
 
 #include "features/FeatureNames.h"
-#include "multiregion/label/MultiRubberBandLabel.h"
 #include "multiregion/RegionTableWidget.h"
+#include "multiregion/label/MultiRubberBandLabel.h"
 #include "ui_MultiROIWidget.h"
 
 #include <QSignalBlocker>
@@ -85,23 +85,23 @@ void MultiROIWidget::refreshAll()
 
 void MultiROIWidget::refreshNames(const QStringList& names)
 {
-    if (intersects(names, Name::switchNames))
+    if (intersects(names, Name::multipleRegionSwitches))
         refreshSwitch();
-    if (names.contains(Name::arrangement))
+    if (names.contains(Name::multipleRegionArrangement))
         refreshArrangement();
-    if (intersects(names, Name::compatibilityNames))
+    if (intersects(names, Name::pictureGeometry))
         testCompatibility();
-    if (names.contains(Name::selector))
+    if (names.contains(Name::subRegionSelector))
         followSelector();
     refreshTable(names);
     // The camera may notify of what did not change, also because all regions are read.
-    if (intersects(names, Name::sensorNames) && m_regions.sensorSize() != m_sensorSize) {
+    if (intersects(names, Name::sizeLimits) && m_regions.sensorSize() != m_sensorSize) {
         updateDragArea();
         refreshAllRegions();
         return;
     }
-    if (intersects(names, Name::regionNames))
-        refreshSelectedRegion(names.contains(Name::regionMode));
+    if (intersects(names, Name::subRegion))
+        refreshSelectedRegion(names.contains(Name::subRegionMode));
     if (m_modeReports.isLookDue(isVisible()))
         lookForSwitchedRegions();
 }
@@ -109,7 +109,8 @@ void MultiROIWidget::refreshNames(const QStringList& names)
 /// What the table shows beside its region's own features.
 void MultiROIWidget::refreshTable(const QStringList& names)
 {
-    QStringList common = Name::switchNames + QStringList{Name::arrangement};
+    QStringList common
+        = Name::multipleRegionSwitches + QStringList{Name::multipleRegionArrangement};
     common.erase(std::remove_if(common.begin(), common.end(),
                                 [&names](const QString& name) { return !names.contains(name); }),
                  common.end());
@@ -120,7 +121,7 @@ void MultiROIWidget::refreshTable(const QStringList& names)
 
 void MultiROIWidget::noteMode(const QString& name)
 {
-    if (name == Name::regionMode && isVisible())
+    if (name == Name::subRegionMode && isVisible())
         m_modeReports.note();
 }
 
@@ -160,14 +161,15 @@ void MultiROIWidget::followSelector()
 
 void MultiROIWidget::refreshSwitch()
 {
-    const bool isEnabled = featureManager->GetValue(Name::enable, Name::otherEnable) > 0.0;
+    const bool isEnabled
+        = featureManager->GetValue(Name::multipleRegionEnable, Name::multipleRegionsEnable) > 0.0;
     {
         // Not setChecked(): in the middle of a click it would leave the box's published state
         // behind, and the next click would not be told.
         const QSignalBlocker blocker(m_ui->chkMultipleRegionEnable);
         m_ui->chkMultipleRegionEnable->setCheckState(isEnabled ? Qt::Checked : Qt::Unchecked);
-        m_ui->chkMultipleRegionEnable->setEnabled(
-            featureManager->IsFeatureWritable(Name::enable, Name::otherEnable));
+        m_ui->chkMultipleRegionEnable->setEnabled(featureManager->IsFeatureWritable(
+            Name::multipleRegionEnable, Name::multipleRegionsEnable));
     }
     if (std::exchange(m_enabled, isEnabled) != isEnabled)
         emit multipleRegionsEnabled(isEnabled);
@@ -175,8 +177,8 @@ void MultiROIWidget::refreshSwitch()
 
 void MultiROIWidget::refreshArrangement()
 {
-    if (featureManager->HasFeature(Name::arrangement))
-        fillComboBox(Name::arrangement, m_ui->cmbMultipleRegionArrangement, false);
+    if (featureManager->HasFeature(Name::multipleRegionArrangement))
+        fillComboBox(Name::multipleRegionArrangement, m_ui->cmbMultipleRegionArrangement, false);
     m_label->setArrangementMode(mode());
     updateButtons();
 }

@@ -3,11 +3,11 @@
 #include "multiregion/MultiROIWidget.h"
 
 #include "features/FeatureNames.h"
-#include "multiregion/label/MultiRubberBandLabel.h"
-#include "multiregion/RegionLabelWidget.h"
-#include "multiregion/RegionTableWidget.h"
 #include "features/FeatureReading.h"
 #include "features/NumberConversion.h"
+#include "multiregion/RegionLabelWidget.h"
+#include "multiregion/RegionTableWidget.h"
+#include "multiregion/label/MultiRubberBandLabel.h"
 #include "ui_MultiROIWidget.h"
 #include "widgets/RoundButton.h"
 #include "widgets/Theme.h"
@@ -42,11 +42,11 @@ MultiROIWidget::MultiROIWidget(const FeatureList& camera, QWidget* parent)
     form->lblWarning->setStyleSheet(regionTextStyle(isDarkMode()));
     m_ui = std::move(form);
 
-    observedFeatures = Name::switchNames + QStringList{Name::arrangement} + Name::compatibilityNames
-        + QStringList{Name::regionMode, Name::status} + Name::sensorNames
-        + QStringList{Name::selector} + Name::regionNames.mid(2);
-    if (featureManager->HasFeature(Name::arrangement)) {
-        fillComboBox(Name::arrangement, m_ui->cmbMultipleRegionArrangement, false);
+    observedFeatures = Name::multipleRegionSwitches + QStringList{Name::multipleRegionArrangement}
+        + Name::pictureGeometry + QStringList{Name::subRegionMode, Name::subRegionStatus}
+        + Name::sizeLimits + QStringList{Name::subRegionSelector} + Name::subRegion.mid(2);
+    if (featureManager->HasFeature(Name::multipleRegionArrangement)) {
+        fillComboBox(Name::multipleRegionArrangement, m_ui->cmbMultipleRegionArrangement, false);
     } else {
         m_ui->cmbMultipleRegionArrangement->addItem(QStringLiteral("Vertical"));
         m_ui->cmbMultipleRegionArrangement->setEnabled(false);
@@ -82,7 +82,8 @@ MultiROIWidget::~MultiROIWidget()
 
 bool MultiROIWidget::isSupported() const
 {
-    return featureManager->HasFeature(Name::enable, Name::otherEnable) && m_regions.count() >= 1.0;
+    return featureManager->HasFeature(Name::multipleRegionEnable, Name::multipleRegionsEnable)
+        && m_regions.count() >= 1.0;
 }
 
 void MultiROIWidget::setTitle()
@@ -190,11 +191,11 @@ QStringList MultiROIWidget::findTableFeatures()
             && FeatureReading::readText(*wrapper, &ZebFeatureWrapper::GetCategory) == category;
         if (isListed)
             features << name;
-        if (isListed || Name::regionNames.contains(name))
+        if (isListed || Name::subRegion.contains(name))
             wrappers->append(wrapper);
     }
     m_tableManager = std::make_unique<FeatureManager>(wrappers);
-    for (const QString& older : {Name::olderOffsetX, Name::olderWidth}) {
+    for (const QString& older : {Name::offsetX, Name::width}) {
         if (!featureManager->HasFeature(QStringLiteral("SubRegion") + older)
             && featureManager->HasFeature(older) && !features.contains(older))
             features << older;
@@ -212,7 +213,7 @@ void MultiROIWidget::connectForm()
             &MultiROIWidget::loadDefaultConfiguration);
     connect(m_ui->tabRegions, &QTabWidget::currentChanged, this,
             &MultiROIWidget::setSubRegionSelector);
-    if (featureManager->HasFeature(Name::arrangement))
+    if (featureManager->HasFeature(Name::multipleRegionArrangement))
         connect(m_ui->cmbMultipleRegionArrangement,
                 QOverload<int>::of(&QComboBox::currentIndexChanged), this,
                 &MultiROIWidget::onArrangementModeChanged);

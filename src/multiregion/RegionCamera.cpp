@@ -1,7 +1,7 @@
 #include "multiregion/RegionCamera.h"
 
-#include "features/FeatureNames.h"
 #include "features/FeatureManager.h"
+#include "features/FeatureNames.h"
 #include "features/NumberConversion.h"
 #include "features/SdkValues.h"
 #include "sensor/PixelRect.h"
@@ -35,12 +35,12 @@ RegionCamera::RegionCamera(FeatureManager* manager)
 
 double RegionCamera::count() const
 {
-    if (!m_manager->HasFeature(Name::selector))
+    if (!m_manager->HasFeature(Name::subRegionSelector))
         return 0.0;
     if (hasEnumeratedSelector())
-        return m_manager->GetEnumEntries(Name::selector).size();
+        return m_manager->GetEnumEntries(Name::subRegionSelector).size();
     SizeRange range;
-    m_manager->GetValueLimits(Name::selector, range.minimum, range.maximum);
+    m_manager->GetValueLimits(Name::subRegionSelector, range.minimum, range.maximum);
     return std::max(0.0, range.maximum + 1.0);
 }
 
@@ -48,11 +48,11 @@ QString RegionCamera::select(int region)
 {
     if (hasEnumeratedSelector()) {
         const QString entry = regionEntry.arg(region);
-        if (m_manager->SetStringValue(Name::selector, entry) != entry)
+        if (m_manager->SetStringValue(Name::subRegionSelector, entry) != entry)
             return QCoreApplication::translate("MultiROIWidget",
                                                "Set 'SubRegionSelector' = '%1' failed!")
                 .arg(entry);
-    } else if (toInt(m_manager->SetValue(Name::selector, region)) != region) {
+    } else if (toInt(m_manager->SetValue(Name::subRegionSelector, region)) != region) {
         return QCoreApplication::translate("MultiROIWidget", "Set 'SubRegionSelector' = %1 failed!")
             .arg(region);
     }
@@ -62,8 +62,8 @@ QString RegionCamera::select(int region)
 int RegionCamera::selected() const
 {
     if (!hasEnumeratedSelector())
-        return toInt(m_manager->GetValue(Name::selector));
-    const QString entry = m_manager->GetStringValue(Name::selector);
+        return toInt(m_manager->GetValue(Name::subRegionSelector));
+    const QString entry = m_manager->GetStringValue(Name::subRegionSelector);
     bool isNumber = false;
     const int region = entry.midRef(regionEntry.indexOf(QLatin1Char('%'))).toInt(&isNumber);
     return isNumber && entry == regionEntry.arg(region) ? region : -1;
@@ -71,34 +71,35 @@ int RegionCamera::selected() const
 
 bool RegionCamera::isOn() const
 {
-    return m_manager->GetStringValue(Name::regionMode) == onEntry;
+    return m_manager->GetStringValue(Name::subRegionMode) == onEntry;
 }
 
 bool RegionCamera::isValid() const
 {
     if (!isOn())
         return false;
-    const bool isJudged
-        = m_manager->HasFeature(Name::otherEnable) && m_manager->GetValue(Name::otherEnable) != 0.0;
-    return !isJudged || m_manager->GetStringValue(Name::status) == QLatin1String("Valid");
+    const bool isJudged = m_manager->HasFeature(Name::multipleRegionsEnable)
+        && m_manager->GetValue(Name::multipleRegionsEnable) != 0.0;
+    return !isJudged || m_manager->GetStringValue(Name::subRegionStatus) == QLatin1String("Valid");
 }
 
 bool RegionCamera::switchOn(bool on)
 {
-    return m_manager->SetStringValue(Name::regionMode, on ? onEntry : offEntry) == onEntry;
+    return m_manager->SetStringValue(Name::subRegionMode, on ? onEntry : offEntry) == onEntry;
 }
 
 QRect RegionCamera::geometry() const
 {
-    return truncatedRect(
-        m_manager->GetValue(Name::offsetX, Name::olderOffsetX), m_manager->GetValue(Name::offsetY),
-        m_manager->GetValue(Name::width, Name::olderWidth), m_manager->GetValue(Name::height));
+    return truncatedRect(m_manager->GetValue(Name::subRegionOffsetX, Name::offsetX),
+                         m_manager->GetValue(Name::subRegionOffsetY),
+                         m_manager->GetValue(Name::subRegionWidth, Name::width),
+                         m_manager->GetValue(Name::subRegionHeight));
 }
 
 SizeRange RegionCamera::widthRange() const
 {
     SizeRange range;
-    m_manager->GetValueRange(Name::width, Name::olderWidth, range.minimum, range.maximum,
+    m_manager->GetValueRange(Name::subRegionWidth, Name::width, range.minimum, range.maximum,
                              range.increment);
     return range;
 }
@@ -106,28 +107,29 @@ SizeRange RegionCamera::widthRange() const
 SizeRange RegionCamera::heightRange() const
 {
     SizeRange range;
-    m_manager->GetValueRange(Name::height, range.minimum, range.maximum, range.increment);
+    m_manager->GetValueRange(Name::subRegionHeight, range.minimum, range.maximum, range.increment);
     return range;
 }
 
 RegionSizeLimits RegionCamera::limits() const
 {
-    return {axisLimits(widthRange(), Name::offsetX, Name::olderOffsetX),
-            axisLimits(heightRange(), Name::offsetY, Name::offsetY)};
+    return {axisLimits(widthRange(), Name::subRegionOffsetX, Name::offsetX),
+            axisLimits(heightRange(), Name::subRegionOffsetY, Name::subRegionOffsetY)};
 }
 
 void RegionCamera::writeGeometry(const QRect& rect, const QSize& former)
 {
-    const auto writeX = [&] { m_manager->SetValue(Name::offsetX, Name::olderOffsetX, rect.x()); };
-    const auto writeY = [&] { m_manager->SetValue(Name::offsetY, rect.y()); };
+    const auto writeX
+        = [&] { m_manager->SetValue(Name::subRegionOffsetX, Name::offsetX, rect.x()); };
+    const auto writeY = [&] { m_manager->SetValue(Name::subRegionOffsetY, rect.y()); };
     if (rect.width() > former.width())
         writeX();
-    m_manager->SetValue(Name::width, Name::olderWidth, rect.width());
+    m_manager->SetValue(Name::subRegionWidth, Name::width, rect.width());
     if (rect.width() <= former.width())
         writeX();
     if (rect.height() > former.height())
         writeY();
-    m_manager->SetValue(Name::height, rect.height());
+    m_manager->SetValue(Name::subRegionHeight, rect.height());
     if (rect.height() <= former.height())
         writeY();
 }
@@ -140,11 +142,11 @@ QSize RegionCamera::sensorSize() const
 
 bool RegionCamera::hasEnumeratedSelector() const
 {
-    return m_manager->GetDataType(Name::selector) == Sdk::enumerationType;
+    return m_manager->GetDataType(Name::subRegionSelector) == Sdk::enumerationType;
 }
 
 AxisLimits RegionCamera::axisLimits(const SizeRange& size, const QString& offset,
-                                      const QString& olderOffset) const
+                                    const QString& olderOffset) const
 {
     AxisLimits limits;
     limits.minimum = wholePixels(size.minimum, 1);

@@ -1,9 +1,9 @@
 #include "multiregion/RegionTableWidget.h"
 
-#include "multiregion/MultiROIWidget.h"
-#include "features/FeatureNames.h"
-#include "multiregion/rules/TableConstraints.h"
 #include "features/FeatureManager.h"
+#include "features/FeatureNames.h"
+#include "multiregion/MultiROIWidget.h"
+#include "multiregion/rules/TableConstraints.h"
 
 #include <QPointer>
 
@@ -56,13 +56,13 @@ void RegionTableWidget::addConstraints(int regionNo, QStringList features)
     if (features.isEmpty())
         m_constrainedFeatures.clear();
     for (const QString& feature : qAsConst(features)) {
-        if (feature == Name::width && !manager()->HasFeature(Name::width)) {
-            m_constrainedFeatures << Name::olderWidth;
+        if (feature == Name::subRegionWidth && !manager()->HasFeature(Name::subRegionWidth)) {
+            m_constrainedFeatures << Name::width;
             continue;
         }
         m_constrainedFeatures << feature;
-        if (feature == Name::offsetX && !manager()->HasFeature(Name::offsetX))
-            m_constrainedFeatures << Name::olderOffsetX;
+        if (feature == Name::subRegionOffsetX && !manager()->HasFeature(Name::subRegionOffsetX))
+            m_constrainedFeatures << Name::offsetX;
     }
     m_constrainedFeatures.removeDuplicates();
     applyRanges(before + m_constrainedFeatures);
@@ -117,8 +117,10 @@ void RegionTableWidget::applyRanges(const QStringList& features)
 
 TableGeometry RegionTableWidget::presentGeometry() const
 {
-    return {presentValue(Name::offsetX, Name::olderOffsetX), presentValue(Name::offsetY, {}),
-            presentValue(Name::width, Name::olderWidth), presentValue(Name::height, {})};
+    return {presentValue(Name::subRegionOffsetX, Name::offsetX),
+            presentValue(Name::subRegionOffsetY, {}),
+            presentValue(Name::subRegionWidth, Name::width),
+            presentValue(Name::subRegionHeight, {})};
 }
 
 /// 0 for what the table does not show.

@@ -1,6 +1,7 @@
 #include "page/BaseTabPluginWidget.h"
 
 #include "features/CameraLink.h"
+#include "features/FeatureNames.h"
 #include "features/FeatureWrapping.h"
 #include "page/TENotSupported.h"
 #include "page/Translators.h"
@@ -130,7 +131,7 @@ template <typename Work> void BaseTabPluginWidget::withList(Work&& work)
 
 bool BaseTabPluginWidget::isVendorSupported(FeatureManager* manager)
 {
-    return manager->GetStringValue(QStringLiteral("DeviceVendorName"))
+    return manager->GetStringValue(FeatureNames::deviceVendorName)
         .startsWith(QLatin1String("Brontax"), Qt::CaseSensitive);
 }
 

@@ -1,10 +1,10 @@
 #include "regions/AOIWidget.h"
 
+#include "features/NumberConversion.h"
 #include "regions/image/PresetGuard.h"
 #include "regions/image/RegionAxis.h"
 #include "regions/image/RegionPresets.h"
 #include "regions/label/RubberBandLabel.h"
-#include "features/NumberConversion.h"
 #include "ui_AOIWidget.h"
 #include "widgets/WheelGuard.h"
 

@@ -1,9 +1,9 @@
 #include "regions/AOIWidget.h"
 
+#include "features/NumberConversion.h"
 #include "regions/image/RegionAxis.h"
 #include "regions/image/RegionConsistency.h"
 #include "regions/label/RubberBandLabel.h"
-#include "features/NumberConversion.h"
 #include "ui_AOIWidget.h"
 
 #include <QApplication>

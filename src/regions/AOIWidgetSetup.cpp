@@ -1,9 +1,10 @@
 #include "regions/AOIWidget.h"
 
+#include "features/FeatureNames.h"
+#include "features/NumberConversion.h"
 #include "regions/image/RegionAxis.h"
 #include "regions/image/RegionConsistency.h"
 #include "regions/label/RubberBandLabel.h"
-#include "features/NumberConversion.h"
 #include "ui_AOIWidget.h"
 #include "widgets/Theme.h"
 
@@ -22,8 +23,8 @@ constexpr QColor regionColor(0, 100, 255, 255);
 AOIWidget::AOIWidget(const FeatureList& camera, QWidget* parent)
     : BaseTabPluginWidget(camera, parent)
 {
-    if (!featureManager->HasFeature(QStringLiteral("Height"))
-        || !featureManager->HasFeature(QStringLiteral("Width")))
+    if (!featureManager->HasFeature(FeatureNames::height)
+        || !featureManager->HasFeature(FeatureNames::width))
         return;
 
     // The module's coloured texts count on their style sheets from the first page on.
@@ -37,10 +38,9 @@ AOIWidget::AOIWidget(const FeatureList& camera, QWidget* parent)
         m_ui->retranslateUi(this);
         setTitle();
     }
-    observedFeatures << QStringLiteral("OffsetX") << QStringLiteral("OffsetY")
-                     << QStringLiteral("Height") << QStringLiteral("Width")
-                     << QStringLiteral("HeightMax") << QStringLiteral("WidthMax")
-                     << QStringLiteral("MultipleRegionEnable");
+    observedFeatures << FeatureNames::offsetX << FeatureNames::offsetY << FeatureNames::height
+                     << FeatureNames::width << FeatureNames::heightMax << FeatureNames::widthMax
+                     << FeatureNames::multipleRegionEnable;
 
     m_soonTimer = new QTimer(this);
     m_soonTimer->setSingleShot(true);
@@ -67,9 +67,8 @@ AOIWidget::~AOIWidget()
 
 void AOIWidget::setTitle()
 {
-    const QString title = featureManager->HasFeature(QStringLiteral("AutofunctionAOIEnable"))
-        ? tr("AOI")
-        : tr("ROI");
+    const QString title
+        = featureManager->HasFeature(FeatureNames::aoiEnable) ? tr("AOI") : tr("ROI");
     setAccessibleName(title);
     m_ui->gb_AOI->setTitle(title);
 }
@@ -78,13 +77,13 @@ void AOIWidget::createAxes()
 {
     m_vertical = std::make_unique<RegionAxis>(
         *featureManager,
-        RegionAxisNames{QStringLiteral("OffsetY"), QStringLiteral("Height"),
-                        QStringLiteral("HeightMax"), QStringLiteral("SensorHeight")},
+        RegionAxisNames{FeatureNames::offsetY, FeatureNames::height, FeatureNames::heightMax,
+                        FeatureNames::sensorHeight},
         m_ui->spinTop, m_ui->spinHeight);
     m_horizontal = std::make_unique<RegionAxis>(
         *featureManager,
-        RegionAxisNames{QStringLiteral("OffsetX"), QStringLiteral("Width"),
-                        QStringLiteral("WidthMax"), QStringLiteral("SensorWidth")},
+        RegionAxisNames{FeatureNames::offsetX, FeatureNames::width, FeatureNames::widthMax,
+                        FeatureNames::sensorWidth},
         m_ui->spinLeft, m_ui->spinWidth);
     m_vertical->load();
     m_horizontal->load();

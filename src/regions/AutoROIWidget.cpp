@@ -1,13 +1,13 @@
 #include "regions/AutoROIWidget.h"
 
+#include "features/FeatureNames.h"
+#include "page/NumberField.h"
 #include "regions/automatic/AutoExposureEditor.h"
 #include "regions/automatic/AutoRegionCamera.h"
-#include "regions/automatic/AutoRegionView.h"
 #include "regions/automatic/AutoRegionForm.h"
-#include "features/FeatureNames.h"
 #include "regions/automatic/AutoRegionPicture.h"
+#include "regions/automatic/AutoRegionView.h"
 #include "regions/automatic/AutoRegionWriter.h"
-#include "page/NumberField.h"
 #include "regions/label/RubberBandLabel.h"
 #include "ui_AutoROIWidget.h"
 #include "widgets/WheelGuard.h"
@@ -18,7 +18,7 @@
 
 #include <utility>
 
-using namespace FeatureNames;
+namespace Name = FeatureNames;
 
 namespace {
 
@@ -98,25 +98,26 @@ void AutoROIWidget::OnSpinEditingFinished()
 void AutoROIWidget::OnEnableStateChanged(int state)
 {
     // A refresh must not be entered again by what waits in the queue.
-    if (!m_ui || !m_camera->has(aoiEnable) || (!m_isRefreshing && !pumpEvents()))
+    if (!m_ui || !m_camera->has(Name::aoiEnable) || (!m_isRefreshing && !pumpEvents()))
         return;
-    showChecked(m_ui->cbEnable, featureManager->SetValue(aoiEnable, state > 0 ? 1.0 : 0.0) > 0.0);
+    showChecked(m_ui->cbEnable,
+                featureManager->SetValue(Name::aoiEnable, state > 0 ? 1.0 : 0.0) > 0.0);
     // Reading everything would check the region again and take back what the user switched on.
     m_soonTimer->start();
 }
 
 void AutoROIWidget::OnShowAreaStateChanged(int state)
 {
-    const double shown = featureManager->SetValue(aoiShowArea, state > 0 ? 1.0 : 0.0);
+    const double shown = featureManager->SetValue(Name::aoiShowArea, state > 0 ? 1.0 : 0.0);
     if (m_ui)
         showChecked(m_ui->cbShowArea, shown > 0.0);
 }
 
 void AutoROIWidget::OnIntensityControllerRegionChanged(const QString& region)
 {
-    if (m_ui && m_camera->has(intensityRegion))
+    if (m_ui && m_camera->has(Name::intensityControllerRegion))
         showEntry(m_ui->comboIntensityControllerRegion,
-                  featureManager->SetStringValue(intensityRegion, region));
+                  featureManager->SetStringValue(Name::intensityControllerRegion, region));
 }
 
 void AutoROIWidget::refreshSoon()
@@ -262,10 +263,10 @@ void AutoROIWidget::OnBtnExpAutoMaxCurrentClicked()
 
 void AutoROIWidget::OnExpAutoTimebaseChanged(const QString& timebase)
 {
-    if (!m_ui || !m_camera->has(exposureAutoTimebase))
+    if (!m_ui || !m_camera->has(Name::exposureAutoTimebase))
         return;
     showEntry(m_ui->comboExpAutoTimeBase,
-              featureManager->SetStringValue(exposureAutoTimebase, timebase));
+              featureManager->SetStringValue(Name::exposureAutoTimebase, timebase));
     m_exposure->refresh();
 }
 
@@ -273,7 +274,7 @@ void AutoROIWidget::OnExpAutoTimebaseChanged(const QString& timebase)
 
 void AutoROIWidget::camIsStreaming(bool streaming)
 {
-    if (!m_ui || !m_camera->has(autoModeWidth))
+    if (!m_ui || !m_camera->has(Name::autoModeWidth))
         return;
     enableControls(!m_isStreaming);
     m_isStreaming = streaming;

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "regions/automatic/RegionLimits.h"
 #include "page/BaseTabPluginWidget.h"
+#include "regions/automatic/RegionLimits.h"
 
 #include <QPixmap>
 #include <QPointF>

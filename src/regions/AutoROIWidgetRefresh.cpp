@@ -2,12 +2,12 @@
 
 #include "regions/AutoROIWidget.h"
 
+#include "features/FeatureNames.h"
 #include "regions/automatic/AutoExposureEditor.h"
 #include "regions/automatic/AutoRegionCamera.h"
-#include "regions/automatic/AutoRegionView.h"
 #include "regions/automatic/AutoRegionForm.h"
-#include "features/FeatureNames.h"
 #include "regions/automatic/AutoRegionPicture.h"
+#include "regions/automatic/AutoRegionView.h"
 #include "regions/label/RubberBandLabel.h"
 #include "ui_AutoROIWidget.h"
 
@@ -16,7 +16,7 @@
 #include <algorithm>
 #include <utility>
 
-using namespace FeatureNames;
+namespace Name = FeatureNames;
 
 void AutoROIWidget::showEvent(QShowEvent* event)
 {
@@ -40,20 +40,20 @@ void AutoROIWidget::refreshFeatures()
     m_ui->gb_AutoROI->setMaximumWidth(QWIDGETSIZE_MAX);
 
     const bool isSizeTold
-        = changedFeatures->contains(imageHeight) || changedFeatures->contains(imageWidth);
+        = changedFeatures->contains(Name::height) || changedFeatures->contains(Name::width);
     const bool isNewSize = isSizeTold && !std::exchange(m_isJustShown, false);
     const bool isResized = !names.isEmpty() && updateLimits(isNewSize);
-    const bool readsRegion = isResized || reads(regionNumbers);
-    if (readsRegion || reads({aoiEnable, aoiShowArea}))
+    const bool readsRegion = isResized || reads(Name::autoRegion);
+    if (readsRegion || reads({Name::aoiEnable, Name::aoiShowArea}))
         refreshSwitches();
     if (readsRegion)
         refreshRegion();
     else if (!names.isEmpty())
         showRegion();
-    if (reads(exposureLimits))
+    if (reads(Name::exposureLimits))
         refreshExposure();
-    if (reads({intensityRegion}))
-        fillComboBox(intensityRegion, m_ui->comboIntensityControllerRegion, false);
+    if (reads({Name::intensityControllerRegion}))
+        fillComboBox(Name::intensityControllerRegion, m_ui->comboIntensityControllerRegion, false);
     enableControls(!m_isStreaming);
 }
 
@@ -76,10 +76,10 @@ bool AutoROIWidget::updateLimits(bool isSizeTold)
 
 void AutoROIWidget::refreshSwitches()
 {
-    if (m_camera->has(aoiEnable))
-        showChecked(m_ui->cbEnable, m_camera->value(aoiEnable) != 0.0);
-    if (m_camera->has(aoiShowArea))
-        showChecked(m_ui->cbShowArea, m_camera->value(aoiShowArea) != 0.0);
+    if (m_camera->has(Name::aoiEnable))
+        showChecked(m_ui->cbEnable, m_camera->value(Name::aoiEnable) != 0.0);
+    if (m_camera->has(Name::aoiShowArea))
+        showChecked(m_ui->cbShowArea, m_camera->value(Name::aoiShowArea) != 0.0);
 }
 
 void AutoROIWidget::refreshRegion()
@@ -95,15 +95,15 @@ void AutoROIWidget::refreshRegion()
 
 void AutoROIWidget::refreshExposure()
 {
-    if (m_camera->has(exposureAutoTimebase))
-        fillComboBox(exposureAutoTimebase, m_ui->comboExpAutoTimeBase, false);
+    if (m_camera->has(Name::exposureAutoTimebase))
+        fillComboBox(Name::exposureAutoTimebase, m_ui->comboExpAutoTimeBase, false);
     m_exposure->refresh();
     fitColumns(*m_ui);
 }
 
 void AutoROIWidget::showRegion()
 {
-    if (m_camera->usesEdges() || m_camera->has(autoModeHeight) || m_ui->cbEnable->isChecked())
+    if (m_camera->usesEdges() || m_camera->has(Name::autoModeHeight) || m_ui->cbEnable->isChecked())
         m_picture->showRegion(m_limits);
 }
 

@@ -1,11 +1,11 @@
 #include "regions/AutoROIWidget.h"
 
+#include "features/FeatureNames.h"
 #include "regions/automatic/AutoExposureEditor.h"
 #include "regions/automatic/AutoRegionCamera.h"
-#include "regions/automatic/AutoRegionView.h"
 #include "regions/automatic/AutoRegionForm.h"
-#include "features/FeatureNames.h"
 #include "regions/automatic/AutoRegionPicture.h"
+#include "regions/automatic/AutoRegionView.h"
 #include "regions/automatic/AutoRegionWriter.h"
 #include "regions/label/RubberBandLabel.h"
 #include "ui_AutoROIWidget.h"
@@ -15,7 +15,7 @@
 
 // The page's parts and their connections.
 
-using namespace FeatureNames;
+namespace Name = FeatureNames;
 
 namespace {
 
@@ -48,11 +48,13 @@ AutoROIWidget::AutoROIWidget(const FeatureList& camera, QWidget* parent)
     setTitle();
     if (installTranslator(QStringLiteral("tabextensionautoaoi")))
         setTitle();
-    observedFeatures << imageHeight << imageWidth << dspTop << dspLeft << dspRight << dspBottom
-                     << aoiHeight << aoiWidth << aoiOffsetX << aoiOffsetY << autoModeHeight
-                     << autoModeWidth << autoModeOffsetX << autoModeOffsetY << aoiEnable
-                     << aoiShowArea << exposureAutoMin << exposureAutoMax << exposureAutoTimebase
-                     << intensityRegion;
+    observedFeatures << Name::height << Name::width << Name::dspTop << Name::dspLeft
+                     << Name::dspRight << Name::dspBottom << Name::aoiHeight << Name::aoiWidth
+                     << Name::aoiOffsetX << Name::aoiOffsetY << Name::autoModeHeight
+                     << Name::autoModeWidth << Name::autoModeOffsetX << Name::autoModeOffsetY
+                     << Name::aoiEnable << Name::aoiShowArea << Name::exposureAutoMin
+                     << Name::exposureAutoMax << Name::exposureAutoTimebase
+                     << Name::intensityControllerRegion;
 
     m_ui = std::make_unique<Ui::AutoROIWidget>();
     m_ui->setupUi(this);
@@ -65,7 +67,7 @@ AutoROIWidget::AutoROIWidget(const FeatureList& camera, QWidget* parent)
     loadRegion();
     showRegion();
 
-    if (m_camera->has(dspLeft) && m_camera->usesEdges()
+    if (m_camera->has(Name::dspLeft) && m_camera->usesEdges()
         && !isValidDspRegion(m_camera->edges(), m_limits))
         m_ui->btnFull->click();
 }
@@ -81,8 +83,8 @@ AutoROIWidget::~AutoROIWidget()
 
 void AutoROIWidget::setTitle()
 {
-    setAccessibleName(featureManager->HasFeature(aoiOffsetX) ? tr("Autofunction AOI")
-                                                             : tr("Autofunction ROI"));
+    setAccessibleName(featureManager->HasFeature(Name::aoiOffsetX) ? tr("Autofunction AOI")
+                                                                   : tr("Autofunction ROI"));
 }
 
 void AutoROIWidget::createParts()
@@ -98,7 +100,7 @@ void AutoROIWidget::createParts()
     m_editor = std::make_unique<AutoRegionView>(
         *m_camera,
         AutoRegionView::Fields{m_ui->spinTop, m_ui->spinLeft, m_ui->spinRight, m_ui->spinBottom,
-                                 m_ui->spinWidth, m_ui->spinHeight},
+                               m_ui->spinWidth, m_ui->spinHeight},
         [widthFilter, heightFilter](RegionNumber size) {
             return (size == RegionNumber::Width ? widthFilter : heightFilter)->isMousePressed();
         });
@@ -133,32 +135,32 @@ void AutoROIWidget::connectRegion()
     };
     connectField(m_ui->spinTop, &AutoROIWidget::OnSpinTopValueChanged);
     connectField(m_ui->spinLeft, &AutoROIWidget::OnSpinLeftValueChanged);
-    if (m_camera->has(dspBottom)) {
+    if (m_camera->has(Name::dspBottom)) {
         connectField(m_ui->spinRight, &AutoROIWidget::OnSpinRightValueChanged);
         connectField(m_ui->spinBottom, &AutoROIWidget::OnSpinBottomValueChanged);
     } else if (m_camera->usesSizes()) {
         connectField(m_ui->spinWidth, &AutoROIWidget::OnSpinWidthValueChanged);
         connectField(m_ui->spinHeight, &AutoROIWidget::OnSpinHeightValueChanged);
     }
-    if (m_camera->has(aoiEnable))
+    if (m_camera->has(Name::aoiEnable))
         connect(m_ui->cbEnable, &QCheckBox::stateChanged, this,
                 &AutoROIWidget::OnEnableStateChanged);
-    if (m_camera->has(aoiShowArea))
+    if (m_camera->has(Name::aoiShowArea))
         connect(m_ui->cbShowArea, &QCheckBox::stateChanged, this,
                 &AutoROIWidget::OnShowAreaStateChanged);
     connect(m_ui->btnFull, &QPushButton::clicked, this, &AutoROIWidget::OnROIFull);
     connect(m_ui->btnHalf, &QPushButton::clicked, this, &AutoROIWidget::OnROIHalf);
     connect(m_ui->btnQuarter, &QPushButton::clicked, this, &AutoROIWidget::OnROIQuarter);
 
-    fillComboBox(intensityRegion, m_ui->comboIntensityControllerRegion, false);
+    fillComboBox(Name::intensityControllerRegion, m_ui->comboIntensityControllerRegion, false);
     connect(m_ui->comboIntensityControllerRegion, &QComboBox::currentTextChanged, this,
             &AutoROIWidget::OnIntensityControllerRegionChanged);
 }
 
 void AutoROIWidget::setUpExposure()
 {
-    if (m_camera->has(exposureAutoTimebase)) {
-        fillComboBox(exposureAutoTimebase, m_ui->comboExpAutoTimeBase, false);
+    if (m_camera->has(Name::exposureAutoTimebase)) {
+        fillComboBox(Name::exposureAutoTimebase, m_ui->comboExpAutoTimeBase, false);
         connect(m_ui->comboExpAutoTimeBase, &QComboBox::currentTextChanged, this,
                 &AutoROIWidget::OnExpAutoTimebaseChanged);
     }

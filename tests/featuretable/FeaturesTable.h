@@ -1,9 +1,9 @@
 #pragma once
 
 #include "SimulatedCamera.h"
-#include "featuretable/editors/DelegateWidget.h"
 #include "featuretable/FeaturesTableWidget.h"
 #include "featuretable/MyTableWidget.h"
+#include "featuretable/editors/DelegateWidget.h"
 
 #include <QLineEdit>
 #include <QSpinBox>

@@ -1,5 +1,5 @@
 #include "DataTable.h"
-#include "FeaturesTable.h"
+#include "featuretable/FeaturesTable.h"
 
 #include <QHeaderView>
 #include <QScrollBar>

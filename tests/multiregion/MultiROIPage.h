@@ -3,9 +3,9 @@
 #include "MessageHandlerGuard.h"
 #include "SimulatedCamera.h"
 #include "multiregion/MultiROIWidget.h"
-#include "multiregion/label/MultiRubberBandLabel.h"
 #include "multiregion/RegionLabelWidget.h"
 #include "multiregion/RegionTableWidget.h"
+#include "multiregion/label/MultiRubberBandLabel.h"
 #include "widgets/RoundButton.h"
 
 #include "simulator/Model.h"

@@ -1,6 +1,6 @@
 #include "DataTable.h"
-#include "MultiROIPage.h"
 #include "TestEvents.h"
+#include "multiregion/MultiROIPage.h"
 #include "multiregion/label/LineRubberBand.h"
 #include "sensor/Span.h"
 

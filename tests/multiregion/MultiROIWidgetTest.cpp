@@ -1,6 +1,6 @@
 #include "multiregion/MultiROIWidget.h"
 #include "DataTable.h"
-#include "MultiROIPage.h"
+#include "multiregion/MultiROIPage.h"
 
 #include <QCheckBox>
 #include <QComboBox>

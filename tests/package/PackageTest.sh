@@ -39,7 +39,7 @@ else
     viewer=viewer
     expected=(plugins/libtabextensionimgfmt.so)
 fi
-expected+=("$viewer" INSTALL.txt NOTICES.txt include/TabExtensionInterface.h include/ZebCPP/ZebCPP.h
+expected+=("$viewer" INSTALL.txt NOTICES.txt include/TabExtensionInterface.h include/ZebViewerLogCategory.h include/ZebCPP/ZebCPP.h
     qm/tabextensionimgfmt_de.qm)
 for file in "${expected[@]}"; do
     check "holds $file" [ -s "$file" ]

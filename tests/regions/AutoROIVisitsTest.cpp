@@ -1,5 +1,5 @@
 #include "DataTable.h"
-#include "Visitor.h"
+#include "regions/Visitor.h"
 #include "regions/automatic/AutoRegion.h"
 #include "regions/automatic/DspRegion.h"
 

@@ -1,7 +1,7 @@
 #include "DataTable.h"
-#include "RegionPage.h"
 #include "WheelEvent.h"
 #include "imageformat/ImageFormatWidget.h"
+#include "regions/RegionPage.h"
 
 #include "simulator/State.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "RegionPage.h"
+#include "regions/RegionPage.h"
 
 #include <random>
 

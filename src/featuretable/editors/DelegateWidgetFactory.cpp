@@ -5,9 +5,9 @@
 #include "featuretable/editors/EnumerationEditor.h"
 #include "featuretable/editors/FloatEditor.h"
 #include "featuretable/editors/IntegerEditor.h"
-#include "featuretable/record/IntegerNotation.h"
 #include "featuretable/editors/IntegerTextEditor.h"
 #include "featuretable/editors/StringEditor.h"
+#include "featuretable/record/IntegerNotation.h"
 
 namespace {
 

@@ -1,8 +1,8 @@
 #include "featuretable/editors/IntegerEditor.h"
 
-#include "featuretable/record/IntegerRange.h"
 #include "featuretable/editors/IntegerTextEditor.h"
 #include "featuretable/editors/SliderEditor.h"
+#include "featuretable/record/IntegerRange.h"
 
 #include <QDoubleSpinBox>
 #include <QRegularExpression>

@@ -1,7 +1,7 @@
 #include "featuretable/editors/IntegerTextEditor.h"
 
-#include "featuretable/record/IntegerRange.h"
 #include "featuretable/editors/IntegerValidator.h"
+#include "featuretable/record/IntegerRange.h"
 
 #include <QLineEdit>
 

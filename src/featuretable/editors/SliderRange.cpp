@@ -1,8 +1,8 @@
 #include "featuretable/editors/SliderRange.h"
 
+#include "features/NumberConversion.h"
 #include "featuretable/record/DoubleText.h"
 #include "featuretable/record/IntegerRange.h"
-#include "features/NumberConversion.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "multiregion/rules/ConstraintGroups.h"
 #include "multiregion/label/ConstraintLineRules.h"
 #include "multiregion/label/SensorMapping.h"
+#include "multiregion/rules/ConstraintGroups.h"
 
 #include <QMap>
 #include <QVector>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "multiregion/rules/ConstraintGroups.h"
 #include "multiregion/label/KnownRegions.h"
+#include "multiregion/rules/ConstraintGroups.h"
 
 /// A region's new rectangle, in sensor pixels.
 struct RegionChange

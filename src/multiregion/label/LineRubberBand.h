@@ -1,7 +1,7 @@
 #pragma once
 
-#include "multiregion/rules/ConstraintGroups.h"
 #include "multiregion/label/ConstraintLineRules.h"
+#include "multiregion/rules/ConstraintGroups.h"
 
 #include <QPixmap>
 #include <QRubberBand>

@@ -1,11 +1,11 @@
 #include "multiregion/label/MultiRubberBandLabel.h"
 
+#include "features/NumberConversion.h"
+#include "multiregion/label/DragChanges.h"
 #include "multiregion/label/LineRubberBand.h"
 #include "multiregion/label/RectangleRubberBand.h"
 #include "multiregion/label/RegionBandLimits.h"
 #include "multiregion/label/RegionRanges.h"
-#include "multiregion/label/DragChanges.h"
-#include "features/NumberConversion.h"
 
 #include <QResizeEvent>
 

@@ -1,10 +1,10 @@
 #pragma once
 
+#include "host/TabExtensionInterface.h"
 #include "multiregion/label/ConstraintLineSet.h"
-#include "sensor/KeptPicture.h"
 #include "multiregion/label/KnownRegions.h"
 #include "multiregion/label/RegionAnnouncements.h"
-#include "host/TabExtensionInterface.h"
+#include "sensor/KeptPicture.h"
 #include "sensor/SensorBackground.h"
 
 #include <QLabel>

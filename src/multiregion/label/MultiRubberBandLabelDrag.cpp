@@ -1,9 +1,9 @@
 // The drags of the region label: from the press to the report.
 
+#include "multiregion/label/DragChanges.h"
 #include "multiregion/label/LineRubberBand.h"
 #include "multiregion/label/MultiRubberBandLabel.h"
 #include "multiregion/label/RectangleRubberBand.h"
-#include "multiregion/label/DragChanges.h"
 
 #include <QMouseEvent>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "multiregion/label/KnownRegions.h"
 #include "multiregion/label/HandleDrag.h"
+#include "multiregion/label/KnownRegions.h"
 
 /// The sizes that a region's band may have on the label. A camera reports the greatest size for the
 /// present offset; with the offset given up the region could be so much larger.

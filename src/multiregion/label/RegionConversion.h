@@ -1,7 +1,7 @@
 #pragma once
 
-#include "sensor/Span.h"
 #include "multiregion/label/SensorMapping.h"
+#include "sensor/Span.h"
 
 #include <QVector>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "multiregion/rules/ConstraintGroups.h"
 #include "multiregion/label/KnownRegions.h"
+#include "multiregion/rules/ConstraintGroups.h"
 
 /// The area between the shown neighbours of a region, sensor pixels: as far as it may move and grow
 /// without overlapping. Along an axis on which it shares its edges, the members of its group do not

@@ -1,9 +1,9 @@
 #include "multiregion/rules/DefaultLayouts.h"
 
-#include "multiregion/rules/ArrangementMode.h"
-#include "sensor/Span.h"
 #include "features/NumberConversion.h"
+#include "multiregion/rules/ArrangementMode.h"
 #include "sensor/PixelRect.h"
+#include "sensor/Span.h"
 
 #include <QCoreApplication>
 

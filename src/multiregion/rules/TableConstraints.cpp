@@ -16,13 +16,13 @@ enum class Quantity {
 
 Quantity quantityOf(const QString& feature)
 {
-    if (feature == Name::offsetX || feature == Name::olderOffsetX)
+    if (feature == Name::subRegionOffsetX || feature == Name::offsetX)
         return Quantity::OffsetX;
-    if (feature == Name::width || feature == Name::olderWidth)
+    if (feature == Name::subRegionWidth || feature == Name::width)
         return Quantity::Width;
-    if (feature == Name::offsetY)
+    if (feature == Name::subRegionOffsetY)
         return Quantity::OffsetY;
-    if (feature == Name::height)
+    if (feature == Name::subRegionHeight)
         return Quantity::Height;
     return Quantity::Other;
 }

@@ -1,22 +1,22 @@
 #include "regions/automatic/AutoExposureEditor.h"
 
-#include "features/FeatureNames.h"
-#include "regions/automatic/ExposureLimit.h"
-#include "page/NumberField.h"
 #include "features/FeatureManager.h"
+#include "features/FeatureNames.h"
+#include "page/NumberField.h"
+#include "regions/automatic/ExposureLimit.h"
 
 #include <QDoubleSpinBox>
 #include <QSignalBlocker>
 
 #include <algorithm>
 
-using namespace FeatureNames;
+namespace Name = FeatureNames;
 
 AutoExposureEditor::AutoExposureEditor(FeatureManager& manager, QDoubleSpinBox* minimumField,
                                        QDoubleSpinBox* maximumField)
     : m_manager(manager)
-    , m_minimum{exposureAutoMin, minimumField}
-    , m_maximum{exposureAutoMax, maximumField}
+    , m_minimum{Name::exposureAutoMin, minimumField}
+    , m_maximum{Name::exposureAutoMax, maximumField}
 {
 }
 
@@ -70,6 +70,6 @@ void AutoExposureEditor::write(const Limit& limit, double value)
 
 void AutoExposureEditor::useTime(const Limit& limit)
 {
-    if (m_manager.HasFeature(exposureTime, exposureTimeAbs))
-        limit.field->setValue(m_manager.GetValue(exposureTime, exposureTimeAbs));
+    if (m_manager.HasFeature(Name::exposureTime, Name::exposureTimeAbs))
+        limit.field->setValue(m_manager.GetValue(Name::exposureTime, Name::exposureTimeAbs));
 }

@@ -1,7 +1,7 @@
 #include "regions/automatic/AutoRegionCamera.h"
 
-#include "features/FeatureNames.h"
 #include "features/FeatureManager.h"
+#include "features/FeatureNames.h"
 #include "features/NumberConversion.h"
 #include "features/SdkValues.h"
 #include "sensor/PixelRect.h"
@@ -10,7 +10,7 @@
 
 #include <algorithm>
 
-using namespace FeatureNames;
+namespace Name = FeatureNames;
 
 QSize sizeOf(const RegionLimits& limits)
 {
@@ -19,20 +19,21 @@ QSize sizeOf(const RegionLimits& limits)
 
 AutoRegionCamera::AutoRegionCamera(FeatureManager& manager)
     : m_manager(manager)
-    , m_names{manager.GetExistingName({dspTop, aoiOffsetY, autoModeOffsetY}),
-              manager.GetExistingName({dspLeft, aoiOffsetX, autoModeOffsetX}),
-              manager.GetExistingName({dspRight}),
-              manager.GetExistingName({dspBottom}),
-              manager.GetExistingName({aoiWidth, autoModeWidth}),
-              manager.GetExistingName({aoiHeight, autoModeHeight})}
-    , m_usesEdges(manager.HasFeature(dspTop))
-    , m_usesSizes(manager.HasFeature(aoiHeight, autoModeHeight))
+    , m_names{manager.GetExistingName({Name::dspTop, Name::aoiOffsetY, Name::autoModeOffsetY}),
+              manager.GetExistingName({Name::dspLeft, Name::aoiOffsetX, Name::autoModeOffsetX}),
+              manager.GetExistingName({Name::dspRight}),
+              manager.GetExistingName({Name::dspBottom}),
+              manager.GetExistingName({Name::aoiWidth, Name::autoModeWidth}),
+              manager.GetExistingName({Name::aoiHeight, Name::autoModeHeight})}
+    , m_usesEdges(manager.HasFeature(Name::dspTop))
+    , m_usesSizes(manager.HasFeature(Name::aoiHeight, Name::autoModeHeight))
 {
 }
 
 bool AutoRegionCamera::hasAutoRegion(FeatureManager& manager)
 {
-    return manager.HasFeature(aoiOffsetX, dspLeft) || manager.HasFeature(autoModeHeight);
+    return manager.HasFeature(Name::aoiOffsetX, Name::dspLeft)
+        || manager.HasFeature(Name::autoModeHeight);
 }
 
 bool AutoRegionCamera::has(const QString& name) const
@@ -43,12 +44,12 @@ bool AutoRegionCamera::has(const QString& name) const
 bool AutoRegionCamera::isRegionWritable() const
 {
     if (m_usesEdges)
-        return m_manager.IsWritable(dspLeft) && m_manager.IsWritable(dspTop)
-            && m_manager.IsWritable(dspRight) && m_manager.IsWritable(dspBottom);
-    return m_manager.IsWritable(aoiOffsetX, autoModeOffsetX)
-        && m_manager.IsWritable(aoiOffsetY, autoModeOffsetY)
-        && m_manager.IsWritable(aoiWidth, autoModeWidth)
-        && m_manager.IsWritable(aoiHeight, autoModeHeight);
+        return m_manager.IsWritable(Name::dspLeft) && m_manager.IsWritable(Name::dspTop)
+            && m_manager.IsWritable(Name::dspRight) && m_manager.IsWritable(Name::dspBottom);
+    return m_manager.IsWritable(Name::aoiOffsetX, Name::autoModeOffsetX)
+        && m_manager.IsWritable(Name::aoiOffsetY, Name::autoModeOffsetY)
+        && m_manager.IsWritable(Name::aoiWidth, Name::autoModeWidth)
+        && m_manager.IsWritable(Name::aoiHeight, Name::autoModeHeight);
 }
 
 const QString& AutoRegionCamera::nameOf(RegionNumber number) const
@@ -77,7 +78,8 @@ double AutoRegionCamera::write(RegionNumber number, double value)
 
 DspEdges AutoRegionCamera::edges() const
 {
-    return {value(dspLeft), value(dspTop), value(dspRight), value(dspBottom)};
+    return {value(Name::dspLeft), value(Name::dspTop), value(Name::dspRight),
+            value(Name::dspBottom)};
 }
 
 AutoRegionFields AutoRegionCamera::offsetAndSize() const
@@ -94,12 +96,12 @@ AutoRegionFields AutoRegionCamera::offsetAndSize() const
 
 bool AutoRegionCamera::isAutoMode() const
 {
-    return nameOf(RegionNumber::Left) == autoModeOffsetX;
+    return nameOf(RegionNumber::Left) == Name::autoModeOffsetX;
 }
 
 QString AutoRegionCamera::sizeProblem(const RegionLimits& limits) const
 {
-    const QString region = has(aoiHeight) ? QStringLiteral("AOI") : QStringLiteral("ROI");
+    const QString region = has(Name::aoiHeight) ? QStringLiteral("AOI") : QStringLiteral("ROI");
     const QPointF start = origin();
     if (exceedsLimit(range(RegionNumber::Top).value, start.y(), range(RegionNumber::Height).value,
                      limits.height))
@@ -134,38 +136,37 @@ AutoRegionCamera::State AutoRegionCamera::rangeOf(const QString& name) const
 
 QPointF AutoRegionCamera::origin() const
 {
-    return {value(autoModeOffsetX), value(autoModeOffsetY)};
+    return {value(Name::autoModeOffsetX), value(Name::autoModeOffsetY)};
 }
 
 RegionLimits AutoRegionCamera::limits() const
 {
     RegionLimits limits;
-    if (has(aoiHeight))
-        limits.height = aoiHeightLimit(value(imageHeight), m_manager.GetIncrement(aoiHeight),
-                                       rangeOf(imageHeight).minimum, rangeOf(aoiOffsetX).minimum);
-    else
+    if (has(Name::aoiHeight))
         limits.height
-            = toInt64(has(autoModeHeight) ? rangeOf(autoModeHeight).maximum : value(imageHeight));
-    if (has(aoiWidth))
-        limits.width = aoiWidthLimit(value(imageWidth), m_manager.GetIncrement(aoiWidth),
-                                     rangeOf(aoiOffsetY).minimum);
+            = aoiHeightLimit(value(Name::height), m_manager.GetIncrement(Name::aoiHeight),
+                             rangeOf(Name::height).minimum, rangeOf(Name::aoiOffsetX).minimum);
     else
-        limits.width
-            = toInt64(has(autoModeWidth) ? rangeOf(autoModeWidth).maximum : value(imageWidth));
+        limits.height = toInt64(has(Name::autoModeHeight) ? rangeOf(Name::autoModeHeight).maximum
+                                                          : value(Name::height));
+    if (has(Name::aoiWidth))
+        limits.width = aoiWidthLimit(value(Name::width), m_manager.GetIncrement(Name::aoiWidth),
+                                     rangeOf(Name::aoiOffsetY).minimum);
+    else
+        limits.width = toInt64(has(Name::autoModeWidth) ? rangeOf(Name::autoModeWidth).maximum
+                                                        : value(Name::width));
     return limits;
 }
 
 QSizeF AutoRegionCamera::imageSize() const
 {
-    return {value(imageWidth), value(imageHeight)};
+    return {value(Name::width), value(Name::height)};
 }
 
 QSize AutoRegionCamera::sensorSize() const
 {
-    return {sensorExtent(QStringLiteral("SensorWidth"), QStringLiteral("WidthMax"), imageWidth,
-                         QStringLiteral("OffsetX")),
-            sensorExtent(QStringLiteral("SensorHeight"), QStringLiteral("HeightMax"), imageHeight,
-                         QStringLiteral("OffsetY"))};
+    return {sensorExtent(Name::sensorWidth, Name::widthMax, Name::width, Name::offsetX),
+            sensorExtent(Name::sensorHeight, Name::heightMax, Name::height, Name::offsetY)};
 }
 
 int AutoRegionCamera::sensorExtent(const QString& sensor, const QString& maximum,
@@ -180,22 +181,19 @@ int AutoRegionCamera::sensorExtent(const QString& sensor, const QString& maximum
 
 QRect AutoRegionCamera::imageRegion(bool hasImage)
 {
-    const bool isMultiple
-        = value(QStringLiteral("MultipleRegionEnable"), QStringLiteral("MultipleRegionsEnable"))
-        != 0.0;
+    const bool isMultiple = value(Name::multipleRegionEnable, Name::multipleRegionsEnable) != 0.0;
     if (!isMultiple || !hasImage)
-        return truncatedRect(value(QStringLiteral("OffsetX")), value(QStringLiteral("OffsetY")),
-                             value(imageWidth), value(imageHeight));
+        return truncatedRect(value(Name::offsetX), value(Name::offsetY), value(Name::width),
+                             value(Name::height));
     selectFirstRegion();
-    return truncatedRect(value(QStringLiteral("SubRegionOffsetX"), QStringLiteral("OffsetX")),
-                         value(QStringLiteral("SubRegionOffsetY")),
-                         value(QStringLiteral("SubRegionWidth"), imageWidth),
-                         value(QStringLiteral("SubRegionHeight")));
+    return truncatedRect(value(Name::subRegionOffsetX, Name::offsetX),
+                         value(Name::subRegionOffsetY), value(Name::subRegionWidth, Name::width),
+                         value(Name::subRegionHeight));
 }
 
 void AutoRegionCamera::selectFirstRegion()
 {
-    const QString selector = QStringLiteral("SubRegionSelector");
+    const QString selector = Name::subRegionSelector;
     if (m_manager.GetDataType(selector) == Sdk::enumerationType)
         m_manager.SetStringValue(selector, QStringLiteral("Region0"));
     else

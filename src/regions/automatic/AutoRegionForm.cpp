@@ -1,7 +1,7 @@
 #include "regions/automatic/AutoRegionForm.h"
 
-#include "regions/automatic/AutoRegionCamera.h"
 #include "features/FeatureNames.h"
+#include "regions/automatic/AutoRegionCamera.h"
 #include "ui_AutoROIWidget.h"
 
 #include <QCoreApplication>
@@ -10,7 +10,7 @@
 #include <array>
 #include <initializer_list>
 
-using namespace FeatureNames;
+namespace Name = FeatureNames;
 
 namespace {
 
@@ -34,19 +34,19 @@ void adaptTexts(const Ui::AutoROIWidget& form, const AutoRegionCamera& camera)
 {
     QString title = Text::tr("Autofunction ROI");
     QString regionTitle = Text::tr("AutoMode Region");
-    if (camera.has(aoiHeight)) {
+    if (camera.has(Name::aoiHeight)) {
         title = Text::tr("Autofunction AOI");
         regionTitle = title;
     } else {
-        if (camera.has(autoModeHeight))
+        if (camera.has(Name::autoModeHeight))
             title = Text::tr("AutoMode ROI");
-        if (camera.has(dspTop))
+        if (camera.has(Name::dspTop))
             regionTitle = Text::tr("DSPSubregion");
     }
     form.gb_AutoROI->setTitle(title);
     form.gb_Region->setTitle(regionTitle);
-    form.labelTop->setText(camera.has(dspTop) ? Text::tr("Top:") : Text::tr("OffsetY:"));
-    form.labelLeft->setText(camera.has(dspLeft) ? Text::tr("Left:") : Text::tr("OffsetX:"));
+    form.labelTop->setText(camera.has(Name::dspTop) ? Text::tr("Top:") : Text::tr("OffsetY:"));
+    form.labelLeft->setText(camera.has(Name::dspLeft) ? Text::tr("Left:") : Text::tr("OffsetX:"));
 }
 
 /// Lines up the fields behind them.
@@ -72,7 +72,7 @@ void adaptRegionFields(const Ui::AutoROIWidget& form, const AutoRegionCamera& ca
         field->setDecimals(0);
     }
     std::vector<QWidget*> hidden;
-    if (camera.has(dspBottom))
+    if (camera.has(Name::dspBottom))
         hidden = {form.spinWidth, form.labelWidth, form.spinHeight, form.labelHeight};
     else if (camera.usesSizes())
         hidden = {form.spinBottom, form.labelBottom, form.spinRight, form.labelRight};
@@ -93,21 +93,21 @@ void adaptRegionFields(const Ui::AutoROIWidget& form, const AutoRegionCamera& ca
 void adaptSwitches(const Ui::AutoROIWidget& form, const AutoRegionCamera& camera)
 {
     // Without a switch the region is always on.
-    form.cbEnable->setVisible(camera.has(aoiEnable));
-    form.cbEnable->setChecked(!camera.has(aoiEnable));
-    form.cbShowArea->setVisible(camera.has(aoiShowArea));
-    form.labelIntensityControllerRegion->setVisible(camera.has(intensityRegion));
-    form.comboIntensityControllerRegion->setVisible(camera.has(intensityRegion));
-    if (!camera.has(intensityRegion))
+    form.cbEnable->setVisible(camera.has(Name::aoiEnable));
+    form.cbEnable->setChecked(!camera.has(Name::aoiEnable));
+    form.cbShowArea->setVisible(camera.has(Name::aoiShowArea));
+    form.labelIntensityControllerRegion->setVisible(camera.has(Name::intensityControllerRegion));
+    form.comboIntensityControllerRegion->setVisible(camera.has(Name::intensityControllerRegion));
+    if (!camera.has(Name::intensityControllerRegion))
         form.horizontalSpacer->changeSize(0, 0);
 }
 
 void adaptExposure(const Ui::AutoROIWidget& form, const AutoRegionCamera& camera)
 {
-    const bool hasMin = camera.has(exposureAutoMin);
-    const bool hasMax = camera.has(exposureAutoMax);
-    const bool hasTimebase = camera.has(exposureAutoTimebase);
-    const bool hasTime = camera.has(exposureTime) || camera.has(exposureTimeAbs);
+    const bool hasMin = camera.has(Name::exposureAutoMin);
+    const bool hasMax = camera.has(Name::exposureAutoMax);
+    const bool hasTimebase = camera.has(Name::exposureAutoTimebase);
+    const bool hasTime = camera.has(Name::exposureTime) || camera.has(Name::exposureTimeAbs);
     for (QDoubleSpinBox* field : {form.spinExpAutoMin, form.spinExpAutoMax}) {
         field->setMinimumWidth(exposureFieldWidth);
         field->setKeyboardTracking(false);

@@ -114,7 +114,7 @@ void AutoRegionView::refreshExtent(RegionNumber size, double extent)
 }
 
 void AutoRegionView::refreshAxis(RegionNumber offset, RegionNumber size, RegionNumber farEdge,
-                                   qint64 limit)
+                                 qint64 limit)
 {
     const double position = refreshField(offset).value;
     const double extent = refreshField(size).value;

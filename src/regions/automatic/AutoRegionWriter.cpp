@@ -1,12 +1,12 @@
 #include "regions/automatic/AutoRegionWriter.h"
 
-#include "regions/automatic/AutoRegionView.h"
 #include "features/FeatureNames.h"
-#include "regions/automatic/EdgeSpan.h"
+#include "features/NumberConversion.h"
 #include "page/NumberField.h"
+#include "regions/automatic/AutoRegionView.h"
+#include "regions/automatic/EdgeSpan.h"
 #include "regions/image/RegionPresets.h"
 #include "regions/image/RegionSnapping.h"
-#include "features/NumberConversion.h"
 
 #include <QDoubleSpinBox>
 

@@ -1,8 +1,9 @@
 #include "regions/image/RegionAxis.h"
 
-#include "page/NumberField.h"
 #include "features/FeatureManager.h"
+#include "features/FeatureNames.h"
 #include "features/NumberConversion.h"
+#include "page/NumberField.h"
 #include "widgets/QSpinBoxMouseEventFilter.h"
 
 #include <QDoubleSpinBox>
@@ -83,7 +84,7 @@ bool RegionAxis::refreshOffset(QDoubleSpinBox* stepField)
     OffsetRange range{0.0, 0.0, 0.0};
     double value = 0.0;
     if (needsEvenSize(m_manager.GetCategory(m_names.offset),
-                      m_manager.GetStringValue(QStringLiteral("PixelFormat")))) {
+                      m_manager.GetStringValue(FeatureNames::pixelFormat))) {
         value = m_manager.GetValueRange(m_names.offset, range.minimum, range.maximum,
                                         range.increment);
         range = evenOffsetRange(range);
@@ -183,8 +184,8 @@ void RegionAxis::writeOffset(double value)
 void RegionAxis::writeSize(double value)
 {
     value = snappedUp(value, gridOf(m_sizeField));
-    if (needsEvenSize(m_manager.GetCategory(QStringLiteral("OffsetX")),
-                      m_manager.GetStringValue(QStringLiteral("PixelFormat"))))
+    if (needsEvenSize(m_manager.GetCategory(FeatureNames::offsetX),
+                      m_manager.GetStringValue(FeatureNames::pixelFormat)))
         value = raisedToEven(value);
     value = cutToMaximum(value, cameraOffset(), maximum());
     showTaken(m_sizeField, m_manager.SetValue(m_names.size, value), m_lastOnCamera.size);

@@ -38,5 +38,4 @@ SensorRegion regionForRelease(const EdgeDrag& drag, const QRect& band, const QPo
 
 /// The region that a band stands for in the middle of a drag: what a release within the label would
 /// end on.
-SensorRegion heldRegion(const EdgeDrag& drag, const QRect& band,
-                        const LabelGeometry& geometry);
+SensorRegion heldRegion(const EdgeDrag& drag, const QRect& band, const LabelGeometry& geometry);

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "regions/label/SensorRegion.h"
 #include "features/NumberConversion.h"
+#include "regions/label/SensorRegion.h"
 
 #include <QPoint>
 #include <QRect>

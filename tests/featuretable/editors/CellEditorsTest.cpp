@@ -1,7 +1,7 @@
 #include "DataTable.h"
-#include "FeaturesTable.h"
 #include "TestEvents.h"
 #include "WheelEvent.h"
+#include "featuretable/FeaturesTable.h"
 
 #include <QComboBox>
 #include <QScrollBar>

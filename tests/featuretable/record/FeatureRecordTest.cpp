@@ -1,11 +1,11 @@
 #include "DataTable.h"
+#include "featuretable/editors/IntegerValidator.h"
+#include "featuretable/editors/SliderRange.h"
 #include "featuretable/record/CellText.h"
 #include "featuretable/record/DoubleText.h"
 #include "featuretable/record/FeatureFilter.h"
 #include "featuretable/record/IntegerNotation.h"
 #include "featuretable/record/IntegerRange.h"
-#include "featuretable/editors/IntegerValidator.h"
-#include "featuretable/editors/SliderRange.h"
 
 #include <cmath>
 #include <limits>

@@ -1,7 +1,7 @@
-#include "DataTable.h"
-#include "multiregion/rules/ConstraintGroups.h"
-#include "multiregion/label/ConstraintLineRules.h"
 #include "multiregion/label/HandleDrag.h"
+#include "DataTable.h"
+#include "multiregion/label/ConstraintLineRules.h"
+#include "multiregion/rules/ConstraintGroups.h"
 
 class HandleDragTest : public QObject
 {
@@ -15,8 +15,7 @@ private slots:
                                const QString& expected) {
             QString result;
             for (int i = 0; i < expected.size(); ++i)
-                result
-                    += QString::number(static_cast<int>(handleGrabAt(band, from + i * step)));
+                result += QString::number(static_cast<int>(handleGrabAt(band, from + i * step)));
             QCOMPARE(result, expected);
         });
         const QRect band(10, 20, 12, 14);
@@ -59,12 +58,12 @@ private slots:
     /// Band (50, 60) to (149, 109); minimum 20 x 10, maximum 200 x 80.
     void resizes_data()
     {
-        const DataTable row([](int grab, const QPoint& point, const QPoint& topLeft,
-                               const QPoint& bottomRight) {
-            QCOMPARE(resizedRegionBand(QRect(50, 60, 100, 50), static_cast<HandleGrab>(grab),
-                                       point, {{20, 10}, {200, 80}}),
-                     QRect(topLeft, bottomRight));
-        });
+        const DataTable row(
+            [](int grab, const QPoint& point, const QPoint& topLeft, const QPoint& bottomRight) {
+                QCOMPARE(resizedRegionBand(QRect(50, 60, 100, 50), static_cast<HandleGrab>(grab),
+                                           point, {{20, 10}, {200, 80}}),
+                         QRect(topLeft, bottomRight));
+            });
         row("left", 1, {30, 0}, {30, 60}, {149, 109});
         row("left to the minimum", 1, {300, 0}, {129, 60}, {149, 109});
         row("left over the border and the maximum", 1, {-400, 0}, {0, 60}, {149, 109});

@@ -1,7 +1,7 @@
 #include "DataTable.h"
 #include "RectText.h"
-#include "multiregion/label/RegionRanges.h"
 #include "multiregion/label/DragChanges.h"
+#include "multiregion/label/RegionRanges.h"
 #include "multiregion/rules/TableConstraints.h"
 
 #include <QRandomGenerator>

@@ -1,8 +1,8 @@
 #include "DataTable.h"
-#include "sensor/PixelRect.h"
 #include "multiregion/rules/DefaultLayouts.h"
 #include "multiregion/rules/RegionButtonRules.h"
 #include "multiregion/rules/RegionPlacement.h"
+#include "sensor/PixelRect.h"
 
 #include <cmath>
 #include <limits>

@@ -1,5 +1,5 @@
 #include "DataTable.h"
-#include "RegionPage.h"
+#include "regions/RegionPage.h"
 
 #include "simulator/State.h"
 

@@ -1,5 +1,5 @@
-#include "DataTable.h"
 #include "regions/label/EdgeDrag.h"
+#include "DataTable.h"
 #include "regions/label/BandResize.h"
 
 namespace {
