@@ -9,7 +9,6 @@
 #include "widgets/WheelGuard.h"
 
 #include <QSignalBlocker>
-#include <QTimer>
 
 #include <utility>
 
@@ -19,7 +18,7 @@ bool AOIWidget::eventFilter(QObject* watched, QEvent* event)
         event->ignore();
         return true;
     }
-    return BaseTabPluginWidget::eventFilter(watched, event);
+    return InnerPage::eventFilter(watched, event);
 }
 
 void AOIWidget::OnSpinTopValueChanged(double value)
@@ -52,7 +51,7 @@ void AOIWidget::writeNumber(RegionAxis* axis, void (RegionAxis::*write)(double),
 
 void AOIWidget::OnSpinEditingFinished()
 {
-    refreshSoon();
+    readAllSoon();
 }
 
 void AOIWidget::OnSendGeometry(int top, int left, int width, int height)
@@ -87,7 +86,7 @@ void AOIWidget::OnRubberLabelClicked()
         return;
     m_vertical->widen();
     m_horizontal->widen();
-    m_fullRefreshPending = true;
+    readAllNext();
 }
 
 void AOIWidget::OnROIFull()
@@ -124,7 +123,7 @@ void AOIWidget::applyPreset(const SensorRegion& region)
     }
     m_label->setEnabled(false);
     m_vertical->forgetMaximum();
-    refreshSoon();
+    readAllSoon();
 }
 
 void AOIWidget::camIsStreaming(bool streaming)
@@ -163,25 +162,16 @@ void AOIWidget::setBackgroundImage(std::shared_ptr<QPixmap> image)
 
 void AOIWidget::showEvent(QShowEvent* event)
 {
-    m_fullRefreshPending = true;
     if (m_ui)
         reserveProblemLines();
-    BaseTabPluginWidget::showEvent(event);
+    InnerPage::showEvent(event);
 }
 
 void AOIWidget::finishEdit()
 {
-    m_fullRefreshPending = true;
+    readAllNext();
     showOnLabel();
     checkConsistency();
-}
-
-void AOIWidget::refreshSoon()
-{
-    if (!m_ui)
-        return;
-    m_fullRefreshPending = true;
-    m_soonTimer->start();
 }
 
 void AOIWidget::onPaletteChanged(QEvent*) { }

@@ -1,13 +1,12 @@
 #pragma once
 
-#include "page/BaseTabPluginWidget.h"
+#include "page/InnerPage.h"
 
 #include <QPixmap>
 
 #include <memory>
 
 class QDoubleSpinBox;
-class QTimer;
 class RegionAxis;
 class RubberBandLabel;
 struct SensorRegion;
@@ -21,7 +20,7 @@ class AOIWidget;
 /// A camera without an image size leaves the accessible name empty and the page without a form;
 /// such a page is to be deleted. The camera accepts every value that the page writes beside those
 /// it has at that moment; during a drag nothing is written.
-class AOIWidget : public BaseTabPluginWidget
+class AOIWidget : public InnerPage
 {
     Q_OBJECT
 
@@ -48,7 +47,8 @@ public slots:
     void setBackgroundImage(std::shared_ptr<QPixmap> image);
 
 protected:
-    void refreshFeatures() override;
+    bool isAtWork() const override;
+    Changes refresh(const Changes& changes) override;
     void onPaletteChanged(QEvent* event) override;
     void showEvent(QShowEvent* event) override;
 
@@ -69,15 +69,11 @@ private:
     void finishEdit();
     void applyPreset(const SensorRegion& region);
     void applyCentredPreset(double factor);
-    void refreshSoon();
 
     std::unique_ptr<Ui::AOIWidget> m_ui; ///< null, as all below, when the page does not apply
     std::unique_ptr<RegionAxis> m_horizontal;
     std::unique_ptr<RegionAxis> m_vertical;
     RubberBandLabel* m_label = nullptr;
-    QTimer* m_soonTimer = nullptr;
     std::shared_ptr<QPixmap> m_background;
     bool m_isStreaming = false;
-    /// The next refresh reads everything: what the page itself did need not bring a notification.
-    bool m_fullRefreshPending = true;
 };

@@ -1,5 +1,6 @@
 #include "regions/AOIWidget.h"
 
+#include "features/FeatureNames.h"
 #include "features/NumberConversion.h"
 #include "regions/image/RegionAxis.h"
 #include "regions/image/RegionConsistency.h"
@@ -9,60 +10,47 @@
 #include <QApplication>
 
 #include <algorithm>
-#include <initializer_list>
-#include <utility>
 
 // What the page shows of the camera.
 
-namespace {
+namespace Name = FeatureNames;
 
-const QLatin1String multipleRegions("MultipleRegionEnable");
-const QLatin1String multipleRegionsOther("MultipleRegionsEnable");
-
-} // namespace
-
-void AOIWidget::refreshFeatures()
+bool AOIWidget::isAtWork() const
 {
-    const QStringList names = *changedFeatures;
-    if (!m_ui)
-        return;
-    if (m_label->isDragging()) {
-        // The names are gone by the end of the drag.
-        m_fullRefreshPending = m_fullRefreshPending || !names.isEmpty();
-        return;
-    }
-    const bool readsAll = std::exchange(m_fullRefreshPending, false);
-    const auto readsAny = [&](std::initializer_list<const char*> candidates) {
-        return readsAll || std::any_of(candidates.begin(), candidates.end(), [&](const char* name) {
-                   return names.contains(QLatin1String(name));
-               });
-    };
-    bool isComplete = true;
-    if (readsAny({"OffsetY", "Height", "HeightMax"})) {
+    return m_label && m_label->isDragging();
+}
+
+Changes AOIWidget::refresh(const Changes& changes)
+{
+    if (!m_ui || changes.isEmpty())
+        return {};
+    Changes untold;
+    if (changes.any({Name::offsetY, Name::height, Name::heightMax})) {
         m_vertical->forgetMaximum();
         m_label->setEnabled(true);
         // The vertical increment too becomes the step of the horizontal field.
-        isComplete = m_vertical->refresh(m_ui->spinLeft);
+        if (!m_vertical->refresh(m_ui->spinLeft))
+            untold.add({false, {Name::offsetY}});
     }
-    if (readsAny({"OffsetX", "Width", "WidthMax"})) {
+    if (changes.any({Name::offsetX, Name::width, Name::widthMax})) {
         m_horizontal->forgetMaximum();
         m_label->setEnabled(true);
-        isComplete = m_horizontal->refresh(m_ui->spinLeft) && isComplete;
+        if (!m_horizontal->refresh(m_ui->spinLeft))
+            untold.add({false, {Name::offsetX}});
     }
-    if (readsAny({"MultipleRegionEnable", "MultipleRegionsEnable"}))
+    if (changes.any(Name::multipleRegionSwitches))
         refreshMultipleRegions();
-    m_fullRefreshPending = m_fullRefreshPending || !isComplete;
-    if (readsAll || !names.isEmpty()) {
-        showOnLabel();
-        checkConsistency();
-    }
+    showOnLabel();
+    checkConsistency();
+    return untold;
 }
 
 void AOIWidget::refreshMultipleRegions()
 {
-    if (featureManager->HasFeature(multipleRegions, multipleRegionsOther))
-        onMultipleRegionsEnabled(featureManager->GetValue(multipleRegions, multipleRegionsOther)
-                                 > 0.0);
+    if (featureManager->HasFeature(Name::multipleRegionEnable, Name::multipleRegionsEnable))
+        onMultipleRegionsEnabled(
+            featureManager->GetValue(Name::multipleRegionEnable, Name::multipleRegionsEnable)
+            > 0.0);
 }
 
 void AOIWidget::showOnLabel()

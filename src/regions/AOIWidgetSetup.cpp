@@ -9,19 +9,17 @@
 #include "widgets/Theme.h"
 
 #include <QLabel>
-#include <QTimer>
 
 // The page's parts and their connections.
 
 namespace {
 
-constexpr int refreshDelayMs = 200;
 constexpr QColor regionColor(0, 100, 255, 255);
 
 } // namespace
 
 AOIWidget::AOIWidget(const FeatureList& camera, QWidget* parent)
-    : BaseTabPluginWidget(camera, parent)
+    : InnerPage(camera, parent)
 {
     if (!featureManager->HasFeature(FeatureNames::height)
         || !featureManager->HasFeature(FeatureNames::width))
@@ -41,11 +39,6 @@ AOIWidget::AOIWidget(const FeatureList& camera, QWidget* parent)
     observedFeatures << FeatureNames::offsetX << FeatureNames::offsetY << FeatureNames::height
                      << FeatureNames::width << FeatureNames::heightMax << FeatureNames::widthMax
                      << FeatureNames::multipleRegionEnable;
-
-    m_soonTimer = new QTimer(this);
-    m_soonTimer->setSingleShot(true);
-    m_soonTimer->setInterval(refreshDelayMs);
-    connect(m_soonTimer, &QTimer::timeout, this, &AOIWidget::updateTimer);
 
     createAxes();
     createLabel();
@@ -99,7 +92,7 @@ void AOIWidget::createLabel()
     connect(m_label, SIGNAL(UpdateGeometry(int, int, int, int)), this,
             SLOT(OnUpdateGeometry(int, int, int, int)));
     connect(m_label, SIGNAL(clicked()), this, SLOT(OnRubberLabelClicked()));
-    connect(m_label, &RubberBandLabel::GeometryChangeAborted, this, &AOIWidget::refreshSoon);
+    connect(m_label, &RubberBandLabel::GeometryChangeAborted, this, &AOIWidget::readAllSoon);
 }
 
 void AOIWidget::connectForm()

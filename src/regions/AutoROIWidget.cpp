@@ -10,6 +10,7 @@
 #include "regions/automatic/AutoRegionWriter.h"
 #include "regions/label/RubberBandLabel.h"
 #include "ui_AutoROIWidget.h"
+#include "widgets/SilentFields.h"
 #include "widgets/WheelGuard.h"
 
 #include <QCoreApplication>
@@ -20,23 +21,13 @@
 
 namespace Name = FeatureNames;
 
-namespace {
-
-void showEntry(QComboBox* comboBox, const QString& entry)
-{
-    const QSignalBlocker blocker(comboBox);
-    comboBox->setCurrentIndex(comboBox->findText(entry));
-}
-
-} // namespace
-
 bool AutoROIWidget::eventFilter(QObject* watched, QEvent* event)
 {
     if (isUnfocusedFieldWheel(watched, event)) {
         event->ignore();
         return true;
     }
-    return BaseTabPluginWidget::eventFilter(watched, event);
+    return InnerPage::eventFilter(watched, event);
 }
 
 // Editing
@@ -79,7 +70,7 @@ void AutoROIWidget::writeNumber(RegionNumber number, double value)
     showClamped(m_editor->field(number), value);
     const DspEdges wanted = m_editor->edges();
     m_writer->write(number, value);
-    m_fullRefreshPending = true;
+    readAllNext();
     if (m_camera->usesEdges())
         showEdgeProblems(wanted);
     showRegion();
@@ -92,7 +83,7 @@ void AutoROIWidget::OnSpinEditingFinished()
     // The field has missed what the camera told while it was being typed in.
     if (!m_picture->label()->isDragging())
         m_editor->refresh(m_limits);
-    m_soonTimer->start();
+    readSoon({});
 }
 
 void AutoROIWidget::OnEnableStateChanged(int state)
@@ -103,7 +94,7 @@ void AutoROIWidget::OnEnableStateChanged(int state)
     showChecked(m_ui->cbEnable,
                 featureManager->SetValue(Name::aoiEnable, state > 0 ? 1.0 : 0.0) > 0.0);
     // Reading everything would check the region again and take back what the user switched on.
-    m_soonTimer->start();
+    readSoon({});
 }
 
 void AutoROIWidget::OnShowAreaStateChanged(int state)
@@ -118,12 +109,6 @@ void AutoROIWidget::OnIntensityControllerRegionChanged(const QString& region)
     if (m_ui && m_camera->has(Name::intensityControllerRegion))
         showEntry(m_ui->comboIntensityControllerRegion,
                   featureManager->SetStringValue(Name::intensityControllerRegion, region));
-}
-
-void AutoROIWidget::refreshSoon()
-{
-    m_fullRefreshPending = true;
-    m_soonTimer->start();
 }
 
 // False when the page was deleted meanwhile.
@@ -147,7 +132,7 @@ void AutoROIWidget::onGeometryChangeAborted()
 {
     finishDrag();
     resumeUpdates(false);
-    refreshSoon();
+    readAllSoon();
 }
 
 void AutoROIWidget::OnUpdateGeometry(int top, int left, int width, int height)
@@ -166,7 +151,7 @@ void AutoROIWidget::OnSendGeometry(int top, int left, int width, int height)
         return;
     if (m_writer->writeDrawn({top, left, width, height}, m_limits))
         m_isTrusted = true;
-    m_fullRefreshPending = true;
+    readAllNext();
     finishDrag();
     // Also while the region is off: the band lies where it was dropped.
     m_picture->showRegion(m_limits);
@@ -197,7 +182,7 @@ void AutoROIWidget::SetFullArea()
 {
     if (!m_ui)
         return;
-    m_fullRefreshPending = true;
+    readAllNext();
     m_writer->setFullArea(m_limits);
 }
 
@@ -232,7 +217,7 @@ void AutoROIWidget::finishPreset()
     if (m_camera->usesEdges())
         showEdgeProblems(m_editor->edges());
     showRegion();
-    refreshSoon();
+    readAllSoon();
 }
 
 // Exposure

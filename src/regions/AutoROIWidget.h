@@ -1,6 +1,6 @@
 #pragma once
 
-#include "page/BaseTabPluginWidget.h"
+#include "page/InnerPage.h"
 #include "regions/automatic/RegionLimits.h"
 
 #include <QPixmap>
@@ -27,7 +27,7 @@ class AutoROIWidget;
 ///
 /// A camera without such a region leaves the accessible name empty and the page without a form;
 /// such a page is to be deleted. During a drag nothing is written.
-class AutoROIWidget : public BaseTabPluginWidget
+class AutoROIWidget : public InnerPage
 {
     Q_OBJECT
 
@@ -67,7 +67,8 @@ public slots:
     void setBackgroundImage(std::shared_ptr<QPixmap> image);
 
 protected:
-    void refreshFeatures() override;
+    bool isAtWork() const override;
+    Changes refresh(const Changes& changes) override;
     void onPaletteChanged(QEvent* event) override;
     void showEvent(QShowEvent* event) override;
 
@@ -83,7 +84,6 @@ private:
     void writeNumber(RegionNumber number, double value);
     void applyCentredPreset(double factor);
     void finishPreset();
-    void refreshSoon();
     bool pumpEvents();
     void onGeometryChangeAborted();
     void finishDrag();
@@ -102,7 +102,6 @@ private:
     std::unique_ptr<AutoRegionWriter> m_writer;
     std::unique_ptr<AutoRegionPicture> m_picture;
     std::unique_ptr<AutoExposureEditor> m_exposure;
-    QTimer* m_soonTimer = nullptr;
     QTimer* m_trustTimer = nullptr;
     RegionLimits m_limits;
     std::optional<QPointF> m_dragOrigin; ///< of the region under the mouse
@@ -110,7 +109,5 @@ private:
     bool m_isTrusted = false; ///< a drag was just written; what it passes through is no error
     bool m_isStreaming = false;
     bool m_isRefreshing = false;
-    /// The next refresh reads everything: what the page itself did need not bring a notification.
-    bool m_fullRefreshPending = false;
     bool m_isJustShown = false; ///< which counts every feature as changed
 };

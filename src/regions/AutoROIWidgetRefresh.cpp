@@ -10,51 +10,50 @@
 #include "regions/automatic/AutoRegionView.h"
 #include "regions/label/RubberBandLabel.h"
 #include "ui_AutoROIWidget.h"
+#include "widgets/SilentFields.h"
 
 #include <QScopedValueRollback>
 
-#include <algorithm>
 #include <utility>
 
 namespace Name = FeatureNames;
 
 void AutoROIWidget::showEvent(QShowEvent* event)
 {
-    m_fullRefreshPending = true;
-    BaseTabPluginWidget::showEvent(event);
+    InnerPage::showEvent(event);
     m_isJustShown = true;
 }
 
-void AutoROIWidget::refreshFeatures()
+bool AutoROIWidget::isAtWork() const
 {
-    if (!m_ui || m_picture->label()->isDragging())
-        return;
+    return m_picture && m_picture->label()->isDragging();
+}
+
+Changes AutoROIWidget::refresh(const Changes& changes)
+{
+    if (!m_ui)
+        return {};
     const QScopedValueRollback<bool> refreshing(m_isRefreshing, true);
     const auto blockers = blockFields(*m_ui);
-    const bool readsAll = std::exchange(m_fullRefreshPending, false);
-    const QStringList names = readsAll ? observedFeatures : *changedFeatures;
-    const auto reads = [&names](const QStringList& candidates) {
-        return std::any_of(candidates.begin(), candidates.end(),
-                           [&names](const QString& name) { return names.contains(name); });
-    };
     m_ui->gb_AutoROI->setMaximumWidth(QWIDGETSIZE_MAX);
 
     const bool isSizeTold
-        = changedFeatures->contains(Name::height) || changedFeatures->contains(Name::width);
+        = changes.names.contains(Name::height) || changes.names.contains(Name::width);
     const bool isNewSize = isSizeTold && !std::exchange(m_isJustShown, false);
-    const bool isResized = !names.isEmpty() && updateLimits(isNewSize);
-    const bool readsRegion = isResized || reads(Name::autoRegion);
-    if (readsRegion || reads({Name::aoiEnable, Name::aoiShowArea}))
+    const bool isResized = !changes.isEmpty() && updateLimits(isNewSize);
+    const bool readsRegion = isResized || changes.any(Name::autoRegion);
+    if (readsRegion || changes.any({Name::aoiEnable, Name::aoiShowArea}))
         refreshSwitches();
     if (readsRegion)
         refreshRegion();
-    else if (!names.isEmpty())
+    else if (!changes.isEmpty())
         showRegion();
-    if (reads(Name::exposureLimits))
+    if (changes.any(Name::exposureLimits))
         refreshExposure();
-    if (reads({Name::intensityControllerRegion}))
+    if (changes.any({Name::intensityControllerRegion}))
         fillComboBox(Name::intensityControllerRegion, m_ui->comboIntensityControllerRegion, false);
     enableControls(!m_isStreaming);
+    return {};
 }
 
 // Whether they changed. Some cameras bound size and offset by each other, so the limits are taken

@@ -19,7 +19,6 @@ namespace Name = FeatureNames;
 
 namespace {
 
-constexpr int refreshDelayMs = 200;
 constexpr int trustMs = 250;
 
 QSpinBoxMouseEventFilter* filterOn(QDoubleSpinBox* field)
@@ -29,18 +28,10 @@ QSpinBoxMouseEventFilter* filterOn(QDoubleSpinBox* field)
     return filter;
 }
 
-QTimer* singleShotTimer(int milliseconds, QObject* parent)
-{
-    auto* const timer = new QTimer(parent);
-    timer->setSingleShot(true);
-    timer->setInterval(milliseconds);
-    return timer;
-}
-
 } // namespace
 
 AutoROIWidget::AutoROIWidget(const FeatureList& camera, QWidget* parent)
-    : BaseTabPluginWidget(camera, parent)
+    : InnerPage(camera, parent)
 {
     if (!AutoRegionCamera::hasAutoRegion(*featureManager))
         return;
@@ -109,9 +100,9 @@ void AutoROIWidget::createParts()
         = std::make_unique<AutoRegionPicture>(*m_camera, m_limits, *m_ui->gb_AutoROI->layout());
     m_exposure = std::make_unique<AutoExposureEditor>(*featureManager, m_ui->spinExpAutoMin,
                                                       m_ui->spinExpAutoMax);
-    m_soonTimer = singleShotTimer(refreshDelayMs, this);
-    connect(m_soonTimer, &QTimer::timeout, this, &AutoROIWidget::updateTimer);
-    m_trustTimer = singleShotTimer(trustMs, this);
+    m_trustTimer = new QTimer(this);
+    m_trustTimer->setSingleShot(true);
+    m_trustTimer->setInterval(trustMs);
     connect(m_trustTimer, &QTimer::timeout, this, &AutoROIWidget::OnResetTrustedUpdate);
 }
 

@@ -173,14 +173,6 @@ std::vector<QSignalBlocker> blockFields(const Ui::AutoROIWidget& form)
     return blockers;
 }
 
-void showChecked(QCheckBox* box, bool isChecked)
-{
-    const QSignalBlocker blocker(box);
-    // Not setChecked(): in the middle of a click it would leave the box's published state behind,
-    // and the next click would not be told.
-    box->setCheckState(isChecked ? Qt::Checked : Qt::Unchecked);
-}
-
 void guardAgainstWheel(const Ui::AutoROIWidget& form, QObject* filter)
 {
     const auto guard = [filter](QWidget* field) {

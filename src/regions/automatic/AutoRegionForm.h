@@ -5,7 +5,6 @@
 #include <vector>
 
 class AutoRegionCamera;
-class QCheckBox;
 class QObject;
 
 namespace Ui {
@@ -21,9 +20,6 @@ void fitColumns(const Ui::AutoROIWidget& form);
 
 /// For as long as the answer lives, what the form shows is not written back.
 std::vector<QSignalBlocker> blockFields(const Ui::AutoROIWidget& form);
-
-/// Without a signal.
-void showChecked(QCheckBox* box, bool isChecked);
 
 /// Keeps the wheel from changing fields without focus.
 void guardAgainstWheel(const Ui::AutoROIWidget& form, QObject* filter);

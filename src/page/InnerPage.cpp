@@ -1,0 +1,84 @@
+#include "page/InnerPage.h"
+
+#include <QTimer>
+
+#include <algorithm>
+#include <utility>
+
+namespace {
+
+constexpr int refreshDelayMs = 200;
+
+} // namespace
+
+bool Changes::any(const QStringList& candidates) const
+{
+    return all || std::any_of(candidates.begin(), candidates.end(), [this](const QString& name) {
+               return names.contains(name);
+           });
+}
+
+void Changes::add(const Changes& more)
+{
+    all = all || more.all;
+    names += more.names;
+    names.removeDuplicates();
+}
+
+InnerPage::Busy::Busy(InnerPage* page)
+    : m_page(page)
+{
+    ++m_page->m_busy;
+}
+
+InnerPage::Busy::~Busy()
+{
+    if (!m_page || --m_page->m_busy > 0 || m_page->m_pending.isEmpty())
+        return;
+    // Once the events under way are done with. A page that nobody sees leaves the camera alone.
+    QTimer::singleShot(0, m_page, [page = m_page.data()] {
+        if (page->isVisible())
+            page->updateTimer();
+    });
+}
+
+InnerPage::InnerPage(const FeatureList& camera, QWidget* parent)
+    : BaseTabPluginWidget(camera, parent)
+    , m_soonTimer(new QTimer(this))
+{
+    m_soonTimer->setSingleShot(true);
+    m_soonTimer->setInterval(refreshDelayMs);
+    connect(m_soonTimer, &QTimer::timeout, this, &InnerPage::updateTimer);
+}
+
+void InnerPage::readSoon(const QStringList& names)
+{
+    readNext(names);
+    m_soonTimer->start();
+}
+
+void InnerPage::readAllSoon()
+{
+    readAllNext();
+    m_soonTimer->start();
+}
+
+void InnerPage::showEvent(QShowEvent* event)
+{
+    readAllNext();
+    BaseTabPluginWidget::showEvent(event);
+}
+
+void InnerPage::refreshFeatures()
+{
+    readNext(*changedFeatures);
+    if (m_isRefreshing || isBusy() || isAtWork())
+        return;
+    const QPointer<InnerPage> self(this);
+    m_isRefreshing = true;
+    const Changes untold = refresh(std::exchange(m_pending, {}));
+    if (!self)
+        return;
+    m_isRefreshing = false;
+    m_pending.add(untold);
+}

@@ -1,0 +1,71 @@
+#pragma once
+
+#include "page/BaseTabPluginWidget.h"
+
+#include <QPointer>
+
+class QTimer;
+
+/// What a page has to read of the camera again.
+struct Changes
+{
+    bool all = false;
+    QStringList names;
+
+    bool isEmpty() const { return !all && names.isEmpty(); }
+    /// Whether one of @p candidates has to be read.
+    bool any(const QStringList& candidates) const;
+    void add(const Changes& more);
+};
+
+/// Base of the three region pages: keeps what is still to be read, from notifications and from what
+/// the page itself did, until the user is not at work and the camera has told it.
+class InnerPage : public BaseTabPluginWidget
+{
+    Q_OBJECT
+
+public:
+    InnerPage(const FeatureList& camera, QWidget* parent);
+
+protected:
+    /// No refresh while it lives: a question to the user, or work on many values. What was to be
+    /// read meanwhile is read when the outermost ends.
+    class Busy
+    {
+    public:
+        explicit Busy(InnerPage* page);
+        ~Busy();
+        Q_DISABLE_COPY_MOVE(Busy)
+
+    private:
+        QPointer<InnerPage> m_page;
+    };
+
+    Busy busy() { return Busy(this); }
+    bool isBusy() const { return m_busy > 0; }
+
+    /// Whether the user drags or edits; nothing is read meanwhile.
+    virtual bool isAtWork() const = 0;
+
+    /// Shows what the camera holds of @p changes. Answers what has to be read once more, because
+    /// the camera did not tell it or a field is being typed in; it stays pending. Called with every
+    /// tick, also without changes.
+    virtual Changes refresh(const Changes& changes) = 0;
+
+    // Cameras need not notify of what the page itself did. With the next refresh, whenever it
+    // comes:
+    void readNext(const QStringList& names) { m_pending.add({false, names}); }
+    void readAllNext() { m_pending.add({true, {}}); }
+    // and in 200 ms:
+    void readSoon(const QStringList& names);
+    void readAllSoon();
+
+    void refreshFeatures() final;
+    void showEvent(QShowEvent* event) override;
+
+private:
+    Changes m_pending{true, {}};
+    QTimer* m_soonTimer;
+    int m_busy = 0;
+    bool m_isRefreshing = false;
+};

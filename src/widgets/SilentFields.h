@@ -1,0 +1,13 @@
+#pragma once
+
+class QCheckBox;
+class QComboBox;
+class QString;
+
+// Showing what a camera holds in a field that the user edits too. Nothing here makes a field emit:
+// what is read back is not written again.
+
+void showChecked(QCheckBox* box, bool isChecked);
+
+/// Selects by index. A text that is no entry selects nothing; false then.
+bool showEntry(QComboBox* comboBox, const QString& entry);
