@@ -1,6 +1,6 @@
 #include "CameraListPane.h"
 
-#include "CameraSession.h"
+#include "SimulatedSource.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -30,7 +30,7 @@ CameraListPane::CameraListPane(QWidget* parent)
     m_close->setObjectName(QStringLiteral("btnCloseCamera"));
     m_description->setWordWrap(true);
 
-    for (const CameraSession::Model& model : CameraSession::models()) {
+    for (const CameraEntry& model : SimulatedSource::models()) {
         auto* item = new QListWidgetItem(model.name, m_list);
         item->setData(NameRole, model.name);
         item->setData(DescriptionRole, model.description);

@@ -65,7 +65,7 @@ void FeatureWritePane::write()
     if (!m_session)
         return;
     const QString name = m_feature->currentText();
-    const ZebErrorType code = m_session->writeAsOtherClient(name, m_value->text());
+    const ZebErrorType code = m_session->camera().writeAsOtherClient(name, m_value->text());
     m_result->setText(code == ZebErrorSuccess
                           ? tr("%1 written.").arg(name)
                           : tr("%1 not written (code %2).").arg(name).arg(static_cast<int>(code)));
@@ -74,6 +74,6 @@ void FeatureWritePane::write()
 
 void FeatureWritePane::showCurrentValue()
 {
-    m_value->setPlaceholderText(m_session ? m_session->valueText(m_feature->currentText())
-                                          : QString());
+    m_value->setPlaceholderText(
+        m_session ? m_session->camera().readValueText(m_feature->currentText()) : QString());
 }

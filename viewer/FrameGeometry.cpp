@@ -1,7 +1,11 @@
 #include "FrameGeometry.h"
 
-QSize binnedSize(const SensorState& state)
+#include <QPainter>
+
+QSize wholePicture(const SensorState& state)
 {
+    if (!state.picture.isEmpty())
+        return state.picture;
     if (state.sensor.isEmpty())
         return {};
     const int horizontal = qMax(1, state.binning.width());
@@ -12,7 +16,7 @@ QSize binnedSize(const SensorState& state)
 
 QRect frameRect(const SensorState& state)
 {
-    const QRect area({0, 0}, binnedSize(state));
+    const QRect area({0, 0}, wholePicture(state));
     if (state.multipleRegions)
         return state.regions.isEmpty() ? QRect() : area;
     return state.regions.isEmpty() ? area : state.regions.first().intersected(area);
@@ -20,7 +24,7 @@ QRect frameRect(const SensorState& state)
 
 QTransform sensorToBinned(const SensorState& state)
 {
-    const QSize area = binnedSize(state);
+    const QSize area = wholePicture(state);
     QTransform mirror;
     if (state.reverseX)
         mirror *= QTransform(-1, 0, 0, 1, area.width(), 0);
@@ -45,12 +49,25 @@ FramePlacement placeFrame(const SensorState& state, const QRectF& view)
 
     FramePlacement placement;
     placement.sensor = centred(state.sensor);
-    placement.binnedArea = centred(binnedSize(state));
+    placement.binnedArea = centred(wholePicture(state));
     const QRect frame = frameRect(state);
     placement.frame = QRectF(placement.binnedArea.x() + frame.x() * scale,
                              placement.binnedArea.y() + frame.y() * scale, frame.width() * scale,
                              frame.height() * scale);
     return placement;
+}
+
+QImage placedFrame(const QImage& frame, const QRect& place, const QSize& whole)
+{
+    if (frame.isNull() || place == QRect({0, 0}, whole))
+        return frame;
+    QImage picture(whole, frame.format());
+    if (picture.isNull())
+        return {};
+    picture.fill(Qt::black);
+    QPainter painter(&picture);
+    painter.drawImage(place, frame);
+    return picture;
 }
 
 QSize renderSize(const QSize& frame, const QSize& available)

@@ -2,6 +2,7 @@
 
 #include "SensorState.h"
 
+#include <QImage>
 #include <QRectF>
 #include <QTransform>
 
@@ -13,8 +14,8 @@ struct FramePlacement
     QRectF frame;
 };
 
-/// Size of the whole sensor in binned pixels; at least 1 x 1 for a sensor that has pixels.
-QSize binnedSize(const SensorState& state);
+/// Size of the whole sensor in frame pixels; at least 1 x 1 for a sensor that has pixels.
+QSize wholePicture(const SensorState& state);
 
 /// The part of the binned area that one frame covers: the single region, or with multiple regions
 /// the whole area, dark between the regions. Empty when the camera delivers no pixels.
@@ -27,6 +28,9 @@ QTransform sensorToBinned(const SensorState& state);
 /// Fits the sensor into @p view with its aspect ratio kept. All three rectangles share one scale
 /// per sensor pixel, so binning by 2 halves the drawn picture.
 FramePlacement placeFrame(const SensorState& state, const QRectF& view);
+
+/// @p frame at its place in a black picture of @p whole pixels, cut where it reaches beyond.
+QImage placedFrame(const QImage& frame, const QRect& place, const QSize& whole);
 
 /// Size at which a frame is rendered for a display of @p available pixels: its own size, or less.
 QSize renderSize(const QSize& frame, const QSize& available);

@@ -16,8 +16,9 @@ QString describeExposure(double microseconds)
                                  : LivePane::tr("%1 ms").arg(microseconds / 1000.0, 0, 'g', 4);
 }
 
-QString describe(const SensorState& state)
+QString describe(const CameraSource& camera)
 {
+    const SensorState state = camera.state();
     const QRect frame = frameRect(state);
     QStringList parts;
     if (state.multipleRegions)
@@ -33,6 +34,8 @@ QString describe(const SensorState& state)
     if (!state.pixelFormat.isEmpty())
         parts << state.pixelFormat;
     parts << describeExposure(state.exposureTime);
+    if (const QString stream = camera.streamText(); !stream.isEmpty())
+        parts << stream;
     // The line breaks between the parts only.
     for (QString& part : parts)
         part.replace(QLatin1Char(' '), QChar::Nbsp);
@@ -67,12 +70,14 @@ LivePane::LivePane(QWidget* parent)
 
 void LivePane::setSession(CameraSession* session)
 {
-    if (m_session)
+    if (m_session) {
         m_session->disconnect(this);
+        m_session->camera().disconnect(this);
+    }
     m_session = session;
-    m_picture->setSession(session);
+    m_picture->setCamera(session ? &session->camera() : nullptr);
     if (session) {
-        connect(session, &CameraSession::pictureChanged, this, &LivePane::updateCaption);
+        connect(&session->camera(), &CameraSource::pictureChanged, this, &LivePane::updateCaption);
         connect(session, &CameraSession::streamingChanged, this, &LivePane::updateButtons);
     }
     updateCaption();
@@ -81,7 +86,7 @@ void LivePane::setSession(CameraSession* session)
 
 void LivePane::updateCaption()
 {
-    m_caption->setText(m_session ? describe(m_session->state()) : QString());
+    m_caption->setText(m_session ? describe(m_session->camera()) : QString());
 }
 
 void LivePane::updateButtons()

@@ -1,8 +1,7 @@
 #include "LivePicture.h"
 
-#include "CameraSession.h"
+#include "CameraSource.h"
 #include "FrameGeometry.h"
-#include "TestPattern.h"
 
 #include <QPainter>
 
@@ -14,13 +13,13 @@ LivePicture::LivePicture(QWidget* parent)
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 }
 
-void LivePicture::setSession(const CameraSession* session)
+void LivePicture::setCamera(const CameraSource* camera)
 {
-    if (m_session)
-        m_session->disconnect(this);
-    m_session = session;
-    if (m_session)
-        connect(m_session, &CameraSession::pictureChanged, this, qOverload<>(&QWidget::update));
+    if (m_camera)
+        m_camera->disconnect(this);
+    m_camera = camera;
+    if (m_camera)
+        connect(m_camera, &CameraSource::pictureChanged, this, qOverload<>(&QWidget::update));
     update();
 }
 
@@ -29,18 +28,17 @@ void LivePicture::paintEvent(QPaintEvent*)
     constexpr double margin = 8.0;
     QPainter painter(this);
     painter.fillRect(rect(), palette().color(QPalette::Base));
-    if (!m_session) {
+    if (!m_camera) {
         paintEmpty(painter);
         return;
     }
 
-    const SensorState& state = m_session->state();
+    const SensorState state = m_camera->state();
     const FramePlacement place
         = placeFrame(state, QRectF(rect()).adjusted(margin, margin, -margin, -margin));
     painter.fillRect(place.binnedArea, palette().color(QPalette::AlternateBase));
     const QSize shown = (place.frame.size() * devicePixelRatioF()).toSize();
-    const QImage frame
-        = renderFrame(state, renderSize(frameRect(state).size(), shown), m_session->frameNumber());
+    const QImage frame = m_camera->frame(shown);
     if (!frame.isNull())
         painter.drawImage(place.frame, frame);
 

@@ -3,10 +3,9 @@
 #include <QImage>
 #include <QWidget>
 
-class CameraSession;
+class CameraSource;
 
-/// Draws the camera's frames at the place they have on the sensor. Rendered at the size shown, so
-/// that a large sensor costs no more than a small one.
+/// Draws the camera's frames at the place they have on the sensor.
 class LivePicture : public QWidget
 {
     Q_OBJECT
@@ -15,7 +14,7 @@ public:
     explicit LivePicture(QWidget* parent = nullptr);
 
     /// Null shows an empty picture.
-    void setSession(const CameraSession* session);
+    void setCamera(const CameraSource* camera);
 
     QSize sizeHint() const override { return {480, 360}; }
     QSize minimumSizeHint() const override { return {160, 120}; }
@@ -26,5 +25,5 @@ protected:
 private:
     void paintEmpty(QPainter& painter) const;
 
-    const CameraSession* m_session = nullptr;
+    const CameraSource* m_camera = nullptr;
 };

@@ -9,6 +9,7 @@
 #include "LogPane.h"
 #include "PageHost.h"
 #include "PluginHost.h"
+#include "SimulatedSource.h"
 
 #include <QApplication>
 #include <QDockWidget>
@@ -40,7 +41,8 @@ MainWindow::~MainWindow()
 void MainWindow::openCamera(const QString& modelName)
 {
     closeCamera();
-    m_session = std::make_unique<CameraSession>(modelName);
+    m_session
+        = std::make_unique<CameraSession>(modelName, std::make_unique<SimulatedSource>(modelName));
     m_live->setSession(m_session.get());
     m_outside->setSession(m_session.get());
     m_features->setSession(m_session.get());
@@ -67,7 +69,7 @@ void MainWindow::closeCamera()
     m_outside->setSession(nullptr);
     m_features->setSession(nullptr);
     m_cameras->setOpenCamera({});
-    m_log->append(ZebViewerLogGeneral, tr("%1 closed.").arg(m_session->modelName()));
+    m_log->append(ZebViewerLogGeneral, tr("%1 closed.").arg(m_session->id()));
     m_session.reset();
 }
 

@@ -117,7 +117,7 @@ QString ScriptRunner::writeFeature(const QString& feature, const QString& value)
 {
     if (!m_window.session())
         return tr("no camera is open");
-    const ZebErrorType code = m_window.session()->writeAsOtherClient(feature, value);
+    const ZebErrorType code = m_window.session()->camera().writeAsOtherClient(feature, value);
     return code == ZebErrorSuccess
         ? QString()
         : tr("%1 is not written (code %2)").arg(feature).arg(static_cast<int>(code));

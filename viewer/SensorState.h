@@ -9,6 +9,7 @@
 struct SensorState
 {
     QSize sensor;        ///< pixels of the sensor, not binned
+    QSize picture;       ///< of the whole sensor, as the camera tells; empty: what binning leaves
     QSize binning{1, 1}; ///< sensor pixels that make one frame pixel, per axis
     bool reverseX = false;
     bool reverseY = false;
@@ -20,10 +21,10 @@ struct SensorState
 
 inline bool operator==(const SensorState& a, const SensorState& b)
 {
-    return a.sensor == b.sensor && a.binning == b.binning && a.reverseX == b.reverseX
-        && a.reverseY == b.reverseY && a.multipleRegions == b.multipleRegions
-        && a.regions == b.regions && a.exposureTime == b.exposureTime
-        && a.pixelFormat == b.pixelFormat;
+    return a.sensor == b.sensor && a.picture == b.picture && a.binning == b.binning
+        && a.reverseX == b.reverseX && a.reverseY == b.reverseY
+        && a.multipleRegions == b.multipleRegions && a.regions == b.regions
+        && a.exposureTime == b.exposureTime && a.pixelFormat == b.pixelFormat;
 }
 
 inline bool operator!=(const SensorState& a, const SensorState& b)

@@ -1,6 +1,6 @@
-#include "CameraSession.h"
 #include "MainWindow.h"
 #include "ScriptRunner.h"
+#include "SimulatedSource.h"
 #include "ViewerOptions.h"
 
 #include <QApplication>
@@ -37,15 +37,15 @@ void printError(const QString& message)
 void listCameras()
 {
     QTextStream out(stdout);
-    for (const CameraSession::Model& model : CameraSession::models())
+    for (const CameraEntry& model : SimulatedSource::models())
         out << model.name.leftJustified(28) << ' ' << model.description << '\n';
 }
 
 bool isKnownCamera(const QString& name)
 {
-    const auto models = CameraSession::models();
+    const auto models = SimulatedSource::models();
     return std::any_of(models.begin(), models.end(),
-                       [&](const CameraSession::Model& model) { return model.name == name; });
+                       [&](const CameraEntry& model) { return model.name == name; });
 }
 
 QString complaint(const ViewerOptions& options)

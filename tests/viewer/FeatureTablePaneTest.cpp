@@ -1,6 +1,7 @@
 #include "FeatureTablePane.h"
 
 #include "CameraSession.h"
+#include "SimulatedSource.h"
 
 #include <QSpinBox>
 #include <QTableWidget>
@@ -12,7 +13,7 @@ namespace {
 struct Fixture
 {
     Fixture()
-        : session(QString("current"))
+        : session({}, std::make_unique<SimulatedSource>(QString("current")))
     {
         pane.setSession(&session);
         pane.resize(600, 400);
@@ -66,7 +67,7 @@ private slots:
         Fixture f;
         const QVariant before = f.cell->data(Qt::DisplayRole);
         QSpinBox* field = f.open();
-        f.session.writeAsOtherClient(QString("Width"), QString("640"));
+        f.session.camera().writeAsOtherClient(QString("Width"), QString("640"));
         QTest::qWait(700); // the pane gathers for half a second
         QCOMPARE(f.cell->data(Qt::DisplayRole), before);
         QTest::keyClick(field, Qt::Key_Escape);

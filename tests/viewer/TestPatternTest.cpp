@@ -1,6 +1,8 @@
 #include "TestPattern.h"
+#include "CameraSession.h"
 #include "DataTable.h"
 #include "FrameGeometry.h"
+#include "SimulatedSource.h"
 
 #include <QTest>
 
@@ -116,6 +118,22 @@ private slots:
             QVERIFY2(current > previous, qPrintable(QString::number(microseconds)));
             previous = current;
         }
+    }
+
+    void sendsTheFrameInItsPlace()
+    {
+        CameraSession session({}, std::make_unique<SimulatedSource>(QString("current")));
+        const QImage all = session.lastFrame().toImage();
+        const QRect region(640, 480, 320, 240);
+        CameraSource& camera = session.camera();
+        camera.writeAsOtherClient(QString("Width"), QString("320"));
+        camera.writeAsOtherClient(QString("Height"), QString("240"));
+        camera.writeAsOtherClient(QString("OffsetX"), QString("640"));
+        camera.writeAsOtherClient(QString("OffsetY"), QString("480"));
+        const QImage placed = session.lastFrame().toImage();
+        QCOMPARE(placed.size(), all.size());
+        QVERIFY(difference(placed.copy(region), all.copy(region)) < 1.0);
+        QCOMPARE(brightness(placed.copy(0, 0, all.width(), region.y())), 0.0);
     }
 
     void staysAliveWithoutPixels()

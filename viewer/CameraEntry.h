@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QMetaType>
+#include <QString>
+#include <QVector>
+
+/// A camera that can be opened.
+struct CameraEntry
+{
+    QString id; ///< what opens it
+    QString name;
+    QString description;
+};
+
+Q_DECLARE_METATYPE(QVector<CameraEntry>)
