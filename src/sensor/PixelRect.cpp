@@ -6,8 +6,6 @@
 
 namespace {
 
-constexpr int largestCoordinate = 1 << 29;
-
 int wholePixels(double value)
 {
     return std::clamp(toInt(value), -largestCoordinate, largestCoordinate);

@@ -16,8 +16,6 @@ constexpr int placeholderAlpha = 185;
 
 constexpr int marginFineness = 4;
 
-constexpr QSize largestBeforeLayout(2048, 2048);
-
 /// Aspect ratio kept and at least one pixel, as QPixmap::scaled() does it.
 QSize fittedSize(const QSize& size, const QSize& bounds)
 {
@@ -141,40 +139,18 @@ bool isCoverChange(const QEvent* event)
         || event->type() == QEvent::Resize;
 }
 
-void SensorBackground::setPlaceholder(const QColor& color, const QSize& size)
+void SensorBackground::showPlaceholder(const QColor& color, const QSize& sensor)
 {
+    *this = {};
     m_color = color;
-    m_size = size;
-    m_source = {};
-    m_picture = {};
+    m_size = sensor;
 }
 
-void SensorBackground::setColor(const QColor& color)
+void SensorBackground::showPicture(const SensorPicture& picture, const QSize& keptSize)
 {
-    setPlaceholder(color, m_size);
-}
-
-void SensorBackground::setPicture(const SensorPicture& picture, const QSize& size)
-{
+    *this = {};
     m_source = picture;
-    m_picture = {};
-    m_size = size;
-}
-
-QPixmap SensorBackground::fitted(const QSize& bounds)
-{
-    const QSize size = fittedSize(bounds);
-    if (size.isEmpty())
-        return {};
-    if (m_source.image) {
-        m_picture = composeBackground(*m_source.image, m_source.sensor, m_source.crop, m_size);
-        m_source = {};
-    }
-    if (!m_picture.isNull())
-        return m_picture.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-    QPixmap placeholder(size);
-    placeholder.fill(m_color);
-    return placeholder;
+    m_size = keptSize;
 }
 
 QSize SensorBackground::fittedSize(const QSize& bounds) const
@@ -182,8 +158,39 @@ QSize SensorBackground::fittedSize(const QSize& bounds) const
     return m_size.isEmpty() || bounds.isEmpty() ? QSize() : ::fittedSize(m_size, bounds);
 }
 
-QPixmap SensorBackground::beforeLayout()
+QPixmap SensorBackground::scaled(const QSize& size)
 {
-    const bool fits = m_size.boundedTo(largestBeforeLayout) == m_size;
-    return fitted(fits ? m_size : largestBeforeLayout);
+    if (size.isEmpty())
+        return {};
+    if (!isPicture()) {
+        QPixmap placeholder(size);
+        placeholder.fill(m_color);
+        return placeholder;
+    }
+    if (isScaledDirectly(size)) {
+        m_firstSize = size;
+        return stretchedBackground(m_source, size);
+    }
+    if (m_source.image)
+        compose(size);
+    return m_kept.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+}
+
+bool SensorBackground::isScaledDirectly(const QSize& size) const
+{
+    return m_source.image && m_source.fills(m_size) && size != m_size
+        && m_size.boundedTo(largestLabel) != m_size
+        && (m_firstSize.isEmpty() || size == m_firstSize);
+}
+
+/// @param size asked for; what is asked for whole is kept whole
+void SensorBackground::compose(const QSize& size)
+{
+    const bool isKeptWhole = size == m_size || m_size.boundedTo(largestLabel) == m_size;
+    const QSize kept = isKeptWhole ? m_size : m_size.scaled(largestLabel, Qt::KeepAspectRatio);
+    // Another aspect ratio than the sensor's leaves black beside the picture.
+    m_kept = m_source.fills(m_size)
+        ? stretchedBackground(m_source, kept)
+        : composeBackground(*m_source.image, m_source.sensor, m_source.crop, kept);
+    m_source = {};
 }

@@ -34,42 +34,51 @@ struct SensorPicture
     std::shared_ptr<const QPixmap> image;
     QSize sensor;
     QRect crop;
+
+    /// Whether all of a sensor of this size shows.
+    bool fills(const QSize& area) const { return crop.isEmpty() && sensor == area; }
 };
 
 /// The same stretched to @p size, whatever its aspect ratio.
 QPixmap stretchedBackground(const SensorPicture& picture, const QSize& size);
 
-/// Spares Qt the painting of what lies beneath @p label, as long as its @p picture hides all of it.
-/// To be called when either changes, and on what isCoverChange() tells.
+// For the label that has not been converted to SensorLabel yet.
 void coverWithPicture(QLabel* label, const QPixmap& picture);
 bool isCoverChange(const QEvent* event);
 
-/// What a region label shows below its bands: the placeholder of the sensor area, which is no more
-/// than a colour and a size and needs no memory, or a picture.
+/// What a label shows of the sensor below its bands: the placeholder, which is no more than a
+/// colour and a size and needs no memory, or a picture.
+///
+/// A picture is composed when it is first asked for, and kept as large as it is to be, or as large
+/// as a label can show: most labels are never resized, so a smaller first size comes straight from
+/// the image where the copy would lose pixels.
 class SensorBackground
 {
 public:
-    /// @param size in sensor pixels, of which pixmaps take the aspect ratio
-    void setPlaceholder(const QColor& color, const QSize& size);
-    /// The size stays as it is.
-    void setColor(const QColor& color);
-    /// The picture is composed at @p size when it is first asked for, and kept like that.
-    void setPicture(const SensorPicture& picture, const QSize& size);
+    /// As much as a label can show; label pixels.
+    static constexpr QSize largestLabel{2048, 2048};
 
+    /// @param sensor the size in sensor pixels, of which pixmaps take the aspect ratio
+    void showPlaceholder(const QColor& color, const QSize& sensor);
+    /// @param keptSize the size of all of it, of which pixmaps take the aspect ratio
+    void showPicture(const SensorPicture& picture, const QSize& keptSize);
+
+    bool isPicture() const { return m_source.image || !m_kept.isNull(); }
     QSize size() const { return m_size; }
 
-    /// The background fitted into @p bounds, aspect ratio kept; a null pixmap when either is empty.
-    QPixmap fitted(const QSize& bounds);
-    /// Its size; an empty one when either is empty.
+    /// The size fitted into @p bounds, aspect ratio kept; an empty one when either is empty.
     QSize fittedSize(const QSize& bounds) const;
-
-    /// The background before a layout has given its label a size: as large as the sensor, but not
-    /// larger than a label can be on a screen.
-    QPixmap beforeLayout();
+    /// All of it spread over @p size.
+    QPixmap scaled(const QSize& size);
+    QPixmap fitted(const QSize& bounds) { return scaled(fittedSize(bounds)); }
 
 private:
+    bool isScaledDirectly(const QSize& size) const;
+    void compose(const QSize& size);
+
     QSize m_size;
     QColor m_color;
-    SensorPicture m_source; ///< not composed yet
-    QPixmap m_picture;      ///< null for the placeholder
+    SensorPicture m_source; ///< until there is the copy
+    QSize m_firstSize;      ///< scaled straight from the image
+    QPixmap m_kept;         ///< null for the placeholder
 };

@@ -3,39 +3,47 @@
 #include <QRect>
 #include <Qt>
 
-/// One axis of a rectangle, in pixels of the rectangle.
-struct RegionSpan
+/// One axis of a rectangle, in pixels of the rectangle: whole ones, or exact ones as a camera tells
+/// them.
+template <typename Number> struct Span
 {
-    int start = 0;
-    int length = 0;
+    Number start{};
+    Number length{};
 
     /// The pixel behind the last one.
-    constexpr int end() const { return start + length; }
+    constexpr Number end() const { return start + length; }
 };
 
-constexpr bool operator==(const RegionSpan& a, const RegionSpan& b)
+using RegionSpan = Span<int>;
+
+template <typename Number> constexpr Span<Number> spanBetween(Number start, Number end)
+{
+    return {start, end - start};
+}
+
+template <typename Number> constexpr bool operator==(const Span<Number>& a, const Span<Number>& b)
 {
     return a.start == b.start && a.length == b.length;
 }
 
-constexpr bool operator!=(const RegionSpan& a, const RegionSpan& b)
+template <typename Number> constexpr bool operator!=(const Span<Number>& a, const Span<Number>& b)
 {
     return !(a == b);
 }
 
-constexpr bool overlap(const RegionSpan& a, const RegionSpan& b)
+template <typename Number> constexpr bool overlap(const Span<Number>& a, const Span<Number>& b)
 {
     return a.start < b.end() && b.start < a.end();
 }
 
 /// @param axis Qt::Horizontal for x and width, Qt::Vertical for y and height
-inline RegionSpan spanOf(const QRect& rect, Qt::Orientation axis)
+template <typename Number = int> Span<Number> spanOf(const QRect& rect, Qt::Orientation axis)
 {
-    return axis == Qt::Horizontal ? RegionSpan{rect.x(), rect.width()}
-                                  : RegionSpan{rect.y(), rect.height()};
+    return axis == Qt::Horizontal ? Span<Number>{Number(rect.x()), Number(rect.width())}
+                                  : Span<Number>{Number(rect.y()), Number(rect.height())};
 }
 
-inline QRect withSpan(const QRect& rect, Qt::Orientation axis, const RegionSpan& span)
+inline QRect withSpan(const QRect& rect, Qt::Orientation axis, const Span<int>& span)
 {
     return axis == Qt::Horizontal ? QRect(span.start, rect.y(), span.length, rect.height())
                                   : QRect(rect.x(), span.start, rect.width(), span.length);

@@ -88,21 +88,21 @@ private slots:
         full.setMask(full.createMaskFromColor(Qt::transparent));
 
         SensorBackground background;
-        background.setPlaceholder(tint, full.size());
+        background.showPlaceholder(tint, full.size());
         for (const QSize& bounds : {QSize(300, 150), QSize(100, 399), QSize(2000, 1)}) {
             const QPixmap plain
                 = full.scaled(bounds, Qt::KeepAspectRatio, Qt::SmoothTransformation);
             QCOMPARE(background.fitted(bounds).toImage(), plain.toImage());
         }
-        background.setPlaceholder(tint, {14192, 10640});
-        QCOMPARE(background.beforeLayout().size(), QSize(2048, 1535));
+        background.showPlaceholder(tint, {14192, 10640});
+        QCOMPARE(background.fitted(SensorBackground::largestLabel).size(), QSize(2048, 1535));
     }
 
     void nothingWithoutASensor()
     {
         SensorBackground background;
-        background.setPlaceholder(Qt::red, {-1, -1});
-        QVERIFY(background.beforeLayout().isNull());
+        background.showPlaceholder(Qt::red, {-1, -1});
+        QVERIFY(background.fitted({8, 8}).isNull());
         QVERIFY(composeBackground(picture({8, 8}), {}, {}, {}).isNull());
         QCOMPARE(composeBackground({}, {8, 8}, {}, {8, 8}).toImage().pixelColor(4, 4),
                  QColor(Qt::black));

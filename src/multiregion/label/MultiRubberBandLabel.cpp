@@ -43,8 +43,9 @@ MultiRubberBandLabel::MultiRubberBandLabel(int sensorWidth, int sensorHeight, co
 {
     setAttribute(Qt::WA_MouseTracking);
     setMinimumSize(minimumSide, minimumSide);
-    m_placeholder.setPlaceholder(placeholderColor(color), m_mapping.sensor);
-    showBackground(m_placeholder.beforeLayout());
+    m_placeholder.showPlaceholder(placeholderColor(color), m_mapping.sensor);
+    showBackground(
+        m_placeholder.fitted(m_mapping.sensor.boundedTo(SensorBackground::largestLabel)));
     // The first resize tells its factors from the sensor's size, however large a pixmap it found.
     m_mapping.shown = m_mapping.sensor;
     // Bands count from the left in right-to-left layouts too.
@@ -58,7 +59,7 @@ void MultiRubberBandLabel::setSensorSize(const QSize& size)
     if (size == m_mapping.sensor)
         return;
     m_mapping.sensor = size;
-    m_placeholder.setPlaceholder(placeholderColor(m_color), size);
+    m_placeholder.showPlaceholder(placeholderColor(m_color), size);
     m_picture = {};
     fitBackground();
     dropDrag();

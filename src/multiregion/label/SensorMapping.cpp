@@ -1,13 +1,11 @@
 #include "multiregion/label/SensorMapping.h"
 
 #include "features/NumberConversion.h"
+#include "sensor/PixelRect.h"
 
 #include <algorithm>
 
 namespace {
-
-/// Sensors are far smaller; what a camera reports beyond must not overflow a rectangle.
-constexpr int largestCoordinate = 1 << 29;
 
 int rounded(double value)
 {

@@ -40,8 +40,8 @@ RubberBandLabel::RubberBandLabel(int sensorWidth, int sensorHeight, const QColor
     // The band's coordinates count from the top left corner in right-to-left layouts too.
     setAlignment(Qt::AlignLeft | Qt::AlignTop | Qt::AlignAbsolute);
 
-    m_background.setPlaceholder(placeholderColor(m_color, Qt::darkGray), m_sensor);
-    showPixmap(m_background.beforeLayout());
+    m_background.showPlaceholder(placeholderColor(m_color, Qt::darkGray), m_sensor);
+    showPixmap(m_background.fitted(m_sensor.boundedTo(SensorBackground::largestLabel)));
 
     m_settleTimer->setSingleShot(true);
     m_settleTimer->setInterval(settleTimeMs);
@@ -62,7 +62,7 @@ void RubberBandLabel::setRegion(int top, int left, int width, int height)
 void RubberBandLabel::setSensorSize(int width, int height)
 {
     m_sensor = {width, height};
-    m_background.setPlaceholder(placeholderColor(m_color, Qt::black), m_sensor);
+    m_background.showPlaceholder(placeholderColor(m_color, Qt::black), m_sensor);
     showPixmap(m_background.fitted(size()));
     if (m_sensor.isEmpty())
         abortDrag();
@@ -71,9 +71,9 @@ void RubberBandLabel::setSensorSize(int width, int height)
 void RubberBandLabel::showBackground(std::shared_ptr<QPixmap> image, QSize sensorSize, QRect crop)
 {
     if (image)
-        m_background.setPicture({image, sensorSize, crop}, m_shown.size());
+        m_background.showPicture({image, sensorSize, crop}, m_shown.size());
     else
-        m_background.setColor(placeholderColor(m_color, Qt::black));
+        m_background.showPlaceholder(placeholderColor(m_color, Qt::black), m_background.size());
     if (image && !isVisible())
         m_pictureWaits = true;
     else
