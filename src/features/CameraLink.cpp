@@ -1,22 +1,62 @@
 #include "features/CameraLink.h"
 
+#include <utility>
+
 namespace {
 
 constexpr std::chrono::milliseconds noticeableWait{100};
-constexpr std::chrono::seconds pauseBetweenTries{5};
+constexpr std::chrono::seconds pause{1};
+constexpr std::chrono::seconds laterPause{5};
+constexpr int questionsInQuickSuccession = 5;
 
 } // namespace
 
-void CameraLink::take(ZebErrorType result, Clock::time_point begin)
+bool CameraLink::isSlow(Milliseconds duration)
 {
-    const Clock::time_point end = Clock::now();
-    if (result == Sdk::success) {
-        m_state = State::Sound;
-    } else if (end - begin < noticeableWait) {
-        m_state = State::Doubtful;
-    } else {
-        m_state = State::Broken;
-        m_code = result;
-        m_nextTry = end + pauseBetweenTries;
+    return duration >= noticeableWait;
+}
+
+void CameraLink::told(const QString& feature, ZebErrorType result, Milliseconds duration)
+{
+    m_isDoubtful = result != Sdk::success && isSlow(duration);
+    if (!m_isDoubtful) {
+        // A refusal at once is an answer as well.
+        m_isLost = false;
+        m_isLossTaken = false;
+        m_lastFailed.clear();
+        return;
     }
+    const bool isAnother = !m_lastFailed.isNull() && m_lastFailed != feature;
+    m_lastFailed = feature;
+    if (!m_isLost && !isAnother)
+        return;
+    const bool wasDue = isDue();
+    m_questions = !m_isLost ? 0 : m_questions + (wasDue ? 1 : 0);
+    m_isLost = true;
+    m_nextQuestion = Clock::now() + (m_questions < questionsInQuickSuccession ? pause : laterPause);
+}
+
+bool CameraLink::isDue() const
+{
+    return m_isLost && Clock::now() >= m_nextQuestion;
+}
+
+bool CameraLink::takeLoss()
+{
+    return m_isLost && !std::exchange(m_isLossTaken, true);
+}
+
+bool CameraLink::mayPart() const
+{
+    return m_parting < pause || Clock::now() - m_firstParting > laterPause;
+}
+
+void CameraLink::parted(ZebErrorType result, Milliseconds duration)
+{
+    if (result == Sdk::success || Clock::now() - m_firstParting > laterPause) {
+        m_parting = Milliseconds{0};
+        m_firstParting = Clock::now();
+    }
+    if (result != Sdk::success)
+        m_parting += duration;
 }

@@ -2,54 +2,85 @@
 
 #include "features/SdkValues.h"
 
+#include <QString>
+
 #include <chrono>
 
-/// Tells whether the camera still answers; all pages of a camera share one.
+/// Whether the camera still answers; all pages and tables of a camera share one.
 ///
-/// A camera that was unplugged lets every call wait before it fails, and a page makes hundreds of
-/// calls for a refresh: it would hold up the viewer for minutes. So the link counts as broken after
-/// two failed calls in a row, of which the second made its caller wait. Calls then fail at once
-/// with the camera's code and reach the camera no more, but for one every few seconds, by which the
-/// link mends itself when the camera is back; a page that waits for that asks isDue(). Quick
-/// failures break nothing, and no call is timed while all goes well.
+/// A camera that was unplugged lets every call wait before it fails, and a refresh makes hundreds:
+/// it would hold up the viewer for minutes. The link stops no call. What makes many calls asks it,
+/// or lets ManyReads ask; an edit, its read-back and the end of an observation never do. It hears
+/// of what comes from the camera: values, ranges, increments, access. Names, types and descriptions
+/// come from the SDK's memory and answer when the camera is long gone.
 ///
 /// For the GUI thread only.
 class CameraLink
 {
 public:
-    /// Runs @p call, which answers a ZebErrorType, unless the link is broken.
-    template <typename Call> ZebErrorType ask(Call&& call)
+    using Clock = std::chrono::steady_clock;
+    using Milliseconds = std::chrono::milliseconds;
+
+    class ManyReads;
+
+    /// Two features in a row that failed after 100 ms or more make a loss; any answer ends it.
+    void told(const QString& feature, ZebErrorType result, Milliseconds duration);
+    /// Makes a call and takes its result.
+    template <typename Call> ZebErrorType hear(const QString& feature, Call&& call)
     {
-        if (m_state == State::Sound) {
-            const ZebErrorType result = call();
-            if (result != Sdk::success)
-                m_state = State::Doubtful;
-            return result;
-        }
         const Clock::time_point begin = Clock::now();
-        if (m_state == State::Broken && begin < m_nextTry)
-            return m_code;
         const ZebErrorType result = call();
-        take(result, begin);
+        told(feature, result, since(begin));
         return result;
     }
 
-    bool isBroken() const { return m_state == State::Broken; }
+    bool isLost() const { return m_isLost; }
+    /// The last that was heard is a call which failed slowly.
+    bool isDoubtful() const { return m_isDoubtful; }
+    /// Whether a lost camera is to be asked for a value again: each second, later every five.
+    bool isDue() const;
+    int questions() const { return m_questions; }
+    /// True once for each loss, for whoever tells the user.
+    bool takeLoss();
+    /// The camera is lost and many reads are under way: the rest is left.
+    bool isClosed() const { return m_isLost && m_manyReads > 0; }
 
-    /// Whether the next call reaches the camera, which may make it wait.
-    bool isDue() const { return !isBroken() || Clock::now() >= m_nextTry; }
+    /// One second of failing calls, for all pages that let go of their observers within five.
+    bool mayPart() const;
+    void parted(ZebErrorType result, Milliseconds duration);
+
+    static bool isSlow(Milliseconds duration);
+    static Milliseconds since(Clock::time_point begin)
+    {
+        return std::chrono::duration_cast<Milliseconds>(Clock::now() - begin);
+    }
 
 private:
-    using Clock = std::chrono::steady_clock;
-    enum class State {
-        Sound,
-        Doubtful,
-        Broken
-    };
+    bool m_isLost = false;
+    bool m_isDoubtful = false;
+    bool m_isLossTaken = false;
+    int m_manyReads = 0;
+    int m_questions = 0;
+    QString m_lastFailed;
+    Clock::time_point m_nextQuestion;
+    Clock::time_point m_firstParting;
+    Milliseconds m_parting{0};
+};
 
-    void take(ZebErrorType result, Clock::time_point begin);
+/// While it lives, look-ups and reads by way of a manager end at the loss: nothing more is asked,
+/// and what was not told counts as not known.
+class CameraLink::ManyReads
+{
+public:
+    explicit ManyReads(CameraLink& link)
+        : m_link(link)
+    {
+        ++m_link.m_manyReads;
+    }
+    ~ManyReads() { --m_link.m_manyReads; }
+    ManyReads(const ManyReads&) = delete;
+    ManyReads& operator=(const ManyReads&) = delete;
 
-    State m_state = State::Sound;
-    ZebErrorType m_code = Sdk::success;
-    Clock::time_point m_nextTry;
+private:
+    CameraLink& m_link;
 };

@@ -3,7 +3,7 @@
 #include "features/FeatureReading.h"
 #include "features/SdkValues.h"
 
-#include <algorithm>
+#include <utility>
 
 using FeatureReading::missingNumber;
 using FeatureReading::NumberState;
@@ -16,38 +16,77 @@ constexpr std::size_t usualNameLength = 63; ///< longer names cost an allocation
 
 } // namespace
 
-FeatureManager::FeatureManager(const Wrappers& features)
+FeatureManager::FeatureManager(const Wrappers& features, std::shared_ptr<CameraLink> link)
     : m_features(features)
+    , m_link(std::move(link))
 {
 }
 
 FeatureManager::~FeatureManager() = default;
 
-ZebFeatureWrapperPtr FeatureManager::find(const QString& name) const
+ZebFeatureWrapperPtr FeatureManager::lookUp(const QString& name, bool& isKnown) const
 {
-    if (!m_features)
+    isKnown = !m_link->isClosed();
+    if (!m_features || !isKnown)
         return {};
     const std::string wanted = name.toStdString();
     // The list may be changed by whoever shares it while a camera answers slowly.
     const QVector<ZebFeatureWrapperPtr> features = *m_features;
     std::string candidate;
     candidate.reserve(usualNameLength);
+    // A camera that is in doubt already gets one chance.
+    bool hasFailed = m_link->isDoubtful();
+    auto begin = CameraLink::Clock::now();
     for (const ZebFeatureWrapperPtr& feature : features) {
-        if (feature && feature->GetName(candidate) == Sdk::success && candidate == wanted)
-            return feature;
+        if (!feature)
+            continue;
+        const ZebErrorType result = feature->GetName(candidate);
+        if (result == Sdk::success) {
+            if (candidate == wanted)
+                return feature;
+            hasFailed = false;
+            continue;
+        }
+        const auto duration = CameraLink::since(std::exchange(begin, CameraLink::Clock::now()));
+        if (!CameraLink::isSlow(duration))
+            continue;
+        if (std::exchange(hasFailed, true)) {
+            m_link->told(name, result, duration);
+            isKnown = false;
+            return {};
+        }
     }
     return {};
+}
+
+FeatureReader FeatureManager::Read(const QString& name, const QString& alternative1,
+                                   const QString& alternative2)
+{
+    bool isKnown = true;
+    ZebFeatureWrapperPtr feature = lookUp(name, isKnown);
+    for (const QString& alternative : {alternative1, alternative2}) {
+        if (!feature && isKnown && !alternative.isEmpty())
+            feature = lookUp(alternative, isKnown);
+    }
+    return {feature, name, m_link, isKnown};
+}
+
+ZebFeatureWrapperPtr FeatureManager::Find(const QString& name, const QString& alternative1,
+                                          const QString& alternative2)
+{
+    return Read(name, alternative1, alternative2).feature();
+}
+
+ZebFeatureWrapperPtr FeatureManager::find(const QString& name) const
+{
+    bool isKnown = true;
+    return lookUp(name, isKnown);
 }
 
 ZebFeatureWrapperPtr FeatureManager::find(const QString& name, const QString& alternative1,
                                           const QString& alternative2) const
 {
-    ZebFeatureWrapperPtr feature = find(name);
-    if (!feature && !alternative1.isEmpty())
-        feature = find(alternative1);
-    if (!feature && !alternative2.isEmpty())
-        feature = find(alternative2);
-    return feature;
+    return const_cast<FeatureManager*>(this)->Find(name, alternative1, alternative2);
 }
 
 ZebFeatureWrapperPtr FeatureManager::findFirst(const QStringList& candidates) const

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "features/FeatureReader.h"
 #include "features/IntegerState.h"
 #include "features/ZebFeatureWrapper.h"
 
@@ -22,7 +23,9 @@ class FeatureManager
 public:
     using Wrappers = QSharedPointer<QVector<ZebFeatureWrapperPtr>>;
 
-    explicit FeatureManager(const Wrappers& features);
+    /// Managers of one camera share its link.
+    explicit FeatureManager(const Wrappers& features,
+                            std::shared_ptr<CameraLink> link = std::make_shared<CameraLink>());
     virtual ~FeatureManager();
 
     FeatureManager(const FeatureManager&) = delete;
@@ -137,12 +140,24 @@ public:
     /// are -1 for any other type; a missing feature leaves @p writable untouched.
     virtual IntegerState GetIntegerState(const QString& name, bool& writable);
 
-private:
     /// Empty when no name matches.
+    virtual ZebFeatureWrapperPtr Find(const QString& name, const QString& alternative1 = {},
+                                      const QString& alternative2 = {});
+    /// One look-up for all that is read of a feature.
+    virtual FeatureReader Read(const QString& name, const QString& alternative1 = {},
+                               const QString& alternative2 = {});
+
+    const Wrappers& features() const { return m_features; }
+    const std::shared_ptr<CameraLink>& link() const { return m_link; }
+
+private:
+    /// @p isKnown becomes false when a camera that does not answer ended the look-up.
+    ZebFeatureWrapperPtr lookUp(const QString& name, bool& isKnown) const;
     ZebFeatureWrapperPtr find(const QString& name) const;
     ZebFeatureWrapperPtr find(const QString& name, const QString& alternative1,
                               const QString& alternative2 = {}) const;
     ZebFeatureWrapperPtr findFirst(const QStringList& candidates) const;
 
     Wrappers m_features;
+    std::shared_ptr<CameraLink> m_link;
 };

@@ -1,6 +1,5 @@
 #include "features/ZebFeatureWrapper.h"
 
-#include "features/CameraLink.h"
 #include "features/SdkValues.h"
 #include "features/TwoCallPattern.h"
 
@@ -8,10 +7,8 @@
 #include <limits>
 #include <utility>
 
-ZebFeatureWrapper::ZebFeatureWrapper(const ZebCPP::FeaturePtr& feature,
-                                     std::shared_ptr<CameraLink> link)
+ZebFeatureWrapper::ZebFeatureWrapper(const ZebCPP::FeaturePtr& feature)
     : m_feature(feature)
-    , m_link(std::move(link))
 {
 }
 
@@ -21,9 +18,7 @@ ZebFeatureWrapper::~ZebFeatureWrapper() = default;
 // null pointer may leave these operations in any way but as a result code.
 template <typename Call> ZebErrorType ZebFeatureWrapper::forward(Call&& call) noexcept
 try {
-    if (!m_feature)
-        return Sdk::badHandle;
-    return m_link ? m_link->ask([&] { return call(*m_feature); }) : call(*m_feature);
+    return m_feature ? call(*m_feature) : Sdk::badHandle;
 } catch (...) {
     return Sdk::resources;
 }

@@ -10,8 +10,6 @@
 #include <string>
 #include <vector>
 
-class CameraLink;
-
 /// The program's handle on one camera feature: the SDK's operations on standard strings and
 /// vectors. Every operation answers the SDK's result code, none throws, and outputs are written
 /// only as far as the SDK wrote them. A null feature answers Sdk::badHandle, an exception of the
@@ -20,9 +18,7 @@ class CameraLink;
 class ZebFeatureWrapper
 {
 public:
-    /// Without a link every operation reaches the camera.
-    explicit ZebFeatureWrapper(const ZebCPP::FeaturePtr& feature,
-                               std::shared_ptr<CameraLink> link = nullptr);
+    explicit ZebFeatureWrapper(const ZebCPP::FeaturePtr& feature);
     virtual ~ZebFeatureWrapper();
 
     ZebFeatureWrapper(const ZebFeatureWrapper&) = delete;
@@ -88,7 +84,6 @@ private:
     ZebErrorType readText(TextGetter getter, std::string& text);
 
     ZebCPP::FeaturePtr m_feature;
-    std::shared_ptr<CameraLink> m_link;
 };
 
 using ZebFeatureWrapperPtr = std::shared_ptr<ZebFeatureWrapper>;

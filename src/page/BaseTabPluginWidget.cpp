@@ -81,9 +81,15 @@ BaseTabPluginWidget::BaseTabPluginWidget(const FeatureList& features, QWidget* p
     cameraFeatures = features;
     // A page within another page works on the same camera.
     const auto* const outerPage = qobject_cast<BaseTabPluginWidget*>(parent);
-    m_link = outerPage ? outerPage->m_link : std::make_shared<CameraLink>();
-    featureManager = std::make_unique<FeatureManager>(
-        features ? wrapFeatures(*features, m_link) : FeatureManager::Wrappers::create());
+    if (outerPage && features && outerPage->cameraFeatures
+        && *outerPage->cameraFeatures == *features) {
+        featureManager = std::make_unique<FeatureManager>(outerPage->featureManager->features(),
+                                                          outerPage->featureManager->link());
+    } else {
+        featureManager = std::make_unique<FeatureManager>(
+            features ? wrapFeatures(*features) : FeatureManager::Wrappers::create());
+    }
+    m_link = featureManager->link();
     if (!BaseTabPluginWidget::isVendorSupported(featureManager.get())) {
         throw TENotSupported(QStringLiteral("BaseTabPluginWidget::BaseTabPluginWidget"),
                              tr("Vendor not supported for plugins, widget not created."));
@@ -169,9 +175,19 @@ void BaseTabPluginWidget::updateTimer()
     if (m_wasLost && refreshTimer->isActive())
         observeAgain();
     const ListLock lock(this);
-    refreshFeatures();
+    refreshWhileAnswered();
     if (lock.isAlive())
         changedFeatures->clear();
+}
+
+void BaseTabPluginWidget::refreshWhileAnswered()
+{
+    const std::shared_ptr<CameraLink> link = m_link;
+    const QPointer<BaseTabPluginWidget> page = this;
+    const CameraLink::ManyReads manyReads(*link);
+    refreshFeatures();
+    if (page && link->isLost())
+        m_wasLost = true;
 }
 
 void BaseTabPluginWidget::showEvent(QShowEvent* event)
@@ -180,7 +196,7 @@ void BaseTabPluginWidget::showEvent(QShowEvent* event)
     withList([this](bool isRefreshing) {
         const QPointer<BaseTabPluginWidget> page = this;
         if (!isRefreshing && !isCameraLost())
-            refreshFeatures();
+            refreshWhileAnswered();
         if (page && m_suspensions == 0)
             startUpdates(true);
     });

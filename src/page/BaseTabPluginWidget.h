@@ -108,6 +108,7 @@ private:
     QVector<Registration> findObserved();
     bool hasFeatures() const;
     bool isCameraLost();
+    void refreshWhileAnswered();
     void observeAgain();
     void markRegistered();
     void startUpdates(bool markChanged);

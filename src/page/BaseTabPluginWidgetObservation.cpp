@@ -3,6 +3,7 @@
 #include "page/BaseTabPluginWidget.h"
 
 #include "features/CameraLink.h"
+#include "features/FeatureNames.h"
 #include "features/SdkValues.h"
 
 #include <QDebug>
@@ -43,16 +44,15 @@ void BaseTabPluginWidget::markRegistered()
 /// Asks a lost camera itself, now and then: an untouched page makes no other call.
 bool BaseTabPluginWidget::isCameraLost()
 {
-    if (m_link->isBroken() && m_link->isDue() && hasFeatures()) {
-        const auto feature = std::find_if(cameraFeatures->cbegin(), cameraFeatures->cend(),
-                                          [](const ZebCPP::FeaturePtr& each) { return !!each; });
-        std::string name;
-        if (feature != cameraFeatures->cend())
-            ZebFeatureWrapper(*feature, m_link).GetName(name);
+    const QStringList names = observedFeatures + QStringList{FeatureNames::deviceVendorName};
+    const int first = m_link->questions();
+    for (int i = 0; m_link->isDue() && i < names.size(); ++i) {
+        if (featureManager->Read(names.at((first + i) % names.size())).askValue())
+            break;
     }
-    if (m_link->isBroken())
+    if (m_link->isLost())
         m_wasLost = true;
-    return m_link->isBroken();
+    return m_link->isLost();
 }
 
 /// A camera that is back may have lost the observers, and anything may have changed.
@@ -78,7 +78,7 @@ QVector<BaseTabPluginWidget::Registration> BaseTabPluginWidget::findObserved()
     const QVector<ZebCPP::FeaturePtr> features = *cameraFeatures;
     for (const ZebCPP::FeaturePtr& feature : features) {
         std::string text;
-        if (!feature || ZebFeatureWrapper(feature, m_link).GetName(text) != Sdk::success)
+        if (!feature || ZebFeatureWrapper(feature).GetName(text) != Sdk::success)
             continue;
         const QString name = QString::fromStdString(text);
         if (observedFeatures.contains(name))
@@ -98,7 +98,7 @@ ZebErrorType BaseTabPluginWidget::registerObservers(bool markChanged)
     m_registrations = findObserved();
     const QVector<Registration> registrations = m_registrations;
     for (const Registration& registration : registrations) {
-        result = ZebFeatureWrapper(registration.feature, m_link).RegisterObserver(target);
+        result = ZebFeatureWrapper(registration.feature).RegisterObserver(target);
         if (result != Sdk::success)
             qDebug() << "Could not register feature observer. Error code: "
                      << static_cast<int>(result) << "\n";
@@ -118,7 +118,7 @@ ZebErrorType BaseTabPluginWidget::unregisterObservers(bool markChanged)
     const QVector<Registration> registrations
         = m_registrations.isEmpty() ? findObserved() : std::exchange(m_registrations, {});
     for (const Registration& registration : registrations) {
-        result = ZebFeatureWrapper(registration.feature, m_link).UnregisterObserver(target);
+        result = ZebFeatureWrapper(registration.feature).UnregisterObserver(target);
         if (result != Sdk::success) {
             qDebug() << "Could not unregister feature observer. Error code: "
                      << static_cast<int>(result) << "\n";

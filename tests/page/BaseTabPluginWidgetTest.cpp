@@ -236,23 +236,26 @@ private slots:
 
         camera.lose(wait);
         camera.journal().clear();
-        page->featureManager->GetFeatureNames();
+        page->featureManager->GetValue(width);
+        page->featureManager->GetValue(height);
+        QCOMPARE(int(camera.journal().count()), 3);
         page->updateTimer();
         inner->updateTimer();
         page->hide();
         page->show();
         QCOMPARE(page->refreshes.size(), refreshes);
-        QCOMPARE(int(camera.journal().count()), 2);
+        QCOMPARE(int(camera.journal().count()), 5); // each registration once
 
         camera.recover();
         QTRY_COMPARE_WITH_TIMEOUT(page->refreshes.size(), refreshes + 1, 8000);
         QVERIFY(page->refreshes.last().contains(width));
         QVERIFY(camera.observerCount() > 0);
         camera.lose(wait);
-        page->featureManager->GetFeatureNames();
+        page->featureManager->GetValue(width);
+        page->featureManager->GetValue(height);
         camera.journal().clear();
         page.reset();
-        QCOMPARE(int(camera.journal().count()), 0);
+        QCOMPARE(int(camera.journal().count()), 2);
     }
 
     void suspends()
