@@ -21,7 +21,9 @@ constexpr int refreshIntervalMs = 1000;
 void BaseTabPluginWidget::startUpdates(bool markChanged)
 {
     refreshTimer->start(refreshIntervalMs);
-    if (!m_observing)
+    if (!m_observing && m_link->isLost())
+        m_wasLost = true;
+    else if (!m_observing)
         registerObservers(markChanged);
     else if (markChanged)
         markRegistered();

@@ -244,7 +244,7 @@ private slots:
         page->hide();
         page->show();
         QCOMPARE(page->refreshes.size(), refreshes);
-        QCOMPARE(int(camera.journal().count()), 5); // each registration once
+        QCOMPARE(int(camera.journal().count()), 7); // each registration of both once
 
         camera.recover();
         QTRY_COMPARE_WITH_TIMEOUT(page->refreshes.size(), refreshes + 1, 8000);
@@ -255,7 +255,7 @@ private slots:
         page->featureManager->GetValue(height);
         camera.journal().clear();
         page.reset();
-        QCOMPARE(int(camera.journal().count()), 2);
+        QCOMPARE(int(camera.journal().count()), 6);
     }
 
     void suspends()
