@@ -89,24 +89,28 @@
         <translation>Die Kamera unterstützt keine Farbinterpolationsmatrix, Seite nicht erstellt</translation>
     </message>
     <message>
-        <source>Feature &apos;ReverseX&apos; is not available in the camera.</source>
-        <translation>Das Feature „ReverseX“ ist in der Kamera nicht vorhanden.</translation>
-    </message>
-    <message>
-        <source>Feature &apos;ReverseY&apos; is not available in the camera.</source>
-        <translation>Das Feature „ReverseY“ ist in der Kamera nicht vorhanden.</translation>
-    </message>
-    <message>
-        <source>Feature &apos;BinningSelector&apos; is not available in the camera.</source>
-        <translation>Das Feature „BinningSelector“ ist in der Kamera nicht vorhanden.</translation>
-    </message>
-    <message>
         <source>Image Format</source>
         <translation>Bildformat</translation>
     </message>
     <message>
         <source>Error accessing widget &apos;%s&apos;</source>
         <translation>Fehler beim Zugriff auf das Widget „%s“</translation>
+    </message>
+    <message>
+        <source>Feature &apos;%1&apos; is not available in the camera.</source>
+        <translation>Das Feature „%1“ ist in der Kamera nicht vorhanden.</translation>
+    </message>
+    <message>
+        <source>Picture &apos;%1&apos; cannot be used: %2</source>
+        <translation>Das Bild „%1“ kann nicht verwendet werden: %2</translation>
+    </message>
+    <message>
+        <source>It is no file.</source>
+        <translation>Es ist keine Datei.</translation>
+    </message>
+    <message>
+        <source>It is too large.</source>
+        <translation>Es ist zu groß.</translation>
     </message>
 </context>
 <context>

@@ -89,24 +89,28 @@
         <translation>La caméra ne prend pas en charge la matrice d’interpolation des couleurs, page non créée</translation>
     </message>
     <message>
-        <source>Feature &apos;ReverseX&apos; is not available in the camera.</source>
-        <translation>La fonction «&#xa0;ReverseX&#xa0;» n’est pas disponible dans la caméra.</translation>
-    </message>
-    <message>
-        <source>Feature &apos;ReverseY&apos; is not available in the camera.</source>
-        <translation>La fonction «&#xa0;ReverseY&#xa0;» n’est pas disponible dans la caméra.</translation>
-    </message>
-    <message>
-        <source>Feature &apos;BinningSelector&apos; is not available in the camera.</source>
-        <translation>La fonction «&#xa0;BinningSelector&#xa0;» n’est pas disponible dans la caméra.</translation>
-    </message>
-    <message>
         <source>Image Format</source>
         <translation>Format d’image</translation>
     </message>
     <message>
         <source>Error accessing widget &apos;%s&apos;</source>
         <translation>Erreur d’accès au widget «&#xa0;%s&#xa0;»</translation>
+    </message>
+    <message>
+        <source>Feature &apos;%1&apos; is not available in the camera.</source>
+        <translation>La fonction «&#xa0;%1&#xa0;» n’est pas disponible dans la caméra.</translation>
+    </message>
+    <message>
+        <source>Picture &apos;%1&apos; cannot be used: %2</source>
+        <translation>L’image «&#xa0;%1&#xa0;» ne peut pas être utilisée&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>It is no file.</source>
+        <translation>Ce n’est pas un fichier.</translation>
+    </message>
+    <message>
+        <source>It is too large.</source>
+        <translation>Elle est trop grande.</translation>
     </message>
 </context>
 <context>

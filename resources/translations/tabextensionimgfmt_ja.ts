@@ -89,24 +89,28 @@
         <translation>カメラが色補間マトリックスに対応していないため、ページは作成されませんでした</translation>
     </message>
     <message>
-        <source>Feature &apos;ReverseX&apos; is not available in the camera.</source>
-        <translation>カメラに機能「ReverseX」はありません。</translation>
-    </message>
-    <message>
-        <source>Feature &apos;ReverseY&apos; is not available in the camera.</source>
-        <translation>カメラに機能「ReverseY」はありません。</translation>
-    </message>
-    <message>
-        <source>Feature &apos;BinningSelector&apos; is not available in the camera.</source>
-        <translation>カメラに機能「BinningSelector」はありません。</translation>
-    </message>
-    <message>
         <source>Image Format</source>
         <translation>画像フォーマット</translation>
     </message>
     <message>
         <source>Error accessing widget &apos;%s&apos;</source>
         <translation>ウィジェット「%s」へのアクセスに失敗しました</translation>
+    </message>
+    <message>
+        <source>Feature &apos;%1&apos; is not available in the camera.</source>
+        <translation>カメラに機能「%1」はありません。</translation>
+    </message>
+    <message>
+        <source>Picture &apos;%1&apos; cannot be used: %2</source>
+        <translation>画像「%1」は使用できません: %2</translation>
+    </message>
+    <message>
+        <source>It is no file.</source>
+        <translation>ファイルではありません。</translation>
+    </message>
+    <message>
+        <source>It is too large.</source>
+        <translation>大きすぎます。</translation>
     </message>
 </context>
 <context>

@@ -89,24 +89,28 @@
         <translation>相机不支持颜色插值矩阵，未创建页面</translation>
     </message>
     <message>
-        <source>Feature &apos;ReverseX&apos; is not available in the camera.</source>
-        <translation>相机不支持功能“ReverseX”。</translation>
-    </message>
-    <message>
-        <source>Feature &apos;ReverseY&apos; is not available in the camera.</source>
-        <translation>相机不支持功能“ReverseY”。</translation>
-    </message>
-    <message>
-        <source>Feature &apos;BinningSelector&apos; is not available in the camera.</source>
-        <translation>相机不支持功能“BinningSelector”。</translation>
-    </message>
-    <message>
         <source>Image Format</source>
         <translation>图像格式</translation>
     </message>
     <message>
         <source>Error accessing widget &apos;%s&apos;</source>
         <translation>访问控件“%s”时出错</translation>
+    </message>
+    <message>
+        <source>Feature &apos;%1&apos; is not available in the camera.</source>
+        <translation>相机不支持功能“%1”。</translation>
+    </message>
+    <message>
+        <source>Picture &apos;%1&apos; cannot be used: %2</source>
+        <translation>无法使用图片“%1”：%2</translation>
+    </message>
+    <message>
+        <source>It is no file.</source>
+        <translation>这不是文件。</translation>
+    </message>
+    <message>
+        <source>It is too large.</source>
+        <translation>图片过大。</translation>
     </message>
 </context>
 <context>

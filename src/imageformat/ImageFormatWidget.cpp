@@ -1,8 +1,7 @@
 #include "imageformat/ImageFormatWidget.h"
 
 #include "features/FeatureNames.h"
-#include "features/NumberConversion.h"
-#include "imageformat/FeatureBinding.h"
+#include "imageformat/FeatureBinder.h"
 #include "imageformat/ImageReaderWidget.h"
 #include "multiregion/MultiROIWidget.h"
 #include "page/TENotSupported.h"
@@ -15,8 +14,11 @@
 #include <QComboBox>
 #include <QDoubleSpinBox>
 #include <QEvent>
-#include <QSignalBlocker>
 #include <QSpinBox>
+
+#include <algorithm>
+#include <tuple>
+#include <utility>
 
 namespace Name = FeatureNames;
 
@@ -26,21 +28,9 @@ static void initializeImages()
     Q_INIT_RESOURCE(images);
 }
 
-namespace {
-
-void showRange(QSpinBox* spinBox, FeatureManager& manager, const QString& featureName)
-{
-    double minimum = 0.0;
-    double maximum = 0.0;
-    const double value = manager.GetValueLimits(featureName, minimum, maximum);
-    spinBox->setRange(toInt(minimum), toInt(maximum));
-    spinBox->setValue(toInt(value));
-}
-
-} // namespace
-
 ImageFormatWidget::ImageFormatWidget(const FeatureList& camera, QWidget* parent)
     : BaseTabPluginWidget(camera, parent)
+    , m_binder(std::make_unique<FeatureBinder>(*this, *featureManager))
 {
     if (!featureManager->HasFeature(Name::height) || !featureManager->HasFeature(Name::width)) {
         // The text does not describe the test; viewers and their users know it as it is.
@@ -50,12 +40,13 @@ ImageFormatWidget::ImageFormatWidget(const FeatureList& camera, QWidget* parent)
     }
 
     initializeImages();
-    setTitle();
+    // The viewer and the tab widgets take the accessible name for the tab's title.
+    setAccessibleName(tr("Image Format"));
     auto form = std::make_unique<Ui::ImageFormatWidget>();
     form->setupUi(this);
     m_ui = std::move(form);
     if (!accessibleName().isEmpty() && installTranslator(QStringLiteral("tabextensionimgfmt"))) {
-        setTitle();
+        setAccessibleName(tr("Image Format"));
         m_ui->retranslateUi(this);
     }
     m_ui->btnImageFormat->setContent(m_ui->frmImageFormat);
@@ -66,17 +57,11 @@ ImageFormatWidget::ImageFormatWidget(const FeatureList& camera, QWidget* parent)
     if (m_ui->tabWidget->count() == 1)
         m_ui->tabWidget->setTabBarAutoHide(true);
 
-    bindComboBoxes();
-    bindSpinBoxes();
-    bindCheckBoxes();
+    bindFields();
     updateIcon();
-    if (!featureManager->HasFeature(Name::reverseX))
-        disableMissing(m_ui->chkReverseX, tr("Feature 'ReverseX' is not available in the camera."));
-    if (!featureManager->HasFeature(Name::reverseY))
-        disableMissing(m_ui->chkReverseY, tr("Feature 'ReverseY' is not available in the camera."));
-    if (!featureManager->HasFeature(Name::binningSelector))
-        disableMissing(m_ui->cmbBinningSelector,
-                       tr("Feature 'BinningSelector' is not available in the camera."));
+    // Last: a page that is refused leaves the viewer's widget as it was.
+    if (parent)
+        parent->setAccessibleName(accessibleName());
 }
 
 // A dialog that closes gives the focus back to a field, whose page has to be whole still.
@@ -85,21 +70,17 @@ ImageFormatWidget::~ImageFormatWidget()
     m_ui->imageReaderWidget->closeDialog();
 }
 
-void ImageFormatWidget::setTitle()
-{
-    // The viewer and the tab widgets take the accessible name for the tab's title.
-    const QString title = tr("Image Format");
-    setAccessibleName(title);
-    if (parentWidget())
-        parentWidget()->setAccessibleName(title);
-}
-
 void ImageFormatWidget::connectImageSource()
 {
     connect(m_ui->imageReaderWidget, &ImageReaderWidget::requestFrame, this,
             &ImageFormatWidget::requestFrameSignal);
     connect(this, &ImageFormatWidget::receiveFrameSignal, m_ui->imageReaderWidget,
             &ImageReaderWidget::onFrameReceived);
+    connect(m_ui->imageReaderWidget, &ImageReaderWidget::imageChanged, this, [this] {
+        const QString fault = m_ui->imageReaderWidget->fileFault();
+        if (!fault.isEmpty())
+            emit loggingMessage(ZebViewerLogFeatureAccess, fault);
+    });
 }
 
 void ImageFormatWidget::addRegionPages()
@@ -136,79 +117,56 @@ void ImageFormatWidget::guardAgainstWheel(QWidget* field)
     field->installEventFilter(this);
 }
 
-void ImageFormatWidget::bindComboBoxes()
+void ImageFormatWidget::bindFields()
 {
     const auto comboBoxes = findChildren<QComboBox*>();
-    for (QComboBox* comboBox : comboBoxes) {
+    for (QComboBox* const comboBox : comboBoxes) {
         guardAgainstWheel(comboBox);
-        const QString featureName = boundFeatureName(comboBox->objectName());
-        if (featureName.isEmpty() || !featureManager->HasFeature(featureName))
-            continue;
-        observedFeatures.append(featureName);
-        fillComboBox(featureName, comboBox, true);
-        connect(comboBox, &QComboBox::currentTextChanged, this,
-                &ImageFormatWidget::OnChangeComboboxSelection);
+        if (bind(comboBox))
+            connect(comboBox, &QComboBox::currentTextChanged, this,
+                    &ImageFormatWidget::OnChangeComboboxSelection);
     }
-}
-
-void ImageFormatWidget::bindSpinBoxes()
-{
     const auto spinBoxes = findChildren<QSpinBox*>();
-    for (QSpinBox* spinBox : spinBoxes) {
-        const QString featureName = boundFeatureName(spinBox->objectName());
-        if (!featureName.isEmpty() && featureManager->HasFeature(featureName))
-            bindSpinBox(spinBox, featureName);
+    for (QSpinBox* const spinBox : spinBoxes) {
+        if (!bind(spinBox))
+            continue;
+        guardAgainstWheel(spinBox);
+        connect(spinBox, QOverload<int>::of(&QSpinBox::valueChanged), this,
+                &ImageFormatWidget::OnChangeSpinbox);
     }
     const auto doubleSpinBoxes = findChildren<QDoubleSpinBox*>();
-    for (QDoubleSpinBox* spinBox : doubleSpinBoxes)
+    for (QDoubleSpinBox* const spinBox : doubleSpinBoxes)
         guardAgainstWheel(spinBox);
-}
-
-void ImageFormatWidget::bindSpinBox(QSpinBox* spinBox, const QString& featureName)
-{
-    guardAgainstWheel(spinBox);
-    observedFeatures.append(featureName);
-    spinBox->setEnabled(featureManager->IsFeatureWritable(featureName));
-    showRange(spinBox, *featureManager, featureName);
-    connect(spinBox, QOverload<int>::of(&QSpinBox::valueChanged), this,
-            &ImageFormatWidget::OnChangeSpinbox);
-}
-
-void ImageFormatWidget::bindCheckBoxes()
-{
     const auto checkBoxes = findChildren<QCheckBox*>();
-    for (QCheckBox* checkBox : checkBoxes) {
+    for (QCheckBox* const checkBox : checkBoxes) {
         checkBox->installEventFilter(this);
-        QString featureName = boundFeatureName(checkBox->objectName());
-        // Two spellings are in use; one form serves both.
-        const QLatin1String otherSpelling("MultipleRegionsEnable");
-        if (featureName == QLatin1String("MultipleRegionEnable")
-            && !featureManager->HasFeature(featureName)
-            && featureManager->HasFeature(otherSpelling)) {
-            featureName = otherSpelling;
-            checkBox->setObjectName(QStringLiteral("chkMultipleRegionsEnable"));
-        }
-        if (!featureName.isEmpty() && featureManager->HasFeature(featureName))
-            bindCheckBox(checkBox, featureName);
+        takeOtherSpelling(checkBox);
+        if (bind(checkBox))
+            connect(checkBox, &QCheckBox::stateChanged, this, &ImageFormatWidget::OnChangeCheckbox);
     }
 }
 
-void ImageFormatWidget::bindCheckBox(QCheckBox* checkBox, const QString& featureName)
+// Two spellings of the feature are in use; one form serves both.
+void ImageFormatWidget::takeOtherSpelling(QCheckBox* checkBox)
 {
-    observedFeatures.append(featureName);
-    {
-        // The page of multiple regions writes what is toggled.
-        const QSignalBlocker blocker(checkBox);
-        checkBox->setChecked(featureManager->GetValue(featureName) != 0.0);
-    }
-    checkBox->setEnabled(featureManager->IsFeatureWritable(featureName));
-    connect(checkBox, &QCheckBox::stateChanged, this, &ImageFormatWidget::OnChangeCheckbox);
+    if (FeatureBinder::featureOf(checkBox) == Name::multipleRegionEnable
+        && !featureManager->HasFeature(Name::multipleRegionEnable)
+        && featureManager->HasFeature(Name::multipleRegionsEnable))
+        checkBox->setObjectName(QStringLiteral("chkMultipleRegionsEnable"));
 }
 
-void ImageFormatWidget::disableMissing(QWidget* field, const QString& toolTip)
+// The region pages' fields without a feature are theirs to disable.
+bool ImageFormatWidget::bind(QWidget* field)
 {
-    field->setEnabled(false);
-    field->setToolTip(toolTip);
+    const QString feature = FeatureBinder::featureOf(field);
+    const bool isBound = m_binder->bind(field);
+    if (isBound) {
+        observedFeatures.append(feature);
+    } else if (m_ui->frmImageFormat->isAncestorOf(field)) {
+        field->setEnabled(false);
+        field->setToolTip(tr("Feature '%1' is not available in the camera.").arg(feature));
+    }
+    return isBound;
 }
 
 void ImageFormatWidget::camIsStreaming(bool streaming)
@@ -235,42 +193,28 @@ template <typename Field> Field* ImageFormatWidget::changedField()
 
 void ImageFormatWidget::OnChangeSpinbox(int value)
 {
-    auto* const spinBox = changedField<QSpinBox>();
-    if (!spinBox)
-        return;
-    const QString featureName = boundFeatureName(spinBox->objectName());
-    {
-        const QSignalBlocker blocker(spinBox);
-        spinBox->setValue(toInt(featureManager->SetValue(featureName, value)));
-    }
-    if (featureName == Name::binningHorizontal || featureName == Name::binningVertical)
-        resetImageSource();
+    write(changedField<QSpinBox>(), value);
 }
 
 void ImageFormatWidget::OnChangeComboboxSelection(const QString& currentText)
 {
-    auto* const comboBox = changedField<QComboBox>();
-    if (!comboBox)
-        return;
-    const QString featureName = boundFeatureName(comboBox->objectName());
-    const QSignalBlocker blocker(comboBox);
-    comboBox->setCurrentText(featureManager->SetStringValue(featureName, currentText));
+    write(changedField<QComboBox>(), currentText);
 }
 
 void ImageFormatWidget::OnChangeCheckbox(int state)
 {
-    auto* const checkBox = changedField<QCheckBox>();
-    if (!checkBox)
+    write(changedField<QCheckBox>(), state);
+}
+
+void ImageFormatWidget::write(QWidget* field, const QVariant& value)
+{
+    if (!field)
         return;
-    const QString featureName = boundFeatureName(checkBox->objectName());
-    {
-        const QSignalBlocker blocker(checkBox);
-        // Not setChecked(): in the middle of a click it would leave the box's published state
-        // behind, and the next click would not be told.
-        const bool isSet = featureManager->SetValue(featureName, state) != 0.0;
-        checkBox->setCheckState(isSet ? Qt::Checked : Qt::Unchecked);
-    }
-    if (featureName == Name::reverseX || featureName == Name::reverseY)
+    const QString feature = FeatureBinder::featureOf(field);
+    if (!m_binder->write(field, value))
+        OnFeatureChanged(feature, {});
+    // A stored background image no longer matches the sensor.
+    if (Name::pictureGeometry.contains(feature))
         resetImageSource();
 }
 
@@ -278,6 +222,31 @@ void ImageFormatWidget::resetImageSource()
 {
     m_ui->imageReaderWidget->setCurrentIndex(ImageReaderWidget::NoImage);
     m_ui->imageReaderWidget->onComboBoxItemActivated(ImageReaderWidget::NoImage);
+}
+
+void ImageFormatWidget::refreshFeatures()
+{
+    QStringList names = std::exchange(*changedFeatures, {});
+    const auto isGeometry
+        = [](const QString& name) { return Name::pictureGeometry.contains(name); };
+    if (std::any_of(names.cbegin(), names.cend(), isGeometry)) {
+        names += Name::pictureGeometry;
+        names.removeDuplicates();
+    }
+    const auto geometry = [this] {
+        return std::make_tuple(m_ui->spbBinningHorizontal->value(),
+                               m_ui->spbBinningVertical->value(), m_ui->chkReverseX->isChecked(),
+                               m_ui->chkReverseY->isChecked());
+    };
+    // A change made on this page, which its field shows already, resets the image no second time.
+    const auto formerGeometry = geometry();
+    const auto fields = m_binder->boundTo(names);
+    for (QWidget* const field : fields) {
+        if (!m_binder->show(field))
+            OnFeatureChanged(FeatureBinder::featureOf(field), {});
+    }
+    if (geometry() != formerGeometry)
+        resetImageSource();
 }
 
 bool ImageFormatWidget::eventFilter(QObject* watched, QEvent* event)

@@ -4,8 +4,8 @@
 
 #include <memory>
 
+class FeatureBinder;
 class QCheckBox;
-class QSpinBox;
 
 namespace Ui {
 class ImageFormatWidget;
@@ -14,7 +14,7 @@ class ImageFormatWidget;
 /// The page that the viewer sees: pixel format, binning and reversal, the choice of a background
 /// image, and the region pages as inner tabs.
 ///
-/// Widgets are bound to features by their object names (see FeatureBinding.h). The region pages
+/// Widgets are bound to features by their object names (see FeatureBinder). The region pages
 /// reach the viewer through this page only.
 class ImageFormatWidget : public BaseTabPluginWidget
 {
@@ -46,23 +46,19 @@ protected:
     void onPaletteChanged(QEvent* event) override;
 
 private:
-    void setTitle();
     void connectImageSource();
     void addRegionPages();
-    void bindComboBoxes();
-    void bindSpinBoxes();
-    void bindCheckBoxes();
-    void bindSpinBox(QSpinBox* spinBox, const QString& featureName);
-    void bindCheckBox(QCheckBox* checkBox, const QString& featureName);
+    void bindFields();
+    bool bind(QWidget* field);
+    void takeOtherSpelling(QCheckBox* checkBox);
     void guardAgainstWheel(QWidget* field);
-    void disableMissing(QWidget* field, const QString& toolTip);
-    void updateIcon();
-    void updateField(QWidget* field, const QString& featureName);
+    void write(QWidget* field, const QVariant& value);
     void resetImageSource();
-    bool showsCameraGeometry() const;
+    void updateIcon();
 
     template <typename Page> Page* addRegionPage();
     template <typename Field> Field* changedField();
 
+    const std::unique_ptr<FeatureBinder> m_binder;
     std::unique_ptr<Ui::ImageFormatWidget> m_ui;
 };

@@ -1,11 +1,11 @@
 #include "imageformat/ImageReaderWidget.h"
 
-#include "imageformat/ImageFileFilter.h"
 #include "imageformat/PictureFile.h"
 #include "widgets/OverrideCursor.h"
 
 #include <QFileDialog>
 #include <QImageWriter>
+#include <QWheelEvent>
 
 #include <utility>
 
@@ -15,6 +15,7 @@ ImageReaderWidget::ImageReaderWidget(QWidget* parent)
     qRegisterMetaType<std::shared_ptr<QPixmap>>("std::shared_ptr<QPixmap>");
     addItems({QStringLiteral("No image"), QStringLiteral("Last acquired image"),
               QStringLiteral("Image from file")});
+    setFocusPolicy(Qt::StrongFocus); // or else the wheel itself would give the focus
     connect(this, QOverload<int>::of(&QComboBox::activated), this, &ImageReaderWidget::activate);
 }
 
@@ -27,21 +28,32 @@ ImageReaderWidget::~ImageReaderWidget()
 // with it, while the file dialog is open: the dialog waits until the list is done.
 void ImageReaderWidget::activate(int index)
 {
-    const auto take = [this, index] { onComboBoxItemActivated(index); };
-    if (index == ImageFromFile)
-        QMetaObject::invokeMethod(this, take, Qt::QueuedConnection);
-    else
-        take();
+    if (index != ImageFromFile) {
+        onComboBoxItemActivated(index);
+        return;
+    }
+    m_isDialogDue = true;
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            if (m_isDialogDue)
+                onComboBoxItemActivated(ImageFromFile);
+        },
+        Qt::QueuedConnection);
 }
 
 void ImageReaderWidget::onFrameReceived(const QPixmap& frame)
 {
+    m_fileFault.clear();
     emit imageChanged(std::make_shared<QPixmap>(frame));
 }
 
 void ImageReaderWidget::onComboBoxItemActivated(int index)
 {
     const OverrideCursor waitCursor(Qt::WaitCursor);
+    // A dialog that was opened before asks for what is not wanted any more.
+    m_isDialogDue = false;
+    closeDialog();
     switch (index) {
     case NoImage:
         clearImage();
@@ -63,13 +75,22 @@ void ImageReaderWidget::clearImage()
     emit imageChanged(m_fileImage);
 }
 
+// Rolling over the list on the way down the page must not choose.
+void ImageReaderWidget::wheelEvent(QWheelEvent* event)
+{
+    if (hasFocus())
+        QComboBox::wheelEvent(event);
+    else
+        event->ignore();
+}
+
 // The camera may be closed while the dialog is open, and this widget with it.
 void ImageReaderWidget::chooseFile()
 {
     const QPointer<ImageReaderWidget> self(this);
     const QPointer<QFileDialog> dialog = new QFileDialog(this, QString(), QString(), QString());
     m_dialog = dialog;
-    dialog->setNameFilter(imageFileFilter(QImageWriter::supportedImageFormats()));
+    dialog->setNameFilter(PictureFile::filter(QImageWriter::supportedImageFormats()));
     dialog->setFileMode(QFileDialog::ExistingFile);
     const bool accepted = dialog->exec() == QDialog::Accepted;
     if (!dialog)
@@ -77,7 +98,8 @@ void ImageReaderWidget::chooseFile()
 
     const QStringList files = dialog->selectedFiles();
     dialog->deleteLater();
-    if (self && accepted && !files.isEmpty())
+    const bool isCurrent = self && std::exchange(m_dialog, nullptr) == dialog;
+    if (isCurrent && accepted && !files.isEmpty())
         loadFile(files.first());
 }
 
@@ -97,6 +119,8 @@ void ImageReaderWidget::closeDialog()
 
 void ImageReaderWidget::loadFile(const QString& fileName)
 {
-    m_fileImage = std::make_shared<QPixmap>(loadPicture(fileName));
+    PictureFile file = PictureFile::load(fileName);
+    m_fileImage = std::make_shared<QPixmap>(std::move(file.picture));
+    m_fileFault = file.fault;
     emit imageChanged(m_fileImage);
 }

@@ -30,6 +30,9 @@ public:
     /// As if it were cancelled, if there is one.
     void closeDialog();
 
+    /// Why the file announced last is a null pixmap, for the user; empty when it is a picture.
+    const QString& fileFault() const { return m_fileFault; }
+
 signals:
     /// The new background; an empty pointer means none. A file that is no picture gives a null
     /// pixmap.
@@ -40,8 +43,11 @@ signals:
 public slots:
     void onFrameReceived(const QPixmap& frame);
     /// Takes the background from the source at this index; leaves the list's current entry as it
-    /// is.
+    /// is. Ends a file dialog that is open.
     void onComboBoxItemActivated(int index);
+
+protected:
+    void wheelEvent(QWheelEvent* event) override;
 
 private:
     void activate(int index);
@@ -50,5 +56,7 @@ private:
     void loadFile(const QString& fileName);
 
     std::shared_ptr<QPixmap> m_fileImage;
+    QString m_fileFault;
     QPointer<QFileDialog> m_dialog;
+    bool m_isDialogDue = false; ///< chosen, and not open yet
 };

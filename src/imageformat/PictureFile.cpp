@@ -1,10 +1,15 @@
 #include "imageformat/PictureFile.h"
 
-#include <QDebug>
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QImageReader>
 
 namespace {
+
+struct Text
+{
+    Q_DECLARE_TR_FUNCTIONS(ImageFormatWidget)
+};
 
 /// Of a decoded picture; nearly twice the largest sensor. It takes 1 GiB.
 constexpr qint64 maximumPixels = qint64{1} << 28;
@@ -18,20 +23,27 @@ qint64 estimatedPixels(const QImageReader& reader, const QFileInfo& file)
 
 } // namespace
 
-QPixmap loadPicture(const QString& fileName)
+PictureFile PictureFile::load(const QString& fileName)
 {
+    const auto unusable = [&fileName](const QString& reason) {
+        return PictureFile{{}, Text::tr("Picture '%1' cannot be used: %2").arg(fileName, reason)};
+    };
     const QFileInfo file(fileName);
-    if (!file.isFile()) {
-        qWarning() << "No picture file:" << fileName;
-        return {};
-    }
+    if (!file.isFile())
+        return unusable(Text::tr("It is no file."));
     QImageReader reader(fileName);
-    if (estimatedPixels(reader, file) > maximumPixels) {
-        qWarning() << "The picture is too large:" << fileName;
-        return {};
-    }
+    if (estimatedPixels(reader, file) > maximumPixels)
+        return unusable(Text::tr("It is too large."));
     QImage image = reader.read();
     if (image.isNull())
-        qWarning() << "The picture cannot be read:" << fileName << reader.errorString();
-    return QPixmap::fromImage(std::move(image));
+        return unusable(reader.errorString());
+    return {QPixmap::fromImage(std::move(image)), {}};
+}
+
+QString PictureFile::filter(const QList<QByteArray>& formats)
+{
+    QStringList patterns;
+    for (const QByteArray& format : formats)
+        patterns << QLatin1String("*.") + QString::fromLatin1(format).toLower();
+    return QStringLiteral("Image files (%1)").arg(patterns.join(QLatin1Char(' ')));
 }

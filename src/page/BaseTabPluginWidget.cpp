@@ -5,14 +5,13 @@
 #include "features/FeatureWrapping.h"
 #include "page/TENotSupported.h"
 #include "page/Translators.h"
+#include "widgets/SilentFields.h"
 
 #include <QApplication>
-#include <QComboBox>
 #include <QEvent>
 #include <QMutex>
 #include <QPalette>
 #include <QPointer>
-#include <QSignalBlocker>
 #include <QTimer>
 
 #include <utility>
@@ -248,18 +247,8 @@ bool BaseTabPluginWidget::fillComboBox(const QString& featureName, QComboBox* co
                                        bool withItemData)
 {
     const QString current = featureManager->GetStringValue(featureName);
-    const QStringList entries = featureManager->GetEnumEntries(featureName);
-
-    const QSignalBlocker blocker(comboBox);
-    comboBox->clear();
-    comboBox->addItems(entries);
-    if (withItemData) {
-        for (int i = 0; i < entries.size(); ++i)
-            comboBox->setItemData(i, entries.at(i), Qt::ToolTipRole);
-    }
-    const int index = entries.indexOf(current);
-    comboBox->setCurrentIndex(index);
-    return index >= 0;
+    showEntries(comboBox, featureManager->GetEnumEntries(featureName), withItemData);
+    return showEntry(comboBox, current);
 }
 
 QTranslator* BaseTabPluginWidget::loadTranslator(const QString& baseName)

@@ -12,6 +12,16 @@ void showChecked(QCheckBox* box, bool isChecked)
     box->setCheckState(isChecked ? Qt::Checked : Qt::Unchecked);
 }
 
+void showEntries(QComboBox* comboBox, const QStringList& entries, bool withToolTips)
+{
+    const QSignalBlocker blocker(comboBox);
+    comboBox->clear();
+    comboBox->addItems(entries);
+    for (int i = 0; i < entries.size() && withToolTips; ++i)
+        comboBox->setItemData(i, entries.at(i), Qt::ToolTipRole);
+    comboBox->setCurrentIndex(-1);
+}
+
 bool showEntry(QComboBox* comboBox, const QString& entry)
 {
     const QSignalBlocker blocker(comboBox);

@@ -96,12 +96,19 @@ private slots:
         reverse->click();
         QVERIFY(p.camera->feature("ReverseX").isOn());
 
-        // What the camera refuses is not shown.
+        // What the camera refuses is not shown, nor what it does not tell.
         p.camera->failures().add("*", sim::Operation::SetValue, sim::Failure::refuse());
+        p.format()->setCurrentIndex(2);
+        QCOMPARE(p.format()->currentIndex(), 1);
+        p.binning()->setValue(4);
+        QCOMPARE(p.binning()->value(), 2);
+        p.camera->failures().add("*", sim::Operation::GetValue, sim::Failure::refuse());
         p.binning()->setValue(4);
         QCOMPARE(p.binning()->value(), 2);
         p.format()->setCurrentIndex(2);
         QCOMPARE(p.format()->currentIndex(), 1);
+        p.camera->failures().clear();
+        p.camera->failures().add("*", sim::Operation::SetValue, sim::Failure::refuse());
         p.camera->journal().clear();
         const QPoint indicator(reverse->width() - 10, reverse->height() / 2);
         for (int click = 1; click <= 3; ++click) {
@@ -138,46 +145,96 @@ private slots:
     }
     void clearsTheImageAfterGeometryChanges() { runRow(); }
 
-    void followsOtherClients()
+    // An answer that is no entry selects nothing, and the next refresh asks for the entries.
+    void refillsTheListAfterAnUnknownAnswer()
     {
         const OpenPage p;
-        QSignalSpy images(p.source(), &ImageReaderWidget::imageChanged);
-        p.camera->writeAsOtherClient("ReverseY", true);
+        p.camera->setNotifications(sim::NotificationSettings::off());
+        p.camera->force("PixelFormat", "Mono77");
+        p.camera->failures().add("PixelFormat", sim::Operation::SetValue, sim::Failure::refuse());
+        p.format()->setCurrentIndex(1);
+        QCOMPARE(p.format()->currentIndex(), -1);
+        p.camera->modify("PixelFormat", [](sim::FeatureDescription& feature) {
+            feature.entries.push_back({"Mono77", 77});
+        });
         p.page->updateTimer();
-        QCOMPARE(images.size(), 1);
-        p.camera->writeAsOtherClient("BinningVertical", 2);
-        p.camera->writeAsOtherClient("PixelFormat", "Mono12");
-        p.camera->modify("BinningHorizontal",
-                         [](sim::FeatureDescription& feature) { feature.readOnly(); });
-        p.camera->burst("BinningHorizontal", 1);
-        p.page->OnFeatureChanged("ReverseY", QString()); // as it is
-        p.camera->journal().clear();
-        p.page->updateTimer();
-        QCOMPARE(images.size(), 2); // for the binning
-        QCOMPARE(p.field<QSpinBox>("spbBinningVertical")->value(), 2);
-        QVERIFY(p.field<QCheckBox>("chkReverseY")->isChecked());
-        QCOMPARE(p.format()->currentText(), QString("Mono12"));
-        QVERIFY(!p.binning()->isEnabled());
-        QVERIFY(p.camera->journal().writes().empty());
+        QCOMPARE(p.format()->currentText(), QString("Mono77"));
     }
 
-    void takesOverMissingFeatures()
+    // What is not told stays as it is until it is told.
+    void followsOtherClients_data()
     {
-        const OpenPage p("plain");
-        auto* const reverse = p.field<QCheckBox>("chkReverseX");
-        auto* const selector = p.field<QComboBox>("cmbBinningSelector");
-        QVERIFY(!reverse->isEnabled() && !selector->isEnabled());
-        const QString missing = "Feature '%1' is not available in the camera.";
-        QCOMPARE(reverse->toolTip(), missing.arg("ReverseX"));
-        QCOMPARE(selector->toolTip(), missing.arg("BinningSelector"));
+        const DataTable row([](sim::Operations refused) {
+            const OpenPage p;
+            QSignalSpy images(p.source(), &ImageReaderWidget::imageChanged);
+            p.camera->failures().add("*", refused, sim::Failure::refuse());
+            p.camera->writeAsOtherClient("ReverseY", true);
+            p.camera->writeAsOtherClient("BinningVertical", 2);
+            p.camera->writeAsOtherClient("PixelFormat", "Mono12");
+            p.camera->modify("BinningHorizontal",
+                             [](sim::FeatureDescription& feature) { feature.readOnly(); });
+            p.camera->burst("BinningHorizontal", 1);
+            p.page->OnFeatureChanged("ReverseX", QString()); // as it is
+            p.camera->journal().clear();
+            p.page->updateTimer();
+            if (refused.contains(sim::Operation::GetValue))
+                QCOMPARE(p.field<QSpinBox>("spbBinningVertical")->value(), 1);
+            p.camera->failures().clear();
+            p.page->updateTimer();
+            QCOMPARE(images.size(), 1);
+            QCOMPARE(p.field<QSpinBox>("spbBinningVertical")->value(), 2);
+            QVERIFY(p.field<QCheckBox>("chkReverseY")->isChecked());
+            QCOMPARE(p.format()->currentText(), QString("Mono12"));
+            QVERIFY(!p.binning()->isEnabled());
+            QVERIFY(p.format()->isEnabled());
+            QVERIFY(p.camera->journal().writes().empty());
+        });
+        row("all is told", sim::Operations());
+        row("no value is told", sim::Operation::GetValue);
+        row("no range is told", sim::Operation::GetRange);
+        row("no access is told", sim::Operation::IsWritable);
+        row("no entries are told", sim::Operation::GetValues);
+    }
+    void followsOtherClients() { runRow(); }
 
-        QSignalSpy images(p.source(), &ImageReaderWidget::imageChanged);
-        p.page->OnFeatureChanged("BinningHorizontal", QString());
-        p.page->OnFeatureChanged("ReverseX", QString());
-        p.page->updateTimer();
-        QCOMPARE(images.size(), 0);
-        QVERIFY(!reverse->isChecked());
-        QVERIFY(!p.binning()->isEnabled()); // what is not there cannot be written
+    void takesOverMissingFeatures_data()
+    {
+        const DataTable row([](bool isMissing) {
+            const OpenPage p("plain");
+            const QString feature = QString(QTest::currentDataTag()).mid(3);
+            auto* const field = p.field<QWidget>(QTest::currentDataTag());
+            const QString text = "Feature '%1' is not available in the camera.";
+            QSignalSpy images(p.source(), &ImageReaderWidget::imageChanged);
+            p.page->OnFeatureChanged(feature, QString());
+            p.page->updateTimer();
+            QCOMPARE(field->isEnabled(), !isMissing);
+            QCOMPARE(field->toolTip(), isMissing ? text.arg(feature) : QString());
+            QCOMPARE(images.size(), 0);
+        });
+        row("cmbPixelFormat", false);
+        for (const char* field :
+             {"cmbBinningSelector", "cmbBinningHorizontalMode", "cmbBinningVerticalMode",
+              "spbBinningHorizontal", "spbBinningVertical", "chkReverseX", "chkReverseY"})
+            row(field, true);
+    }
+    void takesOverMissingFeatures() { runRow(); }
+
+    void tellsWhyAPictureCannotBeUsed()
+    {
+        QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+        const OpenPage p;
+        QSignalSpy log(p.page.get(), &ImageFormatWidget::loggingMessage);
+        QTemporaryFile file;
+        QVERIFY(file.open());
+        QTimer::singleShot(50, [&file] {
+            QWidget* const dialog = QApplication::activeModalWidget();
+            dialog->findChild<QLineEdit*>()->setText(file.fileName());
+            QMetaObject::invokeMethod(dialog, "accept");
+        });
+        p.source()->onComboBoxItemActivated(ImageReaderWidget::ImageFromFile);
+        emit p.page->receiveFrameSignal(QPixmap());
+        QCOMPARE(log.size(), 1);
+        QVERIFY(log.first().last().toString().contains(file.fileName()));
     }
 
     // Its end gives the focus back to a field, which tells the page.
@@ -226,6 +283,8 @@ private slots:
         sendWheel(p.binning());
         QVERIFY(scrollBar->value() > 0);
         sendWheel(p.format());
+        sendWheel(p.source());
+        QCOMPARE(p.source()->currentIndex(), int(ImageReaderWidget::NoImage));
         QVERIFY(p.camera->journal().writes().empty());
 
         p.binning()->setValue(2);

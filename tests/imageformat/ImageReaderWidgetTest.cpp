@@ -1,6 +1,6 @@
 #include "imageformat/ImageReaderWidget.h"
 #include "DataTable.h"
-#include "imageformat/ImageFileFilter.h"
+#include "WheelEvent.h"
 #include "imageformat/PictureFile.h"
 
 #include <QFileDialog>
@@ -33,7 +33,7 @@ private slots:
     void fileFilter_data()
     {
         const DataTable row([](const QList<QByteArray>& formats, const QString& filter) {
-            QCOMPARE(imageFileFilter(formats), filter);
+            QCOMPARE(PictureFile::filter(formats), filter);
         });
         row("none", {}, "Image files ()");
         row("order and case", {"png", "BMP", "Jpg"}, "Image files (*.png *.bmp *.jpg)");
@@ -64,30 +64,31 @@ private slots:
 
     void fileIsAnnounced_data()
     {
-        const DataTable row(
-            [this](const QString& file, bool accepted, const QList<QSize>& announced) {
-                ImageReaderWidget selector(nullptr);
-                const auto images = announcedBy(selector);
-                whenDialogOpens([&](QFileDialog* dialog) {
-                    QCOMPARE(dialog->parentWidget(), &selector);
-                    QCOMPARE(dialog->fileMode(), QFileDialog::ExistingFile);
-                    QCOMPARE(dialog->nameFilters(),
-                             QStringList{imageFileFilter(QImageWriter::supportedImageFormats())});
-                    QCOMPARE(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
-                    dialog->setDirectory(m_folder.path());
-                    dialog->findChild<QLineEdit*>()->setText(m_folder.filePath(file));
-                    QDialog* const base = dialog; // whose accept() is public
-                    accepted ? base->accept() : base->reject();
-                });
-                selector.onComboBoxItemActivated(ImageReaderWidget::ImageFromFile);
-                QList<QSize> sizes;
-                for (const ImagePtr& image : *images)
-                    sizes << image->size();
-                QCOMPARE(sizes, announced);
-                selector.onComboBoxItemActivated(ImageReaderWidget::NoImage);
-                QVERIFY(!images->constLast());
-                QVERIFY(!QApplication::overrideCursor());
+        const DataTable row([this](const QString& file, bool accepted,
+                                   const QList<QSize>& announced) {
+            ImageReaderWidget selector(nullptr);
+            const auto images = announcedBy(selector);
+            whenDialogOpens([&](QFileDialog* dialog) {
+                QCOMPARE(dialog->parentWidget(), &selector);
+                QCOMPARE(dialog->fileMode(), QFileDialog::ExistingFile);
+                QCOMPARE(dialog->nameFilters(),
+                         QStringList{PictureFile::filter(QImageWriter::supportedImageFormats())});
+                QCOMPARE(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
+                dialog->setDirectory(m_folder.path());
+                dialog->findChild<QLineEdit*>()->setText(m_folder.filePath(file));
+                QDialog* const base = dialog; // whose accept() is public
+                accepted ? base->accept() : base->reject();
             });
+            selector.onComboBoxItemActivated(ImageReaderWidget::ImageFromFile);
+            QList<QSize> sizes;
+            for (const ImagePtr& image : *images)
+                sizes << image->size();
+            QCOMPARE(sizes, announced);
+            QCOMPARE(selector.fileFault().isEmpty(), !announced.contains(QSize(0, 0)));
+            selector.onComboBoxItemActivated(ImageReaderWidget::NoImage);
+            QVERIFY(!images->constLast());
+            QVERIFY(!QApplication::overrideCursor());
+        });
         row("picture", "picture.png", true, {{30, 20}});
         row("no picture", "broken.png", true, {{0, 0}});
         row("cancelled", "picture.png", false, {});
@@ -101,7 +102,7 @@ private slots:
             QVERIFY(file.open(QIODevice::WriteOnly));
             file.write(content);
             file.close();
-            QVERIFY(loadPicture(file.fileName()).isNull());
+            QVERIFY(isRefused(file.fileName()));
         });
         row("empty", QByteArray());
         row("text", QByteArray("This is no picture."));
@@ -113,12 +114,62 @@ private slots:
     // Opening a pipe for reading waits for a writer.
     void pipesAndFoldersAreNotOpened()
     {
-        QVERIFY(loadPicture(m_folder.path()).isNull());
+        QVERIFY(isRefused(m_folder.path()));
 #ifdef Q_OS_UNIX
         const QString pipe = m_folder.filePath(QString("pipe.png"));
         QCOMPARE(mkfifo(qPrintable(pipe), 0600), 0);
-        QVERIFY(loadPicture(pipe).isNull());
+        QVERIFY(isRefused(pipe));
 #endif
+    }
+
+    // The list is reset by the page while its dialog is on, or about to be.
+    void laterChoiceEndsTheDialog_data()
+    {
+        const DataTable row([this](bool isOpen) {
+            ImageReaderWidget selector(nullptr);
+            const auto images = announcedBy(selector);
+            const auto reset
+                = [&] { selector.onComboBoxItemActivated(ImageReaderWidget::NoImage); };
+            if (isOpen)
+                whenDialogOpens([&](QFileDialog* dialog) {
+                    dialog->findChild<QLineEdit*>()->setText(m_folder.filePath("picture.png"));
+                    reset();
+                    static_cast<QDialog*>(dialog)->accept();
+                });
+            bool isLeft = false;
+            QTimer::singleShot(200, &selector, [&isLeft] {
+                if (auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
+                    isLeft = true;
+                    dialog->reject();
+                }
+            });
+            emit selector.activated(ImageReaderWidget::ImageFromFile);
+            if (!isOpen)
+                reset();
+            QTest::qWait(300);
+            QVERIFY(!isLeft);
+            QCOMPARE(*images, QVector<ImagePtr>{nullptr});
+        });
+        row("open", true);
+        row("about to open", false);
+    }
+    void laterChoiceEndsTheDialog()
+    {
+        runRow();
+    }
+
+    void wheelChoosesWithFocusOnly()
+    {
+        ImageReaderWidget selector(nullptr);
+        QSignalSpy choices(&selector, QOverload<int>::of(&QComboBox::activated));
+        selector.show();
+        QApplication::setActiveWindow(&selector);
+        selector.clearFocus();
+        sendWheel(&selector);
+        QCOMPARE(choices.count(), 0);
+        selector.setFocus();
+        sendWheel(&selector);
+        QCOMPARE(choices.count(), 1);
     }
 
     void selectorMayVanishUnderItsDialog()
@@ -132,6 +183,12 @@ private slots:
     }
 
 private:
+    static bool isRefused(const QString& file)
+    {
+        const PictureFile loaded = PictureFile::load(file);
+        return loaded.picture.isNull() && loaded.fault.contains(file);
+    }
+
     static std::shared_ptr<QVector<ImagePtr>> announcedBy(const ImageReaderWidget& selector)
     {
         auto images = std::make_shared<QVector<ImagePtr>>();

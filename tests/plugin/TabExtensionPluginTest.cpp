@@ -149,14 +149,18 @@ private slots:
 
     void refusesAndLeavesNothing()
     {
-        for (const char* model : {"other-vendor", "no-height"}) {
+        for (const char* model : {"other-vendor", "no-height", "current"}) {
             const auto camera = sim::createCamera(model);
+            // A page within the page refuses.
+            camera->failures().add("DeviceVendorName", sim::Operation::GetValue,
+                                   sim::Failure::refuse(), sim::Occurrence::from(3));
             QWidget page;
+            page.setAccessibleName("Viewer");
             const auto connections = Host::connections();
             QCOMPARE(m_plugin->createTab(featureList(*camera), &page, &connections), 4);
             QVERIFY(!page.layout());
             QVERIFY(page.children().isEmpty());
-            QVERIFY(page.accessibleName().isEmpty());
+            QCOMPARE(page.accessibleName(), QString("Viewer"));
             QCOMPARE(int(camera->observerCount()), 0);
         }
     }

@@ -1,0 +1,138 @@
+#include "imageformat/FeatureBinder.h"
+
+#include "features/FeatureManager.h"
+#include "features/FeatureWriting.h"
+#include "features/NumberConversion.h"
+#include "widgets/SilentFields.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QSignalBlocker>
+#include <QSpinBox>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int prefixLength = 3;
+
+bool hasPrefix(const QString& objectName)
+{
+    const auto isLowerCase
+        = [](QChar letter) { return letter >= QLatin1Char('a') && letter <= QLatin1Char('z'); };
+    return objectName.size() > prefixLength
+        && std::all_of(objectName.begin(), objectName.begin() + prefixLength, isLowerCase);
+}
+
+bool isField(const QWidget* widget)
+{
+    const QMetaObject* const type = widget->metaObject();
+    return type == &QSpinBox::staticMetaObject || type == &QComboBox::staticMetaObject
+        || type == &QCheckBox::staticMetaObject;
+}
+
+/// False when the value is no entry.
+bool showValue(QWidget* field, const QVariant& value)
+{
+    if (auto* const comboBox = qobject_cast<QComboBox*>(field))
+        return showEntry(comboBox, value.toString());
+    if (auto* const checkBox = qobject_cast<QCheckBox*>(field))
+        showChecked(checkBox, value.toDouble() != 0.0);
+    else
+        static_cast<QSpinBox*>(field)->setValue(toInt(value.toDouble()));
+    return true;
+}
+
+} // namespace
+
+FeatureBinder::FeatureBinder(QWidget& form, FeatureManager& manager)
+    : m_form(form)
+    , m_manager(manager)
+{
+}
+
+QString FeatureBinder::featureOf(const QObject* field)
+{
+    return field->objectName().mid(prefixLength);
+}
+
+bool FeatureBinder::bind(QWidget* field)
+{
+    const QString name = featureOf(field);
+    if (name.isEmpty())
+        return false;
+    FeatureReader feature = m_manager.Read(name);
+    if (feature)
+        showReading(field, feature, Entries::Refilled);
+    return bool(feature);
+}
+
+bool FeatureBinder::show(QWidget* field)
+{
+    FeatureReader feature = m_manager.Read(featureOf(field));
+    if (feature)
+        return showReading(field, feature, Entries::Refilled);
+    if (feature.isKnown())
+        field->setEnabled(false);
+    return feature.isKnown();
+}
+
+bool FeatureBinder::write(QWidget* field, const QVariant& value)
+{
+    const QString name = featureOf(field);
+    FeatureReader feature = m_manager.Read(name);
+    if (feature && qobject_cast<QComboBox*>(field))
+        FeatureWriting::writeText(*feature.feature(), value.toString());
+    else if (feature)
+        FeatureWriting::writeNumber(*feature.feature(), name, value.toDouble());
+    // The box is in the middle of telling what was chosen, so it keeps its entries.
+    return showReading(field, feature, Entries::Kept);
+}
+
+bool FeatureBinder::showReading(QWidget* field, FeatureReader& feature, Entries entries)
+{
+    const QSignalBlocker blocker(field);
+    QVariant& told = m_told[featureOf(field)];
+    const auto take = [field, &told](const auto& reading) {
+        if (reading.value)
+            told = *reading.value;
+        if (reading.isWritable || reading.isComplete)
+            field->setEnabled(reading.isWritable);
+        return reading.isComplete;
+    };
+
+    bool isComplete = false;
+    if (auto* const comboBox = qobject_cast<QComboBox*>(field)) {
+        isComplete = take(feature.textReading());
+        const QStringList offered
+            = entries == Entries::Refilled ? feature.entries() : QStringList();
+        if (!offered.isEmpty())
+            showEntries(comboBox, offered, true);
+        else if (entries == Entries::Refilled)
+            isComplete = false;
+    } else if (auto* const spinBox = qobject_cast<QSpinBox*>(field)) {
+        const auto reading = feature.number(FeatureReader::Range | FeatureReader::Access);
+        if (reading.minimum && reading.maximum)
+            spinBox->setRange(toInt(*reading.minimum), toInt(*reading.maximum));
+        isComplete = take(reading);
+    } else {
+        isComplete = take(feature.number(FeatureReader::Access));
+    }
+    if (!told.isValid())
+        return isComplete;
+    return (showValue(field, told) || entries == Entries::Refilled) && isComplete;
+}
+
+QList<QWidget*> FeatureBinder::boundTo(const QStringList& features) const
+{
+    QHash<QString, QList<QWidget*>> fields;
+    const auto widgets = m_form.findChildren<QWidget*>();
+    for (QWidget* const widget : widgets) {
+        if (isField(widget) && hasPrefix(widget->objectName()))
+            fields[featureOf(widget)].append(widget);
+    }
+    QList<QWidget*> bound;
+    for (const QString& feature : features)
+        bound += fields.value(feature);
+    return bound;
+}

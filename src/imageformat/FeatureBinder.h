@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QHash>
+#include <QList>
+#include <QStringList>
+#include <QVariant>
+
+class FeatureManager;
+class FeatureReader;
+class QWidget;
+
+/// Edits features in the spin boxes, combo boxes and check boxes of a form. Which feature a field
+/// edits is told by its object name: three lower-case letters and the feature's exact name, as in
+/// "cmbPixelFormat".
+///
+/// A field shows what the camera told last: a read that fails changes nothing. Nothing here makes a
+/// field emit.
+class FeatureBinder
+{
+public:
+    FeatureBinder(QWidget& form, FeatureManager& manager);
+
+    /// Empty for names with nothing behind the prefix.
+    static QString featureOf(const QObject* field);
+
+    /// Shows the field. False, and the field is left alone, when the camera lacks the feature.
+    bool bind(QWidget* field);
+    /// Shows range, value and access by one look-up. False when it is to be shown once more, for
+    /// not all of it was told.
+    bool show(QWidget* field);
+    /// Shows what the camera made of the value. False as above; also when the camera holds no entry
+    /// of the combo box, which then selects nothing.
+    bool write(QWidget* field, const QVariant& value);
+
+    /// The form's fields for these features, in the features' order; none of a derived class, which
+    /// has rules of its own.
+    QList<QWidget*> boundTo(const QStringList& features) const;
+
+private:
+    enum class Entries {
+        Refilled,
+        Kept
+    };
+    bool showReading(QWidget* field, FeatureReader& feature, Entries entries);
+
+    QWidget& m_form;
+    FeatureManager& m_manager;
+    QHash<QString, QVariant> m_told; ///< each feature's last known value
+};
