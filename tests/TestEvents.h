@@ -8,11 +8,11 @@
 // release.
 
 inline void sendMouse(QWidget* widget, QEvent::Type type, const QPoint& position,
-                      Qt::MouseButtons buttons = Qt::LeftButton)
+                      Qt::MouseButtons buttons = Qt::LeftButton,
+                      Qt::MouseButton button = Qt::LeftButton)
 {
-    const Qt::MouseButton button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
-    QMouseEvent event(type, position, widget->mapToGlobal(position), button, buttons,
-                      Qt::NoModifier);
+    QMouseEvent event(type, position, widget->mapToGlobal(position),
+                      type == QEvent::MouseMove ? Qt::NoButton : button, buttons, Qt::NoModifier);
     QApplication::sendEvent(widget, &event);
 }
 

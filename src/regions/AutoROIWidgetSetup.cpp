@@ -113,8 +113,7 @@ void AutoROIWidget::connectLabel()
     connect(label, &RubberBandLabel::UpdateGeometry, this, &AutoROIWidget::OnUpdateGeometry);
     connect(label, &RubberBandLabel::GeometryChangeStarted, this,
             &AutoROIWidget::OnGeometryChangeStarted);
-    connect(label, &RubberBandLabel::GeometryChangeAborted, this,
-            &AutoROIWidget::onGeometryChangeAborted);
+    connect(label, &SensorLabel::dragDropped, this, &AutoROIWidget::onGeometryChangeAborted);
 }
 
 void AutoROIWidget::connectRegion()

@@ -141,7 +141,7 @@ void SensorLabel::mouseReleaseEvent(QMouseEvent* event)
 void SensorLabel::resizeEvent(QResizeEvent* event)
 {
     QLabel::resizeEvent(event);
-    fitBackground(size());
+    fitBackground(event->size());
 }
 
 void SensorLabel::showEvent(QShowEvent* event)
@@ -188,12 +188,10 @@ void SensorLabel::showBackground()
     coverWithPicture();
 }
 
-/// Spares Qt the painting of what lies beneath the label, as long as its picture hides all of it. A
-/// disabled label paints its picture paler, and what is in the margins is not the picture.
+/// Spares Qt the painting of what lies beneath the label, as long as its picture hides all of it.
 void SensorLabel::coverWithPicture()
 {
     const QPixmap picture = pixmap(Qt::ReturnByValue);
     setAttribute(Qt::WA_OpaquePaintEvent,
-                 isEnabled() && contentsRect() == rect() && picture.size() == size()
-                     && !picture.hasAlphaChannel());
+                 isPlain() && picture.size() == size() && !picture.hasAlphaChannel());
 }

@@ -41,6 +41,10 @@ protected:
     /// @param bounds into which it is fitted, label pixels
     void setPicture(const SensorPicture& picture, const QSize& keptSize, const QSize& bounds);
 
+    /// Nothing shows but the picture as it is: a disabled label paints it paler, and what is in the
+    /// margins is not the picture.
+    bool isPlain() const { return isEnabled() && contentsRect() == rect(); }
+
     /// The point of the shown picture next to @p point, its right and bottom border included.
     QPoint clampedToPicture(const QPoint& point) const;
     void dropDrag();

@@ -104,22 +104,6 @@ private slots:
         QCOMPARE(p.label->sensorSize(), QSize(2592, 1944));
     }
 
-    void endsDuringADrag()
-    {
-        AOIPage p("current");
-        press(p.label, p.band().center());
-        QVERIFY(p.label->isDragging());
-        const auto timers = p.page->findChildren<QTimer*>(QString(), Qt::FindDirectChildrenOnly);
-        bool isAborted = false;
-        connect(p.label, &RubberBandLabel::GeometryChangeAborted, this, [&] {
-            isAborted = true;
-            for (const QTimer* timer : timers)
-                QVERIFY(!timer->isSingleShot() || !timer->isActive());
-        });
-        p.page.reset();
-        QVERIFY(isAborted);
-    }
-
     void knowsItsFamily()
     {
         QCOMPARE(AOIPage("plain").page->accessibleName(), QString("ROI"));

@@ -1,13 +1,9 @@
 #include "sensor/SensorBackground.h"
 #include "DataTable.h"
 #include "Pictures.h"
-#include "multiregion/label/MultiRubberBandLabel.h"
-#include "regions/label/RubberBandLabel.h"
 
 #include <QBitmap>
 #include <QPainter>
-
-#include <array>
 
 namespace {
 
@@ -107,41 +103,6 @@ private slots:
         QCOMPARE(composeBackground({}, {8, 8}, {}, {8, 8}).toImage().pixelColor(4, 4),
                  QColor(Qt::black));
     }
-
-    void labelsHideOnlyWhatTheyPaint_data()
-    {
-        using Change = std::function<void(QLabel*)>;
-        const DataTable row([](const Change& change, bool hides) {
-            const QSize sensor(640, 480);
-            RubberBandLabel one(sensor.width(), sensor.height(), Qt::blue, nullptr);
-            MultiRubberBandLabel several(sensor.width(), sensor.height(), Qt::blue, "Free",
-                                         nullptr);
-            const std::array<QLabel*, 2> labels{&one, &several};
-            for (QLabel* const label : labels) {
-                label->resize(200, 150);
-                label->show();
-                QVERIFY(!label->testAttribute(Qt::WA_OpaquePaintEvent)); // it is translucent still
-            }
-            QApplication::setOverrideCursor(Qt::WaitCursor); // which the label takes back
-            one.showBackground(std::make_shared<QPixmap>(picture(sensor)), sensor, {});
-            several.setBackgroundImage(std::make_shared<QPixmap>(picture(sensor)), sensor, {});
-            for (QLabel* const label : labels) {
-                change(label);
-                QCOMPARE(label->testAttribute(Qt::WA_OpaquePaintEvent), hides);
-            }
-        });
-        row(
-            "as it is", [](QLabel*) {}, true);
-        row(
-            "resized", [](QLabel* label) { label->resize(400, 300); }, true);
-        row(
-            "wider than the picture", [](QLabel* label) { label->resize(300, 150); }, false);
-        row(
-            "disabled", [](QLabel* label) { label->setEnabled(false); }, false);
-        row(
-            "margins", [](QLabel* label) { label->setContentsMargins(0, 9, 0, 0); }, false);
-    }
-    void labelsHideOnlyWhatTheyPaint() { runRow(); }
 
     void knowsOldWindows()
     {

@@ -3,23 +3,26 @@
 #include "regions/label/EdgeGrab.h"
 #include "regions/label/LabelGeometry.h"
 
-#include <Qt>
+/// What a drag knows while the button is held.
+struct EdgeDrag
+{
+    EdgeGrab held;       ///< what the press took
+    EdgeGrab follows;    ///< what goes with the pointer until the release
+    QPoint grabOffset;   ///< from the band's position to the press, for a move
+    SensorRegion region; ///< at the press
+};
 
-/// One step of a drag: the band in label pixels and the region it stands for.
+/// One step of a drag: the band in label pixels and the provisional region.
 struct EdgeDragStep
 {
     QRect band;
     SensorRegion region;
 };
 
-/// What a drag knows while the button is held.
-struct EdgeDrag
-{
-    EdgeGrab flags;
-    Qt::CursorShape cursor = Qt::ArrowCursor; ///< tells the corners and the edges apart
-    QPoint grabOffset;                        ///< from the band's position to the press, for a move
-    SensorRegion region;                      ///< the region at the press
-};
+/// @param shown the cursor at the press
+/// @param region at rest
+EdgeDrag dragFromPress(const QPoint& point, const QRect& band, Qt::CursorShape shown,
+                       const SensorRegion& region, const LabelGeometry& geometry);
 
 /// Moves the band to the pointer and derives the provisional region: what the drag does not change
 /// keeps its value from the press, the rest is read off the band and clamped to the sensor.
@@ -35,7 +38,3 @@ EdgeDragStep dragBand(const EdgeDrag& drag, const QRect& band, const QPoint& poi
 /// @param pointer where it really is
 SensorRegion regionForRelease(const EdgeDrag& drag, const QRect& band, const QPoint& pointer,
                               const LabelGeometry& geometry);
-
-/// The region that a band stands for in the middle of a drag: what a release within the label would
-/// end on.
-SensorRegion heldRegion(const EdgeDrag& drag, const QRect& band, const LabelGeometry& geometry);

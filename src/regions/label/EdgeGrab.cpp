@@ -55,3 +55,17 @@ Qt::CursorShape cursorForHover(const QRect& band, const QPoint& clampedPointer,
         return Qt::SizeVerCursor;
     return band.contains(rawPointer) ? Qt::SizeAllCursor : Qt::ArrowCursor;
 }
+
+EdgeGrab followingEdges(const EdgeGrab& held, Qt::CursorShape shown)
+{
+    EdgeGrab follows = held;
+    if (held.right) {
+        follows.top = shown == Qt::SizeBDiagCursor;
+        follows.bottom = !follows.top && shown != Qt::SizeHorCursor;
+    } else if (held.left) {
+        follows.top = shown == Qt::SizeFDiagCursor;
+        follows.bottom = shown == Qt::SizeBDiagCursor;
+        follows.left = follows.top || follows.bottom || shown == Qt::SizeHorCursor;
+    }
+    return follows;
+}

@@ -30,3 +30,7 @@ EdgeGrab flagsForPress(const QRect& band, const QPoint& pointer);
 /// picture, the inside at where it really is.
 Qt::CursorShape cursorForHover(const QRect& band, const QPoint& clampedPointer,
                                const QPoint& rawPointer);
+
+/// What follows the pointer until the release: the corner or the one edge that @p shown, the cursor
+/// at the press, has told. Nothing for a left edge of which no hover has told.
+EdgeGrab followingEdges(const EdgeGrab& held, Qt::CursorShape shown);

@@ -1,11 +1,18 @@
 #include "regions/label/LabelGeometry.h"
 
 #include <algorithm>
+#include <cstdlib>
 
 namespace {
 
 /// The largest size that Qt gives a widget.
 constexpr int largestExtent = (1 << 24) - 1;
+
+/// Whether a band filled the picture before a change that altered it by up to @p slack.
+bool wasFull(int bandSize, int slack, int displayedSize)
+{
+    return bandSize + slack >= displayedSize && bandSize - slack <= displayedSize;
+}
 
 } // namespace
 
@@ -13,13 +20,10 @@ QSize displayedSize(const LabelGeometry& geometry)
 {
     if (geometry.label.isEmpty() || geometry.sensor.isEmpty())
         return {0, 0};
-    const double labelWidth = geometry.label.width();
-    const double labelHeight = geometry.label.height();
     const double sensorWidth = geometry.sensor.width();
-    const double sensorHeight = geometry.sensor.height();
-    return {
-        std::min(geometry.label.width(), roundHalfUp(labelHeight * sensorWidth / sensorHeight)),
-        std::min(geometry.label.height(), roundHalfUp(labelWidth * sensorHeight / sensorWidth))};
+    const int width = roundHalfUp(geometry.label.height() * sensorWidth / geometry.sensor.height());
+    const int height = std::max(1, heightForWidth(geometry.label.width(), geometry.sensor));
+    return {std::min(geometry.label.width(), width), std::min(geometry.label.height(), height)};
 }
 
 int heightForWidth(int width, const QSize& sensor)
@@ -27,6 +31,12 @@ int heightForWidth(int width, const QSize& sensor)
     if (sensor.isEmpty())
         return 0;
     return roundHalfUp(static_cast<double>(width) * sensor.height() / sensor.width());
+}
+
+bool isFlat(const LabelGeometry& geometry)
+{
+    return !displayedSize(geometry).isEmpty()
+        && heightForWidth(geometry.label.width(), geometry.sensor) < 1;
 }
 
 double sensorPerLabel(const LabelGeometry& geometry)
@@ -52,8 +62,9 @@ QRect bandForRegion(const SensorRegion& region, const LabelGeometry& geometry)
         = [scale](int value) { return std::clamp(roundHalfUp(value * scale), 0, largestExtent); };
     const int x = scaled(region.left);
     const int y = scaled(region.top);
+    const int leastHeight = isFlat(geometry) ? 1 : 0;
     return {x, y, std::max(0, std::min(geometry.shown.width() - x, scaled(region.width))),
-            std::max(0, std::min(geometry.shown.height() - y, scaled(region.height)))};
+            std::max(leastHeight, std::min(geometry.shown.height() - y, scaled(region.height)))};
 }
 
 QRect bandWithoutRegion(const LabelGeometry& geometry)
@@ -67,8 +78,38 @@ QRect atLeastOnePixel(const QRect& band)
     return {band.x(), band.y(), std::max(1, band.width()), std::max(1, band.height())};
 }
 
-QPoint clampedToPicture(const QPoint& point, const LabelGeometry& geometry)
+QRect bandForMouse(const QRect& band, const LabelGeometry& geometry)
 {
-    return {std::clamp(point.x(), 0, std::max(0, geometry.shown.width())),
-            std::clamp(point.y(), 0, std::max(0, geometry.shown.height()))};
+    return isFlat(geometry) ? QRect(band.x(), -largestExtent, band.width(), 2 * largestExtent)
+                            : band;
+}
+
+QRect bandForResize(const QRect& band, const QSize& formerSize, const LabelGeometry& geometry)
+{
+    const QSize& size = geometry.label;
+    const QSize displayed = displayedSize(geometry);
+    const int dh = std::abs(size.height() - formerSize.height());
+    const int dw = std::abs(size.width() - formerSize.width());
+    // The width counts twice for the width: a full band is recognised rather too often.
+    const bool fullHeight = wasFull(band.height(), dw + dh, displayed.height());
+    const bool fullWidth = wasFull(band.width(), 2 * dw + dh, displayed.width());
+
+    // An axis with an empty margin behind the picture does not scale.
+    double ry = static_cast<double>(formerSize.height()) / size.height();
+    double rx = static_cast<double>(formerSize.width()) / size.width();
+    if (size.width() > displayed.width())
+        rx = 1.0;
+    else
+        ry = rx;
+    if (size.height() <= displayed.height())
+        rx = ry;
+
+    double width = fullWidth ? displayed.width() : band.width() / rx + 0.5;
+    double height = fullHeight ? displayed.height() : band.height() / ry + 0.5;
+    if (band.left() + width >= displayed.width())
+        width = displayed.width() - band.left();
+    if (band.top() + height >= displayed.height())
+        height = displayed.height() - band.top();
+    return {toInt(band.x() / rx + 0.5), toInt(band.y() / ry + 0.5), std::max(0, toInt(width)),
+            std::max(0, toInt(height))};
 }

@@ -25,13 +25,19 @@ constexpr int roundHalfUp(double value)
     return toInt(value + 0.5);
 }
 
-/// Size of the sensor area on the label, in label pixels; empty when label or sensor are.
+/// Size of the sensor area on the label, in label pixels; empty when label or sensor are. No less
+/// than a line.
 QSize displayedSize(const LabelGeometry& geometry);
 
 /// The height that shows a sensor in its aspect ratio at this width; 0 without a sensor.
 int heightForWidth(int width, const QSize& sensor);
 
-/// Sensor pixels per label pixel, one factor for both axes; 0 when nothing is displayed.
+/// A sensor so flat that the label shows all of its height in one line: there is nothing to drag
+/// across it.
+bool isFlat(const LabelGeometry& geometry);
+
+/// Sensor pixels per label pixel, by the widths and one factor for both axes; 0 when nothing is
+/// displayed.
 double sensorPerLabel(const LabelGeometry& geometry);
 
 /// Label pixels per sensor pixel; 0 when nothing is displayed.
@@ -50,5 +56,10 @@ QRect bandWithoutRegion(const LabelGeometry& geometry);
 /// What the mouse can hold: no band is thinner while it is dragged.
 QRect atLeastOnePixel(const QRect& band);
 
-/// The point of the shown picture next to @p point, its right and bottom border included.
-QPoint clampedToPicture(const QPoint& point, const LabelGeometry& geometry);
+/// The band as a press and a hover find it: on a flat sensor anywhere across.
+QRect bandForMouse(const QRect& band, const LabelGeometry& geometry);
+
+/// Where a band goes while its label is being resized. An estimate that keeps a full band full; the
+/// exact place follows from the region once the size has settled.
+/// @param formerSize the label's size before, at least 1 x 1 as the one now
+QRect bandForResize(const QRect& band, const QSize& formerSize, const LabelGeometry& geometry);

@@ -1,48 +1,32 @@
 #include "regions/label/RubberBandLabel.h"
 
-#include "regions/label/BandResize.h"
 #include "regions/label/LabelBand.h"
 
 #include <QApplication>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QPointer>
 #include <QResizeEvent>
 #include <QTimer>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
-constexpr int minimumSide = 100; ///< label pixels
 constexpr int settleTimeMs = 200;
 constexpr int bandAlpha = 80;
-
-/// @param opaqueColor for systems that do not show a translucent one
-QColor placeholderColor(const QColor& regionColor, Qt::GlobalColor opaqueColor)
-{
-    return needsOpaquePlaceholder(QOperatingSystemVersion::current())
-        ? QColor(opaqueColor)
-        : placeholderTint(regionColor);
-}
 
 } // namespace
 
 RubberBandLabel::RubberBandLabel(int sensorWidth, int sensorHeight, const QColor& color,
                                  QWidget* parent)
-    : QLabel(parent)
+    : SensorLabel({sensorWidth, sensorHeight}, color, parent)
     , m_color(color)
-    , m_sensor(sensorWidth, sensorHeight)
     , m_settleTimer(new QTimer(this))
     , m_band(new LabelBand(this))
 {
-    setMouseTracking(true);
-    setMinimumSize(minimumSide, minimumSide);
-    // The band's coordinates count from the top left corner in right-to-left layouts too.
-    setAlignment(Qt::AlignLeft | Qt::AlignTop | Qt::AlignAbsolute);
-
-    m_background.showPlaceholder(placeholderColor(m_color, Qt::darkGray), m_sensor);
-    showPixmap(m_background.fitted(m_sensor.boundedTo(SensorBackground::largestLabel)));
-
+    setOpaqueColor(Qt::black); // from now on: the first placeholder is grey
     m_settleTimer->setSingleShot(true);
     m_settleTimer->setInterval(settleTimeMs);
     connect(m_settleTimer, &QTimer::timeout, this, &RubberBandLabel::UpdateGeometryAfterResize);
@@ -61,23 +45,12 @@ void RubberBandLabel::setRegion(int top, int left, int width, int height)
 
 void RubberBandLabel::setSensorSize(int width, int height)
 {
-    m_sensor = {width, height};
-    m_background.showPlaceholder(placeholderColor(m_color, Qt::black), m_sensor);
-    showPixmap(m_background.fitted(size()));
-    if (m_sensor.isEmpty())
-        abortDrag();
+    setSensor({width, height});
 }
 
 void RubberBandLabel::showBackground(std::shared_ptr<QPixmap> image, QSize sensorSize, QRect crop)
 {
-    if (image)
-        m_background.showPicture({image, sensorSize, crop}, m_shown.size());
-    else
-        m_background.showPlaceholder(placeholderColor(m_color, Qt::black), m_background.size());
-    if (image && !isVisible())
-        m_pictureWaits = true;
-    else
-        showPixmap(m_background.fitted(m_shown.size()));
+    setPicture({image, sensorSize, crop}, shownSize(), shownSize());
     QApplication::restoreOverrideCursor();
 }
 
@@ -88,116 +61,104 @@ QSize RubberBandLabel::sizeHint() const
 
 int RubberBandLabel::heightForWidth(int width) const
 {
-    return ::heightForWidth(width, m_sensor);
+    return ::heightForWidth(width, sensorSize());
 }
 
 void RubberBandLabel::UpdateGeometryAfterResize()
 {
-    m_placementWaits = isDragging();
-    if (!m_placementWaits)
+    if (isDragging())
+        m_settleTimer->start();
+    else
         placeBand();
 }
 
-bool RubberBandLabel::event(QEvent* event)
+bool RubberBandLabel::grabs(const QPoint& point) const
 {
-    const bool handled = QLabel::event(event);
-    if (event->type() == QEvent::UngrabMouse || event->type() == QEvent::WindowDeactivate)
-        abortDrag();
-    if (isCoverChange(event))
-        coverWithPicture(this, m_shown);
-    return handled;
+    const LabelGeometry current = labelGeometry();
+    return labelPerSensor(current) >= smallestScale
+        && flagsForPress(bandForMouse(m_band->geometry(), current), point).any();
 }
 
-void RubberBandLabel::changeEvent(QEvent* event)
+void RubberBandLabel::press(const QPoint& point)
 {
-    QLabel::changeEvent(event);
-    if (event->type() == QEvent::EnabledChange && !isEnabled())
-        abortDrag();
+    const SensorRegion region = m_region.value_or(SensorRegion::whole(sensorSize()));
+    m_drag = dragFromPress(point, m_band->geometry(), m_shownCursor, region, labelGeometry());
+    m_heldRegion = m_drag->region;
+    emit GeometryChangeStarted();
+}
+
+void RubberBandLabel::drag(const QPoint& point)
+{
+    const EdgeDragStep step = dragBand(*m_drag, m_band->geometry(), point, labelGeometry());
+    m_band->setGeometry(step.band);
+    m_heldRegion = regionForRelease(*m_drag, step.band, {0, 0}, labelGeometry());
+    emit UpdateGeometry(step.region.top, step.region.left, step.region.width, step.region.height);
+}
+
+void RubberBandLabel::release(const QPoint& point)
+{
+    const SensorRegion region
+        = regionForRelease(*m_drag, m_band->geometry(), point, labelGeometry());
+    m_drag.reset();
+    m_waitingRegion.reset();
+    m_region = region;
+    emit SendGeometry(region.top, region.left, region.width, region.height);
+}
+
+void RubberBandLabel::drop()
+{
+    m_drag.reset();
+    if (const auto waiting = std::exchange(m_waitingRegion, std::nullopt))
+        m_region = waiting;
+    placeBand();
+}
+
+void RubberBandLabel::hover(const QPoint& point)
+{
+    m_shownCursor = cursorForHover(bandForMouse(m_band->geometry(), labelGeometry()),
+                                   clampedToPicture(point), point);
+    setCursor(m_shownCursor);
+    // The pages behind may delete the label meanwhile; nothing may follow.
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }
 
 void RubberBandLabel::mousePressEvent(QMouseEvent* event)
 {
-    if (!isDragging() && !displayedSize(labelGeometry()).isEmpty()) {
-        const QRect band = m_band->geometry();
-        m_drag.flags = flagsForPress(band, event->pos());
-        m_drag.cursor = cursor().shape();
-        if (m_drag.flags.moving)
-            m_drag.grabOffset = event->pos() - band.topLeft();
-        m_drag.region = hasRegion() ? m_region : SensorRegion::whole(m_sensor);
-        m_drag.region.top = std::max(0, m_drag.region.top);
-        m_heldRegion = m_drag.region;
-        if (isDragging())
-            emit GeometryChangeStarted();
-    }
-    emit clicked();
-}
-
-void RubberBandLabel::mouseMoveEvent(QMouseEvent* event)
-{
-    // Only the window system knows the buttons: a drag without one has missed its release.
-    if (event->spontaneous() && event->buttons() == Qt::NoButton)
-        abortDrag();
-    if (!isDragging()) {
-        hover(event->pos());
-        return;
-    }
-    const LabelGeometry current = labelGeometry();
-    const QPoint pointer = clampedToPicture(event->pos(), current);
-    const EdgeDragStep step = dragBand(m_drag, m_band->geometry(), pointer, current);
-    m_band->setGeometry(step.band);
-    m_heldRegion = heldRegion(m_drag, step.band, current);
-    emit UpdateGeometry(step.region.top, step.region.left, step.region.width, step.region.height);
-}
-
-void RubberBandLabel::mouseReleaseEvent(QMouseEvent* event)
-{
-    if (!isDragging())
-        return;
-    const SensorRegion region
-        = regionForRelease(m_drag, m_band->geometry(), event->pos(), labelGeometry());
-    m_drag = {};
-    m_region = region;
-    m_waitingRegion.reset();
-    if (m_placementWaits)
-        UpdateGeometryAfterResize();
-    emit SendGeometry(region.top, region.left, region.width, region.height);
+    const QPointer<RubberBandLabel> guard(this);
+    SensorLabel::mousePressEvent(event);
+    if (guard)
+        emit clicked();
 }
 
 void RubberBandLabel::resizeEvent(QResizeEvent* event)
 {
-    QLabel::resizeEvent(event);
-    showPixmap(m_background.fitted(event->size()));
-    resizeBand(event->oldSize());
+    const LabelGeometry former{event->oldSize(), sensorSize(), shownSize()};
+    SensorLabel::resizeEvent(event);
+    if (labelPerSensor(labelGeometry()) < smallestScale)
+        dropDrag();
+    else if (!former.label.isEmpty()) // the first resize has no size before it
+        resizeBand(former);
     m_settleTimer->start();
     if (event->size().width() != event->oldSize().width())
         updateGeometry();
-    if (displayedSize(labelGeometry()).isEmpty())
-        abortDrag();
 }
 
-void RubberBandLabel::resizeBand(const QSize& formerSize)
+void RubberBandLabel::resizeBand(const LabelGeometry& former)
 {
     const LabelGeometry current = labelGeometry();
-    const QSize displayed = displayedSize(current);
-    // The first resize has no size before it.
-    if (formerSize.isEmpty() || displayed.isEmpty())
-        return;
-    if (!isDragging()) {
-        m_band->setGeometry(bandForResize(m_band->geometry(), size(), formerSize, displayed));
+    if (!m_drag) {
+        m_band->setGeometry(bandForResize(m_band->geometry(), former.label, current));
         return;
     }
     // The release reads the region off the band, for which an estimate would not do.
-    m_drag.grabOffset
-        *= labelPerSensor(current) / labelPerSensor({formerSize, m_sensor, m_shown.size()});
+    m_drag->grabOffset *= labelPerSensor(current) / labelPerSensor(former);
     m_band->setGeometry(atLeastOnePixel(bandForRegion(m_heldRegion, current)));
 }
 
 void RubberBandLabel::showEvent(QShowEvent* event)
 {
-    QLabel::showEvent(event);
-    if (m_pictureWaits)
-        showPixmap(m_background.fitted(m_shown.size()));
-    if (m_region.top < 0)
+    SensorLabel::showEvent(event);
+    if (!m_region || m_region->top < 0)
         m_band->setGeometry(bandWithoutRegion(labelGeometry()));
     else
         UpdateGeometryAfterResize();
@@ -210,19 +171,12 @@ void RubberBandLabel::showEvent(QShowEvent* event)
     m_band->show();
 }
 
-void RubberBandLabel::hideEvent(QHideEvent* event)
-{
-    QLabel::hideEvent(event);
-    abortDrag();
-}
-
 void RubberBandLabel::paintEvent(QPaintEvent* event)
 {
-    const bool isPlain = isEnabled() && contentsRect() == rect();
-    if (!isPlain)
+    if (!isPlain())
         QLabel::paintEvent(event);
     QPainter painter(this);
-    if (isPlain)
+    if (isPlain())
         paintPixmap(painter, event->region());
     m_band->paint(painter, event->region());
 }
@@ -230,24 +184,17 @@ void RubberBandLabel::paintEvent(QPaintEvent* event)
 // What the base paints, rectangle by rectangle: one clip of them all takes several times as long.
 void RubberBandLabel::paintPixmap(QPainter& painter, const QRegion& region) const
 {
-    for (const QRect& part : region& m_shown.rect()) {
+    const QPixmap shown = pixmap(Qt::ReturnByValue);
+    for (const QRect& part : region& shown.rect()) {
         painter.setClipRect(part);
-        painter.drawPixmap(part, m_shown, part);
+        painter.drawPixmap(part, shown, part);
     }
     painter.setClipping(false);
 }
 
 LabelGeometry RubberBandLabel::labelGeometry() const
 {
-    return {size(), m_sensor, m_shown.size()};
-}
-
-void RubberBandLabel::showPixmap(const QPixmap& pixmap)
-{
-    m_pictureWaits = false;
-    m_shown = pixmap;
-    setPixmap(pixmap);
-    coverWithPicture(this, pixmap);
+    return {size(), sensorSize(), shownSize()};
 }
 
 void RubberBandLabel::placeBand()
@@ -255,26 +202,5 @@ void RubberBandLabel::placeBand()
     const LabelGeometry current = labelGeometry();
     if (labelPerSensor(current) < smallestScale)
         return;
-    m_band->setGeometry(hasRegion() ? bandForRegion(m_region, current)
-                                    : bandWithoutRegion(current));
-}
-
-void RubberBandLabel::hover(const QPoint& pointer)
-{
-    setCursor(
-        cursorForHover(m_band->geometry(), clampedToPicture(pointer, labelGeometry()), pointer));
-    // The pages behind may delete the label meanwhile; nothing may follow.
-    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
-}
-
-void RubberBandLabel::abortDrag()
-{
-    if (!isDragging())
-        return;
-    m_drag = {};
-    if (m_waitingRegion)
-        m_region = *m_waitingRegion;
-    m_waitingRegion.reset();
-    UpdateGeometryAfterResize();
-    emit GeometryChangeAborted();
+    m_band->setGeometry(m_region ? bandForRegion(*m_region, current) : bandWithoutRegion(current));
 }

@@ -1,11 +1,8 @@
 #pragma once
 
 #include "regions/label/EdgeDrag.h"
-#include "sensor/SensorBackground.h"
+#include "sensor/SensorLabel.h"
 
-#include <QLabel>
-
-#include <memory>
 #include <optional>
 
 class QTimer;
@@ -17,7 +14,7 @@ class LabelBand;
 /// width, height. A drag only moves the band: the region changes at its end. Regions set during a
 /// drag wait for it; its result replaces them. A label that is resized during a drag keeps the band
 /// on the region that it stands for.
-class RubberBandLabel : public QLabel
+class RubberBandLabel : public SensorLabel
 {
     Q_OBJECT
 
@@ -35,12 +32,8 @@ public:
     /// whoever announced the image has set.
     void showBackground(std::shared_ptr<QPixmap> image, QSize sensorSize, QRect crop);
 
-    /// Between a press that took hold of the band and the release.
-    bool isDragging() const { return m_drag.flags.any(); }
-
-    /// The region at rest; all of it is negative until the first setRegion().
-    SensorRegion region() const { return m_region; }
-    QSize sensorSize() const { return m_sensor; }
+    /// The region at rest; an empty one until the first setRegion().
+    SensorRegion region() const { return m_region.value_or(SensorRegion()); }
 
     QSize sizeHint() const override;
     int heightForWidth(int width) const override;
@@ -53,45 +46,36 @@ signals:
     void GeometryChangeStarted();
     /// Any press.
     void clicked();
-    /// A drag was dropped without a result: the label was disabled, hidden or lost the mouse.
-    void GeometryChangeAborted();
 
 public slots:
     /// Places the band on the stored region, or on the label's width before the first setRegion().
     void UpdateGeometryAfterResize();
 
 protected:
-    bool event(QEvent* event) override;
-    void changeEvent(QEvent* event) override;
+    bool grabs(const QPoint& point) const override;
+    void press(const QPoint& point) override;
+    void drag(const QPoint& point) override;
+    void release(const QPoint& point) override;
+    void drop() override;
+    void hover(const QPoint& point) override;
+
     void mousePressEvent(QMouseEvent* event) override;
-    void mouseMoveEvent(QMouseEvent* event) override;
-    void mouseReleaseEvent(QMouseEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void showEvent(QShowEvent* event) override;
-    void hideEvent(QHideEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
     LabelGeometry labelGeometry() const;
-    /// The first setRegion() raises the width.
-    bool hasRegion() const { return m_region.width >= 0; }
-    void showPixmap(const QPixmap& pixmap);
     void paintPixmap(QPainter& painter, const QRegion& region) const;
     void placeBand();
-    void resizeBand(const QSize& formerSize);
-    void hover(const QPoint& pointer);
-    void abortDrag();
+    void resizeBand(const LabelGeometry& former);
 
     QColor m_color;
-    QSize m_sensor;
-    SensorBackground m_background;
-    QPixmap m_shown;                             ///< the pixmap on the label
-    bool m_pictureWaits = false;                 ///< until the label is visible: it is scaled then
-    SensorRegion m_region{-1, -1, -1, -1};       ///< a negative width: not set yet
+    std::optional<SensorRegion> m_region;
     std::optional<SensorRegion> m_waitingRegion; ///< set during a drag
-    EdgeDrag m_drag;
-    SensorRegion m_heldRegion; ///< what the band stands for during a drag
-    bool m_placementWaits = false;
+    std::optional<EdgeDrag> m_drag;
+    SensorRegion m_heldRegion;                       ///< what the band stands for during a drag
+    Qt::CursorShape m_shownCursor = Qt::ArrowCursor; ///< tells the next press corners from edges
     QTimer* m_settleTimer;
     LabelBand* m_band;
 };

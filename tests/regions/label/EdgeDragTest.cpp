@@ -1,6 +1,5 @@
 #include "regions/label/EdgeDrag.h"
 #include "DataTable.h"
-#include "regions/label/BandResize.h"
 
 namespace {
 
@@ -105,7 +104,8 @@ private slots:
                                const QRect& expectedBand, const SensorRegion& expected) {
             const auto dragged = flags(QString(QTest::currentDataTag()).section(',', 0, 0));
             const auto step
-                = dragBand({dragged, cursor, QPoint(10, 10), region}, band, pointer, geometry);
+                = dragBand({dragged, followingEdges(dragged, cursor), QPoint(10, 10), region}, band,
+                           pointer, geometry);
             QCOMPARE(step.band, expectedBand);
             QCOMPARE(step.region, expected);
         });
@@ -139,8 +139,7 @@ private slots:
             [](const QRect& at, const QPoint& pointer, const SensorRegion& expected) {
                 const auto dragged = flags(QString(QTest::currentDataTag()).section(',', 0, 0));
                 const LabelGeometry wideLabel{{500, 300}, geometry.sensor, geometry.shown};
-                QCOMPARE(regionForRelease({dragged, Qt::ArrowCursor, {}, region}, at, pointer,
-                                          wideLabel),
+                QCOMPARE(regionForRelease({dragged, dragged, {}, region}, at, pointer, wideLabel),
                          expected);
             });
         row("right", {100, 75, 250, 150}, {349, 0}, {300, 400, 1000, 600});
@@ -158,7 +157,7 @@ private slots:
     void moveEndsOnTheSensor()
     {
         const LabelGeometry where{{300, 225}, {1000, 750}, {300, 225}};
-        const EdgeDrag state{flags("move"), Qt::SizeAllCursor, {}, {0, 0, 501, 376}};
+        const EdgeDrag state{flags("move"), flags("move"), {}, {0, 0, 501, 376}};
         const QRect start = bandForRegion(state.region, where);
         const EdgeDragStep step = dragBand(state, start, {300, 225}, where);
         const SensorRegion expected{373, 499, 501, 376};
@@ -170,8 +169,8 @@ private slots:
     {
         const DataTable row([](const QRect& before, const QSize& oldSize, const QSize& newSize,
                                const QRect& expected) {
-            const QSize displayed = displayedSize({newSize, geometry.sensor, newSize});
-            QCOMPARE(bandForResize(before, newSize, oldSize, displayed), expected);
+            const LabelGeometry resized{newSize, geometry.sensor, newSize};
+            QCOMPARE(bandForResize(before, oldSize, resized), expected);
         });
         const QSize small(380, 285);
         const QSize large(400, 300);
