@@ -1,4 +1,5 @@
 #include "DataTable.h"
+#include "Host.h"
 #include "MessageHandlerGuard.h"
 #include "SimulatedCamera.h"
 #include "host/TabExtensionInterface.h"
@@ -11,35 +12,6 @@
 #include <QPluginLoader>
 #include <QProcess>
 #include <QSpinBox>
-
-/// The viewer's side: the object that owns the page and the members named in the table.
-class Host : public QWidget
-{
-    Q_OBJECT
-
-public:
-    QList<QPair<int, QString>> log;
-    int frameRequests = 0;
-
-    static QMap<QString, QVariant> connections()
-    {
-        return {{"connectWidgetToSignal", SIGNAL(streaming(bool))},
-                {"connectLoggingSlot", SLOT(takeLog(ZebViewerLogCategory, const QString&))},
-                {"connectSendFrameSignal", SIGNAL(sendFrame(const QPixmap&))},
-                {"connectRequestFrameSlot", SLOT(requestFrame())}};
-    }
-
-signals:
-    void streaming(bool running);
-    void sendFrame(const QPixmap& frame);
-
-public slots:
-    void takeLog(ZebViewerLogCategory category, const QString& text)
-    {
-        log.append({category, text});
-    }
-    void requestFrame() { ++frameRequests; }
-};
 
 /// The built module, loaded as the viewer loads it.
 class TabExtensionPluginTest : public QObject

@@ -31,15 +31,21 @@ void endEntry(Random& random, QWidget* field)
     sendKey(field, random.pick<int>({Qt::Key_Return, Qt::Key_Return, Qt::Key_Tab, Qt::Key_Escape}));
 }
 
-void typeIntoField(Session& session)
+QPointer<QWidget> typeIntoField(Session& session)
 {
-    Random& random = session.random;
     const QPointer<QAbstractSpinBox> field = anyUsable<QAbstractSpinBox>(session);
     if (!field)
-        return;
+        return {};
     field->setFocus(Qt::MouseFocusReason);
     field->selectAll();
-    typeText(field, anyNumber(random));
+    typeText(field, anyNumber(session.random));
+    return field.data();
+}
+
+void type(Session& session)
+{
+    Random& random = session.random;
+    const QPointer<QWidget> field = typeIntoField(session);
     if (random.oneIn(4))
         session.pass(random.pick({50, 1200}));
     if (field && !random.oneIn(8))
@@ -99,14 +105,13 @@ void scroll(Session& session)
     }
 }
 
-void editCell(Session& session)
+/// Null when none opens.
+QPointer<QWidget> openCell(Session& session)
 {
     Random& random = session.random;
-    if (usable<QTableView>(session).isEmpty())
-        switchTab(session);
     const QPointer<QTableView> table = anyUsable<QTableView>(session);
     if (!table || !table->model() || table->model()->rowCount() == 0)
-        return;
+        return {};
     const auto* const model = table->model();
     const QModelIndex cell
         = model->index(random.below(model->rowCount()), model->columnCount() - 1);
@@ -114,13 +119,22 @@ void editCell(Session& session)
     const QPoint position = table->visualRect(cell).center();
     click(table->viewport(), position);
     if (!table)
-        return;
+        return {};
     sendMouse(table->viewport(), QEvent::MouseButtonDblClick, position);
-    const QPointer<QWidget> editor = QApplication::focusWidget();
-    if (!table || !editor || editor == table || !table->isAncestorOf(editor))
+    QWidget* const editor = QApplication::focusWidget();
+    return table && editor != table && table->isAncestorOf(editor) ? editor : nullptr;
+}
+
+void editCell(Session& session)
+{
+    Random& random = session.random;
+    if (usable<QTableView>(session).isEmpty())
+        switchTab(session);
+    const QPointer<QWidget> editor = openCell(session);
+    if (!editor)
         return;
     if (random.oneIn(6)) {
-        session.closePage(Report::WithEditor);
+        session.closePage("with an editor open");
         return;
     }
     typeText(editor, anyNumber(random));
@@ -171,9 +185,7 @@ void sendFrame(Session& session)
 
 void resizeWindow(Session& session)
 {
-    session.host().resize(session.random.between(50, 1600), session.random.between(50, 1200));
-    if (session.page())
-        session.page()->setGeometry(session.host().rect());
+    session.resize(session.random.between(50, 1600), session.random.between(50, 1200));
 }
 
 void hideAndShow(Session& session)
@@ -191,7 +203,7 @@ void changeTheme(Session& session)
 
 void reopen(Session& session)
 {
-    session.closePage(session.random.oneIn(2) ? Report::Visible : Report::Hidden);
+    session.closePage(session.random.oneIn(2) ? Session::visible : Session::hidden);
     session.pass(session.random.pick({0, 30}));
     session.openPage();
 }
@@ -220,14 +232,15 @@ void loseCamera(Session& session)
 }
 
 constexpr std::array actions{
-    Action{"typing", 14, typeIntoField},
+    Action{"typing", 14, type},
     Action{"stepping a field", 6, stepField},
     Action{"dragging", 20, dragRegion},
+    Action{"dragging a line", 6, dragLine},
     Action{"clicking", 14, clickButton},
     Action{"choosing an entry", 8, chooseEntry},
     Action{"editing a cell", 8, editCell},
     Action{"picking a picture", 3, pickPicture},
-    Action{"switching tabs", 8, switchTab},
+    Action{"switching tabs", 8, switchTab, true},
     Action{"scrolling", 3, scroll},
     Action{"resizing", 3, resizeWindow},
     Action{"changing the theme", 1, changeTheme},
@@ -243,6 +256,14 @@ constexpr std::array actions{
 };
 
 } // namespace
+
+void leaveTyped(Session& session)
+{
+    if (const QPointer<QWidget> editor = openCell(session); editor)
+        typeText(editor, anyNumber(session.random));
+    else
+        typeIntoField(session);
+}
 
 const Action& pickAction(Session& session)
 {

@@ -8,6 +8,10 @@ struct Action
     const char* name;
     int weight;
     void (*perform)(Session&);
+    bool isShort = false; ///< also with a lost camera
 };
+
+/// Leaves a number typed into a field or a cell, not entered.
+void leaveTyped(Session& session);
 
 const Action& pickAction(Session& session);

@@ -1,9 +1,11 @@
 #include "DragActions.h"
 
+#include "Actions.h"
 #include "Invariants.h"
 #include "UserInput.h"
 
 #include <QLabel>
+#include <QMenu>
 #include <QRubberBand>
 
 namespace {
@@ -19,11 +21,26 @@ QLabel* anyPicture(Session& session)
     return pictures.isEmpty() ? nullptr : session.random.pick(pictures);
 }
 
+QList<QRubberBand*> linesOf(const QLabel& picture)
+{
+    QList<QRubberBand*> lines;
+    for (QRubberBand* const band : picture.findChildren<QRubberBand*>()) {
+        if (band->inherits("LineRubberBand") && band->isVisible())
+            lines.append(band);
+    }
+    return lines;
+}
+
 QPoint anyPoint(Random& random, const QSize& size)
 {
     constexpr int beyond = 30;
     return {random.between(-beyond, size.width() + beyond),
             random.between(-beyond, size.height() + beyond)};
+}
+
+QPoint bandCenter(Random& random, const QLabel& picture)
+{
+    return random.pick(picture.findChildren<QRubberBand*>())->geometry().center();
 }
 
 // Mostly at an edge, a corner or the middle of a band, and a little beside it.
@@ -39,13 +56,18 @@ QPoint pressPoint(Random& random, const QLabel& picture)
     return {along(band.x(), band.width()), along(band.y(), band.height())};
 }
 
-// Whether the camera was left alone.
-bool disturb(Session& session)
+enum class Disturbance {
+    None,
+    Camera,
+    Mouse ///< is taken away, which ends the drag
+};
+
+Disturbance disturb(Session& session)
 {
     Random& random = session.random;
-    switch (random.below(30)) {
+    switch (random.below(34)) {
     case 0:
-        session.closePage(Report::MidDrag);
+        session.closePage("mid-drag");
         break;
     case 1:
         session.host().hide();
@@ -53,21 +75,33 @@ bool disturb(Session& session)
         break;
     case 2:
     case 3:
-        session.host().resize(random.between(200, 900), random.between(200, 900));
+        session.resize(random.between(200, 900), random.between(200, 900));
         break;
     case 4:
     case 5:
     case 6:
     case 7:
         session.misbehaviour().writeFromOutside();
-        return false;
+        return Disturbance::Camera;
     case 8:
         emit session.host().streaming(random.oneIn(2));
         break;
+    case 9:
+    case 10:
+        emit session.host().sendFrame(session.host().lastFrame);
+        break;
+    case 11:
+    case 12: {
+        QMenu menu;
+        menu.addAction(QStringLiteral("An entry"));
+        menu.popup({});
+        session.pass(20);
+        return Disturbance::Mouse;
+    }
     default:
         session.pass(random.pick({0, 0, 0, 20, 300, 1100}));
     }
-    return true;
+    return Disturbance::None;
 }
 
 // A tile may lie over another while its neighbour is off; and a camera that refuses one of several
@@ -87,13 +121,17 @@ void dragRegion(Session& session)
     const QPointer<QLabel> picture = anyPicture(session);
     if (!picture)
         return;
-    // What was typed and not entered yet is written when its field is left.
-    if (QWidget* const field = QApplication::focusWidget())
+    // What was typed and not entered yet is written before the drag begins, or when its field is
+    // left.
+    const bool isTyped = random.oneIn(4);
+    if (isTyped)
+        leaveTyped(session);
+    else if (QWidget* const field = QApplication::focusWidget())
         field->clearFocus();
     session.pass(0);
-    if (!picture)
+    if (!picture || !picture->isVisible() || !picture->isEnabled())
         return;
-    const QPoint from = pressPoint(random, *picture);
+    const QPoint from = isTyped ? bandCenter(random, *picture) : pressPoint(random, *picture);
     sendMouse(picture, QEvent::MouseMove, from, Qt::NoButton);
     if (!picture)
         return;
@@ -101,24 +139,87 @@ void dragRegion(Session& session)
     session.takeWrites(); // a press may select a region
     const int overlaps = Invariants::countOverlaps(session);
     bool isAlone = true;
+    bool isDropped = false;
     QPoint to = from;
     for (int moves = random.below(8); moves > 0 && picture; --moves) {
         to = random.oneIn(3) ? anyPoint(random, picture->size())
                              : to + QPoint(random.between(-20, 20), random.between(-20, 20));
         sendMouse(picture, QEvent::MouseMove, to);
-        if (picture && random.oneIn(2))
-            isAlone = disturb(session) && isAlone;
+        if (!picture || !random.oneIn(2))
+            continue;
+        const Disturbance disturbance = disturb(session);
+        isAlone = isAlone && disturbance != Disturbance::Camera;
+        isDropped = isDropped || disturbance == Disturbance::Mouse;
     }
-    // A region that lies outside switches the automatic function off when it is noticed; and a
-    // press beside the regions starts no drag, so that they are read on, one selected after the
-    // other.
-    const QStringList writes = session.takeWrites(
-        {QStringLiteral("AutofunctionAOIEnable"), QStringLiteral("SubRegionSelector")});
-    if (session.isHonest() && session.page() && !writes.isEmpty())
-        session.find(QStringLiteral("a drag wrote %1 before its release")
-                         .arg(writes.join(QLatin1String(", "))));
+    const auto findWrites = [&session](const char* text) {
+        // A region that lies outside switches the automatic function off when it is noticed; and a
+        // press beside the regions starts no drag, so that they are read on, one selected after
+        // the other.
+        const QStringList writes = session.takeWrites(
+            {QStringLiteral("AutofunctionAOIEnable"), QStringLiteral("SubRegionSelector")});
+        if (session.isHonest() && session.page() && !writes.isEmpty())
+            session.find(QLatin1String(text).arg(writes.join(QLatin1String(", "))));
+    };
+    findWrites("a drag wrote %1 before its release");
     if (picture)
         release(picture, to);
+    if (isDropped)
+        findWrites("a drag that had lost the mouse wrote %1");
     if (isAlone && mustNotOverlap(session) && Invariants::countOverlaps(session) > overlaps)
         session.find(QStringLiteral("a drag made regions overlap"));
+}
+
+void dragLine(Session& session)
+{
+    Random& random = session.random;
+    const QPointer<QLabel> picture = anyPicture(session);
+    QList<QRubberBand*> lines = picture ? linesOf(*picture) : QList<QRubberBand*>();
+    if (lines.isEmpty())
+        return;
+    if (QWidget* const field = QApplication::focusWidget())
+        field->clearFocus();
+    emit session.host().sendFrame(session.host().lastFrame);
+    session.pass(0);
+    lines = picture ? linesOf(*picture) : QList<QRubberBand*>();
+    if (lines.isEmpty() || !picture->isEnabled())
+        return;
+    const QRect start = random.pick(lines)->geometry();
+    const bool isVertical = start.width() < start.height();
+    const auto along = [isVertical](const QPoint& p) { return isVertical ? p.x() : p.y(); };
+    const auto extent = [&] {
+        const QSize size = picture->pixmap(Qt::ReturnByValue).size();
+        return isVertical ? size.width() : size.height();
+    };
+    // Whether a line of the kind is there now.
+    const auto isLineAt = [&](double place, double tolerance) {
+        const auto now = linesOf(*picture);
+        return std::any_of(now.begin(), now.end(), [&](const QRubberBand* line) {
+            const QRect geometry = line->geometry();
+            return (geometry.width() < geometry.height()) == isVertical
+                && std::abs(along(geometry.center()) - place) <= tolerance;
+        });
+    };
+    const auto moveBy = [&](double scale, int distance) {
+        const QPoint shift = isVertical ? QPoint(distance, 0) : QPoint(0, distance);
+        sendMouse(picture, QEvent::MouseMove, (start.center() + shift) * scale);
+    };
+    press(picture, start.center());
+    constexpr int distance = 12;
+    moveBy(1.0, distance);
+    const double reached = along(start.center()) + distance;
+    const int formerExtent = extent();
+    if (picture && isLineAt(reached, 2.0) && formerExtent > 0) {
+        if (random.oneIn(2))
+            session.resize(random.between(400, 900), random.between(400, 900));
+        else
+            emit session.host().sendFrame(session.host().lastFrame);
+        session.pass(0);
+        const double scale = picture ? double(extent()) / formerExtent : 0.0;
+        if (picture)
+            moveBy(scale, distance);
+        if (picture && scale > 0.3 && !isLineAt(reached * scale, 3.0))
+            session.find(QStringLiteral("a line was lost in its drag"));
+    }
+    if (picture)
+        release(picture, start.center());
 }

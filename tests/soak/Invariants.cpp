@@ -57,19 +57,23 @@ void compare(QStringList& findings, const QString& what, double shown, double he
             QStringLiteral("%1 shows %2, the camera holds %3").arg(what).arg(shown).arg(held));
 }
 
+bool isOn(const char* page, const QWidget* widget)
+{
+    while (widget && !widget->inherits(page))
+        widget = widget->parentWidget();
+    return widget;
+}
+
 void checkRegionFields(Session& session, QStringList& findings)
 {
     for (const Field& field : fields) {
         for (QDoubleSpinBox* const box : usable<QDoubleSpinBox>(session)) {
             if (box->objectName() != QLatin1String(field.name))
                 continue;
-            const QWidget* page = box;
-            while (page && !page->inherits(field.page))
-                page = page->parentWidget();
             const auto feature
                 = std::find_if(field.features.begin(), field.features.end(),
                                [&](const char* name) { return session.camera().has(name); });
-            if (page && feature != field.features.end())
+            if (isOn(field.page, box) && feature != field.features.end())
                 compare(findings, QStringLiteral("%1 of %2").arg(box->objectName(), field.page),
                         box->value(), session.camera().feature(*feature).number(),
                         std::pow(10.0, -box->decimals()));
@@ -105,11 +109,8 @@ void checkBand(Session& session, QStringList& findings)
 {
     const sim::Snapshot state = session.camera().snapshot();
     for (const QLabel* const label : usable<QLabel>(session)) {
-        const QWidget* page = label;
-        while (page && !page->inherits("AOIWidget"))
-            page = page->parentWidget();
         const auto* const band = label->findChild<QRubberBand*>();
-        if (!page || !band || state.regions.empty() || state.maximum.isEmpty())
+        if (!isOn("AOIWidget", label) || !band || state.regions.empty() || state.maximum.isEmpty())
             continue;
         const auto& region = state.regions.front();
         const double width
@@ -220,15 +221,14 @@ void checkAtRest(Session& session)
 {
     using Mode = sim::NotificationSettings::Mode;
     constexpr int settlingTime = 2500;
+    session.camera().failures().clear();
     if (QWidget* const field = QApplication::focusWidget())
         field->clearFocus();
     if (session.camera().notifications().mode == Mode::Off) {
         session.host().hide();
         session.host().show();
     }
-    session.host().resize(800, 1000);
-    if (session.page())
-        session.page()->setGeometry(session.host().rect());
+    session.resize(800, 1000);
     session.pass(settlingTime);
     if (!session.page())
         return;

@@ -66,9 +66,8 @@ void openAndCloseOne(TabExtensionInterface& module, Report& report, const std::s
     }
     // A viewer comes back to its event loop, where these end.
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    report.opened += 1;
-    report.destroyed[Report::Visible] += 1;
-    report.sdkCalls += camera->journal().count();
+    report[QStringLiteral("pages opened")] += 1;
+    report[QStringLiteral("SDK calls")] += camera->journal().count();
     if (camera->observerCount() != 0)
         report.findings.append(QStringLiteral("an observer is left"));
 }
@@ -211,9 +210,9 @@ void storm(TabExtensionInterface& module, Watchdog& watchdog, Report& report, do
     const double busy = busyShare(minutes * 60.0);
     const ProcessState after = ProcessState::now();
 
-    report.opened += 1;
-    report.notifications += camera->notificationCount();
-    report.sdkCalls += camera->journal().count();
+    report[QStringLiteral("pages opened")] += 1;
+    report[QStringLiteral("notifications")] += camera->notificationCount();
+    report[QStringLiteral("SDK calls")] += camera->journal().count();
     std::printf("before: %s\nafter: %s\nGUI thread busy: %.2f %%, with a slot that does nothing: "
                 "%.2f %%\n",
                 qPrintable(before.text()), qPrintable(after.text()), 100.0 * busy, 100.0 * bare);

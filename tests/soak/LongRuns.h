@@ -3,7 +3,7 @@
 #include "host/TabExtensionInterface.h"
 
 class Watchdog;
-struct Report;
+class Report;
 
 /// Runs that look for what grows.
 namespace LongRuns {

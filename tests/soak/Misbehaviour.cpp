@@ -18,6 +18,10 @@ constexpr std::int64_t smallest = std::numeric_limits<std::int64_t>::min();
 constexpr std::int64_t largest = std::numeric_limits<std::int64_t>::max();
 constexpr double infinity = std::numeric_limits<double>::infinity();
 
+/// What comes from the camera; names, types and descriptions come from the SDK's memory.
+constexpr Operations cameraReads = Operations(Operation::GetValue) | Operation::GetRange
+    | Operation::GetIncrement | Operation::IsReadable | Operation::IsWritable;
+
 sim::Value oddValue(Random& random)
 {
     switch (random.below(4)) {
@@ -105,6 +109,31 @@ void Misbehaviour::refuseWrites()
 {
     m_camera.failures().add(FailureInjector::anyFeature, Operations::writes(), Failure::refuse(),
                             Occurrence::randomly(0.1, m_random.next()));
+}
+
+void Misbehaviour::refuseReads()
+{
+    for (const std::string& name : m_names) {
+        if (name != "DeviceVendorName")
+            m_camera.failures().add(name, cameraReads, Failure::refuse(),
+                                    Occurrence::randomly(0.02, m_random.next()));
+    }
+}
+
+void Misbehaviour::slowOneDown()
+{
+    std::vector<std::string> present;
+    for (const char* name : {"PixelFormat", "BinningHorizontal", "ReverseX", "OffsetY", "Width",
+                             "AutofunctionAOIWidth", "ExposureAutoMax", "SubRegionWidth"}) {
+        if (m_camera.has(name))
+            present.emplace_back(name);
+    }
+    Occurrence while_ = Occurrence::from(static_cast<std::uint64_t>(m_random.between(1, 20)));
+    while_.count = static_cast<std::uint64_t>(m_random.between(2, 40));
+    Failure failure = Failure::refuse();
+    failure.delay = std::chrono::milliseconds(120);
+    if (!present.empty())
+        m_camera.failures().add(m_random.pick(present), cameraReads, failure, while_);
 }
 
 void Misbehaviour::spoil(bool withObservers)

@@ -15,6 +15,10 @@ public:
 
     /// Writes are refused now and then; the camera is honest otherwise.
     void refuseWrites();
+    /// Reads are refused now and then, but for the vendor's.
+    void refuseReads();
+    /// Reads of one feature take their time and fail, for a while.
+    void slowOneDown();
     /// Every operation goes wrong now and then, in every way but the loss of the camera.
     /// Registering and unregistering are left alone, unless @p withObservers.
     void spoil(bool withObservers);

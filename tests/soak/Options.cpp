@@ -4,41 +4,32 @@
 
 Options Options::parse(const QCoreApplication& application)
 {
-    const QCommandLineOption module(QStringLiteral("module"), QStringLiteral("The built module."),
-                                    QStringLiteral("PATH"), QStringLiteral(MODULE_PATH));
-    const QCommandLineOption minutes(QStringLiteral("minutes"), QStringLiteral("How long to run."),
-                                     QStringLiteral("N"), QStringLiteral("1"));
-    const QCommandLineOption seed(QStringLiteral("seed"),
-                                  QStringLiteral("The seed of all sessions."), QStringLiteral("S"),
-                                  QStringLiteral("1"));
-    const QCommandLineOption sessions(QStringLiteral("sessions"),
-                                      QStringLiteral("Ends after so many sessions."),
-                                      QStringLiteral("N"));
-    const QCommandLineOption replay(QStringLiteral("replay"),
-                                    QStringLiteral("Runs the one session with this seed."),
-                                    QStringLiteral("SEED"));
-    const QCommandLineOption cameras(QStringLiteral("cameras"),
-                                     QStringLiteral("Opens and closes so many cameras instead."),
-                                     QStringLiteral("N"), QStringLiteral("0"));
-    const QCommandLineOption storm(
-        QStringLiteral("storm"),
-        QStringLiteral("Sends 1000 notifications a second for so many minutes instead."),
-        QStringLiteral("MINUTES"), QStringLiteral("0"));
-    const QCommandLineOption twice(
-        QStringLiteral("check-replay"),
-        QStringLiteral("Runs each session without threads twice and compares the SDK calls."));
-    const QCommandLineOption verbose(QStringLiteral("verbose"),
-                                     QStringLiteral("Names each action."));
-
     QCommandLineParser parser;
     parser.addHelpOption();
-    parser.addOptions({module, minutes, seed, sessions, replay, cameras, storm, twice, verbose});
+    const auto add = [&parser](const char* name, const char* text, const char* value = "") {
+        parser.addOption({QLatin1String(name), QLatin1String(text), QLatin1String(value)});
+        return QLatin1String(name);
+    };
+    const auto module = add("module", "The built module.", "PATH");
+    const auto minutes = add("minutes", "How long to run: 1, if it is not told.", "N");
+    const auto seed = add("seed", "The seed of all sessions.", "S");
+    const auto sessions = add("sessions", "Ends after so many sessions.", "N");
+    const auto replay = add("replay", "Runs the one session with this seed.", "SEED");
+    const auto cameras = add("cameras", "Opens and closes so many cameras instead.", "N");
+    const auto storm
+        = add("storm", "Sends 1000 notifications a second for so many minutes instead.", "MINUTES");
+    const auto twice = add("check-replay",
+                           "Runs each session without threads twice and compares the SDK calls.");
+    const auto verbose = add("verbose", "Names each action.");
     parser.process(application);
 
     Options options;
-    options.module = parser.value(module);
-    options.minutes = parser.value(minutes).toDouble();
-    options.seed = parser.value(seed).toULongLong();
+    if (parser.isSet(module))
+        options.module = parser.value(module);
+    if (parser.isSet(minutes))
+        options.minutes = parser.value(minutes).toDouble();
+    if (parser.isSet(seed))
+        options.seed = parser.value(seed).toULongLong();
     if (parser.isSet(sessions))
         options.sessions = parser.value(sessions).toULongLong();
     if (parser.isSet(replay))

@@ -11,7 +11,7 @@ class QCoreApplication;
 /// The command line.
 struct Options
 {
-    QString module;
+    QString module = QStringLiteral(MODULE_PATH);
     double minutes = 1.0;
     std::uint64_t seed = 1;
     std::uint64_t sessions = std::numeric_limits<std::uint64_t>::max();

@@ -16,16 +16,21 @@
 #include <QFileDialog>
 #include <QLineEdit>
 
+#include <array>
 #include <cstdio>
 
 namespace {
 
 constexpr std::chrono::milliseconds lostCallTime{300};
-constexpr std::chrono::milliseconds longestLostClose{1000};
-constexpr std::size_t mostLostCalls = 3;
+constexpr std::chrono::milliseconds longestLostStep{2000};
 /// A picture of the largest size that is taken needs as much.
 constexpr std::int64_t mostMemory = (std::int64_t{1} << 30) + (std::int64_t{1} << 29);
 constexpr int dialogInterval = 40;
+
+constexpr std::array<const char*, sim::Failure::kindCount> kindNames{
+    "slow",         "refused", "reported although done", "another value", "length 0", "grown",
+    "unterminated", "4 GiB",   "null entries",           "exception",     "lost"};
+constexpr std::array<const char*, 3> translationNames{"built", "missing", "broken"};
 
 // Of the one with hundreds of regions a session takes as long as dozens of others.
 std::string anyModel(Random& random)
@@ -54,7 +59,9 @@ Session::Session(const Run& run, std::uint64_t seed, const std::string& model)
     m_translations = random.pick({TranslationFiles::Built, TranslationFiles::Built,
                                   TranslationFiles::Missing, TranslationFiles::Broken});
     m_run.translations.use(m_translations);
-    m_run.report.translations[m_translations] += 1;
+    m_run.report[QStringLiteral("sessions with translations %1")
+                     .arg(QLatin1String(translationNames[m_translations]))]
+        += 1;
     VirtualTime::start(m_hasThreads ? VirtualTime::Pace::Fast : VirtualTime::Pace::Exact);
     QApplication::setPalette(QPalette(Qt::lightGray));
     m_host = std::make_unique<Host>();
@@ -66,8 +73,8 @@ Session::Session(const Run& run, std::uint64_t seed, const std::string& model)
 
 Session::~Session()
 {
-    m_run.report.sessions += 1;
-    m_run.report.exactSessions += m_hasThreads ? 0 : 1;
+    m_run.report[QStringLiteral("sessions run")] += 1;
+    m_run.report[QStringLiteral("sessions without threads")] += m_hasThreads ? 0 : 1;
 }
 
 void Session::prepareCamera(const std::string& model)
@@ -95,9 +102,14 @@ void Session::prepareCamera(const std::string& model)
     const auto features = m_camera->features();
     m_features = TabExtensionInterface::FeatureList::create(features.begin(), features.end());
     if (m_isHonest) {
-        m_isStrict = !random.oneIn(3);
-        if (!m_isStrict)
+        const int fault = random.below(6);
+        m_isStrict = fault > 2;
+        if (fault == 0)
             m_misbehaviour->refuseWrites();
+        else if (fault == 1)
+            m_misbehaviour->refuseReads();
+        else if (fault == 2)
+            m_misbehaviour->slowOneDown();
         return;
     }
     m_countsObservers = !random.oneIn(4);
@@ -124,7 +136,7 @@ void Session::run()
     if (random.oneIn(5) && !m_isHonest)
         closeCamera(); // before its page
     if (m_page)
-        closePage(random.oneIn(2) ? Report::Visible : Report::Hidden);
+        closePage(random.oneIn(2) ? visible : hidden);
     m_dialogTimer.stop();
     closeCamera();
     m_host.reset();
@@ -147,9 +159,9 @@ void Session::closeCamera()
         return;
     account();
     for (std::size_t kind = 0; kind < sim::Failure::kindCount; ++kind)
-        m_run.report.failures[kind]
+        m_run.report[QStringLiteral("injected failures, %1").arg(QLatin1String(kindNames[kind]))]
             += m_camera->failures().injected(static_cast<sim::Failure::Kind>(kind));
-    m_run.report.notifications += m_camera->notificationCount();
+    m_run.report[QStringLiteral("notifications")] += m_camera->notificationCount();
     m_misbehaviour.reset();
     m_camera.reset();
 }
@@ -160,12 +172,16 @@ void Session::step()
     m_action = action.name;
     Watchdog::setPlace(m_seed, m_step, m_action);
     m_run.watchdog.beat();
-    m_run.report.actions += 1;
+    m_run.report[QStringLiteral("user actions")] += 1;
     if (m_run.isVerbose) {
         std::fprintf(stderr, "%d %s, %zu calls before\n", m_step, m_action,
                      m_camera->journal().count());
     }
+    const bool isTimed = m_isLost && action.isShort;
+    const std::chrono::nanoseconds begin = m_run.watchdog.guiTime();
     action.perform(*this);
+    if (isTimed)
+        checkLostTime(begin);
     if (m_isHonest && m_page)
         Invariants::checkRegions(*this);
     if (!m_isLost && random.oneIn(3))
@@ -179,6 +195,13 @@ void Session::pass(int milliseconds)
     QTimer::singleShot(milliseconds, Qt::PreciseTimer, &loop, &QEventLoop::quit);
     loop.exec();
     m_run.watchdog.beat();
+}
+
+void Session::resize(int width, int height)
+{
+    m_host->resize(width, height);
+    if (m_page)
+        m_page->setGeometry(m_host->rect());
 }
 
 void Session::openPage()
@@ -197,13 +220,16 @@ void Session::openPage()
         find(QStringLiteral("an exception came out of createTab"));
     }
     if (result != 0) {
-        m_run.report.refused += 1;
-        if (page->layout() || !page->children().isEmpty())
-            find(QStringLiteral("a refused page is not empty"));
+        m_run.report[QStringLiteral("pages refused")] += 1;
+        if (page->layout() || !page->children().isEmpty() || !page->accessibleName().isEmpty())
+            find(QStringLiteral("a refused page is not as it was"));
+        if (m_isHonest && m_camera->has("Height") && m_camera->has("Width")
+            && m_camera->feature("DeviceVendorName").text().rfind("Brontax", 0) == 0)
+            find(QStringLiteral("the camera was refused"));
         delete page;
         return;
     }
-    m_run.report.opened += 1;
+    m_run.report[QStringLiteral("pages opened")] += 1;
     if (!TranslationFiles::areShown(m_translations))
         find(QStringLiteral("the texts are not those of the translation files"));
     // A region told by its edges that is invalid gives way to the whole picture.
@@ -213,42 +239,40 @@ void Session::openPage()
                       QStringLiteral("DSPSubregionBottom")});
     if (m_isHonest && !writes.isEmpty())
         find(QStringLiteral("opening wrote %1").arg(writes.join(QLatin1String(", "))));
-    m_host->resize(700, 900);
-    page->setGeometry(m_host->rect());
+    resize(700, 900);
     page->show();
     m_host->show();
     QApplication::setActiveWindow(m_host.get());
     pass(random.pick({0, 30, 1300}));
 }
 
-void Session::closePage(Report::Ending ending)
+void Session::closePage(const char* ending)
 {
     if (!m_page)
         return;
-    const std::size_t callsBefore = m_camera ? m_camera->journal().count() : 0;
     const std::chrono::nanoseconds begin = m_run.watchdog.guiTime();
     m_run.watchdog.beat();
     const QPointer<QWidget> page = m_page;
-    if (ending == Report::Hidden && m_host)
+    if (ending == hidden && m_host)
         m_host->hide();
     delete page.data();
-    m_run.report.destroyed[ending] += 1;
-    if (m_isLost && m_camera)
-        checkClosing(m_run.watchdog.guiTime() - begin, m_camera->journal().count() - callsBefore);
+    m_run.report[QStringLiteral("pages destroyed, %1").arg(QLatin1String(ending))] += 1;
+    if (m_isLost && m_camera) {
+        auto& slowest = m_run.report[QStringLiteral("slowest close of a lost camera, ms")];
+        slowest = std::max(slowest, checkLostTime(begin));
+    }
     checkPageIsGone();
 }
 
-// Sanitizers slow down what is not a call; the calls count by themselves, unless the camera's
-// threads make some too.
-void Session::checkClosing(std::chrono::nanoseconds time, std::size_t calls)
+// Milliseconds; sanitizers slow down what is not a call.
+std::uint64_t Session::checkLostTime(std::chrono::nanoseconds begin)
 {
-    const auto milliseconds = std::chrono::duration_cast<std::chrono::milliseconds>(time).count();
-    m_run.report.slowestLostClose
-        = std::max<std::int64_t>(m_run.report.slowestLostClose, milliseconds);
-    if (time > longestLostClose * Watchdog::slowdown || (!m_hasThreads && calls > mostLostCalls))
-        find(QStringLiteral("closing a lost camera took %1 ms and %2 calls")
-                 .arg(milliseconds)
-                 .arg(calls));
+    using std::chrono::milliseconds;
+    const auto time = m_run.watchdog.guiTime() - begin;
+    const auto taken = std::uint64_t(std::chrono::duration_cast<milliseconds>(time).count());
+    if (time > longestLostStep * Watchdog::slowdown)
+        find(QStringLiteral("with a lost camera it took %1 ms").arg(taken));
+    return taken;
 }
 
 void Session::checkMemory(std::int64_t before)
@@ -267,7 +291,7 @@ void Session::checkPageIsGone()
 void Session::loseCamera()
 {
     m_isLost = true;
-    m_run.report.lostCameras += 1;
+    m_run.report[QStringLiteral("cameras lost")] += 1;
     m_camera->lose(lostCallTime);
 }
 
@@ -277,7 +301,7 @@ void Session::burst(bool isLarge)
     if (!m_hasThreads || m_crowd.joinable() || name.empty())
         return;
     const int count = isLarge ? 100000 : 500;
-    m_run.report.largeBursts += isLarge ? 1 : 0;
+    m_run.report[QStringLiteral("bursts of 100 000 from each of four threads")] += isLarge ? 1 : 0;
     m_crowd = std::thread([this, count, name] { m_camera->burst(name, count, 4); });
 }
 
@@ -302,7 +326,7 @@ void Session::account()
         mix(m_digest, entry.feature + '=' + entry.value.toText());
     }
     mix(m_digest, std::to_string(journal.count()));
-    m_run.report.sdkCalls += journal.count();
+    m_run.report[QStringLiteral("SDK calls")] += journal.count();
     journal.clear();
 }
 
@@ -327,15 +351,15 @@ void Session::answerDialog()
     auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
     if (!dialog || random.oneIn(2))
         return;
-    m_run.report.actions += 1;
+    m_run.report[QStringLiteral("user actions")] += 1;
     if (m_page && random.oneIn(8)) {
-        closePage(Report::WithDialog);
+        closePage("with a dialog");
         return;
     }
     if (auto* const files = qobject_cast<QFileDialog*>(dialog); files && !random.oneIn(4)) {
         if (auto* const name = files->findChild<QLineEdit*>())
             name->setText(random.pick(m_run.pictures.paths()));
-        m_run.report.picturesPicked += 1;
+        m_run.report[QStringLiteral("picture files picked")] += 1;
         files->setDirectory(QFileInfo(m_run.pictures.paths().first()).path());
         // Of a missing file Qt tells in a box, which waits for this timer's next turn.
         QMetaObject::invokeMethod(files, "accept", Qt::QueuedConnection);

@@ -4,6 +4,7 @@
 #include "Misbehaviour.h"
 #include "Random.h"
 #include "Report.h"
+#include "TranslationFiles.h"
 
 #include "simulator/Camera.h"
 
@@ -48,14 +49,19 @@ public:
     Misbehaviour& misbehaviour() { return *m_misbehaviour; }
     Host& host() { return *m_host; }
     const PictureFiles& pictures() const { return m_run.pictures; }
-    QWidget* page() const { return m_page; }     ///< null when there is none now
-    bool isHonest() const { return m_isHonest; } ///< refuses at most
+    QWidget* page() const { return m_page; } ///< null when there is none now
+    /// At most it refuses, or answers late.
+    bool isHonest() const { return m_isHonest; }
     bool isStrict() const { return m_isStrict; } ///< and only what is illegal
     bool isLost() const { return m_isLost; }
 
-    void pass(int milliseconds); ///< lets the event loop run
+    void pass(int milliseconds);        ///< lets the event loop run
+    void resize(int width, int height); ///< the window and its page
     void openPage();
-    void closePage(Report::Ending ending);
+    /// @param ending how, for the report
+    void closePage(const char* ending);
+    static constexpr const char* hidden = "hidden";
+    static constexpr const char* visible = "while visible";
     void loseCamera();
     /// Notifies from four threads of another's making; a session without threads does nothing.
     void burst(bool isLarge);
@@ -68,7 +74,7 @@ private:
     void closeCamera();
     void step();
     void answerDialog();
-    void checkClosing(std::chrono::nanoseconds time, std::size_t calls);
+    std::uint64_t checkLostTime(std::chrono::nanoseconds begin);
     void checkPageIsGone();
     void checkMemory(std::int64_t before);
     void account();

@@ -13,7 +13,6 @@ public:
         Missing,
         Broken
     };
-    static constexpr std::size_t kindCount = 3;
 
     TranslationFiles();
     ~TranslationFiles();

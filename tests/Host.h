@@ -13,7 +13,9 @@ class Host : public QWidget
     Q_OBJECT
 
 public:
-    QPixmap lastFrame; ///< what a request for a frame is answered with
+    QPixmap lastFrame; ///< what a request for a frame is answered with, unless it is null
+    int frameRequests = 0;
+    QList<QPair<int, QString>> log;
 
     static QMap<QString, QVariant> connections()
     {
@@ -29,6 +31,14 @@ signals:
     void sendFrame(const QPixmap& frame);
 
 public slots:
-    void takeLog(ZebViewerLogCategory, const QString&) { }
-    void requestFrame() { emit sendFrame(lastFrame); }
+    void takeLog(ZebViewerLogCategory category, const QString& text)
+    {
+        log.append({category, text});
+    }
+    void requestFrame()
+    {
+        ++frameRequests;
+        if (!lastFrame.isNull())
+            emit sendFrame(lastFrame);
+    }
 };
