@@ -95,14 +95,10 @@ void FeatureTablePane::noteChanged(const QString& feature)
         m_refreshTimer->start();
 }
 
-// A write that the camera alters or refuses is followed by no notification, so an edited row counts
-// as changed. The flag is not asked: it is false for the first row while its editor opens.
+// The flag is not asked: it is false for the first row while its editor opens.
 void FeatureTablePane::onCellEditorActive()
 {
-    const QString edited = m_table->editedFeature();
-    if (!edited.isEmpty())
-        m_changed.insert(edited);
-    else if (!m_changed.isEmpty())
+    if (m_table->editedFeature().isEmpty() && !m_table->pendingFeatures().isEmpty())
         QMetaObject::invokeMethod(this, &FeatureTablePane::refresh, Qt::QueuedConnection);
 }
 
@@ -110,11 +106,15 @@ void FeatureTablePane::refresh()
 {
     if (!m_table)
         return;
-    const QSet<QString> changed = std::exchange(m_changed, {});
-    const QString edited = m_table->editedFeature();
-    if (changed.contains(edited))
-        m_changed.insert(edited);
-    m_table->updateFeatures(changed.values());
+    for (const QString& feature : m_table->pendingFeatures())
+        m_changed.insert(feature);
+    const CameraLink& link = *m_manager->link();
+    if (link.isDue() && !m_changed.isEmpty())
+        m_table->updateFeatures({*m_changed.begin()});
+    if (!link.isLost())
+        m_table->updateFeatures(std::exchange(m_changed, {}).values());
+    if (!m_changed.isEmpty() || !m_table->pendingFeatures().isEmpty())
+        m_refreshTimer->start();
 }
 
 bool FeatureTablePane::edit(const QString& feature)

@@ -49,5 +49,5 @@ private:
     std::unique_ptr<FeatureManager> m_manager;
     std::shared_ptr<PluginFeatureObserver> m_observer;
     std::unique_ptr<FeaturesTableWidget> m_table;
-    QSet<QString> m_changed; ///< rows to refresh; one whose editor is open waits for its closing
+    QSet<QString> m_changed; ///< rows to refresh
 };

@@ -1,5 +1,6 @@
 #include "featuretable/FeatureItemDelegate.h"
 
+#include "featuretable/CellEditing.h"
 #include "featuretable/editors/DelegateWidget.h"
 #include "featuretable/editors/DelegateWidgetFactory.h"
 #include "featuretable/record/CellText.h"
@@ -31,8 +32,9 @@ void returnFocus(const QWidget& editor)
 
 } // namespace
 
-FeatureItemDelegate::FeatureItemDelegate(QWidget* table)
+FeatureItemDelegate::FeatureItemDelegate(QWidget* table, CellEditing& editing)
     : QStyledItemDelegate(table)
+    , m_editing(editing)
     , m_editorHeight(heightOfEditors())
 {
 }
@@ -55,6 +57,7 @@ QWidget* FeatureItemDelegate::createEditor(QWidget* parent, const QStyleOptionVi
     connect(editor, &DelegateWidget::newIntValueToSet, this, &Self::commitAndCloseEditor);
     connect(editor, &DelegateWidget::sliderValueChanged, this, &Self::commitEditor);
     connect(editor, &DelegateWidget::editingCancelled, this, &Self::onClose);
+    m_editing.opened(editor);
     return editor;
 }
 
@@ -117,7 +120,7 @@ void FeatureItemDelegate::commitAndCloseEditor()
 
 void FeatureItemDelegate::onClose()
 {
-    DelegateWidget* editor = openEditor();
+    DelegateWidget* editor = m_editing.editor();
     if (!editor)
         return;
     editor->end();
@@ -132,21 +135,6 @@ void FeatureItemDelegate::closeEnded(DelegateWidget* editor)
     returnFocus(*editor);
     if (self && watched)
         emit closeEditor(editor, NoHint);
-}
-
-QString FeatureItemDelegate::editedFeature() const
-{
-    const DelegateWidget* editor = openEditor();
-    return editor ? editor->featureName() : QString();
-}
-
-// An editor that has ended is closed and awaits its deletion.
-DelegateWidget* FeatureItemDelegate::openEditor() const
-{
-    const auto editors = parent()->findChildren<DelegateWidget*>();
-    const auto open = std::find_if(editors.begin(), editors.end(),
-                                   [](const DelegateWidget* each) { return !each->hasEnded(); });
-    return open == editors.end() ? nullptr : *open;
 }
 
 void FeatureItemDelegate::initStyleOption(QStyleOptionViewItem* option,

@@ -3,6 +3,7 @@
 #include <QSize>
 #include <QStyledItemDelegate>
 
+class CellEditing;
 class DelegateWidget;
 
 /// Draws the value cells and edits them in place, by the FeatureInfo that each carries under
@@ -12,7 +13,8 @@ class FeatureItemDelegate : public QStyledItemDelegate
     Q_OBJECT
 
 public:
-    explicit FeatureItemDelegate(QWidget* table);
+    /// @p editing, which must outlive every editor, is told of those that open.
+    FeatureItemDelegate(QWidget* table, CellEditing& editing);
 
     QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option,
                           const QModelIndex& index) const override;
@@ -23,10 +25,6 @@ public:
                               const QModelIndex& index) const override;
     /// High enough for every kind of editor.
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
-
-    bool isEditing() const { return openEditor() != nullptr; }
-    /// The name of the feature whose editor is open; empty when none is.
-    QString editedFeature() const;
 
 public slots:
     /// Slots of the editors' signals.
@@ -40,8 +38,8 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    DelegateWidget* openEditor() const;
     void closeEnded(DelegateWidget* editor);
 
+    CellEditing& m_editing;
     int m_editorHeight;
 };

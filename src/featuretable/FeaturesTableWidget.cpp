@@ -60,7 +60,7 @@ FeaturesTableWidget::FeaturesTableWidget(const QStringList& features, FeatureMan
     : QWidget(parent)
     , m_manager(manager)
     , m_table(new MyTableWidget(this))
-    , m_delegate(new FeatureItemDelegate(m_table))
+    , m_delegate(new FeatureItemDelegate(m_table, m_editing))
 {
     qRegisterMetaType<FeatureInfo>("FeatureInfo");
     // Else every record that is stored counts as changed.
@@ -81,10 +81,12 @@ FeaturesTableWidget::FeaturesTableWidget(const QStringList& features, FeatureMan
     connect(m_table, &QTableWidget::cellDoubleClicked, this, &Self::onCellEdit);
     // The row becomes the flag: owners rely on the first row ending with false.
     connect(m_table, &QTableWidget::cellDoubleClicked, this, &Self::cellEditorActive);
-    connect(m_table, &QTableWidget::cellDoubleClicked, this, &Self::endAnnouncement,
-            Qt::QueuedConnection);
+    // Nor does every double click open an editor.
+    const auto endAnnouncement = [this] { m_editing.closed(); };
+    connect(m_table, &QTableWidget::cellDoubleClicked, this, endAnnouncement, Qt::QueuedConnection);
 
     setUpTable(features.size());
+    const CameraLink::ManyReads reads(*m_manager->link());
     const QScopedValueRollback refreshing(m_refreshing, true);
     for (int row = 0; row < features.size(); ++row)
         addRow(row, FeaturesTableWidget::readFeature(features.at(row)), features);
@@ -98,16 +100,6 @@ FeaturesTableWidget::~FeaturesTableWidget()
     // The owner may be half gone.
     const QSignalBlocker blocker(this);
     m_delegate->onClose();
-}
-
-bool FeaturesTableWidget::isEditing() const
-{
-    return m_delegate->isEditing();
-}
-
-QString FeaturesTableWidget::editedFeature() const
-{
-    return m_announced ? m_editedFeature : m_delegate->editedFeature();
 }
 
 void FeaturesTableWidget::setFilter(const QString& filter)
@@ -128,11 +120,30 @@ void FeaturesTableWidget::setFilter(const QString& filter)
 
 void FeaturesTableWidget::updateFeatures(const QStringList& features)
 {
+    std::optional<CameraLink::ManyReads> reads;
+    if (features.size() > 1) // a single one may be the read-back of an edit
+        reads.emplace(*m_manager->link());
     for (const QString& name : features) {
-        const int row = rowOf(name);
-        if (row >= 0 && !isBeingEdited(name, row))
-            refreshRow(row, readFeature(name));
+        if (const int row = rowOf(name); row >= 0)
+            updateRow(row, name);
     }
+}
+
+/// An open editor is the user's, but its record follows what became of a value that it passed on
+/// while it stays open.
+void FeaturesTableWidget::updateRow(int row, const QString& name)
+{
+    m_pending.removeAll(name);
+    const bool isEdited = m_editing.covers(name);
+    if (isEdited)
+        setPending(name);
+    if (isEdited && name != m_saved)
+        return;
+    const FeatureInfo info = readFeature(name);
+    if (isEdited)
+        storeFeatureInfo(row, info);
+    else
+        refreshRow(row, info);
 }
 
 void FeaturesTableWidget::onDataChanged(const QModelIndex& topLeft, const QModelIndex&,
@@ -142,60 +153,68 @@ void FeaturesTableWidget::onDataChanged(const QModelIndex& topLeft, const QModel
         return;
     const QModelIndex cell = topLeft.siblingAtColumn(ValueColumn);
     const QVariant record = cell.data(Qt::UserRole);
-    if (!record.canConvert<FeatureInfo>()) {
+    const FeatureInfo* info = recordIn(record);
+    if (!info) {
         qDebug() << "tblFeatures.data(" << topLeft.row()
                  << ") cannot convert to FeatureInfo:" << record;
         return;
     }
-    auto info = record.value<FeatureInfo>();
-    const QVariant value = cell.data(Qt::DisplayRole);
     const QPointer<FeaturesTableWidget> self(this);
-    const bool isTaken = writeValue(QString::fromStdString(info.name), value);
+    m_saved = QString::fromStdString(info->name);
+    const bool isTaken = save(*info, cell.data(Qt::DisplayRole));
     if (!self)
         return;
-    if (isTaken && !info.isCommand) {
-        info = featureInfo(cell.row());
+    m_saved.clear();
+    if (isTaken) {
         // As the owner may have refreshed it.
-        info.value = toFeatureValue(cell.data(Qt::DisplayRole));
-        storeFeatureInfo(cell.row(), info);
+        FeatureInfo saved = featureInfo(cell.row());
+        saved.value = toFeatureValue(cell.data(Qt::DisplayRole));
+        storeFeatureInfo(cell.row(), saved);
     }
-    forgetEditedFeature();
+    m_editing.closed();
     emit cellEditorActive(false);
 }
 
 void FeaturesTableWidget::onCellEdit(int row, int column)
 {
     const QVariant record = m_table->model()->index(row, column).data(Qt::UserRole);
-    if (!record.canConvert<FeatureInfo>())
+    const FeatureInfo* info = recordIn(record);
+    if (!info)
         return;
-    const auto info = record.value<FeatureInfo>();
-    m_editedFeature = QString::fromStdString(info.name);
-    m_announced = isEditable(*m_table->item(row, column)) && !info.isRaw;
+    if (isEditable(*m_table->item(row, column)) && !info->isRaw)
+        m_editing.announce(QString::fromStdString(info->name));
     emit cellEditorActive(true);
 }
 
 void FeaturesTableWidget::onClosingEditor()
 {
-    m_announced = false;
+    m_editing.closed();
     emit cellEditorActive(false);
 }
 
 FeatureInfo FeaturesTableWidget::readFeature(const QString& name)
 {
-    const FeatureInfo known = featureInfo(rowOf(name));
-    return known.name.empty() ? readFeatureInfo(*m_manager, name)
-                              : rereadFeatureInfo(*m_manager, known);
+    FeatureInfo info = featureInfo(rowOf(name));
+    info.name = name.toStdString();
+    if (!readFeatureInfo(*m_manager, info))
+        setPending(name);
+    return info;
+}
+
+bool FeaturesTableWidget::save(const FeatureInfo& info, const QVariant& value)
+{
+    const QString name = QString::fromStdString(info.name);
+    setPending(name);
+    if (m_manager->SetVariantValue(name, value))
+        return !info.isCommand;
+    emit loggingMessage(ZebViewerLogMultiRegion,
+                        tr("Saving feature '%1' to value=%2 failed.").arg(name, value.toString()));
+    return false;
 }
 
 bool FeaturesTableWidget::isEdit(const QVector<int>& roles) const
 {
     return !m_refreshing && !roles.contains(Qt::UserRole) && roles.contains(Qt::DisplayRole);
-}
-
-void FeaturesTableWidget::forgetEditedFeature()
-{
-    m_editedFeature.clear();
-    m_announced = false;
 }
 
 int FeaturesTableWidget::rowOf(const QString& name) const
@@ -234,7 +253,7 @@ void FeaturesTableWidget::setUpTable(int rowCount)
 void FeaturesTableWidget::addRow(int row, const FeatureInfo& info, const QStringList& features)
 {
     const QString name = QString::fromStdString(info.name);
-    auto* nameItem = new QTableWidgetItem(QString::fromStdString(info.displayName));
+    auto* nameItem = new QTableWidgetItem;
     setEditable(*nameItem, false);
     nameItem->setToolTip(nameToolTip(name, features));
     m_table->setItem(row, NameColumn, nameItem);
@@ -251,12 +270,13 @@ void FeaturesTableWidget::refreshRow(int row, const FeatureInfo& info)
     if (!nameItem || !valueItem)
         return;
     const QScopedValueRollback refreshing(m_refreshing, true);
+    nameItem->setText(QString::fromStdString(info.displayName));
     nameItem->setData(Qt::UserRole, QString::fromStdString(info.name));
     nameItem->setForeground(nameBrush(info.writable));
     setEditable(*valueItem, info.writable);
     valueItem->setToolTip(QString::fromStdString(info.information));
     storeFeatureInfo(row, info);
-    const QVariant value = toVariant(info.value);
+    const QVariant value = info.isKnown ? toVariant(info.value) : QVariant();
     if (!isSameValue(valueItem->data(Qt::DisplayRole), value))
         valueItem->setData(Qt::DisplayRole, value);
 }
@@ -275,27 +295,8 @@ QString FeaturesTableWidget::nameToolTip(const QString& name, const QStringList&
     return name + QStringLiteral("<p><b>%1</b>%2</p>").arg(tr("Selected features:"), selected);
 }
 
-bool FeaturesTableWidget::isBeingEdited(const QString& name, int row) const
+void FeaturesTableWidget::setPending(const QString& name)
 {
-    // The name of the edited feature outlives a cancelled editing, and does not outlive the first
-    // value of a slider that is still held. So an editor speaks for itself as long as it is there;
-    // the name counts only until then, and only where an editor can open: a double click on a
-    // read-only cell, or with another button, would keep the row from the camera for ever.
-    if (m_table->isPersistentEditorOpen(m_table->model()->index(row, ValueColumn)))
-        return isEditing();
-    return m_announced && name == m_editedFeature;
-}
-
-void FeaturesTableWidget::endAnnouncement()
-{
-    m_announced = false;
-}
-
-bool FeaturesTableWidget::writeValue(const QString& name, const QVariant& value)
-{
-    if (m_manager->SetVariantValue(name, value))
-        return true;
-    emit loggingMessage(ZebViewerLogMultiRegion,
-                        tr("Saving feature '%1' to value=%2 failed.").arg(name, value.toString()));
-    return false;
+    if (!m_pending.contains(name))
+        m_pending.append(name);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "featuretable/CellEditing.h"
 #include "featuretable/record/FeatureInfo.h"
 
 #include "host/TabExtensionInterface.h"
@@ -19,9 +20,12 @@ class MyTableWidget;
 ///
 /// A double click on a cell begins the editing. An open editor is never overwritten.
 ///
+/// What the camera did not tell stays as it is shown, and its row is pending: to be named in a
+/// later updateFeatures(). So is a row that was passed over because its editor was open, or whose
+/// value was written, for the camera may have made another of it.
+///
 /// Slots of its signals may close the editor, but must not delete the table, which is still in the
-/// midst of the editor's commit: deleteLater() does. The first read of a feature is complete, later
-/// ones are of its value, range and writability.
+/// midst of the editor's commit: deleteLater() does.
 class FeaturesTableWidget : public QWidget
 {
     Q_OBJECT
@@ -33,10 +37,14 @@ public:
 
     /// Whether an editor is open. A double click on a cell that cannot be edited emits
     /// cellEditorActive(true) without one.
-    bool isEditing() const;
-
+    bool isEditing() const { return m_editing.isOpen(); }
     /// The feature whose value is edited, from the double click on; empty when there is none.
-    QString editedFeature() const;
+    QString editedFeature() const { return m_editing.feature(); }
+    /// Commits what an open editor holds, as far as it is acceptable, and closes it.
+    void finishEditing() { m_editing.finish(); }
+
+    /// The rows to be read again.
+    QStringList pendingFeatures() const { return m_pending; }
 
     /// Shows the rows whose name, display name or description contains @p filter, all when empty.
     void setFilter(const QString& filter);
@@ -65,13 +73,15 @@ protected:
     /// Reads one feature. While the base is constructed its own version fills the rows.
     virtual FeatureInfo readFeature(const QString& name);
 
+    /// Passes an edited value on; true when the record is to take it for the camera's.
+    virtual bool save(const FeatureInfo& info, const QVariant& value);
+
     MyTableWidget* table() const { return m_table; }
     FeatureManager* manager() const { return m_manager; }
 
     /// Whether a dataChanged() with these roles comes from an editor: changes that the table makes
     /// itself do not, nor those of the record or without a display value.
     bool isEdit(const QVector<int>& roles) const;
-    void forgetEditedFeature();
 
     /// -1 when the feature has no row.
     int rowOf(const QString& name) const;
@@ -85,15 +95,15 @@ private:
     void addRow(int row, const FeatureInfo& info, const QStringList& features);
     void refreshRow(int row, const FeatureInfo& info);
     QString nameToolTip(const QString& name, const QStringList& features);
-    bool isBeingEdited(const QString& name, int row) const;
-    void endAnnouncement();
-    bool writeValue(const QString& name, const QVariant& value);
+    void updateRow(int row, const QString& name);
+    void setPending(const QString& name);
 
     FeatureManager* m_manager;
     MyTableWidget* m_table;
+    CellEditing m_editing;
     FeatureItemDelegate* m_delegate;
     QHash<QString, int> m_rows;
-    QString m_editedFeature;
-    bool m_announced = false; ///< an editor is about to open
+    QStringList m_pending;
+    QString m_saved; ///< the feature whose value is being passed on
     bool m_refreshing = false;
 };

@@ -168,7 +168,6 @@ void MultiROIWidget::setFeatureValue(int regionNo, int masterRegion, QString fea
 
 void MultiROIWidget::onFeatureEditorActivated(bool status)
 {
-    m_editorActive = status;
     if (!status)
         refreshPendingSoon();
 }

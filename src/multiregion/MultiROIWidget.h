@@ -162,7 +162,6 @@ private:
     QPointer<RoundButton> m_toggledButton; ///< whose signal is being handled
     QSize m_sensorSize;                    ///< as the label has it
     int m_suspensions = 0;                 ///< drags, boxes and loads under way
-    bool m_editorActive = false;           ///< as the tables tell; see isSuspended()
     bool m_fullRefreshPending = true;
     QStringList m_pendingNames; ///< changed while suspended
 };

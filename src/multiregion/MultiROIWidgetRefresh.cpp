@@ -39,12 +39,11 @@ void MultiROIWidget::refreshFeatures()
     refreshPending();
 }
 
-/// A table announces an editor also where none opens, hence both questions.
 bool MultiROIWidget::isSuspended() const
 {
     const int current = m_ui->tabRegions->currentIndex();
-    const bool isEditing = m_editorActive && isRegion(current)
-        && m_tabs[static_cast<std::size_t>(current)].table->isEditing();
+    const bool isEditing
+        = isRegion(current) && m_tabs[static_cast<std::size_t>(current)].table->isEditing();
     return m_suspensions > 0 || m_loading || m_label->isDragging() || isEditing;
 }
 
@@ -115,8 +114,10 @@ void MultiROIWidget::refreshTable(const QStringList& names)
                                 [&names](const QString& name) { return !names.contains(name); }),
                  common.end());
     const int current = m_ui->tabRegions->currentIndex();
-    if (isRegion(current))
-        m_tabs[static_cast<std::size_t>(current)].table->updateFeatures(common);
+    if (!isRegion(current))
+        return;
+    RegionTableWidget* table = m_tabs[static_cast<std::size_t>(current)].table;
+    table->updateFeatures(common + table->pendingFeatures());
 }
 
 void MultiROIWidget::noteMode(const QString& name)

@@ -183,9 +183,8 @@ QStringList MultiROIWidget::findTableFeatures()
     const QString category = QStringLiteral("/ImageFormatControl/MultipleRegion");
     const auto wrappers = FeatureManager::Wrappers::create();
     QStringList features;
-    const QVector<ZebCPP::FeaturePtr> list = *cameraFeatures;
-    for (const ZebCPP::FeaturePtr& feature : list) {
-        const auto wrapper = std::make_shared<ZebFeatureWrapper>(feature);
+    const QVector<ZebFeatureWrapperPtr> list = *featureManager->features();
+    for (const ZebFeatureWrapperPtr& wrapper : list) {
         const QString name = FeatureReading::readText(*wrapper, &ZebFeatureWrapper::GetName);
         const bool isListed = !name.contains(QLatin1String("Selector"))
             && FeatureReading::readText(*wrapper, &ZebFeatureWrapper::GetCategory) == category;
@@ -194,7 +193,7 @@ QStringList MultiROIWidget::findTableFeatures()
         if (isListed || Name::subRegion.contains(name))
             wrappers->append(wrapper);
     }
-    m_tableManager = std::make_unique<FeatureManager>(wrappers);
+    m_tableManager = std::make_unique<FeatureManager>(wrappers, featureManager->link());
     for (const QString& older : {Name::offsetX, Name::width}) {
         if (!featureManager->HasFeature(QStringLiteral("SubRegion") + older)
             && featureManager->HasFeature(older) && !features.contains(older))

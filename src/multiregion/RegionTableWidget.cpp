@@ -5,8 +5,6 @@
 #include "multiregion/MultiROIWidget.h"
 #include "multiregion/rules/TableConstraints.h"
 
-#include <QPointer>
-
 namespace Name = FeatureNames;
 
 RegionTableWidget::RegionTableWidget(int regionNo, MultiROIWidget* page,
@@ -24,28 +22,16 @@ void RegionTableWidget::refresh()
     applyRanges(m_constrainedFeatures);
 }
 
-void RegionTableWidget::onDataChanged(const QModelIndex& topLeft, const QModelIndex&,
+void RegionTableWidget::onDataChanged(const QModelIndex& topLeft, const QModelIndex& bottomRight,
                                       const QVector<int>& roles)
 {
-    if (!isEdit(roles))
-        return;
-    const QModelIndex cell = topLeft.siblingAtColumn(ValueColumn);
-    const QVariant record = cell.data(Qt::UserRole);
-    if (!record.canConvert<FeatureInfo>()) {
+    const QVariant record = topLeft.siblingAtColumn(ValueColumn).data(Qt::UserRole);
+    if (isEdit(roles) && !recordIn(record))
         emit loggingMessage(ZebViewerLogMultiRegion,
                             tr("tblFeatures.data(%1) cannot be converted to FeatureInfo: %2")
                                 .arg(QString::number(topLeft.row()), record.toString()));
-        return;
-    }
-    const QString name = QString::fromStdString(record.value<FeatureInfo>().name);
-    const QPointer<RegionTableWidget> self(this);
-    emit saveSubRegionFeatureToCamera(m_regionNo,
-                                      masterRegion(m_regionNo, name, m_constrainedFeatures), name,
-                                      cell.data(Qt::DisplayRole));
-    if (!self)
-        return;
-    forgetEditedFeature();
-    emit cellEditorActive(false);
+    else
+        FeaturesTableWidget::onDataChanged(topLeft, bottomRight, roles);
 }
 
 void RegionTableWidget::addConstraints(int regionNo, QStringList features)
@@ -79,28 +65,32 @@ void RegionTableWidget::onRegionRangeChanged(int regionNo, QRect geometry)
 FeatureInfo RegionTableWidget::readFeature(const QString& name)
 {
     FeatureInfo info = FeaturesTableWidget::readFeature(name);
-    m_ownBounds.insert(name, {info.minimum, info.maximum});
     applyRange(info);
     return info;
 }
 
-/// Gives the record the bounds of its range, or those of the camera where it has none.
-void RegionTableWidget::applyRange(FeatureInfo& info)
+bool RegionTableWidget::save(const FeatureInfo& info, const QVariant& value)
 {
     const QString name = QString::fromStdString(info.name);
-    if (!m_ownBounds.contains(name))
-        m_ownBounds.insert(name, {info.minimum, info.maximum});
-    const Bounds bounds = m_ownBounds.value(name);
-    info.minimum = bounds.minimum;
-    info.maximum = bounds.maximum;
+    emit saveSubRegionFeatureToCamera(
+        m_regionNo, masterRegion(m_regionNo, name, m_constrainedFeatures), name, value);
+    return false;
+}
+
+/// Gives the record the bounds of its range, or those of the camera where it has none.
+void RegionTableWidget::applyRange(FeatureInfo& info) const
+{
+    info.minimum = info.cameraMinimum;
+    info.maximum = info.cameraMaximum;
+    const QString name = QString::fromStdString(info.name);
     if (m_range.isNull() || !m_constrainedFeatures.contains(name))
         return;
-    const ConstrainedRange range
-        = constrainedRange(name, m_range, presentGeometry(), toInteger(info.increment).value_or(0));
-    if (range.minimum != -1)
-        info.minimum = FeatureValue(std::int64_t{range.minimum});
-    if (range.maximum != -1)
-        info.maximum = FeatureValue(std::int64_t{range.maximum});
+    const ConstrainedRange range = constrainedRange(name, m_range, presentValue(counterparts(name)),
+                                                    toInteger(info.increment).value_or(0));
+    if (range.minimum)
+        info.minimum = FeatureValue(std::int64_t{*range.minimum});
+    if (range.maximum)
+        info.maximum = FeatureValue(std::int64_t{*range.maximum});
 }
 
 void RegionTableWidget::applyRanges(const QStringList& features)
@@ -115,17 +105,14 @@ void RegionTableWidget::applyRanges(const QStringList& features)
     }
 }
 
-TableGeometry RegionTableWidget::presentGeometry() const
+/// Of the first name that the table has a row of; empty while the camera has told no value.
+std::optional<qint64> RegionTableWidget::presentValue(const QStringList& names) const
 {
-    return {presentValue(Name::subRegionOffsetX, Name::offsetX),
-            presentValue(Name::subRegionOffsetY, {}),
-            presentValue(Name::subRegionWidth, Name::width),
-            presentValue(Name::subRegionHeight, {})};
-}
-
-/// 0 for what the table does not show.
-qint64 RegionTableWidget::presentValue(const QString& name, const QString& olderName) const
-{
-    const int row = rowOf(name) >= 0 ? rowOf(name) : rowOf(olderName);
-    return row < 0 ? 0 : toInteger(featureInfo(row).value).value_or(0);
+    for (const QString& name : names) {
+        if (const int row = rowOf(name); row >= 0) {
+            const FeatureInfo info = featureInfo(row);
+            return info.isKnown ? toInteger(info.value) : std::nullopt;
+        }
+    }
+    return std::nullopt;
 }

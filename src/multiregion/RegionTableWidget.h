@@ -2,12 +2,10 @@
 
 #include "featuretable/FeaturesTableWidget.h"
 
-#include <QHash>
 #include <QRect>
 
 #include <optional>
 
-struct TableGeometry;
 class MultiROIWidget;
 
 /// The feature table of one region. What the user edits goes to the page together with the region's
@@ -39,23 +37,16 @@ public slots:
 
 protected:
     FeatureInfo readFeature(const QString& name) override;
+    /// Leaves the writing to the page, which reads back what came of it.
+    bool save(const FeatureInfo& info, const QVariant& value) override;
 
 private:
-    /// As the camera reported them.
-    struct Bounds
-    {
-        std::optional<FeatureValue> minimum;
-        std::optional<FeatureValue> maximum;
-    };
-
-    void applyRange(FeatureInfo& info);
+    void applyRange(FeatureInfo& info) const;
     void applyRanges(const QStringList& features);
-    TableGeometry presentGeometry() const;
-    qint64 presentValue(const QString& name, const QString& olderName) const;
+    std::optional<qint64> presentValue(const QStringList& names) const;
 
     const int m_regionNo;
     const QStringList m_features;
     QStringList m_constrainedFeatures;
     QRect m_range; ///< null until the first one arrives
-    QHash<QString, Bounds> m_ownBounds;
 };

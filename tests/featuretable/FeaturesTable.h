@@ -31,6 +31,9 @@ inline sim::FeatureDescriptions oneOfEachKind()
         sim::stringFeature("Text", "old"),
         sim::enumFeature("ModeSelector", {"First", "Second", "Third"}),
         integer("Register", 255, 0xFFFFFFFF).represented("HexNumber"),
+        sim::integerFeature("WideRegister", 0x1C0FFEE00)
+            .represented("HexNumber")
+            .between(sim::IntegerRange(-1, std::int64_t{1} << 40)),
         integer("Address", 1, 0xFFFFFFFF).represented("IPV4Address").selectedBy("ModeSelector"),
         integer("Station", 1, 0xFFFFFFFFFFFF).represented("MACAddress"),
         integer("Wide", 5, std::int64_t{1} << 40),

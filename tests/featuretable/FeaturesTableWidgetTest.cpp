@@ -4,6 +4,7 @@
 #include <QHeaderView>
 #include <QScrollBar>
 
+using sim::Failure;
 using sim::Operation;
 
 class FeaturesTableWidgetTest : public QObject
@@ -78,7 +79,6 @@ private slots:
         QVERIFY(!(f.item("Text")->flags() & Qt::ItemIsEditable));
         QCOMPARE(f.writes(), 0);
         QCOMPARE(active.count(), 0);
-        QCOMPARE(int(f.camera.journal().count(Operation::GetUnit)), 0);
         QVERIFY(f.item("Gain")->toolTip().contains("<b>Maximum:</b> 2<"));
         f.camera.writeAsOtherClient("Gain", 1.0000000000000002);
         f.features->updateFeatures({"Gain"});
@@ -86,6 +86,91 @@ private slots:
         // An editor opened afterwards keeps to the new range.
         type("2.5")(f, f.open("Gain"));
         QVERIFY(f.features->isEditing());
+    }
+
+    void readsRowsWhole()
+    {
+        FeaturesTable f;
+        f.camera.modify("Gain", [](auto& gain) {
+            gain.shown("The Gain").measuredIn("%").represented("Logarithmic").describedBy("New.");
+        });
+        f.camera.journal().record(sim::Operations::all());
+        f.features->updateFeatures({"Gain"});
+        // Two calls a name make one look-up.
+        QVERIFY(f.camera.journal().count(Operation::GetName) <= 2 * std::size_t(f.names.size()));
+        const auto info = f.item("Gain")->data(Qt::UserRole).value<FeatureInfo>();
+        QCOMPARE(f.item("Gain", nameColumn)->text(), QString("The Gain"));
+        QCOMPARE(f.item("Gain")->data(Qt::AccessibleTextRole), QVariant("The Gain: 1 %"));
+        QCOMPARE(QString::fromStdString(info.representation), QString("Logarithmic"));
+        QVERIFY(f.item("Gain")->toolTip().contains("New."));
+    }
+
+    /// What is not told stays as it is shown, and the row is to be read again.
+    void keepsWhatIsNotTold_data()
+    {
+        const DataTable row([](const char* feature, sim::Operation refused, const sim::Value& other,
+                               const QVariant& after) {
+            FeaturesTable f;
+            const QVariant before = f.shown(feature);
+            f.camera.writeAsOtherClient(feature, other);
+            f.camera.failures().add(feature, refused, Failure::refuse());
+            f.features->updateFeatures({feature});
+            QCOMPARE(f.shown(feature), refused == Operation::GetValue ? before : after);
+            QVERIFY(f.item(feature)->flags() & Qt::ItemIsEditable);
+            QVERIFY(!f.item("Count")->toolTip().contains("-1"));
+            QCOMPARE(f.features->pendingFeatures(), QStringList{feature});
+            f.camera.failures().clear();
+            f.features->updateFeatures(f.features->pendingFeatures());
+            QCOMPARE(f.shown(feature), after);
+            QCOMPARE(f.features->pendingFeatures(), QStringList());
+        });
+        row("integer", "Count", Operation::GetValue, 77, qint64{77});
+        row("float", "Gain", Operation::GetValue, 2.5, 2.5);
+        row("flag", "Flag", Operation::GetValue, true, true);
+        row("text", "Text", Operation::GetValue, "new", "new");
+        row("entry", "ModeSelector", Operation::GetValue, "Third", "Third");
+        row("range", "Count", Operation::GetRange, 77, qint64{77});
+        row("writability", "Text", Operation::IsWritable, "new", "new");
+    }
+    void keepsWhatIsNotTold() { runRow(); }
+
+    void showsNothingBeforeItIsTold()
+    {
+        sim::Camera camera(
+            {sim::integerFeature("Count", 10),
+             sim::stringFeature("Secret", "x").readableIf([](auto&) { return false; })});
+        FeatureManager manager(wrappers(camera));
+        camera.failures().add("Count", Operation::GetValue, Failure::refuse());
+        FeaturesTableWidget features({"Count", "Secret"}, &manager, nullptr);
+        const auto* cell = features.findChild<MyTableWidget*>()->item(0, valueColumn);
+        QCOMPARE(cell->text(), QString());
+        QCOMPARE(features.pendingFeatures(), QStringList{"Count"}); // the other has nothing to tell
+        camera.failures().clear();
+        features.updateFeatures({"Count"});
+        QCOMPARE(cell->text(), QString("10"));
+    }
+
+    /// Else each row would wait.
+    void leavesALostCamera()
+    {
+        FeaturesTable f;
+        f.camera.lose(std::chrono::milliseconds(120));
+        QElapsedTimer waited;
+        waited.start();
+        f.features->updateFeatures(f.names);
+        QVERIFY2(waited.elapsed() < 1000, qPrintable(QString::number(waited.elapsed())));
+        QCOMPARE(f.features->pendingFeatures(), f.names);
+        QCOMPARE(f.shown("Count"), QVariant(qint64{10}));
+    }
+
+    void writesEqualValuesOnce()
+    {
+        for (const char* feature : {"Count", "Gain", "Text"}) {
+            const FeaturesTable f;
+            const QModelIndex cell = f.table->model()->index(f.names.indexOf(feature), valueColumn);
+            f.table->model()->setData(cell, f.shown(feature), Qt::DisplayRole);
+            QCOMPARE(f.writes(), 1);
+        }
     }
 
     void endsASuspendedRefresh()

@@ -33,6 +33,8 @@ public:
     /// What was entered since the last call; invalid when that is nothing new or not acceptable.
     QVariant takeNewValue();
 
+    /// Commits what was entered, as far as it is acceptable, and asks to be closed.
+    void finish();
     /// Ends the editing without a signal. False when it had ended before.
     bool end();
     bool hasEnded() const { return m_ended; }
@@ -65,7 +67,6 @@ protected:
     void forgetKnownValue() { m_knownValue.clear(); }
     /// Shows the unit behind controls that have no suffix of their own.
     void addUnit(const FeatureInfo& info);
-    void finish();
 
     bool event(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -5,70 +5,24 @@
 #include "featuretable/editors/EnumerationEditor.h"
 #include "featuretable/editors/FloatEditor.h"
 #include "featuretable/editors/IntegerEditor.h"
-#include "featuretable/editors/IntegerTextEditor.h"
-#include "featuretable/editors/StringEditor.h"
+#include "featuretable/editors/TextEditor.h"
 #include "featuretable/record/IntegerNotation.h"
-
-namespace {
-
-struct EditorKind
-{
-    bool (*fits)(const FeatureInfo& info);
-    DelegateWidget* (*create)(const FeatureInfo& info, QWidget* parent);
-};
-
-const IntegerNotation* notationOf(const FeatureInfo& info)
-{
-    return notationFor(info, toInteger(info.value).value_or(0));
-}
-
-template <typename Type> bool holds(const FeatureInfo& info)
-{
-    return std::holds_alternative<Type>(info.value);
-}
-
-template <typename Editor> DelegateWidget* create(const FeatureInfo& info, QWidget* parent)
-{
-    return new Editor(info, parent);
-}
-
-DelegateWidget* createNotationEditor(const FeatureInfo& info, QWidget* parent)
-{
-    return new IntegerTextEditor(info, *notationOf(info), parent);
-}
-
-bool isCommand(const FeatureInfo& info)
-{
-    return info.isCommand;
-}
-
-bool isEnumeration(const FeatureInfo& info)
-{
-    return !info.enumEntries.empty();
-}
-
-bool hasNotation(const FeatureInfo& info)
-{
-    return holds<std::int64_t>(info) && notationOf(info);
-}
-
-// The first kind that fits is taken.
-constexpr EditorKind editorKinds[] = {
-    {isCommand, create<CommandEditor>},         {isEnumeration, create<EnumerationEditor>},
-    {holds<bool>, create<BooleanEditor>},       {holds<std::string>, create<StringEditor>},
-    {holds<double>, create<FloatEditor>},       {hasNotation, createNotationEditor},
-    {holds<std::int64_t>, createIntegerEditor},
-};
-
-} // namespace
 
 DelegateWidget* createDelegateWidget(const FeatureInfo& info, QWidget* parent)
 {
     if (!info.writable || info.isRaw)
         return nullptr;
-    for (const EditorKind& kind : editorKinds) {
-        if (kind.fits(info))
-            return kind.create(info, parent);
-    }
-    return nullptr;
+    if (info.isCommand)
+        return new CommandEditor(info, parent);
+    if (!info.enumEntries.empty())
+        return new EnumerationEditor(info, parent);
+    if (std::holds_alternative<bool>(info.value))
+        return new BooleanEditor(info, parent);
+    if (std::holds_alternative<double>(info.value))
+        return new FloatEditor(info, parent);
+    if (std::holds_alternative<std::string>(info.value))
+        return new TextEditor(info, nullptr, parent);
+    if (const IntegerNotation* notation = notationFor(info))
+        return new TextEditor(info, notation, parent);
+    return createIntegerEditor(info, parent);
 }

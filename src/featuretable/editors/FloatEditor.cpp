@@ -15,11 +15,11 @@ QDoubleValidator* createValidator(const FeatureInfo& info, QObject* parent)
     validator->setLocale(locale);
     const auto minimum = toNumber(info.minimum);
     const auto maximum = toNumber(info.maximum);
-    // Bounds of a failed read, -1 to -1, that do not hold the present value count as missing.
-    const bool isOneValue = minimum == maximum && minimum == toNumber(info.value);
-    if (minimum && maximum && (*maximum > *minimum || isOneValue)) {
-        validator->setBottom(*minimum);
-        validator->setTop(*maximum);
+    if (minimum && maximum) {
+        const bool isRange = *minimum <= *maximum;
+        const auto value = toNumber(info.value);
+        validator->setBottom(isRange ? *minimum : value.value_or(*minimum));
+        validator->setTop(isRange ? *maximum : value.value_or(*minimum));
     }
     return validator;
 }

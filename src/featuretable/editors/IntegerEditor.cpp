@@ -1,7 +1,8 @@
 #include "featuretable/editors/IntegerEditor.h"
 
-#include "featuretable/editors/IntegerTextEditor.h"
 #include "featuretable/editors/SliderEditor.h"
+#include "featuretable/editors/TextEditor.h"
+#include "featuretable/record/IntegerNotation.h"
 #include "featuretable/record/IntegerRange.h"
 
 #include <QDoubleSpinBox>
@@ -120,5 +121,5 @@ DelegateWidget* createIntegerEditor(const FeatureInfo& info, QWidget* parent)
     case IntegerField::Text:
         break;
     }
-    return new IntegerTextEditor(info, decimalNotation(), parent);
+    return new TextEditor(info, &decimalNotation(), parent);
 }

@@ -2,17 +2,21 @@
 
 #include "featuretable/editors/FeatureSlider.h"
 
+#include <utility>
+
 namespace {
 
-constexpr std::chrono::milliseconds announcementInterval(50);
+constexpr int announcementIntervalMs = 50;
 
 } // namespace
 
 SliderEditor::SliderEditor(const FeatureInfo& info, QWidget* parent)
     : DelegateWidget(info, parent)
-    , m_announcements(announcementInterval)
 {
-    connect(&m_announcements, &RateLimiter::due, this, &SliderEditor::onAnnouncementDue);
+    m_pause.setInterval(announcementIntervalMs);
+    m_pause.setSingleShot(true);
+    m_pause.setTimerType(Qt::PreciseTimer);
+    connect(&m_pause, &QTimer::timeout, this, &SliderEditor::announce);
 }
 
 void SliderEditor::addSlider(const std::optional<SliderRange>& range)
@@ -44,11 +48,14 @@ void SliderEditor::onSliderMoved(double value)
     touch();
     m_movedTo = value;
     showNumber(value);
-    m_announcements.request();
+    if (!m_pause.isActive())
+        announce();
 }
 
-void SliderEditor::onAnnouncementDue()
+void SliderEditor::announce()
 {
-    if (!hasEnded())
-        emit sliderValueChanged(m_movedTo);
+    if (hasEnded() || !m_movedTo)
+        return;
+    m_pause.start();
+    emit sliderValueChanged(*std::exchange(m_movedTo, std::nullopt));
 }

@@ -1,8 +1,9 @@
 #pragma once
 
 #include "featuretable/editors/DelegateWidget.h"
-#include "featuretable/editors/RateLimiter.h"
 #include "featuretable/editors/SliderRange.h"
+
+#include <QTimer>
 
 class FeatureSlider;
 
@@ -30,10 +31,10 @@ protected:
 
 private:
     void onSliderMoved(double value);
-    void onAnnouncementDue();
+    void announce();
 
     FeatureSlider* m_slider = nullptr;
-    RateLimiter m_announcements;
-    double m_movedTo = 0.0;
+    QTimer m_pause;                  ///< between two announcements
+    std::optional<double> m_movedTo; ///< not yet announced
     int m_widthWithSlider = 0;
 };

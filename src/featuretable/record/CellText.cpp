@@ -23,7 +23,7 @@ QString cellText(const FeatureInfo& info, const QVariant& value)
     if (value.type() == QVariant::Double)
         return DoubleText::fromNumber(value.toDouble());
     if (value.type() == QVariant::LongLong) {
-        const auto* notation = notationFor(info, value.toLongLong());
+        const IntegerNotation* notation = notationFor(info);
         return (notation ? *notation : decimalNotation()).toText(value.toLongLong());
     }
     return value.toString();

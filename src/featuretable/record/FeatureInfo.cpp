@@ -10,9 +10,9 @@ namespace {
 auto membersOf(const FeatureInfo& info)
 {
     return std::tie(info.value, info.writable, info.minimum, info.maximum, info.increment,
-                    info.enumEntries, info.information, info.readable, info.isRaw, info.isCommand,
-                    info.name, info.displayName, info.description, info.toolTip,
-                    info.representation, info.unit);
+                    info.cameraMinimum, info.cameraMaximum, info.enumEntries, info.information,
+                    info.isKnown, info.isRaw, info.isCommand, info.name, info.displayName,
+                    info.description, info.toolTip, info.representation, info.unit);
 }
 
 } // namespace

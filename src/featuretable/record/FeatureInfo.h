@@ -24,7 +24,7 @@ struct FeatureInfo
     std::string representation; ///< the camera's hint to editors, as "HexNumber"
     std::string unit;           ///< of numbers only
     std::string information;    ///< rich text: description, range, increment
-    bool readable = false;      ///< for owners; the table does not ask
+    bool isKnown = false;       ///< the camera has told a value
     bool writable = false;
     bool isRaw = false; ///< bytes, or of an unknown type: neither shown nor edited
     bool isCommand = false;
@@ -33,6 +33,8 @@ struct FeatureInfo
     std::optional<FeatureValue> minimum;
     std::optional<FeatureValue> maximum;
     std::optional<FeatureValue> increment;
+    std::optional<FeatureValue> cameraMinimum; ///< where an owner narrows what may be entered
+    std::optional<FeatureValue> cameraMaximum;
 };
 
 bool operator==(const FeatureInfo& left, const FeatureInfo& right);

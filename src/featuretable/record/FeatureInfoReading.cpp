@@ -1,111 +1,123 @@
 #include "featuretable/record/FeatureInfoReading.h"
 
+#include "features/FeatureInformation.h"
 #include "features/FeatureManager.h"
-#include "features/SdkValues.h"
+
+#include <tuple>
 
 namespace {
 
-void readInteger(FeatureManager& manager, const QString& name, FeatureInfo& info)
+FeatureValue toValue(const QString& text)
 {
-    const IntegerState state = manager.GetIntegerState(name, info.writable);
-    info.value = state.value;
-    info.increment = state.increment;
-    info.minimum = state.minimum;
-    info.maximum = state.maximum;
+    return text.toStdString();
 }
 
-void readNumber(FeatureManager& manager, const QString& name, FeatureInfo& info)
+template <typename Number> FeatureValue toValue(Number number)
 {
-    double minimum = -1.0;
-    double maximum = -1.0;
-    double increment = -1.0;
-    info.value = manager.GetValueState(name, info.writable, minimum, maximum, increment);
-    info.increment = increment;
-    info.minimum = minimum;
-    info.maximum = maximum;
+    return number;
 }
 
-void readEnumeration(FeatureManager& manager, const QString& name, FeatureInfo& info)
+/// What a complete reading does not tell, the camera does not have.
+template <typename Type> bool take(const Reading<Type>& reading, FeatureInfo& info)
 {
-    for (const QString& entry : manager.GetEnumEntries(name))
-        info.enumEntries.emplace_back(entry.toStdString());
-    info.value = manager.GetStringValue(name).toStdString();
-    info.writable = manager.IsWritable(name);
+    const auto takeBound = [&reading](auto& bound, const std::optional<Type>& told) {
+        if (told)
+            bound = toValue(*told);
+        else if (reading.isComplete)
+            bound.reset();
+    };
+    takeBound(info.cameraMinimum, reading.minimum);
+    takeBound(info.cameraMaximum, reading.maximum);
+    takeBound(info.increment, reading.increment);
+    if (reading.value)
+        info.value = toValue(*reading.value);
+    else if (!info.isKnown)
+        info.value = toValue(Type());
+    info.isKnown = info.isKnown || reading.value;
+    if (reading.isComplete)
+        info.writable = reading.isWritable;
+    return reading.isComplete;
 }
 
-void readValue(FeatureManager& manager, const QString& name, FeatureInfo& info)
+bool readWritability(FeatureReader& feature, FeatureInfo& info)
 {
-    const ZebFeatureDataType type = manager.GetDataType(name);
+    const auto isWritable = feature.flag(&ZebFeatureWrapper::IsWritable);
+    info.writable = isWritable.value_or(info.writable && feature);
+    return isWritable || !feature;
+}
+
+bool readValue(FeatureReader& feature, FeatureInfo& info)
+{
+    const ZebFeatureDataType type = feature.dataType();
+    if (type == Sdk::unknownType && !feature.floating().isComplete)
+        return false;
+    info.isRaw = false;
     switch (type) {
     case Sdk::integerType:
-        readInteger(manager, name, info);
-        break;
-    case Sdk::enumerationType:
-        readEnumeration(manager, name, info);
-        break;
-    case Sdk::stringType:
-        info.value = manager.GetStringValue(name).toStdString();
-        info.writable = manager.IsWritable(name);
-        break;
+        return take(feature.integer(), info);
+    case Sdk::floatType:
+        return take(feature.floating(), info);
     case Sdk::booleanType:
-        info.value = manager.GetValue(name) != 0.0;
-        info.writable = manager.IsWritable(name);
-        break;
+        return take(feature.boolean(), info);
+    case Sdk::enumerationType:
+    case Sdk::stringType:
+        return take(feature.textReading(), info);
     case Sdk::commandType:
         info.isCommand = true;
-        info.writable = manager.IsWritable(name);
         break;
     default:
-        info.isRaw = type != Sdk::floatType;
-        readNumber(manager, name, info);
+        info.isRaw = true;
+        info.value = -1.0;
+    }
+    info.isKnown = true;
+    return readWritability(feature, info);
+}
+
+/// From the SDK's memory. What fails is empty.
+void readTexts(FeatureReader& feature, FeatureInfo& info)
+{
+    const auto read = [&feature](std::string& known, FeatureReader::TextGetter getter) {
+        if (const QString told = feature.text(getter); !told.isEmpty())
+            known = told.toStdString();
+    };
+    read(info.displayName, &ZebFeatureWrapper::GetDisplayName);
+    read(info.representation, &ZebFeatureWrapper::GetRepresentation);
+    read(info.toolTip, &ZebFeatureWrapper::GetToolTip);
+    read(info.description, &ZebFeatureWrapper::GetDescription);
+    const ZebFeatureDataType type = feature.dataType();
+    if (type == Sdk::integerType || type == Sdk::floatType)
+        read(info.unit, &ZebFeatureWrapper::GetUnit);
+    if (type != Sdk::enumerationType)
+        return;
+    if (const QStringList entries = feature.entries(); !entries.isEmpty()) {
+        info.enumEntries.clear();
+        for (const QString& entry : entries)
+            info.enumEntries.emplace_back(entry.toStdString());
     }
 }
 
-bool isNumber(const FeatureInfo& info)
+/// What the rich text tells.
+auto toldOf(const FeatureInfo& info)
 {
-    return info.minimum.has_value();
-}
-
-bool hasSameRange(const FeatureInfo& left, const FeatureInfo& right)
-{
-    return left.minimum == right.minimum && left.maximum == right.maximum
-        && left.increment == right.increment;
+    return std::make_tuple(info.description, info.cameraMinimum, info.cameraMaximum,
+                           info.increment);
 }
 
 } // namespace
 
-FeatureInfo readFeatureInfo(FeatureManager& manager, const QString& name)
+bool readFeatureInfo(FeatureManager& manager, FeatureInfo& info)
 {
-    FeatureInfo info;
-    info.name = name.toStdString();
-    info.displayName = manager.GetDisplayName(name).toStdString();
+    const auto toldBefore = toldOf(info);
+    FeatureReader feature = manager.Read(QString::fromStdString(info.name));
+    const bool isWhole = readValue(feature, info);
+    if (feature && !manager.link()->isDoubtful()) {
+        readTexts(feature, info);
+        if (info.information.empty() || toldOf(info) != toldBefore)
+            info.information = featureInformation(*feature.feature()).toStdString();
+    }
     if (info.displayName.empty())
         info.displayName = info.name;
-    info.representation = manager.GetRepresentation(name).toStdString();
-    info.toolTip = manager.GetToolTip(name).toStdString();
-    info.description = manager.GetDescription(name).toStdString();
-    info.information = manager.GetInformation(name).toStdString();
-    readValue(manager, name, info);
-    if (isNumber(info))
-        info.unit = manager.GetUnit(name).toStdString();
-    return info;
-}
-
-FeatureInfo rereadFeatureInfo(FeatureManager& manager, const FeatureInfo& known)
-{
-    // Only the texts are kept: a camera that did not tell the type once must not leave its mark.
-    FeatureInfo info;
-    info.name = known.name;
-    info.displayName = known.displayName;
-    info.representation = known.representation;
-    info.toolTip = known.toolTip;
-    info.description = known.description;
-    info.information = known.information;
-    info.unit = known.unit;
-    const QString name = QString::fromStdString(known.name);
-    readValue(manager, name, info);
-    // The rich text tells the range.
-    if (!hasSameRange(info, known))
-        info.information = manager.GetInformation(name).toStdString();
-    return info;
+    info.minimum = info.cameraMinimum;
+    info.maximum = info.cameraMaximum;
+    return isWhole;
 }

@@ -4,9 +4,7 @@
 
 class FeatureManager;
 
-/// Reads all that a row of the feature table shows and its editor needs.
-FeatureInfo readFeatureInfo(FeatureManager& manager, const QString& name);
-
-/// Reads again what changes while a camera is open: value, range and writability. Names, texts,
-/// representation and unit are those of @p known.
-FeatureInfo rereadFeatureInfo(FeatureManager& manager, const FeatureInfo& known);
+/// Reads all that a row of the feature table shows and its editor needs into the record of that
+/// name, by one look-up. What the camera does not tell stays as it is; false when a value, a bound
+/// or the writability is among it.
+bool readFeatureInfo(FeatureManager& manager, FeatureInfo& info);

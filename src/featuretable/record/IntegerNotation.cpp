@@ -1,7 +1,5 @@
 #include "featuretable/record/IntegerNotation.h"
 
-#include "featuretable/record/IntegerRange.h"
-
 #include <QHash>
 #include <QRegularExpression>
 #include <QStringList>
@@ -17,16 +15,6 @@ constexpr std::uint64_t byteMask = 0xFF;
 std::uint64_t byteOf(std::int64_t value, int index)
 {
     return (static_cast<std::uint64_t>(value) >> (index * bitsPerByte)) & byteMask;
-}
-
-bool hasEightHexDigits(const FeatureInfo& info, std::int64_t value)
-{
-    constexpr IntegerRange of32Bits{0, 0xFFFFFFFF};
-    const IntegerRange range = integerRange(info);
-    const bool isUnknown
-        = range.minimum == IntegerRange().minimum && range.maximum == IntegerRange().maximum;
-    return of32Bits.contains(value)
-        && (isUnknown || (of32Bits.contains(range.minimum) && of32Bits.contains(range.maximum)));
 }
 
 // The first text is the highest byte.
@@ -96,7 +84,7 @@ const IntegerNotation& decimalNotation()
     return notation;
 }
 
-const IntegerNotation* notationFor(const QString& representation)
+const IntegerNotation* notationFor(const FeatureInfo& info)
 {
     static const QHash<QString, IntegerNotation> notations{
         {QStringLiteral("HexNumber"), {QStringLiteral("([0-9a-fA-F]){1,8}"), toHex, fromHex}},
@@ -107,13 +95,6 @@ const IntegerNotation* notationFor(const QString& representation)
         {QStringLiteral("MACAddress"),
          {QStringLiteral("^([0-9A-Fa-f]{2}[:-]){5}([0-9A-Fa-f]{2})$"), toMac, fromMac}},
     };
-    const auto found = notations.constFind(representation);
+    const auto found = notations.constFind(QString::fromStdString(info.representation));
     return found == notations.constEnd() ? nullptr : &*found;
-}
-
-const IntegerNotation* notationFor(const FeatureInfo& info, std::int64_t value)
-{
-    if (info.representation == "HexNumber" && !hasEightHexDigits(info, value))
-        return &decimalNotation();
-    return notationFor(QString::fromStdString(info.representation));
 }

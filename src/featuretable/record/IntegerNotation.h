@@ -19,11 +19,7 @@ struct IntegerNotation
 /// Plain decimal digits with an optional minus.
 const IntegerNotation& decimalNotation();
 
-/// The notation that a feature's representation asks for: "HexNumber" (upper case, no prefix),
-/// "IPV4Address" (high byte first) or "MACAddress" (48 bits, lower case); null for any other.
-const IntegerNotation* notationFor(const QString& representation);
-
-/// The notation in which a feature's cell shows @p value and its editor takes another. Hexadecimal
-/// numbers have eight digits at most: where the range or the value needs more they are decimal.
-/// Null for a representation without a notation of its own.
-const IntegerNotation* notationFor(const FeatureInfo& info, std::int64_t value);
+/// The notation that a feature's representation asks for: "HexNumber" (upper case, no prefix; at
+/// most eight digits may be typed), "IPV4Address" (high byte first) or "MACAddress" (48 bits, lower
+/// case); null for any other.
+const IntegerNotation* notationFor(const FeatureInfo& info);

@@ -8,10 +8,9 @@ IntegerRange integerRange(const FeatureInfo& info)
     IntegerRange range;
     range.minimum = toInteger(info.minimum).value_or(range.minimum);
     range.maximum = toInteger(info.maximum).value_or(range.maximum);
-    const auto value = toInteger(info.value);
-    const bool holdsNothing = range.minimum > range.maximum
-        || (range.minimum == range.maximum && value != range.minimum);
-    return holdsNothing ? IntegerRange() : range;
+    if (range.minimum > range.maximum)
+        range.minimum = range.maximum = toInteger(info.value).value_or(range.minimum);
+    return range;
 }
 
 IntegerField integerFieldFor(const IntegerRange& range, std::int64_t value)

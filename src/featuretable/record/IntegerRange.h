@@ -16,8 +16,8 @@ struct IntegerRange
     bool contains(std::int64_t value) const { return value >= minimum && value <= maximum; }
 };
 
-/// The camera's bounds; a missing one is as wide as exact numbers go. Bounds of a failed read, -1
-/// to -1, that do not hold even the present value count as missing.
+/// The record's bounds; a missing one is as wide as exact numbers go. Bounds that hold nothing
+/// leave the present value alone.
 IntegerRange integerRange(const FeatureInfo& info);
 
 /// What an integer needs to be edited without loss.

@@ -6,45 +6,21 @@ namespace Name = FeatureNames;
 
 namespace {
 
-enum class Quantity {
-    OffsetX,
-    OffsetY,
-    Width,
-    Height,
-    Other,
-};
+constexpr qint64 ownBound = -1;
 
-Quantity quantityOf(const QString& feature)
+bool isOffset(const QString& feature)
 {
-    if (feature == Name::subRegionOffsetX || feature == Name::offsetX)
-        return Quantity::OffsetX;
-    if (feature == Name::subRegionWidth || feature == Name::width)
-        return Quantity::Width;
-    if (feature == Name::subRegionOffsetY)
-        return Quantity::OffsetY;
-    if (feature == Name::subRegionHeight)
-        return Quantity::Height;
-    return Quantity::Other;
+    return feature == Name::subRegionOffsetX || feature == Name::offsetX
+        || feature == Name::subRegionOffsetY;
 }
 
-ConstrainedRange unroundedRange(const QString& feature, const QRect& range,
-                                const TableGeometry& present)
+std::optional<Qt::Orientation> axisOf(const QString& feature)
 {
-    const qint64 behindRight = static_cast<qint64>(range.x()) + range.width();
-    const qint64 behindBottom = static_cast<qint64>(range.y()) + range.height();
-    switch (quantityOf(feature)) {
-    case Quantity::OffsetX:
-        return {range.x(), behindRight - present.width};
-    case Quantity::Width:
-        return {-1, behindRight - present.offsetX};
-    case Quantity::OffsetY:
-        return {range.y(), behindBottom - present.height};
-    case Quantity::Height:
-        return {-1, behindBottom - present.offsetY};
-    case Quantity::Other:
-        break;
-    }
-    return {};
+    if (feature == Name::subRegionOffsetY || feature == Name::subRegionHeight)
+        return Qt::Vertical;
+    if (feature == Name::subRegionWidth || feature == Name::width || isOffset(feature))
+        return Qt::Horizontal;
+    return std::nullopt;
 }
 
 } // namespace
@@ -56,26 +32,39 @@ int masterRegion(int region, const QString& feature, const QStringList& constrai
 
     if (region == 0 || !constrained.contains(feature))
         return -1;
-    if (region != tileCorner || constrained.size() < featuresOfTwoMasters)
+    const auto axis = axisOf(feature);
+    if (region != tileCorner || constrained.size() < featuresOfTwoMasters || !axis)
         return 0;
-    switch (quantityOf(feature)) {
-    case Quantity::OffsetY:
-    case Quantity::Height:
-        return 2;
-    case Quantity::OffsetX:
-    case Quantity::Width:
-        return 1;
-    case Quantity::Other:
-        break;
-    }
-    return 0;
+    return *axis == Qt::Vertical ? 2 : 1;
+}
+
+QStringList counterparts(const QString& feature)
+{
+    const auto axis = axisOf(feature);
+    if (!axis)
+        return {};
+    if (*axis == Qt::Vertical)
+        return {isOffset(feature) ? Name::subRegionHeight : Name::subRegionOffsetY};
+    return isOffset(feature) ? QStringList{Name::subRegionWidth, Name::width}
+                             : QStringList{Name::subRegionOffsetX, Name::offsetX};
 }
 
 ConstrainedRange constrainedRange(const QString& feature, const QRect& range,
-                                  const TableGeometry& present, qint64 increment)
+                                  std::optional<qint64> counterpart, qint64 increment)
 {
-    ConstrainedRange result = unroundedRange(feature, range, present);
-    if (result.maximum != -1 && increment > 0)
-        result.maximum -= result.maximum % increment;
+    const auto axis = axisOf(feature);
+    if (!axis)
+        return {};
+    const bool isVertical = *axis == Qt::Vertical;
+    const qint64 begin = isVertical ? range.y() : range.x();
+    const qint64 size = isVertical ? range.height() : range.width();
+    ConstrainedRange result;
+    if (isOffset(feature))
+        result.minimum = begin;
+    if (!counterpart || begin + size - *counterpart == ownBound)
+        return result;
+    result.maximum = begin + size - *counterpart;
+    if (increment > 0)
+        *result.maximum -= *result.maximum % increment;
     return result;
 }

@@ -3,29 +3,27 @@
 #include <QRect>
 #include <QStringList>
 
+#include <optional>
+
 /// The region whose value an edited one stands for, -1 for the edited region alone. Region 3 of a
 /// two-by-two tile takes its rows from region 2 and its columns from region 1; every other
 /// constrained feature is region 0's.
 /// @param constrained the features that the region shares
 int masterRegion(int region, const QString& feature, const QStringList& constrained);
 
-/// Offset and size of a region as its table shows them, sensor pixels.
-struct TableGeometry
-{
-    qint64 offsetX = 0;
-    qint64 offsetY = 0;
-    qint64 width = 0;
-    qint64 height = 0;
-};
-
-/// Bounds for editing a feature; -1 keeps the feature's own.
+/// Bounds for editing a feature; empty where it keeps its own.
 struct ConstrainedRange
 {
-    qint64 minimum = -1;
-    qint64 maximum = -1;
+    std::optional<qint64> minimum;
+    std::optional<qint64> maximum;
 };
 
+/// The size that goes with an offset and the offset that goes with a size: its names, newest first;
+/// none for any other feature.
+QStringList counterparts(const QString& feature);
+
 /// The bounds that keep a region inside @p range, sensor pixels.
+/// @param counterpart as the region has it; without it the maximum is the feature's own
 /// @param increment of the feature; 0 or less rounds nothing
 ConstrainedRange constrainedRange(const QString& feature, const QRect& range,
-                                  const TableGeometry& present, qint64 increment);
+                                  std::optional<qint64> counterpart, qint64 increment);

@@ -128,6 +128,10 @@ private slots:
             {"Third"});
         row("entry from the list", "ModeSelector", chooseFromList, {"Third"});
         row("register", "Register", type("c0ffee"), {0xC0FFEE});
+        row("register of a wide range", "WideRegister", type("ff"), {0xFF});
+        row("more than eight digits, stays open", "WideRegister", keys({Qt::Key_Return}), {});
+        row("eight digits left", "WideRegister",
+            keys({Qt::Key_End, Qt::Key_Backspace, Qt::Key_Return}), {0x1C0FFEE0});
         row("address", "Address", type("192.168.10.2"), {0xC0A80A02});
         row("station", "Station", type("00-0A:1b-2C:3d-4E"), {0x000A1B2C3D4E});
         row("command", "Run", click, {sim::Value()});
@@ -197,7 +201,7 @@ private slots:
         emit f.table->model()->dataChanged(f.table->currentIndex(), f.table->currentIndex());
         QCOMPARE(field->text(), QString("half"));
         QTest::keyClick(field, Qt::Key_Escape);
-        f.features->updateFeatures({"Text"});
+        f.features->updateFeatures(f.features->pendingFeatures());
         QCOMPARE(f.shown("Text"), QVariant("other"));
     }
 
@@ -227,6 +231,18 @@ private slots:
         }
     }
 
+    /// Which the owner does before a drag on its label begins.
+    void finishesForItsOwner()
+    {
+        for (const bool acceptable : {true, false}) {
+            FeaturesTable f;
+            type(acceptable ? "42" : "7000", Qt::Key_unknown)(f, f.open("Count"));
+            f.features->finishEditing();
+            QVERIFY(!f.features->isEditing());
+            QCOMPARE(f.writes(), acceptable ? 1 : 0);
+        }
+    }
+
     void writesWhenHidden()
     {
         for (const bool active : {true, false}) {
@@ -248,7 +264,7 @@ private slots:
         f.open("Count");
         auto* slider = f.slider();
         const int center = slider->height() / 2;
-        press(slider, {slider->width() * 10 / 1000, center});
+        press(slider, {slider->transform(slider->value()), center});
         QElapsedTimer held;
         held.start();
         int x = 10;

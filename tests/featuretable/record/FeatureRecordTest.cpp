@@ -30,9 +30,10 @@ FeatureInfo infoOf(const FeatureValue& value, const FeatureValue& minimum,
     return info;
 }
 
-const IntegerNotation& notationOrDecimal(const QString& representation)
+/// That of the representation by which the row is named.
+const IntegerNotation& notationOrDecimal()
 {
-    const IntegerNotation* special = notationFor(representation);
+    const IntegerNotation* special = notationFor(infoOf(0, 0, 0, QTest::currentDataTag()));
     return special ? *special : decimalNotation();
 }
 
@@ -48,7 +49,7 @@ private slots:
     void readsAndWritesNotations_data()
     {
         const DataTable row([](QString typed, qint64 value, const QString& shown) {
-            const IntegerNotation& notation = notationOrDecimal(QTest::currentDataTag());
+            const IntegerNotation& notation = notationOrDecimal();
             int position = 0;
             const IntegerValidator validator(notation, {lowest, highest}, nullptr);
             QCOMPARE(validator.validate(typed, position), QValidator::Acceptable);
@@ -72,7 +73,7 @@ private slots:
     void acceptsIntegerText_data()
     {
         const DataTable row([](QString typed, QValidator::State state) {
-            const IntegerNotation& notation = notationOrDecimal(QTest::currentDataTag());
+            const IntegerNotation& notation = notationOrDecimal();
             const IntegerValidator validator(notation, {0, 256}, nullptr);
             int position = 0;
             QCOMPARE(validator.validate(typed, position), state);
@@ -130,8 +131,13 @@ private slots:
         row("beyond 2^53", 0, twoTo53 + 1, 5, text);
         row("unlimited", lowest, highest, 5, text);
         row("stale value", 0, 10, twoTo53 + 1, text);
-        row("range not read", -1, -1, 5, spin53);
         row("one value", 5, 5, 5, spin32);
+        row("nothing but the present value", twoTo53, 0, 5, spin32);
+        QVERIFY(integerRange(infoOf(5, 7, 6)).contains(5));
+        QVERIFY(!integerRange(infoOf(5, 7, 6)).contains(6));
+        const IntegerRange unknown = integerRange(FeatureInfo());
+        QCOMPARE(unknown.minimum, std::int64_t{-twoTo53});
+        QCOMPARE(unknown.maximum, std::int64_t{twoTo53});
     }
     void choosesTheIntegerField() { runRow(); }
 
@@ -221,9 +227,10 @@ private slots:
         QCOMPARE(cellText(info, qint64{255}), QString("FF"));
         QCOMPARE(accessibleCellText(info, qint64{255}), QString("Register %2: FF us"));
         QCOMPARE(cellText(info, 1234567.5), QString("1234567.5"));
-        QCOMPARE(cellText(info, qint64{0x100000000}), QString("4294967296"));
         info.maximum = FeatureValue(std::int64_t{0x100000000});
-        QCOMPARE(cellText(info, qint64{255}), QString("255"));
+        QCOMPARE(cellText(info, qint64{0x1C0FFEE00}), QString("1C0FFEE00"));
+        QCOMPARE(cellText(info, qint64{-1}), QString("FFFFFFFFFFFFFFFF"));
+        QCOMPARE(cellText(info, {}), QString());
         info.isCommand = true;
         QCOMPARE(cellText(info, qint64{3}), QString("Execute"));
     }

@@ -2,7 +2,6 @@
 #include "RectText.h"
 #include "multiregion/label/DragChanges.h"
 #include "multiregion/label/RegionRanges.h"
-#include "multiregion/rules/TableConstraints.h"
 
 #include <QRandomGenerator>
 
@@ -192,39 +191,6 @@ private slots:
         QCOMPARE(range(ArrangementMode::Horizontal, 1), QString("100,0 200x400"));
         QCOMPARE(range(ArrangementMode::Horizontal, 2), QString("250,0 250x400"));
     }
-
-    void findsMasters()
-    {
-        const QStringList two{"SubRegionOffsetY", "SubRegionHeight"};
-        const QStringList four
-            = two + QStringList{"SubRegionOffsetX", "SubRegionWidth", "Width", "Gain"};
-        QCOMPARE(masterRegion(1, "SubRegionHeight", two), 0);
-        QCOMPARE(masterRegion(1, "SubRegionWidth", two), -1);
-        QCOMPARE(masterRegion(0, "SubRegionHeight", two), -1);
-        QCOMPARE(masterRegion(3, "SubRegionHeight", two), 0);
-        QCOMPARE(masterRegion(3, "SubRegionHeight", four), 2);
-        QCOMPARE(masterRegion(3, "Width", four), 1);
-        QCOMPARE(masterRegion(3, "OffsetX", four), -1);
-        QCOMPARE(masterRegion(3, "Gain", four), 0);
-        QCOMPARE(masterRegion(5, "Width", four), 0);
-    }
-
-    void constrainsTables_data()
-    {
-        const DataTable row([](const QString& feature, int increment, const QPoint& expected) {
-            const ConstrainedRange range
-                = constrainedRange(feature, {10, 20, 1000, 800}, {12, 6, 300, 400}, increment);
-            QCOMPARE(QPoint(static_cast<int>(range.minimum), static_cast<int>(range.maximum)),
-                     expected);
-        });
-        row("x", "SubRegionOffsetX", 8, {10, 704});
-        row("x, older name", "OffsetX", 1, {10, 710});
-        row("width", "Width", 8, {-1, 992});
-        row("y", "SubRegionOffsetY", 0, {20, 420});
-        row("height", "SubRegionHeight", -1, {-1, 814});
-        row("other", "Gain", 8, {-1, -1});
-    }
-    void constrainsTables() { runRow(); }
 };
 
 QTEST_GUILESS_MAIN(RegionConversionTest)

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "featuretable/editors/DelegateWidget.h"
+
+struct IntegerNotation;
+class QLineEdit;
+
+/// A value as text: a string, or a whole number that has a notation of its own or is too large for
+/// a spin box.
+class TextEditor : public DelegateWidget
+{
+    Q_OBJECT
+
+public:
+    /// @param notation null for strings
+    TextEditor(const FeatureInfo& info, const IntegerNotation* notation, QWidget* parent);
+
+protected:
+    bool showValue(const QVariant& value) override;
+    QVariant enteredValue() override;
+    bool isAcceptable() const override;
+
+private:
+    const IntegerNotation* m_notation;
+    QLineEdit* m_field;
+};
