@@ -2,10 +2,6 @@
 
 #include "featuretable/editors/DelegateWidget.h"
 
-CellEditing::CellEditing() = default;
-
-CellEditing::~CellEditing() = default;
-
 void CellEditing::opened(DelegateWidget* editor)
 {
     m_announced.clear();

@@ -10,10 +10,6 @@ class DelegateWidget;
 class CellEditing
 {
 public:
-    CellEditing();
-    ~CellEditing();
-    Q_DISABLE_COPY(CellEditing)
-
     /// An editor is about to open. Where none may follow, closed() ends the announcement.
     void announce(const QString& feature) { m_announced = feature; }
     void opened(DelegateWidget* editor);

@@ -21,6 +21,14 @@ int heightOfEditors()
                      QSpinBox().sizeHint().height()});
 }
 
+DelegateWidget* delegateWidget(QWidget* editor)
+{
+    auto* widget = qobject_cast<DelegateWidget*>(editor);
+    if (!widget)
+        qDebug() << "Unhandled class: " << editor->metaObject()->className();
+    return widget;
+}
+
 // The view would not get the focus back by itself, for it is a control inside the editor that has
 // it.
 void returnFocus(const QWidget& editor)
@@ -63,24 +71,16 @@ QWidget* FeatureItemDelegate::createEditor(QWidget* parent, const QStyleOptionVi
 
 void FeatureItemDelegate::setEditorData(QWidget* editor, const QModelIndex& index) const
 {
-    auto* widget = qobject_cast<DelegateWidget*>(editor);
-    if (!widget) {
-        qDebug() << "Unhandled class: " << editor->metaObject()->className();
-        return;
-    }
     const auto info = index.data(Qt::UserRole).value<FeatureInfo>();
-    widget->fill(index.data(Qt::DisplayRole), toVariant(info.value));
+    if (DelegateWidget* widget = delegateWidget(editor))
+        widget->fill(index.data(Qt::DisplayRole), toVariant(info.value));
 }
 
 void FeatureItemDelegate::setModelData(QWidget* editor, QAbstractItemModel* model,
                                        const QModelIndex& index) const
 {
-    auto* widget = qobject_cast<DelegateWidget*>(editor);
-    if (!widget) {
-        qDebug() << "Unhandled class: " << editor->metaObject()->className();
-        return;
-    }
-    if (const QVariant value = widget->takeNewValue(); value.isValid())
+    DelegateWidget* widget = delegateWidget(editor);
+    if (const QVariant value = widget ? widget->takeNewValue() : QVariant(); value.isValid())
         model->setData(index, value, Qt::DisplayRole);
 }
 

@@ -5,7 +5,6 @@
 #include "featuretable/FeatureNameDelegate.h"
 #include "featuretable/FeatureValueItem.h"
 #include "featuretable/MyTableWidget.h"
-#include "featuretable/record/FeatureFilter.h"
 #include "featuretable/record/FeatureInfoReading.h"
 
 #include <QBrush>
@@ -22,24 +21,6 @@ QBrush nameBrush(bool writable)
 {
     return QColor(writable ? QStringLiteral("#006400") : QStringLiteral("grey"));
 }
-
-class UpdatesSuspended
-{
-public:
-    explicit UpdatesSuspended(QWidget& widget)
-        : m_widget(widget)
-        , m_before(widget.updatesEnabled())
-    {
-        widget.setUpdatesEnabled(false);
-    }
-    ~UpdatesSuspended() { m_widget.setUpdatesEnabled(m_before); }
-
-    Q_DISABLE_COPY(UpdatesSuspended)
-
-private:
-    QWidget& m_widget;
-    const bool m_before;
-};
 
 bool isEditable(const QTableWidgetItem& item)
 {
@@ -105,17 +86,19 @@ FeaturesTableWidget::~FeaturesTableWidget()
 void FeaturesTableWidget::setFilter(const QString& filter)
 {
     // Not the table itself, which would paint its frame as well.
-    const UpdatesSuspended cells(*m_table->viewport());
-    const UpdatesSuspended header(*m_table->verticalHeader());
-    const FeatureInfo none;
+    const auto setUpdates = [this](bool enabled) {
+        m_table->viewport()->setUpdatesEnabled(enabled);
+        m_table->verticalHeader()->setUpdatesEnabled(enabled);
+    };
+    setUpdates(false);
     for (int row = 0; row < m_table->rowCount(); ++row) {
-        const QTableWidgetItem* item = m_table->item(row, ValueColumn);
-        const QVariant record = item ? item->data(Qt::UserRole) : QVariant();
+        const QVariant record = m_table->model()->index(row, ValueColumn).data(Qt::UserRole);
         const FeatureInfo* info = recordIn(record);
-        const bool hidden = !matchesFilter(info ? *info : none, filter);
-        if (m_table->isRowHidden(row) != hidden)
-            m_table->setRowHidden(row, hidden);
+        const bool isHidden = info && !matchesFilter(*info, filter);
+        if (m_table->isRowHidden(row) != isHidden)
+            m_table->setRowHidden(row, isHidden);
     }
+    setUpdates(true);
 }
 
 void FeaturesTableWidget::updateFeatures(const QStringList& features)

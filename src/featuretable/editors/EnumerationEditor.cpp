@@ -1,10 +1,12 @@
 #include "featuretable/editors/EnumerationEditor.h"
 
-#include "featuretable/editors/EntryBox.h"
+#include <QComboBox>
+#include <QEvent>
+#include <QScopedValueRollback>
 
 EnumerationEditor::EnumerationEditor(const FeatureInfo& info, QWidget* parent)
     : DelegateWidget(info, parent)
-    , m_box(new EntryBox(this))
+    , m_box(new QComboBox(this))
 {
     for (const FeatureValue& entry : info.enumEntries)
         m_box->addItem(toVariant(entry).toString());
@@ -25,9 +27,21 @@ QVariant EnumerationEditor::enteredValue()
     return m_box->currentIndex() < 0 ? QVariant() : m_box->currentText();
 }
 
+// An entry passed by keys or wheel is told as one chosen from the list is.
+bool EnumerationEditor::eventFilter(QObject* watched, QEvent* event)
+{
+    if (DelegateWidget::eventFilter(watched, event))
+        return true;
+    if (event->type() != QEvent::KeyPress && event->type() != QEvent::Wheel)
+        return false;
+    const QScopedValueRollback stepping(m_isStepping, true);
+    watched->event(event);
+    return true;
+}
+
 void EnumerationEditor::onActivated()
 {
-    if (m_box->isStepping())
+    if (m_isStepping)
         return;
     touch();
     if (end())

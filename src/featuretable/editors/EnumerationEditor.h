@@ -2,7 +2,7 @@
 
 #include "featuretable/editors/DelegateWidget.h"
 
-class EntryBox;
+class QComboBox;
 
 /// The entries of an enumeration. One chosen from the open list is final; keys and wheel walk
 /// through the closed list until Return.
@@ -16,9 +16,11 @@ public:
 protected:
     bool showValue(const QVariant& value) override;
     QVariant enteredValue() override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void onActivated();
 
-    EntryBox* m_box;
+    QComboBox* m_box;
+    bool m_isStepping = false;
 };

@@ -22,6 +22,15 @@ bool operator==(const FeatureInfo& left, const FeatureInfo& right)
     return membersOf(left) == membersOf(right);
 }
 
+bool matchesFilter(const FeatureInfo& info, const QString& filter)
+{
+    const QString wanted = filter.trimmed();
+    const auto contains = [&wanted](const std::string& text) {
+        return QString::fromStdString(text).contains(wanted, Qt::CaseInsensitive);
+    };
+    return contains(info.name) || contains(info.displayName) || contains(info.description);
+}
+
 const FeatureInfo* recordIn(const QVariant& data)
 {
     return data.userType() == qMetaTypeId<FeatureInfo>()

@@ -41,6 +41,10 @@ bool operator==(const FeatureInfo& left, const FeatureInfo& right);
 
 Q_DECLARE_METATYPE(FeatureInfo)
 
+/// Whether the name, the display name or the description contains @p filter, in any case of
+/// letters. Blanks around the filter do not count; an empty filter matches everything.
+bool matchesFilter(const FeatureInfo& info, const QString& filter);
+
 /// The record in a cell's data, which must outlive it; null when there is none.
 const FeatureInfo* recordIn(const QVariant& data);
 

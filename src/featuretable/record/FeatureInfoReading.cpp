@@ -7,14 +7,12 @@
 
 namespace {
 
-FeatureValue toValue(const QString& text)
+template <typename Type> FeatureValue toValue(const Type& value)
 {
-    return text.toStdString();
-}
-
-template <typename Number> FeatureValue toValue(Number number)
-{
-    return number;
+    if constexpr (std::is_same_v<Type, QString>)
+        return value.toStdString();
+    else
+        return value;
 }
 
 /// What a complete reading does not tell, the camera does not have.

@@ -9,15 +9,19 @@ namespace {
 constexpr int decimalBase = 10;
 constexpr int hexBase = 16;
 constexpr int bitsPerByte = 8;
+constexpr int ipBytes = 4;
 constexpr int macBytes = 6;
 constexpr std::uint64_t byteMask = 0xFF;
 
-std::uint64_t byteOf(std::int64_t value, int index)
+// The first text is the highest byte.
+QStringList toBytes(std::int64_t value, int count, int base, int digits)
 {
-    return (static_cast<std::uint64_t>(value) >> (index * bitsPerByte)) & byteMask;
+    QStringList bytes;
+    for (auto rest = static_cast<std::uint64_t>(value); bytes.size() < count; rest >>= bitsPerByte)
+        bytes.prepend(QStringLiteral("%1").arg(rest & byteMask, digits, base, QLatin1Char('0')));
+    return bytes;
 }
 
-// The first text is the highest byte.
 std::int64_t fromBytes(const QStringList& bytes, int base)
 {
     std::uint64_t value = 0;
@@ -50,11 +54,7 @@ std::optional<std::int64_t> fromHex(const QString& text)
 
 QString toIPv4(std::int64_t value)
 {
-    return QStringLiteral("%1.%2.%3.%4")
-        .arg(byteOf(value, 3))
-        .arg(byteOf(value, 2))
-        .arg(byteOf(value, 1))
-        .arg(byteOf(value, 0));
+    return toBytes(value, ipBytes, decimalBase, 1).join(QLatin1Char('.'));
 }
 
 std::optional<std::int64_t> fromIPv4(const QString& text)
@@ -64,10 +64,7 @@ std::optional<std::int64_t> fromIPv4(const QString& text)
 
 QString toMac(std::int64_t value)
 {
-    QStringList bytes;
-    for (int index = macBytes - 1; index >= 0; --index)
-        bytes.append(QStringLiteral("%1").arg(byteOf(value, index), 2, hexBase, QLatin1Char('0')));
-    return bytes.join(QLatin1Char(':'));
+    return toBytes(value, macBytes, hexBase, 2).join(QLatin1Char(':'));
 }
 
 std::optional<std::int64_t> fromMac(const QString& text)

@@ -1,6 +1,5 @@
 #include "featuretable/record/IntegerRange.h"
 
-#include <algorithm>
 #include <limits>
 
 IntegerRange integerRange(const FeatureInfo& info)
@@ -15,9 +14,9 @@ IntegerRange integerRange(const FeatureInfo& info)
 
 IntegerField integerFieldFor(const IntegerRange& range, std::int64_t value)
 {
-    const auto fits
-        = [lowest = std::min(range.minimum, value), highest = std::max(range.maximum, value)](
-              const IntegerRange& type) { return type.contains(lowest) && type.contains(highest); };
+    const auto fits = [&](const IntegerRange& type) {
+        return type.contains(range.minimum) && type.contains(range.maximum) && type.contains(value);
+    };
     constexpr IntegerRange ofInt{std::numeric_limits<int>::lowest(),
                                  std::numeric_limits<int>::max()};
     if (fits(ofInt))

@@ -3,7 +3,6 @@
 #include "featuretable/editors/SliderRange.h"
 #include "featuretable/record/CellText.h"
 #include "featuretable/record/DoubleText.h"
-#include "featuretable/record/FeatureFilter.h"
 #include "featuretable/record/IntegerNotation.h"
 #include "featuretable/record/IntegerRange.h"
 
@@ -57,7 +56,6 @@ private slots:
             QCOMPARE(notation.toText(value), shown);
         });
         row("HexNumber", "c0ffee", 0xC0FFEE, "C0FFEE");
-        row("HexNumber", "0", 0, "0");
         row("HexNumber", "0000000a", 0xA, "A");
         row("HexNumber", "FFFFFFFF", 0xFFFFFFFF, "FFFFFFFF");
         row("IPV4Address", "192.168.10.2", 0xC0A80A02, "192.168.10.2");
@@ -157,9 +155,8 @@ private slots:
         row("float", infoOf(5.0, 0.0, 10.0), "none");
         row("logarithmic float", infoOf(5.0, 0.1, 10.0, "Logarithmic"), "logarithmic");
         row("float from 0", infoOf(5.0, 0.0, 10.0, "Logarithmic"), "none");
-        row("exposure time", infoOf(5.0, 0.1, 10.0, {}, "ExposureTime"), "logarithmic");
-        row("older exposure time", infoOf(5.0, 0.1, 10.0, {}, "ExposureTimeAbs"), "logarithmic");
-        row("exposure time from 0", infoOf(5.0, 0.0, 10.0, {}, "ExposureTimeAbs"), "none");
+        row("exposure time", infoOf(5.0, 0.1, 10.0, {}, "ExposureTimeAbs"), "logarithmic");
+        row("exposure time from 0", infoOf(5.0, 0.0, 10.0, {}, "ExposureTime"), "none");
         row("unlimited", infoOf(5.0, 0.1, infinity, "Logarithmic"), "none");
         row("not a number", infoOf(5.0, std::nan(""), 10.0, "Logarithmic"), "none");
         FeatureInfo unbounded = infoOf(5, 0, 0);
@@ -181,10 +178,7 @@ private slots:
         row("last whole step", 0.0, 1023.0, 16.0, 1023.0, 1008.0, 63);
         row("from the minimum", 3.0, 11.0, 4.0, 6.0, 7.0, 2);
         row("below", 3.0, 11.0, 4.0, -5.0, 3.0, 2);
-        row("above", 3.0, 11.0, 4.0, infinity, 11.0, 2);
-        row("tenths", 0.0, 1.0, 0.1, 0.31, 0.3, 10);
         row("last tenth", 0.0, 0.3, 0.1, 0.3, 0.3, 3);
-        row("no increment", 1.0, 2.0, 0.0, 1.23456789012, 1.23456789012, 10000);
         row("increment -1", 1.0, 2.0, -1.0, 1.5, 1.5, 10000);
         row("minimum with many digits", 1.0 / 3.0, 10.0, 0.1, 0.0, 1.0 / 3.0, 96);
         row("larger than the range", 0.0, 5.0, 16.0, 4.0, 0.0, 1);
@@ -235,23 +229,16 @@ private slots:
         QCOMPARE(cellText(info, qint64{3}), QString("Execute"));
     }
 
-    void filters_data()
+    void filters()
     {
-        const DataTable row([](const QString& filter, bool matches) {
-            FeatureInfo info;
-            info.name = "ExposureTimeAbs";
-            info.displayName = "Exposure Time (abs)";
-            info.description = "Time that the sensor is exposed.";
-            QCOMPARE(matchesFilter(info, filter), matches);
-        });
-        row("empty", "", true);
-        row("name", "exposuretime", true);
-        row("display name", " time (abs) ", true);
-        row("description", "SENSOR", true);
-        row("no pattern", "Expo.*Time", false);
-        row("none", "gain", false);
+        FeatureInfo info;
+        info.name = "ExposureTimeAbs";
+        info.displayName = "Exposure Time (abs)";
+        info.description = "Time that the sensor is exposed.";
+        for (const char* filter : {"", "exposuretime", " time (abs) ", "SENSOR"})
+            QVERIFY2(matchesFilter(info, filter), filter);
+        QVERIFY(!matchesFilter(info, "Expo.*Time") && !matchesFilter(info, "gain"));
     }
-    void filters() { runRow(); }
 };
 
 QTEST_MAIN(FeatureRecordTest)
