@@ -106,7 +106,7 @@ void MultiROIWidget::createLabel()
     connect(m_label, &Label::labelGeometryChanged, this, &MultiROIWidget::onDragAreaResized);
     connect(m_label, &Label::loggingMessage, this, &MultiROIWidget::loggingMessage);
     connect(m_label, &Label::rubberChangeFinished, this, &MultiROIWidget::refreshPendingSoon);
-    connect(m_label, &Label::rubberChangeDropped, this, &MultiROIWidget::refreshPendingSoon);
+    connect(m_label, &Label::dragDropped, this, &MultiROIWidget::refreshPendingSoon);
     // The buttons' rules ask the label which regions are active.
     connect(this, &MultiROIWidget::regionActivated, m_label, &Label::onRegionActivated);
     connect(this, &MultiROIWidget::regionActivated, this, &MultiROIWidget::onRegionActivated);

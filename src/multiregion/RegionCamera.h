@@ -1,6 +1,6 @@
 #pragma once
 
-#include "multiregion/label/KnownRegions.h"
+#include "multiregion/label/RegionConversion.h"
 #include "multiregion/rules/SizeRange.h"
 
 #include <QRect>

@@ -109,7 +109,7 @@ private:
             return area.topLeft()
                 + QPoint(random.bounded(area.width()), random.bounded(area.height()));
         };
-        const QRect image({}, open.label->imageSize());
+        const QRect image({}, open.label->shownSize());
         const auto lines = open.label->findChildren<LineRubberBand*>();
         const QPoint from = anywhere(
             byLine && !lines.isEmpty() ? lines[random.bounded(lines.size())]->geometry() : image);

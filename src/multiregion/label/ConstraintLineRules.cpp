@@ -64,6 +64,22 @@ bool isAlongLine(int length, int point)
     return point >= -grabZone && point < length + grabZone;
 }
 
+bool isForLines(const RegionSpan& band, int point, const QVector<int>& positions)
+{
+    const int third = band.length / 3;
+    if (point < band.start + third || point >= band.end() - third)
+        return true;
+    const auto isInAZone = [&positions](int pixel) {
+        return std::any_of(positions.begin(), positions.end(),
+                           [pixel](int position) { return grabDistance(position, pixel); });
+    };
+    for (int pixel = band.start; pixel < band.end(); ++pixel) {
+        if (!isInAZone(pixel))
+            return true;
+    }
+    return false;
+}
+
 MoveConstraints constraintsFromLine(const LineOnBand& line, const QRect& band)
 {
     MoveConstraints constraints;

@@ -52,6 +52,11 @@ std::optional<int> grabDistance(int position, int point);
 /// as a grab allows.
 bool isAlongLine(int length, int point);
 
+/// Whether a point of a band, in the zone of one of the lines at @p positions, is theirs. Where
+/// their zones leave nothing of the band they reach a third into it, so that there is something to
+/// take hold of.
+bool isForLines(const RegionSpan& band, int point, const QVector<int>& positions);
+
 /// How a line holds a band that is being moved.
 struct LineOnBand
 {

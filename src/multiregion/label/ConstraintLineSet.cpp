@@ -1,28 +1,38 @@
 #include "multiregion/label/ConstraintLineSet.h"
 
-#include "multiregion/label/KnownRegions.h"
 #include "multiregion/label/LineRubberBand.h"
-#include "multiregion/label/MultiRubberBandLabel.h"
 #include "multiregion/label/RectangleRubberBand.h"
-#include "multiregion/label/RegionBandLimits.h"
+#include "multiregion/label/RegionStore.h"
+#include "sensor/SensorLabel.h"
 
 #include <algorithm>
 
-ConstraintLineSet::ConstraintLineSet(MultiRubberBandLabel* label)
+namespace {
+
+void connectLine(LineRubberBand* line, RectangleRubberBand* band)
+{
+    QObject::connect(line, &LineRubberBand::geometryChanged, band,
+                     &RectangleRubberBand::onConstraintBandChanged);
+}
+
+} // namespace
+
+ConstraintLineSet::ConstraintLineSet(SensorLabel* label)
     : m_label(label)
 {
 }
 
-void ConstraintLineSet::update(const QVector<ConstraintGroup>& groups, const KnownRegions& regions)
+void ConstraintLineSet::update(const RegionStore& regions, const Bands& bands)
 {
     QVector<LineRubberBand*> current;
-    for (const ConstraintGroup& group : groups) {
+    for (const ConstraintGroup& group : regions.groups()) {
+        const QColor color = bands[group.master()]->shownColor();
         for (const LineEdge edge : {LineEdge::Leading, LineEdge::Trailing}) {
             LineRubberBand* line = find(group, edge);
             if (!line)
-                line = create(group);
+                line = create(group, color, bands);
             line->setEdge(group, edge);
-            line->setColor(m_label->shownColor(group.master()));
+            line->setColor(color);
             place(line, regions);
             current << line;
         }
@@ -32,7 +42,7 @@ void ConstraintLineSet::update(const QVector<ConstraintGroup>& groups, const Kno
         line->announce();
 }
 
-void ConstraintLineSet::follow(int region, const KnownRegions& regions)
+void ConstraintLineSet::follow(int region, const RegionStore& regions)
 {
     for (LineRubberBand* line : m_lines.value(region))
         place(line, regions);
@@ -56,42 +66,27 @@ void ConstraintLineSet::connectTo(RectangleRubberBand* band)
 {
     for (const auto& lines : qAsConst(m_lines)) {
         for (LineRubberBand* line : lines)
-            QObject::connect(line, &LineRubberBand::geometryChanged, band,
-                             &RectangleRubberBand::onConstraintBandChanged);
+            connectLine(line, band);
     }
 }
 
-LineRubberBand* ConstraintLineSet::lineAt(const QPoint& point) const
+LineRubberBand* ConstraintLineSet::lineAt(const QPoint& point, const QRect& band) const
 {
     LineRubberBand* nearest = nullptr;
+    QMap<Qt::Orientation, QVector<int>> positions;
     for (const auto& lines : m_lines) {
         for (LineRubberBand* line : lines) {
-            const int distance = line->distanceTo(point);
-            if (distance >= 0 && (!nearest || distance < nearest->distanceTo(point)))
+            positions[line->group().axis()] << line->position();
+            const std::optional<int> distance = line->distanceTo(point);
+            if (distance && (!nearest || *distance < *nearest->distanceTo(point)))
                 nearest = line;
         }
     }
-    return nearest;
-}
-
-void ConstraintLineSet::grab(LineRubberBand* line, const KnownRegions& regions,
-                             const SensorMapping& mapping)
-{
-    const ConstraintGroup& group = line->group();
-    const Qt::Orientation axis = group.axis();
-    const BandSizeLimits limits = regionBandLimits(regions, group.members, mapping);
-    LineSurroundings surroundings{spanOf(regions.band(group.master()), axis),
-                                  {},
-                                  lengthOf(mapping.shown, axis),
-                                  lengthOf(limits.minimum, axis),
-                                  lengthOf(limits.maximum, axis)};
-    const auto shown = regions.shown();
-    for (const int region : shown) {
-        if (!group.members.contains(region))
-            surroundings.others << spanOf(regions.band(region), axis);
-    }
-    line->setBounds(lineBounds(line->edge(), surroundings));
-    line->onMoveStarted();
+    if (!nearest || !band.contains(point))
+        return nearest;
+    const Qt::Orientation axis = nearest->group().axis();
+    const int place = axis == Qt::Horizontal ? point.x() : point.y();
+    return isForLines(spanOf(band, axis), place, positions[axis]) ? nearest : nullptr;
 }
 
 LineRubberBand* ConstraintLineSet::find(const ConstraintGroup& group, LineEdge edge) const
@@ -103,13 +98,14 @@ LineRubberBand* ConstraintLineSet::find(const ConstraintGroup& group, LineEdge e
     return it == lines.end() ? nullptr : *it;
 }
 
-LineRubberBand* ConstraintLineSet::create(const ConstraintGroup& group)
+LineRubberBand* ConstraintLineSet::create(const ConstraintGroup& group, const QColor& color,
+                                          const Bands& bands)
 {
     const int orientation = group.kind == ConstraintGroup::Row ? LineRubberBand::horizontal
                                                                : LineRubberBand::vertical;
-    auto* line = new LineRubberBand(orientation, 0, m_label, 1, m_label->shownColor(group.master()),
-                                    m_label);
-    m_label->connectLine(line);
+    auto* line = new LineRubberBand(orientation, 0, m_label, 1, color, m_label);
+    for (RectangleRubberBand* band : bands)
+        connectLine(line, band);
     m_lines[group.master()] << line;
     line->show();
     return line;
@@ -134,10 +130,10 @@ void ConstraintLineSet::removeAllBut(const QVector<LineRubberBand*>& kept)
     }
 }
 
-void ConstraintLineSet::place(LineRubberBand* line, const KnownRegions& regions)
+void ConstraintLineSet::place(LineRubberBand* line, const RegionStore& regions)
 {
     const ConstraintGroup& group = line->group();
-    const QSize image = m_label->imageSize();
+    const QSize image = regions.mapping().shown;
     line->place(linePosition(line->edge(), spanOf(regions.band(group.master()), group.axis())),
                 group.kind == ConstraintGroup::Row ? image.width() : image.height());
 }

@@ -6,90 +6,70 @@
 
 namespace {
 
+using Regions = QVector<ShownRegion>;
 using Changes = QMap<int, QRect>;
 
-DraggedRegion draggedRegion(const KnownRegions& regions, const SensorMapping& mapping, int region,
-                            const QRect& band)
+const ShownRegion& at(const Regions& regions, int number)
 {
-    const QRect stored = regions.rectangle(region);
-    return {stored, labelRect(stored, mapping), band, regions.limits(region)};
+    return *std::lower_bound(
+        regions.begin(), regions.end(), number,
+        [](const ShownRegion& region, int wanted) { return region.number < wanted; });
 }
 
-QVector<RegionNeighbour> neighbours(const KnownRegions& regions, const SensorMapping& mapping,
-                                    const QVector<int>& numbers)
+bool inLine(const Regions& regions, const ConstraintGroup& group, int a, int b)
 {
-    QVector<RegionNeighbour> result;
-    for (const int number : numbers) {
-        const QRect stored = regions.rectangle(number);
-        result << RegionNeighbour{stored, labelRect(stored, mapping)};
-    }
-    return result;
+    return spanOf(at(regions, a).rectangle, group.axis())
+        == spanOf(at(regions, b).rectangle, group.axis());
 }
 
-QVector<int> outsiders(const KnownRegions& regions, const ConstraintGroup& group)
+QRect rectangleAfter(const Changes& changes, const ShownRegion& region)
 {
-    QVector<int> numbers = regions.shown();
-    const auto isMember = [&group](int number) { return group.members.contains(number); };
-    numbers.erase(std::remove_if(numbers.begin(), numbers.end(), isMember), numbers.end());
-    return numbers;
-}
-
-bool inLine(const KnownRegions& regions, const ConstraintGroup& group, int a, int b)
-{
-    return spanOf(regions.rectangle(a), group.axis()) == spanOf(regions.rectangle(b), group.axis());
-}
-
-QRect rectangleAfter(const KnownRegions& regions, const Changes& changes, int region)
-{
-    return changes.value(region, regions.rectangle(region));
+    return changes.value(region.number, region.rectangle);
 }
 
 /// Whether @p rectangle overlaps a region that @p region does not overlap now.
-bool overlapsAnew(const KnownRegions& regions, const Changes& changes, int region,
+bool overlapsAnew(const Regions& regions, const Changes& changes, const ShownRegion& region,
                   const QRect& rectangle)
 {
-    const QVector<int> others = regions.others(region);
-    return std::any_of(others.begin(), others.end(), [&](int other) {
-        return overlap(rectangle, rectangleAfter(regions, changes, other))
-            && !overlap(regions.rectangle(region), regions.rectangle(other));
+    return std::any_of(regions.begin(), regions.end(), [&](const ShownRegion& other) {
+        return other.number != region.number && overlap(rectangle, rectangleAfter(changes, other))
+            && !overlap(region.rectangle, other.rectangle);
     });
 }
 
 /// Keeps the shared span apart from regions outside the group, so that all members can take it.
-RegionSpan keptOffOutsiders(RegionSpan span, const DraggedRegion& dragged,
-                            const KnownRegions& regions, const ConstraintGroup& group,
-                            const SensorMapping& mapping)
+RegionSpan keptOffOutsiders(RegionSpan span, const ShownRegion& dragged, const Regions& regions,
+                            const ConstraintGroup& group, const SensorMapping& mapping)
 {
-    for (const RegionNeighbour& outsider : neighbours(regions, mapping, outsiders(regions, group)))
-        span = keptOffNeighbour(span, dragged, group.axis(), outsider);
+    for (const ShownRegion& other : regions) {
+        if (!group.members.contains(other.number))
+            span = keptOffNeighbour(span, dragged, group.axis(), other, mapping);
+    }
     return span;
 }
 
 /// Gives the members the span, where none comes to overlap another region by it.
-void alignMembers(const KnownRegions& regions, const ConstraintGroup& group, const RegionSpan& span,
+void alignMembers(const Regions& regions, const ConstraintGroup& group, const RegionSpan& span,
                   Changes& changes)
 {
     for (const int member : group.members) {
-        const QRect aligned
-            = withSpan(rectangleAfter(regions, changes, member), group.axis(), span);
-        if (aligned != rectangleAfter(regions, changes, member)
-            && !overlapsAnew(regions, changes, member, aligned))
+        const QRect present = rectangleAfter(changes, at(regions, member));
+        const QRect aligned = withSpan(present, group.axis(), span);
+        if (aligned != present && !overlapsAnew(regions, changes, at(regions, member), aligned))
             changes.insert(member, aligned);
     }
 }
 
 } // namespace
 
-QVector<RegionChange> changesAfterBandDrag(const KnownRegions& regions,
+QVector<RegionChange> changesAfterBandDrag(const Regions& regions,
                                            const QVector<ConstraintGroup>& groups,
-                                           const SensorMapping& mapping, int region,
-                                           const QRect& band)
+                                           const SensorMapping& mapping, int region)
 {
-    const DraggedRegion dragged = draggedRegion(regions, mapping, region, band);
-    const QRect converted
-        = convertedRegion(dragged, neighbours(regions, mapping, regions.others(region)), mapping);
-    if (converted == dragged.stored)
-        return {{region, dragged.stored}};
+    const ShownRegion& dragged = at(regions, region);
+    const QRect converted = convertedRegion(dragged, regions, mapping);
+    if (converted == dragged.rectangle)
+        return {{region, converted}};
 
     Changes changes{{region, converted}};
     for (const ConstraintGroup& group : groups) {
@@ -98,9 +78,9 @@ QVector<RegionChange> changesAfterBandDrag(const KnownRegions& regions,
         const RegionSpan own = spanOf(changes[region], group.axis());
         const RegionSpan shared = inLine(regions, group, region, group.master())
             ? keptOffOutsiders(own, dragged, regions, group, mapping)
-            : spanOf(regions.rectangle(group.master()), group.axis());
+            : spanOf(at(regions, group.master()).rectangle, group.axis());
         const QRect aligned = withSpan(changes[region], group.axis(), shared);
-        if (overlapsAnew(regions, changes, region, aligned))
+        if (overlapsAnew(regions, changes, dragged, aligned))
             continue;
         changes[region] = aligned;
         alignMembers(regions, group, shared, changes);
@@ -112,49 +92,43 @@ QVector<RegionChange> changesAfterBandDrag(const KnownRegions& regions,
     return result;
 }
 
-QVector<RegionChange> changesAfterLineDrag(const KnownRegions& regions,
-                                           const ConstraintGroup& group,
-                                           const SensorMapping& mapping, const RegionSpan& band)
+QVector<RegionChange> changesAfterLineDrag(const Regions& regions, const ConstraintGroup& group,
+                                           const SensorMapping& mapping)
 {
-    const int master = group.master();
-    const QRect placed = labelRect(regions.rectangle(master), mapping);
-    if (band == spanOf(placed, group.axis()))
+    const ShownRegion& master = at(regions, group.master());
+    if (spanOf(master.band, group.axis())
+        == spanOf(labelRect(master.rectangle, mapping), group.axis()))
         return {};
-    const DraggedRegion dragged
-        = draggedRegion(regions, mapping, master, withSpan(placed, group.axis(), band));
-    const RegionSpan shared = keptOffOutsiders(convertedSpan(dragged, group.axis(), mapping),
-                                               dragged, regions, group, mapping);
+    const RegionSpan shared = keptOffOutsiders(convertedSpan(master, group.axis(), mapping), master,
+                                               regions, group, mapping);
 
     Changes changes;
     alignMembers(regions, group, shared, changes);
     QVector<RegionChange> result;
     for (const int member : group.members)
-        result << RegionChange{member, rectangleAfter(regions, changes, member)};
+        result << RegionChange{member, rectangleAfter(changes, at(regions, member))};
     return result;
 }
 
-bool membersCanFollow(const KnownRegions& regions, const QVector<ConstraintGroup>& groups,
-                      int region, const QRect& band)
+bool membersCanFollow(const Regions& regions, const QVector<ConstraintGroup>& groups, int region,
+                      const QRect& band)
 {
     for (const ConstraintGroup& group : groups) {
-        const RegionSpan span = spanOf(band, group.axis());
         if (!group.members.contains(region) || !inLine(regions, group, region, group.master()))
             continue;
         for (const int member : group.members) {
             if (member == region || !inLine(regions, group, member, region))
                 continue;
-            const QRect present = regions.band(member);
-            const QRect follower = withSpan(present, group.axis(), span);
-            if (follower == present)
-                continue;
-            if (overlap(follower, band) && !overlap(present, band))
+            const QRect present = at(regions, member).band;
+            const QRect follower = withSpan(present, group.axis(), spanOf(band, group.axis()));
+            const auto isInTheWay = [&](const ShownRegion& other) {
+                const QRect obstacle = other.number == region ? band : other.band;
+                const bool isMember
+                    = other.number != region && group.members.contains(other.number);
+                return !isMember && overlap(follower, obstacle) && !overlap(present, obstacle);
+            };
+            if (follower != present && std::any_of(regions.begin(), regions.end(), isInTheWay))
                 return false;
-            for (const int other : regions.others(member)) {
-                if (other != region && !group.members.contains(other)
-                    && overlap(follower, regions.band(other))
-                    && !overlap(present, regions.band(other)))
-                    return false;
-            }
         }
     }
     return true;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "multiregion/label/KnownRegions.h"
+#include "multiregion/label/RegionConversion.h"
 #include "multiregion/rules/ConstraintGroups.h"
 
 /// A region's new rectangle, in sensor pixels.
@@ -10,22 +10,23 @@ struct RegionChange
     QRect rectangle;
 };
 
-/// What to report after the band of @p region was dragged to @p band: the region itself, and the
-/// members of its groups whose shared edges change with it, ascending. A region that was not in
-/// line with its group takes the group's edges. A member that would come to overlap another region
-/// stays as it is.
-QVector<RegionChange> changesAfterBandDrag(const KnownRegions& regions,
-                                           const QVector<ConstraintGroup>& groups,
-                                           const SensorMapping& mapping, int region,
-                                           const QRect& band);
+// The regions are the shown ones, ascending.
 
-/// What to report after the shared edges of @p group were dragged to @p band, label pixels along
-/// the group's axis: all members with the same edges, the master first; nothing when no edge moved.
-QVector<RegionChange> changesAfterLineDrag(const KnownRegions& regions,
+/// What to report after the band of @p region was dragged: the region itself, and the members of
+/// its groups whose shared edges change with it, ascending. A region that was not in line with its
+/// group takes the group's edges. A member that would come to overlap another region stays as it
+/// is.
+QVector<RegionChange> changesAfterBandDrag(const QVector<ShownRegion>& regions,
+                                           const QVector<ConstraintGroup>& groups,
+                                           const SensorMapping& mapping, int region);
+
+/// What to report after the shared edges of @p group were dragged to where its master's band has
+/// them: all members with the same edges, the master first; nothing when no edge moved.
+QVector<RegionChange> changesAfterLineDrag(const QVector<ShownRegion>& regions,
                                            const ConstraintGroup& group,
-                                           const SensorMapping& mapping, const RegionSpan& band);
+                                           const SensorMapping& mapping);
 
 /// Whether the members in line with @p region can follow its band to @p band without coming to
 /// overlap another one. Label pixels.
-bool membersCanFollow(const KnownRegions& regions, const QVector<ConstraintGroup>& groups,
+bool membersCanFollow(const QVector<ShownRegion>& regions, const QVector<ConstraintGroup>& groups,
                       int region, const QRect& band);

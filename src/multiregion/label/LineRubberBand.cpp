@@ -1,6 +1,6 @@
 #include "multiregion/label/LineRubberBand.h"
 
-#include "multiregion/label/MultiRubberBandLabel.h"
+#include "sensor/SensorLabel.h"
 
 #include <QPainter>
 #include <QStyle>
@@ -9,13 +9,13 @@
 #include <algorithm>
 
 LineRubberBand::LineRubberBand(int orientation, int position, QWidget* parent, int length,
-                               const QColor& color, MultiRubberBandLabel* label)
+                               const QColor& color, SensorLabel* label)
     : QRubberBand(QRubberBand::Line, parent)
     , m_orientation(orientation)
     , m_position(position)
 {
     if (label)
-        m_bounds.upper = isVertical() ? label->imageSize().width() : label->imageSize().height();
+        m_bounds.upper = isVertical() ? label->shownSize().width() : label->shownSize().height();
     place(position, length);
     setColor(color);
 }
@@ -26,12 +26,12 @@ void LineRubberBand::setEdge(const ConstraintGroup& group, LineEdge edge)
     m_edge = edge;
 }
 
-int LineRubberBand::distanceTo(const QPoint& point) const
+std::optional<int> LineRubberBand::distanceTo(const QPoint& point) const
 {
     const int length = isVertical() ? height() : width();
     if (!isAlongLine(length, isVertical() ? point.y() : point.x()))
-        return -1;
-    return grabDistance(m_position, isVertical() ? point.x() : point.y()).value_or(-1);
+        return std::nullopt;
+    return grabDistance(m_position, isVertical() ? point.x() : point.y());
 }
 
 void LineRubberBand::setBounds(const LineBounds& bounds)

@@ -6,7 +6,7 @@
 #include <QPixmap>
 #include <QRubberBand>
 
-class MultiRubberBandLabel;
+class SensorLabel;
 
 /// A constraint line on the region label: an edge that the members of a group share. Label pixels
 /// throughout.
@@ -22,7 +22,7 @@ public:
     /// @param position x of a vertical line, y of a horizontal one
     /// @param label bounds the line by its image; may be null
     LineRubberBand(int orientation, int position, QWidget* parent, int length, const QColor& color,
-                   MultiRubberBandLabel* label);
+                   SensorLabel* label);
 
     /// Which edge of which regions the line marks.
     void setEdge(const ConstraintGroup& group, LineEdge edge);
@@ -31,8 +31,8 @@ public:
 
     int position() const { return m_position; }
     bool isDragging() const { return m_dragging; }
-    /// -1 when the point is too far away to grab the line.
-    int distanceTo(const QPoint& point) const;
+    /// Of a point that is near enough to grab the line.
+    std::optional<int> distanceTo(const QPoint& point) const;
 
     void setBounds(const LineBounds& bounds);
     /// Places the line without a signal.

@@ -1,28 +1,20 @@
 #include "multiregion/label/MultiRubberBandLabel.h"
 
-#include "features/NumberConversion.h"
 #include "multiregion/label/DragChanges.h"
 #include "multiregion/label/LineRubberBand.h"
 #include "multiregion/label/RectangleRubberBand.h"
-#include "multiregion/label/RegionBandLimits.h"
 #include "multiregion/label/RegionRanges.h"
 
-#include <QResizeEvent>
+#include <QPointer>
+#include <QSignalBlocker>
 
 #include <algorithm>
 #include <utility>
 
 namespace {
 
-constexpr int minimumSide = 100; ///< label pixels
 constexpr QSize preferredSize(400, 300);
 constexpr double smallestFactor = 1e-5;
-
-QColor placeholderColor(const QColor& color)
-{
-    return needsOpaquePlaceholder(QOperatingSystemVersion::current()) ? QColor(Qt::darkGray)
-                                                                      : placeholderTint(color);
-}
 
 double ratio(int newLength, int oldLength)
 {
@@ -31,48 +23,39 @@ double ratio(int newLength, int oldLength)
 
 } // namespace
 
+// Receivers of signals may change anything, and delete the page with this label: signals come last,
+// or what follows is guarded.
+
 MultiRubberBandLabel::MultiRubberBandLabel(int sensorWidth, int sensorHeight, const QColor& color,
-                                           const QString& arrangementMode, QWidget* parent)
-    : QLabel(parent)
-    , m_color(color)
-    , m_mode(::arrangementMode(arrangementMode))
-    , m_mapping{{sensorWidth, sensorHeight}, {}}
+                                           const QString& mode, QWidget* parent)
+    : BandSurroundings({sensorWidth, sensorHeight}, color, parent)
     , m_regions(color)
+    , m_drag(&m_regions)
     , m_lines(this)
-    , m_announcements(this)
 {
-    setAttribute(Qt::WA_MouseTracking);
-    setMinimumSize(minimumSide, minimumSide);
-    m_placeholder.showPlaceholder(placeholderColor(color), m_mapping.sensor);
-    showBackground(
-        m_placeholder.fitted(m_mapping.sensor.boundedTo(SensorBackground::largestLabel)));
     // The first resize tells its factors from the sensor's size, however large a pixmap it found.
-    m_mapping.shown = m_mapping.sensor;
-    // Bands count from the left in right-to-left layouts too.
-    setLayoutDirection(Qt::LeftToRight);
-    setAlignment(Qt::AlignTop);
+    m_regions.setMapping({sensorSize(), sensorSize()});
+    m_regions.setMode(::arrangementMode(mode));
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 }
 
 void MultiRubberBandLabel::setSensorSize(const QSize& size)
 {
-    if (size == m_mapping.sensor)
+    if (size == sensorSize())
         return;
-    m_mapping.sensor = size;
-    m_placeholder.showPlaceholder(placeholderColor(m_color), size);
-    m_picture = {};
-    fitBackground();
     dropDrag();
+    setSensor(size);
+    rescale();
     arrange();
 }
 
 void MultiRubberBandLabel::setArrangementMode(const QString& mode)
 {
     const ArrangementMode newMode = ::arrangementMode(mode);
-    if (newMode == m_mode)
+    if (newMode == m_regions.mode())
         return;
-    m_mode = newMode;
     dropDrag();
+    m_regions.setMode(newMode);
     arrange();
 }
 
@@ -80,7 +63,7 @@ void MultiRubberBandLabel::setRegionLimits(int regionNo, const RegionSizeLimits&
 {
     m_regions.setLimits(regionNo, limits);
     if (auto* band = m_bands.value(regionNo))
-        band->setSizeLimits(regionBandLimits(m_regions, regionNo, m_mapping));
+        band->setSizeLimits(m_regions.bandLimits(regionNo));
 }
 
 void MultiRubberBandLabel::selectRegion(int regionNo)
@@ -100,94 +83,74 @@ QColor MultiRubberBandLabel::shownColor(int regionNo) const
     return band ? band->shownColor() : regionColor(regionNo);
 }
 
-int MultiRubberBandLabel::regionUnder(const QPoint& point) const
+std::optional<int> MultiRubberBandLabel::regionUnder(const QPoint& point) const
 {
     return m_regions.regionAt(point, m_selectedRegion);
 }
 
-int MultiRubberBandLabel::intersectingRegion(int regionNo, const QRect& band) const
+std::optional<int> MultiRubberBandLabel::intersecting(int region, const QRect& band) const
 {
-    return m_regions.intersecting(regionNo, band);
+    return m_regions.intersecting(region, band);
 }
 
-bool MultiRubberBandLabel::canBeFollowed(int regionNo, const QRect& band) const
+bool MultiRubberBandLabel::canBeFollowed(int region, const QRect& band) const
 {
-    return membersCanFollow(m_regions, m_groups, regionNo, band);
+    return m_regions.groups().isEmpty()
+        || membersCanFollow(m_regions.shown(), m_regions.groups(), region, band);
 }
 
 QVector<int> MultiRubberBandLabel::sharingRegions(int regionNo, Qt::Orientation axis) const
 {
-    for (const ConstraintGroup& group : m_groups) {
-        if (group.axis() == axis && group.members.contains(regionNo))
-            return group.members;
-    }
-    return {};
+    return ::sharingRegions(m_regions.groups(), regionNo, axis);
 }
 
 void MultiRubberBandLabel::announceRegions()
 {
-    if (m_arrangePending) {
+    if (m_arrangePending)
         arrange();
-        return;
-    }
-    const QList<int> shown = m_bands.keys();
-    for (const int region : shown)
-        emit regionColorChanged(region, shownColor(region));
-    announceConstraints();
-    updateRegionRangeRect();
-}
-
-void MultiRubberBandLabel::connectLine(LineRubberBand* line)
-{
-    connect(this, &MultiRubberBandLabel::mouseMoved, line, &LineRubberBand::moveToPoint);
-    connect(this, &MultiRubberBandLabel::rubberChangeFinished, line,
-            &LineRubberBand::onMoveFinished);
-    for (RectangleRubberBand* band : qAsConst(m_bands))
-        connect(line, &LineRubberBand::geometryChanged, band,
-                &RectangleRubberBand::onConstraintBandChanged);
+    else
+        announce({&MultiRubberBandLabel::announceColor, &MultiRubberBandLabel::announceConstraints,
+                  &MultiRubberBandLabel::announceRange});
 }
 
 QSize MultiRubberBandLabel::sizeHint() const
 {
-    return m_mapping.sensor.isEmpty() ? preferredSize
-                                      : m_mapping.sensor.scaled(preferredSize, Qt::KeepAspectRatio);
+    return sensorSize().isEmpty() ? preferredSize
+                                  : sensorSize().scaled(preferredSize, Qt::KeepAspectRatio);
 }
 
 void MultiRubberBandLabel::removeRectangle(int index)
 {
-    RectangleRubberBand* band = m_bands.value(index);
-    if (!band)
+    if (!isRegionShown(index))
         return;
-    if (m_dragState == BandDrag && m_draggedRegion == index)
+    if (m_drag.holds(index))
         dropDrag();
-    m_bands.remove(index);
-    m_regions.setShown(index, false);
+    RectangleRubberBand* band = m_bands.take(index);
+    m_regions.hide(index);
     // It may be on the stack, in the midst of its own report.
     band->hide();
     band->disconnect();
     disconnect(band);
     band->deleteLater();
+    const QPointer<MultiRubberBandLabel> guard(this);
     emit regionActivated(index, false);
-    arrange();
+    if (guard)
+        arrange();
 }
 
 void MultiRubberBandLabel::updateRegionRangeRect()
 {
-    if (signalsBlocked())
-        return;
-    const QList<int> shown = m_bands.keys();
-    for (const int region : shown)
-        m_announcements.announceRange(
-            region, rangeBetweenNeighbours(m_regions, m_mode, m_groups, m_mapping.sensor, region));
+    if (!signalsBlocked())
+        announce({&MultiRubberBandLabel::announceRange});
 }
 
 void MultiRubberBandLabel::setBackgroundImage(std::shared_ptr<QPixmap> image, QSize sensorSize,
                                               QRect cropRect)
 {
-    m_picture = {};
-    if (image && !image->isNull())
-        m_picture = KeptPicture({image, sensorSize, cropRect}, m_mapping.sensor);
-    fitBackground();
+    if (image && image->isNull())
+        image.reset();
+    setPicture({std::move(image), sensorSize, cropRect}, this->sensorSize(), size());
+    rescale();
     arrange();
 }
 
@@ -200,14 +163,8 @@ void MultiRubberBandLabel::onRegionColorChanged(int regionNo, QColor newColor)
 
 void MultiRubberBandLabel::onRegionGeometryChanged(int regionNo, QRect geometry)
 {
-    if (isDragging()) {
-        m_waiting.insert(regionNo, geometry);
-        return;
-    }
-    if (m_regions.rectangle(regionNo) == geometry)
-        return;
-    m_regions.setRectangle(regionNo, geometry);
-    if (isRegionShown(regionNo))
+    m_regions.tell(regionNo, geometry);
+    if (!m_drag.isRunning() && m_regions.applyWaiting())
         arrangeUnlessBlocked();
 }
 
@@ -219,128 +176,174 @@ void MultiRubberBandLabel::onRegionActivated(int regionNo, bool active)
         showRectangle(regionNo);
 }
 
+bool MultiRubberBandLabel::grabs(const QPoint& point) const
+{
+    return lineAt(point) || bandAt(point);
+}
+
+void MultiRubberBandLabel::press(const QPoint& point)
+{
+    const QPointer<MultiRubberBandLabel> guard(this);
+    if (m_arrangePending)
+        arrange();
+    if (LineRubberBand* line = guard ? lineAt(point) : nullptr)
+        m_drag.begin(line);
+    else if (RectangleRubberBand* band = guard ? bandAt(point) : nullptr)
+        m_drag.begin(band, point);
+    if (guard && m_drag.isRunning())
+        emit rubberChangeStarted(point);
+    else if (guard)
+        dropDrag(); // there is nothing any more
+}
+
+void MultiRubberBandLabel::drag(const QPoint& point)
+{
+    hover(point);
+    const QPointer<MultiRubberBandLabel> guard(this);
+    m_drag.moveTo(point);
+    if (!guard)
+        return;
+    const QVector<int> held = m_drag.held();
+    for (const int region : held) {
+        m_bands[region]->setGeometry(m_regions.band(region));
+        m_lines.follow(region, m_regions);
+    }
+    emit mouseMoved(point);
+}
+
+void MultiRubberBandLabel::release(const QPoint& point)
+{
+    const QVector<RegionChange> changes = m_drag.end(point);
+    const QPointer<MultiRubberBandLabel> guard(this);
+    emit rubberChangeFinished(point);
+    if (guard)
+        report(changes);
+}
+
+void MultiRubberBandLabel::drop()
+{
+    m_drag.drop();
+    m_regions.applyWaiting();
+    arrangeSilently();
+    announceSoon();
+}
+
+/// A line leaves the cursor as it is.
+void MultiRubberBandLabel::hover(const QPoint& position)
+{
+    const QPoint point = clampedToPicture(position);
+    if (lineAt(point))
+        return;
+    if (const RectangleRubberBand* band = bandAt(point))
+        setCursor(cursorForGrab(band->grabAt(point)));
+    else
+        unsetCursor();
+}
+
+/// Whoever resizes the label goes on with it behind this: all but the signal that belongs here
+/// waits for the event loop.
 void MultiRubberBandLabel::resizeEvent(QResizeEvent* event)
 {
-    const SensorMapping before = m_mapping;
-    QRect draggedTo;
-    if (m_dragState == BandDrag)
-        draggedTo = changesAfterBandDrag(m_regions, m_groups, m_mapping, m_draggedRegion,
-                                         m_regions.band(m_draggedRegion))
-                        .constFirst()
-                        .rectangle;
-
-    fitBackground();
-    const double factorX = ratio(m_mapping.shown.width(), before.shown.width());
-    const double factorY = ratio(m_mapping.shown.height(), before.shown.height());
-    QLabel::resizeEvent(event);
-    arrange();
-    if (m_dragState == BandDrag)
-        carryDragOver(draggedTo, before);
+    const QSize before = m_regions.mapping().shown;
+    BandSurroundings::resizeEvent(event);
+    rescale();
+    arrangeSilently();
+    announceSoon();
+    const QSize& shown = m_regions.mapping().shown;
+    const double factorX = ratio(shown.width(), before.width());
     if (factorX >= smallestFactor)
-        emit labelGeometryChanged(factorX, factorY, m_mapping.shown);
-}
-
-void MultiRubberBandLabel::showEvent(QShowEvent* event)
-{
-    QLabel::showEvent(event);
-    if (m_pictureWaits)
-        fitBackground();
-}
-
-/// Placeholder and picture have the same size, so that bands stay where they are.
-void MultiRubberBandLabel::fitBackground()
-{
-    const QSize fitted = m_placeholder.fittedSize(size());
-    const bool isPicture = !m_picture.isNull() && !fitted.isEmpty();
-    m_pictureWaits = isPicture && !isVisible();
-    if (m_pictureWaits)
-        m_mapping.shown = fitted;
-    else
-        showBackground(isPicture ? m_picture.scaled(fitted) : m_placeholder.fitted(size()));
-}
-
-/// An empty pixmap leaves the size as it was: what follows needs a scale to go from.
-void MultiRubberBandLabel::showBackground(const QPixmap& pixmap)
-{
-    if (!pixmap.isNull())
-        m_mapping.shown = pixmap.size();
-    setPixmap(pixmap);
-    coverWithPicture(this, pixmap);
+        emit labelGeometryChanged(factorX, ratio(shown.height(), before.height()), shown);
 }
 
 void MultiRubberBandLabel::showRectangle(int regionNo)
 {
-    auto* band = new RectangleRubberBand(
-        regionNo, labelRect(m_regions.rectangle(regionNo), m_mapping),
-        regionBandLimits(m_regions, regionNo, m_mapping).minimum, regionColor(regionNo), this);
+    auto* band = new RectangleRubberBand(regionNo, m_regions.placed(regionNo),
+                                         m_regions.bandLimits(regionNo).minimum,
+                                         regionColor(regionNo), this);
     connect(band, &RectangleRubberBand::regionBandSelected, this,
             &MultiRubberBandLabel::onBandPressed);
     connect(band, &RectangleRubberBand::geometryChanged, this,
             &MultiRubberBandLabel::onBandGeometryChanged);
     connect(band, &RectangleRubberBand::colorChanged, this,
             &MultiRubberBandLabel::onBandColorChanged);
-    connect(this, &MultiRubberBandLabel::mouseMoved, band, &RectangleRubberBand::resizeMoveToPoint);
-    connect(this, &MultiRubberBandLabel::rubberChangeFinished, band,
-            &RectangleRubberBand::onResizeFinished);
     connect(this, &MultiRubberBandLabel::regionActivated, band,
             &RectangleRubberBand::onNeighbourRegionActivated);
     m_lines.connectTo(band);
-
     m_bands.insert(regionNo, band);
-    m_regions.setShown(regionNo, true);
-    placeBand(regionNo);
+    placeBand(band);
     band->highlightIfSelected(m_selectedRegion);
     band->show();
-    emit regionActivated(regionNo, true);
-    arrangeUnlessBlocked();
     restack();
+    const QPointer<MultiRubberBandLabel> guard(this);
+    emit regionActivated(regionNo, true);
+    if (guard)
+        arrangeUnlessBlocked();
 }
 
-/// Brings everything on the label in line with what is known of the regions, except for the band
-/// that is being dragged.
+RectangleRubberBand* MultiRubberBandLabel::bandAt(const QPoint& point) const
+{
+    const std::optional<int> region = regionUnder(point);
+    return region ? m_bands.value(*region) : nullptr;
+}
+
+LineRubberBand* MultiRubberBandLabel::lineAt(const QPoint& point) const
+{
+    const RectangleRubberBand* band = bandAt(point);
+    return m_lines.lineAt(point, band ? band->geometry() : QRect());
+}
+
+/// A drag goes on at another scale; without a picture the scale stays, to go on from.
+void MultiRubberBandLabel::rescale()
+{
+    const SensorMapping before = m_regions.mapping();
+    m_regions.setMapping({sensorSize(), shownSize().isEmpty() ? before.shown : shownSize()});
+    m_drag.rescaleFrom(before);
+}
+
+/// Brings everything on the label in line with what is known of the regions, except for the bands
+/// that are being dragged.
 void MultiRubberBandLabel::arrange()
 {
-    m_arrangePending = false;
-    if (m_dragState == LineDrag)
-        dropDrag();
-    const QVector<int> shown = m_regions.shown();
-    m_groups = constraintGroups(m_mode, shown);
-    if (!m_mapping.isEmpty()) {
-        for (const int region : shown) {
-            if (region != m_draggedRegion)
-                placeBand(region);
-        }
-    }
-    m_lines.update(m_groups, m_regions);
-    testConflicts();
-    announceConstraints();
-    updateRegionRangeRect();
+    arrangeSilently();
+    if (!signalsBlocked())
+        announceRegions();
 }
 
 /// With its signals blocked the label is being told of many regions: each compared with all the
 /// others, for every one of them, would make the page wait.
 void MultiRubberBandLabel::arrangeUnlessBlocked()
 {
-    if (!signalsBlocked()) {
-        arrange();
-    } else if (!std::exchange(m_arrangePending, true)) {
-        QMetaObject::invokeMethod(this, &MultiRubberBandLabel::arrangeIfPending,
-                                  Qt::QueuedConnection);
-    }
-}
-
-void MultiRubberBandLabel::arrangeIfPending()
-{
+    m_arrangePending = signalsBlocked();
     if (m_arrangePending)
+        announceSoon();
+    else
         arrange();
 }
 
-void MultiRubberBandLabel::placeBand(int regionNo)
+void MultiRubberBandLabel::arrangeSilently()
 {
-    const QRect rect = labelRect(m_regions.rectangle(regionNo), m_mapping);
-    m_regions.setBand(regionNo, rect);
-    m_bands[regionNo]->setGeometry(rect);
-    m_bands[regionNo]->setSizeLimits(regionBandLimits(m_regions, regionNo, m_mapping));
+    m_arrangePending = false;
+    m_regions.group();
+    if (!m_drag.isPossible()) {
+        dropDrag();
+        return;
+    }
+    const QSignalBlocker blocker(this);
+    for (RectangleRubberBand* band : qAsConst(m_bands))
+        placeBand(band);
+    m_lines.update(m_regions, m_bands);
+    for (RectangleRubberBand* band : qAsConst(m_bands))
+        band->onIntersectionFound(
+            m_regions.intersecting(band->regionNo(), band->geometry()).value_or(-1));
+}
+
+void MultiRubberBandLabel::placeBand(RectangleRubberBand* band)
+{
+    const int region = band->regionNo();
+    if (!m_drag.holds(region) && !m_regions.mapping().isEmpty())
+        m_regions.setBand(region, m_regions.placed(region));
+    band->setGeometry(m_regions.band(region));
+    band->setSizeLimits(m_regions.bandLimits(region));
 }
 
 /// As a press finds them: lines, the selected band, the others by number.
@@ -353,45 +356,101 @@ void MultiRubberBandLabel::restack()
     m_lines.raise();
 }
 
-void MultiRubberBandLabel::testConflicts()
+void MultiRubberBandLabel::announce(const QVector<Announcement>& announcements)
 {
-    const QList<RectangleRubberBand*> bands = m_bands.values();
-    for (RectangleRubberBand* band : bands)
-        band->onIntersectionFound(intersectingRegion(band->regionNo(), band->geometry()));
-}
-
-void MultiRubberBandLabel::announceConstraints()
-{
-    if (signalsBlocked())
-        return;
-    QMap<int, QStringList> constraints;
-    const QList<int> shown = m_bands.keys();
-    for (const int region : shown) {
-        const QStringList features = sharedFeatures(region, m_groups);
-        if (!features.isEmpty())
-            constraints.insert(region, features);
+    m_announcePending = false;
+    const QPointer<MultiRubberBandLabel> guard(this);
+    const QVector<int> regions = m_regions.numbers();
+    for (const Announcement announcement : announcements) {
+        for (const int region : regions) {
+            if (guard)
+                (this->*announcement)(region);
+        }
     }
-    m_announcements.announceConstraints(constraints);
 }
 
-/// After a resize: the drag goes on at the new scale.
-/// @param region where the dragged band stood, sensor pixels
-void MultiRubberBandLabel::carryDragOver(const QRect& region, const SensorMapping& before)
+void MultiRubberBandLabel::announceSoon()
 {
-    auto* band = m_bands[m_draggedRegion];
-    const QPoint press = band->pressPoint();
-    const QRect dragged = labelRect(region, m_mapping);
-    band->rescaleDrag({toInt(press.x() * ratio(m_mapping.shown.width(), before.shown.width())),
-                       toInt(press.y() * ratio(m_mapping.shown.height(), before.shown.height()))},
-                      labelRect(m_regions.rectangle(m_draggedRegion), m_mapping));
-    band->setSizeLimits(regionBandLimits(m_regions, m_draggedRegion, m_mapping));
-    band->setGeometry(dragged);
-    m_regions.setBand(m_draggedRegion, dragged);
-    m_lines.follow(m_draggedRegion, m_regions);
+    if (std::exchange(m_announcePending, true))
+        return;
+    const auto announceIfPending = [this] {
+        if (m_announcePending)
+            announceRegions();
+    };
+    QMetaObject::invokeMethod(this, announceIfPending, Qt::QueuedConnection);
+}
+
+void MultiRubberBandLabel::announceColor(int regionNo)
+{
+    if (isRegionShown(regionNo))
+        emit regionColorChanged(regionNo, shownColor(regionNo));
+}
+
+void MultiRubberBandLabel::announceConstraints(int regionNo)
+{
+    const QStringList features = sharedFeatures(regionNo, m_regions.groups());
+    const bool wasConstrained = m_regions.isConstrained(regionNo);
+    if (!m_regions.areNewConstraints(regionNo, features))
+        return;
+    const QPointer<MultiRubberBandLabel> guard(this);
+    if (wasConstrained)
+        emit constraintsActivated(regionNo, {});
+    if (guard && !features.isEmpty())
+        emit constraintsActivated(regionNo, features);
+}
+
+void MultiRubberBandLabel::announceRange(int regionNo)
+{
+    const QVector<ShownRegion> shown = m_regions.shown();
+    const auto region
+        = std::find_if(shown.begin(), shown.end(),
+                       [regionNo](const ShownRegion& known) { return known.number == regionNo; });
+    if (region == shown.end())
+        return;
+    const QRect range = rangeBetweenNeighbours(*region, shown, m_regions.mode(), m_regions.groups(),
+                                               sensorSize());
+    if (m_regions.isNewRange(regionNo, range))
+        emit regionRangeChanged(regionNo, range);
+}
+
+void MultiRubberBandLabel::onBandPressed(int regionNo)
+{
+    const QPointer<MultiRubberBandLabel> guard(this);
+    selectRegion(regionNo);
+    if (!guard)
+        return;
+    m_pressedRegion = regionNo;
+    emit regionSelected(regionNo);
+    if (guard)
+        m_pressedRegion = -1;
+}
+
+/// At the end of the band's drag, or when a neighbour has brought or solved a conflict. Nothing is
+/// reported in the midst of a drag.
+void MultiRubberBandLabel::onBandGeometryChanged(int regionNo)
+{
+    if (m_drag.isRunning())
+        m_drag.note(regionNo);
+    else
+        report(changesAfterBandDrag(m_regions.shown(), m_regions.groups(), m_regions.mapping(),
+                                    regionNo));
 }
 
 void MultiRubberBandLabel::onBandColorChanged(int regionNo, const QColor& color)
 {
     m_lines.setColor(regionNo, color);
     emit regionColorChanged(regionNo, color);
+}
+
+void MultiRubberBandLabel::report(const QVector<RegionChange>& changes)
+{
+    for (const RegionChange& change : changes)
+        m_regions.setRectangle(change.region, change.rectangle);
+    m_regions.applyWaiting();
+    const QPointer<MultiRubberBandLabel> guard(this);
+    arrange();
+    for (const RegionChange& change : changes) {
+        if (guard)
+            emit regionGeometryChanged(change.region, change.rectangle);
+    }
 }

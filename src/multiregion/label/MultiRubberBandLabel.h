@@ -1,20 +1,12 @@
 #pragma once
 
 #include "host/TabExtensionInterface.h"
+#include "multiregion/label/BandSurroundings.h"
 #include "multiregion/label/ConstraintLineSet.h"
-#include "multiregion/label/KnownRegions.h"
-#include "multiregion/label/RegionAnnouncements.h"
-#include "sensor/KeptPicture.h"
-#include "sensor/SensorBackground.h"
+#include "multiregion/label/RegionDrag.h"
+#include "multiregion/label/RegionStore.h"
 
-#include <QLabel>
-#include <QMap>
-#include <QPointer>
 #include <QStringList>
-
-class LineRubberBand;
-class RectangleRubberBand;
-struct RegionChange;
 
 /// The sensor area with a band for each active region, which the user selects, moves and resizes
 /// with the mouse, and with the lines that regions of one row or column share.
@@ -22,7 +14,7 @@ struct RegionChange;
 /// Region rectangles come in and go out in sensor pixels, points are label pixels. The label keeps
 /// the rectangles and places the bands from them. A drag moves bands only and reports at its end;
 /// what is told meanwhile waits for it.
-class MultiRubberBandLabel : public QLabel
+class MultiRubberBandLabel : public BandSurroundings
 {
     Q_OBJECT
 
@@ -43,28 +35,19 @@ public:
     QColor shownColor(int regionNo) const;
     QRect regionRectangle(int regionNo) const { return m_regions.rectangle(regionNo); }
     bool isRegionShown(int regionNo) const { return m_bands.contains(regionNo); }
-    bool isDragging() const { return m_dragState != NoDrag; }
 
-    /// The shown region under a point, -1 for none.
-    int regionUnder(const QPoint& point) const;
-    /// Another shown region whose band overlaps @p band, -1 for none.
-    int intersectingRegion(int regionNo, const QRect& band) const;
-    /// Whether the regions that share edges with this one could follow it to @p band without coming
-    /// to overlap another one.
-    bool canBeFollowed(int regionNo, const QRect& band) const;
+    /// The shown region under a point.
+    std::optional<int> regionUnder(const QPoint& point) const;
+    std::optional<int> intersecting(int region, const QRect& band) const override;
+    bool canBeFollowed(int region, const QRect& band) const override;
     /// The shown regions that share their edges along @p axis with this one, the master first;
     /// empty for a region that shares none.
     QVector<int> sharingRegions(int regionNo, Qt::Orientation axis) const;
-    /// Size of the shown image.
-    QSize imageSize() const { return m_mapping.shown; }
 
     /// Announces the shown colours again, and what else changed while the signals were blocked.
     /// Regions told of meanwhile are arranged now, all at once; without this call, with the next
     /// turn of the event loop.
     void announceRegions();
-
-    /// Lets a new line take part in drags; for the set of lines.
-    void connectLine(LineRubberBand* line);
 
     QSize sizeHint() const override;
 
@@ -85,8 +68,6 @@ signals:
     /// The colour shown, after every test for conflicts.
     void regionColorChanged(int regionNo, QColor color);
     void regionActivated(int regionNo, bool active);
-    /// A drag was dropped without a report: instead of rubberChangeFinished().
-    void rubberChangeDropped();
 
 public slots:
     void removeRectangle(int index);
@@ -100,63 +81,44 @@ public slots:
     void onRegionActivated(int regionNo, bool active);
 
 protected:
-    bool event(QEvent* event) override;
-    void changeEvent(QEvent* event) override;
-    void hideEvent(QHideEvent* event) override;
-    void mousePressEvent(QMouseEvent* event) override;
-    void mouseMoveEvent(QMouseEvent* event) override;
-    void mouseReleaseEvent(QMouseEvent* event) override;
+    bool grabs(const QPoint& point) const override;
+    void press(const QPoint& point) override;
+    void drag(const QPoint& point) override;
+    void release(const QPoint& point) override;
+    void drop() override;
+    void hover(const QPoint& point) override;
     void resizeEvent(QResizeEvent* event) override;
-    void showEvent(QShowEvent* event) override;
 
 private:
-    enum DragState {
-        NoDrag = -1,
-        LineDrag = 0,
-        BandDrag = 1,
-    };
-
-    void fitBackground();
-    void showBackground(const QPixmap& pixmap);
     void showRectangle(int regionNo);
-    void arrange();
-    void arrangeUnlessBlocked();
-    void arrangeIfPending();
-    void placeBand(int regionNo);
-    void restack();
-    void testConflicts();
-    void announceConstraints();
+    RectangleRubberBand* bandAt(const QPoint& point) const;
+    LineRubberBand* lineAt(const QPoint& point) const;
 
-    bool startDrag(const QPoint& point);
-    void previewLine();
-    void dropDrag();
-    void applyWaiting();
-    void carryDragOver(const QRect& region, const SensorMapping& before);
-    QPoint clampedToImage(const QPoint& point) const;
-    void updateCursor(const QPoint& point);
+    void rescale();
+    void arrange();
+    void arrangeSilently();
+    void arrangeUnlessBlocked();
+    void placeBand(RectangleRubberBand* band);
+    void restack();
+
+    using Announcement = void (MultiRubberBandLabel::*)(int);
+    void announce(const QVector<Announcement>& announcements);
+    void announceSoon();
+    void announceColor(int regionNo);
+    void announceConstraints(int regionNo);
+    void announceRange(int regionNo);
+
     void onBandPressed(int regionNo);
-    void onBandGeometryChanged(int regionNo, const QRect& band);
+    void onBandGeometryChanged(int regionNo);
     void onBandColorChanged(int regionNo, const QColor& color);
     void report(const QVector<RegionChange>& changes);
 
-    DragState m_dragState = NoDrag;
-    Qt::MouseButton m_dragButton = Qt::NoButton; ///< the others do nothing during its drag
-    int m_draggedRegion = -1;
-    QPointer<LineRubberBand> m_draggedLine;
-    bool m_arrangePending = false;
-    int m_selectedRegion = -1;
-    int m_pressedRegion = -1;   ///< while regionSelected() tells it
-    QMap<int, QRect> m_waiting; ///< rectangles told during a drag
-
-    const QColor m_color;
-    ArrangementMode m_mode;
-    SensorMapping m_mapping;
-    SensorBackground m_placeholder;
-    KeptPicture m_picture;       ///< null for the placeholder
-    bool m_pictureWaits = false; ///< until the label is visible: it is scaled then
-    KnownRegions m_regions;
-    QVector<ConstraintGroup> m_groups;
+    RegionStore m_regions;
+    RegionDrag m_drag;
     ConstraintLineSet m_lines;
     QMap<int, RectangleRubberBand*> m_bands; ///< of the shown regions
-    RegionAnnouncements m_announcements;
+    int m_selectedRegion = -1;
+    int m_pressedRegion = -1; ///< while regionSelected() tells it
+    bool m_arrangePending = false;
+    bool m_announcePending = false;
 };

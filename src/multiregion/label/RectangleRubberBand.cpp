@@ -1,11 +1,12 @@
 #include "multiregion/label/RectangleRubberBand.h"
 
+#include "multiregion/label/BandSurroundings.h"
 #include "multiregion/label/LineRubberBand.h"
-#include "multiregion/label/MultiRubberBandLabel.h"
 
 #include <QPaintEvent>
 #include <QPainter>
 #include <QPainterPath>
+#include <QPointer>
 #include <QStyleOption>
 
 #include <utility>
@@ -35,7 +36,7 @@ QImage negativeOf(QWidget* label, const QRect& area)
 
 RectangleRubberBand::RectangleRubberBand(int regionNo, const QRect& geometry,
                                          const QSize& minimumSize, const QColor& color,
-                                         MultiRubberBandLabel* label)
+                                         BandSurroundings* label)
     : QRubberBand(QRubberBand::Rectangle, label)
     , m_regionNo(regionNo)
     , m_color(color)
@@ -116,7 +117,7 @@ void RectangleRubberBand::resizeMoveToPoint(QPoint point)
     for (const MoveConstraints& line : qAsConst(m_lineConstraints))
         constraints = combined(constraints, line);
     const QPoint delta = point - std::exchange(m_pressPoint, point);
-    showIfAllowed(movedRegionBand(geometry(), delta, m_label->imageSize(), constraints));
+    showIfAllowed(movedRegionBand(geometry(), delta, m_label->shownSize(), constraints));
 }
 
 void RectangleRubberBand::onIntersectionFound(int conflictRegion)
@@ -142,8 +143,9 @@ void RectangleRubberBand::onNeighbourRegionActivated(int regionNo, bool activate
     if (m_regionNo == 0 || regionNo >= m_regionNo || (!activated && !m_inConflict) || !m_label)
         return;
     const bool before = m_inConflict;
-    onIntersectionFound(m_label->intersectingRegion(m_regionNo, geometry()));
-    if (m_inConflict != before)
+    const QPointer<RectangleRubberBand> guard(this);
+    onIntersectionFound(m_label->intersecting(m_regionNo, geometry()).value_or(-1));
+    if (guard && m_inConflict != before)
         emit geometryChanged(m_regionNo, geometry());
 }
 
@@ -204,12 +206,12 @@ void RectangleRubberBand::showIfAllowed(const QRect& band)
 {
     // A corner can collapse the band; what is shown keeps a pixel.
     const QRect shown(band.topLeft(), band.size().expandedTo({1, 1}));
-    const int conflict = m_label->intersectingRegion(m_regionNo, shown);
-    const bool isFree = conflict < 0 && m_label->canBeFollowed(m_regionNo, shown);
+    const std::optional<int> conflict = m_label->intersecting(m_regionNo, shown);
+    const bool isFree = !conflict && m_label->canBeFollowed(m_regionNo, shown);
     if (!isFree && !m_inConflict)
         return;
     setGeometry(shown);
-    onIntersectionFound(conflict);
+    onIntersectionFound(conflict.value_or(-1));
 }
 
 void RectangleRubberBand::applyColor()

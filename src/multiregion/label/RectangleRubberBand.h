@@ -10,8 +10,8 @@
 
 #include <optional>
 
+class BandSurroundings;
 class LineRubberBand;
-class MultiRubberBandLabel;
 
 /// One region on the region label, which hands it the mouse. It cannot be dragged over another
 /// region; while it overlaps one with a lower number it is red. Label pixels throughout.
@@ -26,7 +26,7 @@ class RectangleRubberBand : public QRubberBand
 public:
     /// @param label the parent, which knows the other regions; may be null
     RectangleRubberBand(int regionNo, const QRect& geometry, const QSize& minimumSize,
-                        const QColor& color, MultiRubberBandLabel* label);
+                        const QColor& color, BandSurroundings* label);
 
     int regionNo() const { return m_regionNo; }
     bool isInConflict() const { return m_inConflict; }
@@ -86,7 +86,7 @@ private:
     QRect m_atPress;
     BandSizeLimits m_limits;
     QHash<const LineRubberBand*, MoveConstraints> m_lineConstraints;
-    MultiRubberBandLabel* const m_label;
+    BandSurroundings* const m_label;
     std::optional<BandImage> m_image;
     QPainterPath m_number; ///< around the origin
     QRect m_numberArea;

@@ -17,9 +17,9 @@ int roundedUp(int value, int increment)
 /// The spans of a dragged region along one axis.
 struct SpanDrag
 {
-    SpanDrag(const DraggedRegion& dragged, Qt::Orientation axis)
-        : stored(spanOf(dragged.stored, axis))
-        , placed(spanOf(dragged.placed, axis))
+    SpanDrag(const ShownRegion& dragged, Qt::Orientation axis, const SensorMapping& mapping)
+        : stored(spanOf(dragged.rectangle, axis))
+        , placed(spanOf(labelRect(dragged.rectangle, mapping), axis))
         , band(spanOf(dragged.band, axis))
         , limits(dragged.limits.along(axis))
     {
@@ -61,18 +61,18 @@ RegionSpan resizedSpan(const SpanDrag& drag, int shown, int sensor)
     return end > start ? RegionSpan{start, end - start} : drag.stored;
 }
 
-bool touchesOnlyOnSensor(const QRect& region, const DraggedRegion& dragged,
-                         const RegionNeighbour& neighbour)
+bool touchesOnlyOnSensor(const QRect& region, const ShownRegion& dragged, const ShownRegion& other)
 {
-    return overlap(region, neighbour.stored) && !overlap(dragged.band, neighbour.band);
+    return other.number != dragged.number && overlap(region, other.rectangle)
+        && !overlap(dragged.band, other.band);
 }
 
 } // namespace
 
-RegionSpan convertedSpan(const DraggedRegion& dragged, Qt::Orientation axis,
+RegionSpan convertedSpan(const ShownRegion& dragged, Qt::Orientation axis,
                          const SensorMapping& mapping)
 {
-    const SpanDrag drag(dragged, axis);
+    const SpanDrag drag(dragged, axis, mapping);
     if (mapping.isEmpty() || (!drag.startMoved() && !drag.endMoved()))
         return drag.stored;
     const int shown = lengthOf(mapping.shown, axis);
@@ -80,11 +80,12 @@ RegionSpan convertedSpan(const DraggedRegion& dragged, Qt::Orientation axis,
     return drag.movedAsWhole() ? movedSpan(drag, shown, sensor) : resizedSpan(drag, shown, sensor);
 }
 
-RegionSpan keptOffNeighbour(const RegionSpan& span, const DraggedRegion& dragged,
-                            Qt::Orientation axis, const RegionNeighbour& neighbour)
+RegionSpan keptOffNeighbour(const RegionSpan& span, const ShownRegion& dragged,
+                            Qt::Orientation axis, const ShownRegion& neighbour,
+                            const SensorMapping& mapping)
 {
-    const SpanDrag drag(dragged, axis);
-    const RegionSpan other = spanOf(neighbour.stored, axis);
+    const SpanDrag drag(dragged, axis, mapping);
+    const RegionSpan other = spanOf(neighbour.rectangle, axis);
     const RegionSpan otherBand = spanOf(neighbour.band, axis);
     if (!overlap(span, other) || overlap(drag.band, otherBand))
         return span;
@@ -104,28 +105,28 @@ RegionSpan keptOffNeighbour(const RegionSpan& span, const DraggedRegion& dragged
     return result.length >= std::max(1, drag.limits.minimum) ? result : drag.stored;
 }
 
-QRect convertedRegion(const DraggedRegion& dragged, const QVector<RegionNeighbour>& neighbours,
+QRect convertedRegion(const ShownRegion& dragged, const QVector<ShownRegion>& shown,
                       const SensorMapping& mapping)
 {
-    QRect result = dragged.stored;
+    const QRect stored = dragged.rectangle;
+    QRect result = stored;
     for (const Qt::Orientation axis : {Qt::Horizontal, Qt::Vertical})
         result = withSpan(result, axis, convertedSpan(dragged, axis, mapping));
 
-    for (const RegionNeighbour& neighbour : neighbours) {
+    for (const ShownRegion& other : shown) {
         for (const Qt::Orientation axis : {Qt::Horizontal, Qt::Vertical}) {
-            if (touchesOnlyOnSensor(result, dragged, neighbour))
-                result = withSpan(result, axis,
-                                  keptOffNeighbour(spanOf(result, axis), dragged, axis, neighbour));
+            if (touchesOnlyOnSensor(result, dragged, other))
+                result = withSpan(
+                    result, axis,
+                    keptOffNeighbour(spanOf(result, axis), dragged, axis, other, mapping));
         }
     }
 
-    const auto overlapsAnew = [&](const RegionNeighbour& neighbour) {
-        return touchesOnlyOnSensor(result, dragged, neighbour)
-            && !overlap(dragged.stored, neighbour.stored);
+    const auto overlapsAnew = [&](const ShownRegion& other) {
+        return touchesOnlyOnSensor(result, dragged, other) && !overlap(stored, other.rectangle);
     };
     const bool sensorFits = QRect(QPoint(0, 0), mapping.sensor).contains(result);
-    if (std::any_of(neighbours.begin(), neighbours.end(), overlapsAnew)
-        || (!sensorFits && result != dragged.stored))
-        return dragged.stored;
+    if (std::any_of(shown.begin(), shown.end(), overlapsAnew) || (!sensorFits && result != stored))
+        return stored;
     return result;
 }

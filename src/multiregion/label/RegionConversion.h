@@ -28,35 +28,29 @@ struct RegionSizeLimits
     }
 };
 
-/// A region after a drag: what is known of it in sensor pixels and on the label.
-struct DraggedRegion
+/// A region with a band. Its band stands for its rectangle until a drag moves it.
+struct ShownRegion
 {
-    QRect stored; ///< sensor pixels, before the drag
-    QRect placed; ///< the band that stands for it, label pixels
-    QRect band;   ///< where the drag left the band
+    int number = -1;
+    QRect rectangle; ///< sensor pixels
+    QRect band;      ///< label pixels
     RegionSizeLimits limits;
-};
-
-/// Another shown region.
-struct RegionNeighbour
-{
-    QRect stored; ///< sensor pixels
-    QRect band;   ///< label pixels
 };
 
 /// One axis of a region after a drag.
 ///
 /// Only edges that the drag moved are converted, to where the camera would round them; a span that
 /// moved as a whole keeps its stored length.
-RegionSpan convertedSpan(const DraggedRegion& dragged, Qt::Orientation axis,
+RegionSpan convertedSpan(const ShownRegion& dragged, Qt::Orientation axis,
                          const SensorMapping& mapping);
 
 /// Takes a converted span back to the edge of a neighbour that it overlaps on the sensor though not
 /// on the label, rounded away from it. Edges that the drag did not move stay.
-RegionSpan keptOffNeighbour(const RegionSpan& span, const DraggedRegion& dragged,
-                            Qt::Orientation axis, const RegionNeighbour& neighbour);
+RegionSpan keptOffNeighbour(const RegionSpan& span, const ShownRegion& dragged,
+                            Qt::Orientation axis, const ShownRegion& neighbour,
+                            const SensorMapping& mapping);
 
-/// The region in sensor pixels. A region that would still overlap a neighbour from which the label
-/// shows it apart keeps its stored rectangle.
-QRect convertedRegion(const DraggedRegion& dragged, const QVector<RegionNeighbour>& neighbours,
+/// The region in sensor pixels. A region that would still overlap another one of @p shown from
+/// which the label shows it apart keeps its rectangle.
+QRect convertedRegion(const ShownRegion& dragged, const QVector<ShownRegion>& shown,
                       const SensorMapping& mapping);

@@ -2,37 +2,23 @@
 
 #include <algorithm>
 
-namespace {
-
-/// The members of the group that shares the region's edges along an axis, ascending; none without
-/// such a group.
-QVector<int> sharers(const QVector<ConstraintGroup>& groups, Qt::Orientation axis, int region)
-{
-    for (const ConstraintGroup& group : groups) {
-        if (group.axis() == axis && group.members.contains(region))
-            return group.members;
-    }
-    return {};
-}
-
-} // namespace
-
-QRect rangeBetweenNeighbours(const KnownRegions& regions, ArrangementMode mode,
-                             const QVector<ConstraintGroup>& groups, const QSize& sensor,
-                             int region)
+QRect rangeBetweenNeighbours(const ShownRegion& region, const QVector<ShownRegion>& shown,
+                             ArrangementMode mode, const QVector<ConstraintGroup>& groups,
+                             const QSize& sensor)
 {
     QRect range(QPoint(0, 0), sensor);
     if (mode == ArrangementMode::Free)
         return range;
     for (const Qt::Orientation axis : {Qt::Horizontal, Qt::Vertical}) {
-        const RegionSpan own = spanOf(regions.rectangle(region), axis);
-        const QVector<int> followers = sharers(groups, axis, region);
+        const RegionSpan own = spanOf(region.rectangle, axis);
+        const QVector<int> followers = sharingRegions(groups, region.number, axis);
         int start = 0;
         int end = lengthOf(sensor, axis);
-        for (const int other : regions.others(region)) {
-            if (std::binary_search(followers.begin(), followers.end(), other))
+        for (const ShownRegion& other : shown) {
+            if (other.number == region.number
+                || std::binary_search(followers.begin(), followers.end(), other.number))
                 continue;
-            const RegionSpan bound = spanOf(regions.rectangle(other), axis);
+            const RegionSpan bound = spanOf(other.rectangle, axis);
             if (bound.end() <= own.start)
                 start = std::max(start, bound.end());
             else if (bound.start >= own.end())

@@ -45,6 +45,16 @@ QVector<ConstraintGroup> constraintGroups(ArrangementMode mode, const QVector<in
     return groups;
 }
 
+QVector<int> sharingRegions(const QVector<ConstraintGroup>& groups, int region,
+                            Qt::Orientation axis)
+{
+    for (const ConstraintGroup& group : groups) {
+        if (group.axis() == axis && group.members.contains(region))
+            return group.members;
+    }
+    return {};
+}
+
 QStringList sharedFeatures(int region, const QVector<ConstraintGroup>& groups)
 {
     QStringList features;

@@ -33,5 +33,9 @@ inline bool operator==(const ConstraintGroup& a, const ConstraintGroup& b)
 /// @param shown region numbers, ascending
 QVector<ConstraintGroup> constraintGroups(ArrangementMode mode, const QVector<int>& shown);
 
+/// The members of the group whose edges along @p axis a region shares; none without such a group.
+QVector<int> sharingRegions(const QVector<ConstraintGroup>& groups, int region,
+                            Qt::Orientation axis);
+
 /// The features that a region takes from the masters of its groups.
 QStringList sharedFeatures(int region, const QVector<ConstraintGroup>& groups);

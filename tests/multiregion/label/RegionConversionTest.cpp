@@ -10,14 +10,18 @@ namespace {
 /// A sensor that is 6.48 and 6.4 times as large as its picture.
 const SensorMapping mapping{{2592, 1920}, {400, 300}};
 
-KnownRegions regionsAt(const QVector<QRect>& rectangles)
+QVector<ShownRegion> regionsAt(const QVector<QRect>& rectangles)
 {
-    KnownRegions regions(Qt::blue);
-    for (int i = 0; i < rectangles.size(); ++i) {
-        regions.setRectangle(i, rectangles[i]);
-        regions.setBand(i, labelRect(rectangles[i], mapping));
-        regions.setShown(i, true);
-    }
+    QVector<ShownRegion> regions;
+    for (const QRect& rectangle : rectangles)
+        regions << ShownRegion{regions.size(), rectangle, labelRect(rectangle, mapping), {}};
+    return regions;
+}
+
+/// The band of region @p number dragged.
+QVector<ShownRegion> dragged(QVector<ShownRegion> regions, int number, const QRect& band)
+{
+    regions[number].band = band;
     return regions;
 }
 
@@ -62,11 +66,10 @@ private slots:
             QCOMPARE(placed, QRect(100, 100, 100, 75));
             const QRect band = placed.adjusted(delta[0], delta[1], delta[2], delta[3]);
             const AxisLimits limits{16, 2592, increment, increment};
-            QVector<RegionNeighbour> neighbours;
+            QVector<ShownRegion> shown{{0, stored, band, {limits, limits}}};
             if (neighbour.isValid())
-                neighbours.append({neighbour, labelRect(neighbour, mapping)});
-            const DraggedRegion dragged{stored, placed, band, {limits, limits}};
-            QCOMPARE(text(convertedRegion(dragged, neighbours, mapping)), expected);
+                shown.append({1, neighbour, labelRect(neighbour, mapping), {}});
+            QCOMPARE(text(convertedRegion(shown[0], shown, mapping)), expected);
         });
         row("unchanged", {0, 0, 0, 0}, 1, {}, "648,640 650x480");
         row("right edge", {0, 0, 10, 0}, 1, {}, "648,640 713x480");
@@ -113,12 +116,11 @@ private slots:
             const QRect stored = anyRect(scale.sensor);
             const QRect other = anyRect(scale.sensor);
             const AxisLimits limits{between(1, 16), 9000, between(1, 16), between(1, 16)};
-            DraggedRegion dragged{
-                stored, labelRect(stored, scale), anyRect(scale.shown), {limits, limits}};
+            ShownRegion dragged{0, stored, anyRect(scale.shown), {limits, limits}};
             if (between(0, 1))
-                dragged.band.setSize(dragged.placed.size());
-            const RegionNeighbour neighbour{other, labelRect(other, scale)};
-            const QRect result = convertedRegion(dragged, {neighbour}, scale);
+                dragged.band.setSize(labelRect(stored, scale).size());
+            const ShownRegion neighbour{1, other, labelRect(other, scale), {}};
+            const QRect result = convertedRegion(dragged, {dragged, neighbour}, scale);
             QVERIFY(result == stored || QRect(QPoint(), scale.sensor).contains(result));
             if (!overlap(stored, other) && !overlap(dragged.band, neighbour.band))
                 QVERIFY2(!overlap(result, other), qPrintable(text(result) + " " + text(other)));
@@ -128,61 +130,66 @@ private slots:
     void groupsFollow()
     {
         const auto row = constraintGroups(ArrangementMode::Horizontal, {0, 1, 2});
-        KnownRegions regions
+        QVector<ShownRegion> regions
             = regionsAt({{0, 640, 648, 640}, {1296, 640, 648, 640}, {1944, 320, 324, 640}});
+        const auto after = [&](int region, const QRect& band) {
+            return texts(
+                changesAfterBandDrag(dragged(regions, region, band), row, mapping, region));
+        };
         // The master takes the row along, and the last member into line.
-        QCOMPARE(texts(changesAfterBandDrag(regions, row, mapping, 0, {0, 110, 100, 100})),
+        QCOMPARE(after(0, {0, 110, 100, 100}),
                  (QStringList{"0: 0,704 648x640", "1: 1296,704 648x640", "2: 1944,704 324x640"}));
         // A member in line takes the row along too; one out of line joins it.
-        QCOMPARE(texts(changesAfterBandDrag(regions, row, mapping, 1, {200, 90, 100, 110})),
+        QCOMPARE(after(1, {200, 90, 100, 110}),
                  (QStringList{"1: 1296,576 648x704", "0: 0,576 648x704", "2: 1944,576 324x704"}));
-        QCOMPARE(texts(changesAfterBandDrag(regions, row, mapping, 2, {310, 50, 50, 100})),
-                 (QStringList{"2: 2009,640 324x640"}));
+        QCOMPARE(after(2, {310, 50, 50, 100}), QStringList("2: 2009,640 324x640"));
         // Unchanged: only the region itself, as it is stored.
-        QCOMPARE(texts(changesAfterBandDrag(regions, row, mapping, 2, regions.band(2))),
-                 (QStringList{"2: 1944,320 324x640"}));
+        QCOMPARE(after(2, regions[2].band), QStringList("2: 1944,320 324x640"));
         // A member stays where it would come to lie on another one.
-        regions.setRectangle(2, {1300, 0, 324, 320});
-        QCOMPARE(texts(changesAfterBandDrag(regions, row, mapping, 0, {0, 110, 100, 100})),
+        regions[2].rectangle = {1300, 0, 324, 320};
+        QCOMPARE(after(0, {0, 110, 100, 100}),
                  (QStringList{"0: 0,704 648x640", "1: 1296,704 648x640"}));
     }
 
     void linesReportEachMember()
     {
         const auto tile = constraintGroups(ArrangementMode::Tile, {0, 1, 2, 3});
-        const KnownRegions regions = regionsAt({{0, 0, 1296, 643},
-                                                {1296, 0, 1296, 643},
-                                                {0, 640 + 11, 1296, 640},
-                                                {1296, 640 + 11, 1296, 640}});
+        const QVector<ShownRegion> regions = regionsAt({{0, 0, 1296, 643},
+                                                        {1296, 0, 1296, 643},
+                                                        {0, 640 + 11, 1296, 640},
+                                                        {1296, 640 + 11, 1296, 640}});
+        const auto after = [&](int bottom) {
+            return texts(
+                changesAfterLineDrag(dragged(regions, 0, {0, 0, 200, bottom}), tile[0], mapping));
+        };
         // The edge at 102 is sensor pixel 653, which lies in the second row: it stops before it.
-        QCOMPARE(texts(changesAfterLineDrag(regions, tile[0], mapping, {0, 102})),
-                 (QStringList{"0: 0,0 1296x651", "1: 1296,0 1296x651"}));
+        QCOMPARE(after(102), (QStringList{"0: 0,0 1296x651", "1: 1296,0 1296x651"}));
+        QCOMPARE(after(90), (QStringList{"0: 0,0 1296x576", "1: 1296,0 1296x576"}));
+        QVERIFY(after(100).isEmpty());
         // So does the edge of a member, for the sake of the other one.
-        KnownRegions apart = regions;
-        apart.setRectangle(2, {0, 800, 1296, 640});
-        QCOMPARE(texts(changesAfterBandDrag(apart, tile, mapping, 0, {0, 0, 200, 102})),
+        QVector<ShownRegion> apart = dragged(regions, 0, {0, 0, 200, 102});
+        apart[2].rectangle = {0, 800, 1296, 640};
+        QCOMPARE(texts(changesAfterBandDrag(apart, tile, mapping, 0)),
                  (QStringList{"0: 0,0 1296x651", "1: 1296,0 1296x651"}));
-        QCOMPARE(texts(changesAfterLineDrag(regions, tile[0], mapping, {0, 90})),
-                 (QStringList{"0: 0,0 1296x576", "1: 1296,0 1296x576"}));
-        QVERIFY(changesAfterLineDrag(regions, tile[0], mapping, {0, 100}).isEmpty());
     }
 
     void membersNeedRoomToFollow()
     {
         const auto row = constraintGroups(ArrangementMode::Tile, {0, 1, 3});
-        const KnownRegions regions
+        QVector<ShownRegion> regions
             = regionsAt({{0, 0, 1296, 640}, {1296, 0, 1296, 640}, {}, {1296, 700, 1296, 640}});
+        regions.remove(2);
         QVERIFY(membersCanFollow(regions, row, 0, {0, 0, 200, 105}));
         QVERIFY(!membersCanFollow(regions, row, 0, {0, 20, 200, 100}));
     }
 
     void ranges()
     {
-        const KnownRegions regions
+        const QVector<ShownRegion> regions
             = regionsAt({{0, 10, 100, 200}, {150, 10, 100, 200}, {300, 20, 50, 100}});
         const auto range = [&regions](ArrangementMode mode, int region) {
-            return text(rangeBetweenNeighbours(regions, mode, constraintGroups(mode, {0, 1, 2}),
-                                               {500, 400}, region));
+            return text(rangeBetweenNeighbours(regions[region], regions, mode,
+                                               constraintGroups(mode, {0, 1, 2}), {500, 400}));
         };
         for (const auto mode : {ArrangementMode::Free, ArrangementMode::Vertical})
             QCOMPARE(range(mode, 1), QString("0,0 500x400"));
