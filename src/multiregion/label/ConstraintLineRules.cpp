@@ -80,31 +80,28 @@ bool isForLines(const RegionSpan& band, int point, const QVector<int>& positions
     return false;
 }
 
-MoveConstraints constraintsFromLine(const LineOnBand& line, const QRect& band)
+MoveConstraints constraintsFromLine(const ConstraintGroup& group, LineEdge edge, int position,
+                                    int region, const QRect& band)
 {
     MoveConstraints constraints;
-    const RegionSpan span = spanOf(band, line.axis);
-    const int marked = markedEdge(line.edge, line.position);
-    if (line.ownGroup) {
-        const int edge = line.edge == LineEdge::Leading ? span.start : span.end();
-        if (!line.master && std::abs(edge - marked) <= alignmentTolerance) {
-            if (line.axis == Qt::Vertical)
-                constraints.blocked = {MoveDirection::Up, MoveDirection::Down};
-            else
-                constraints.blocked = {MoveDirection::Left, MoveDirection::Right};
-        }
-    } else if (line.edge == LineEdge::Trailing && marked <= span.start) {
-        if (line.axis == Qt::Vertical)
-            constraints.lowerBound.setY(marked);
-        else
-            constraints.lowerBound.setX(marked);
+    const bool isRow = group.kind == ConstraintGroup::Row;
+    const RegionSpan span = spanOf(band, group.axis());
+    const int marked = markedEdge(edge, position);
+    if (group.members.contains(region)) {
+        const int own = edge == LineEdge::Leading ? span.start : span.end();
+        if (group.master() != region && std::abs(own - marked) <= alignmentTolerance)
+            constraints.blocked = isRow ? std::set{MoveDirection::Up, MoveDirection::Down}
+                                        : std::set{MoveDirection::Left, MoveDirection::Right};
+    } else if (edge == LineEdge::Trailing && marked <= span.start) {
+        constraints.lowerBound = isRow ? QPoint(-1, marked) : QPoint(marked, -1);
     }
     return constraints;
 }
 
-MoveConstraints combined(const MoveConstraints& a, const MoveConstraints& b)
+MoveConstraints combined(MoveConstraints a, const MoveConstraints& b)
 {
-    return {a.blocked + b.blocked,
-            {std::max(a.lowerBound.x(), b.lowerBound.x()),
-             std::max(a.lowerBound.y(), b.lowerBound.y())}};
+    a.blocked.insert(b.blocked.begin(), b.blocked.end());
+    a.lowerBound = {std::max(a.lowerBound.x(), b.lowerBound.x()),
+                    std::max(a.lowerBound.y(), b.lowerBound.y())};
+    return a;
 }

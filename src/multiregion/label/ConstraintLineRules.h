@@ -1,6 +1,7 @@
 #pragma once
 
 #include "multiregion/label/HandleDrag.h"
+#include "multiregion/rules/ConstraintGroups.h"
 #include "sensor/Span.h"
 
 #include <QVector>
@@ -57,19 +58,11 @@ bool isAlongLine(int length, int point);
 /// take hold of.
 bool isForLines(const RegionSpan& band, int point, const QVector<int>& positions);
 
-/// How a line holds a band that is being moved.
-struct LineOnBand
-{
-    Qt::Orientation axis = Qt::Vertical; ///< of the edge
-    LineEdge edge = LineEdge::Leading;
-    int position = 0;
-    bool ownGroup = false; ///< the band is a member of the line's group
-    bool master = false;   ///< and its master
-};
-
-/// A line of the band's own group blocks the way across it once the band is aligned, the master
-/// excepted. Behind another group's trailing line a band does not go back over it.
-MoveConstraints constraintsFromLine(const LineOnBand& line, const QRect& band);
+/// How a line of @p group at @p position holds the band of @p region that is being moved. A line of
+/// the band's own group blocks the way across it once the band is aligned, the master excepted.
+/// Behind another group's trailing line a band does not go back over it.
+MoveConstraints constraintsFromLine(const ConstraintGroup& group, LineEdge edge, int position,
+                                    int region, const QRect& band);
 
 /// What several lines allow together.
-MoveConstraints combined(const MoveConstraints& a, const MoveConstraints& b);
+MoveConstraints combined(MoveConstraints a, const MoveConstraints& b);

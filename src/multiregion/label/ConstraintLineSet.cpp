@@ -6,6 +6,8 @@
 #include "sensor/SensorLabel.h"
 
 #include <algorithm>
+#include <limits>
+#include <utility>
 
 namespace {
 
@@ -24,110 +26,93 @@ ConstraintLineSet::ConstraintLineSet(SensorLabel* label)
 
 void ConstraintLineSet::update(const RegionStore& regions, const Bands& bands)
 {
-    QVector<LineRubberBand*> current;
+    QVector<LineRubberBand*> former = std::exchange(m_lines, {});
     for (const ConstraintGroup& group : regions.groups()) {
-        const QColor color = bands[group.master()]->shownColor();
         for (const LineEdge edge : {LineEdge::Leading, LineEdge::Trailing}) {
-            LineRubberBand* line = find(group, edge);
-            if (!line)
-                line = create(group, color, bands);
+            const auto it = std::find_if(former.begin(), former.end(), [&](LineRubberBand* line) {
+                return line->group().kind == group.kind && line->edge() == edge
+                    && line->group().master() == group.master();
+            });
+            LineRubberBand* line = it == former.end() ? create(group, bands) : *it;
+            former.removeOne(line);
             line->setEdge(group, edge);
-            line->setColor(color);
+            line->setColor(bands[group.master()]->shownColor());
             place(line, regions);
-            current << line;
+            m_lines << line;
         }
     }
-    removeAllBut(current);
-    for (LineRubberBand* line : qAsConst(current))
+    for (LineRubberBand* line : qAsConst(former)) {
+        emit line->geometryChanged({});
+        line->hide();
+        line->disconnect();
+        line->deleteLater();
+    }
+    for (LineRubberBand* line : qAsConst(m_lines))
         line->announce();
 }
 
 void ConstraintLineSet::follow(int region, const RegionStore& regions)
 {
-    for (LineRubberBand* line : m_lines.value(region))
-        place(line, regions);
+    for (LineRubberBand* line : qAsConst(m_lines)) {
+        if (line->group().master() == region)
+            place(line, regions);
+    }
 }
 
 void ConstraintLineSet::setColor(int master, const QColor& color)
 {
-    for (LineRubberBand* line : m_lines.value(master))
-        line->setColor(color);
+    for (LineRubberBand* line : qAsConst(m_lines)) {
+        if (line->group().master() == master)
+            line->setColor(color);
+    }
 }
 
 void ConstraintLineSet::raise()
 {
-    for (const auto& lines : qAsConst(m_lines)) {
-        for (LineRubberBand* line : lines)
-            line->raise();
-    }
+    for (LineRubberBand* line : qAsConst(m_lines))
+        line->raise();
 }
 
 void ConstraintLineSet::connectTo(RectangleRubberBand* band)
 {
-    for (const auto& lines : qAsConst(m_lines)) {
-        for (LineRubberBand* line : lines)
-            connectLine(line, band);
-    }
+    for (LineRubberBand* line : qAsConst(m_lines))
+        connectLine(line, band);
 }
 
 LineRubberBand* ConstraintLineSet::lineAt(const QPoint& point, const QRect& band) const
 {
     LineRubberBand* nearest = nullptr;
-    QMap<Qt::Orientation, QVector<int>> positions;
-    for (const auto& lines : m_lines) {
-        for (LineRubberBand* line : lines) {
-            positions[line->group().axis()] << line->position();
-            const std::optional<int> distance = line->distanceTo(point);
-            if (distance && (!nearest || *distance < *nearest->distanceTo(point)))
-                nearest = line;
+    int distance = std::numeric_limits<int>::max();
+    for (LineRubberBand* line : m_lines) {
+        const std::optional<int> own = line->distanceTo(point);
+        if (own && *own < distance) {
+            nearest = line;
+            distance = *own;
         }
     }
     if (!nearest || !band.contains(point))
         return nearest;
+
     const Qt::Orientation axis = nearest->group().axis();
+    QVector<int> positions;
+    for (const LineRubberBand* line : m_lines) {
+        if (line->group().axis() == axis)
+            positions << line->position();
+    }
     const int place = axis == Qt::Horizontal ? point.x() : point.y();
-    return isForLines(spanOf(band, axis), place, positions[axis]) ? nearest : nullptr;
+    return isForLines(spanOf(band, axis), place, positions) ? nearest : nullptr;
 }
 
-LineRubberBand* ConstraintLineSet::find(const ConstraintGroup& group, LineEdge edge) const
-{
-    const auto lines = m_lines.value(group.master());
-    const auto it = std::find_if(lines.begin(), lines.end(), [&](const LineRubberBand* line) {
-        return line->group().kind == group.kind && line->edge() == edge;
-    });
-    return it == lines.end() ? nullptr : *it;
-}
-
-LineRubberBand* ConstraintLineSet::create(const ConstraintGroup& group, const QColor& color,
-                                          const Bands& bands)
+LineRubberBand* ConstraintLineSet::create(const ConstraintGroup& group, const Bands& bands)
 {
     const int orientation = group.kind == ConstraintGroup::Row ? LineRubberBand::horizontal
                                                                : LineRubberBand::vertical;
-    auto* line = new LineRubberBand(orientation, 0, m_label, 1, color, m_label);
+    auto* line = new LineRubberBand(orientation, 0, m_label, 1, bands[group.master()]->shownColor(),
+                                    m_label);
     for (RectangleRubberBand* band : bands)
         connectLine(line, band);
-    m_lines[group.master()] << line;
     line->show();
     return line;
-}
-
-void ConstraintLineSet::removeAllBut(const QVector<LineRubberBand*>& kept)
-{
-    for (auto it = m_lines.begin(); it != m_lines.end();) {
-        QVector<LineRubberBand*> staying;
-        for (LineRubberBand* line : qAsConst(*it)) {
-            if (kept.contains(line)) {
-                staying << line;
-                continue;
-            }
-            emit line->geometryChanged({});
-            line->hide();
-            line->disconnect();
-            line->deleteLater();
-        }
-        *it = staying;
-        it = staying.isEmpty() ? m_lines.erase(it) : std::next(it);
-    }
 }
 
 void ConstraintLineSet::place(LineRubberBand* line, const RegionStore& regions)

@@ -33,11 +33,9 @@ public:
     LineRubberBand* lineAt(const QPoint& point, const QRect& band) const;
 
 private:
-    LineRubberBand* find(const ConstraintGroup& group, LineEdge edge) const;
-    LineRubberBand* create(const ConstraintGroup& group, const QColor& color, const Bands& bands);
-    void removeAllBut(const QVector<LineRubberBand*>& kept);
+    LineRubberBand* create(const ConstraintGroup& group, const Bands& bands);
     void place(LineRubberBand* line, const RegionStore& regions);
 
     SensorLabel* const m_label;
-    QMap<int, QVector<LineRubberBand*>> m_lines; ///< by master
+    QVector<LineRubberBand*> m_lines;
 };

@@ -9,17 +9,10 @@ namespace {
 using Regions = QVector<ShownRegion>;
 using Changes = QMap<int, QRect>;
 
-const ShownRegion& at(const Regions& regions, int number)
-{
-    return *std::lower_bound(
-        regions.begin(), regions.end(), number,
-        [](const ShownRegion& region, int wanted) { return region.number < wanted; });
-}
-
 bool inLine(const Regions& regions, const ConstraintGroup& group, int a, int b)
 {
-    return spanOf(at(regions, a).rectangle, group.axis())
-        == spanOf(at(regions, b).rectangle, group.axis());
+    return spanOf(regionIn(regions, a).rectangle, group.axis())
+        == spanOf(regionIn(regions, b).rectangle, group.axis());
 }
 
 QRect rectangleAfter(const Changes& changes, const ShownRegion& region)
@@ -53,9 +46,10 @@ void alignMembers(const Regions& regions, const ConstraintGroup& group, const Re
                   Changes& changes)
 {
     for (const int member : group.members) {
-        const QRect present = rectangleAfter(changes, at(regions, member));
+        const QRect present = rectangleAfter(changes, regionIn(regions, member));
         const QRect aligned = withSpan(present, group.axis(), span);
-        if (aligned != present && !overlapsAnew(regions, changes, at(regions, member), aligned))
+        if (aligned != present
+            && !overlapsAnew(regions, changes, regionIn(regions, member), aligned))
             changes.insert(member, aligned);
     }
 }
@@ -66,7 +60,7 @@ QVector<RegionChange> changesAfterBandDrag(const Regions& regions,
                                            const QVector<ConstraintGroup>& groups,
                                            const SensorMapping& mapping, int region)
 {
-    const ShownRegion& dragged = at(regions, region);
+    const ShownRegion& dragged = regionIn(regions, region);
     const QRect converted = convertedRegion(dragged, regions, mapping);
     if (converted == dragged.rectangle)
         return {{region, converted}};
@@ -78,7 +72,7 @@ QVector<RegionChange> changesAfterBandDrag(const Regions& regions,
         const RegionSpan own = spanOf(changes[region], group.axis());
         const RegionSpan shared = inLine(regions, group, region, group.master())
             ? keptOffOutsiders(own, dragged, regions, group, mapping)
-            : spanOf(at(regions, group.master()).rectangle, group.axis());
+            : spanOf(regionIn(regions, group.master()).rectangle, group.axis());
         const QRect aligned = withSpan(changes[region], group.axis(), shared);
         if (overlapsAnew(regions, changes, dragged, aligned))
             continue;
@@ -95,7 +89,7 @@ QVector<RegionChange> changesAfterBandDrag(const Regions& regions,
 QVector<RegionChange> changesAfterLineDrag(const Regions& regions, const ConstraintGroup& group,
                                            const SensorMapping& mapping)
 {
-    const ShownRegion& master = at(regions, group.master());
+    const ShownRegion& master = regionIn(regions, group.master());
     if (spanOf(master.band, group.axis())
         == spanOf(labelRect(master.rectangle, mapping), group.axis()))
         return {};
@@ -106,7 +100,7 @@ QVector<RegionChange> changesAfterLineDrag(const Regions& regions, const Constra
     alignMembers(regions, group, shared, changes);
     QVector<RegionChange> result;
     for (const int member : group.members)
-        result << RegionChange{member, rectangleAfter(changes, at(regions, member))};
+        result << RegionChange{member, rectangleAfter(changes, regionIn(regions, member))};
     return result;
 }
 
@@ -119,7 +113,7 @@ bool membersCanFollow(const Regions& regions, const QVector<ConstraintGroup>& gr
         for (const int member : group.members) {
             if (member == region || !inLine(regions, group, member, region))
                 continue;
-            const QRect present = at(regions, member).band;
+            const QRect present = regionIn(regions, member).band;
             const QRect follower = withSpan(present, group.axis(), spanOf(band, group.axis()));
             const auto isInTheWay = [&](const ShownRegion& other) {
                 const QRect obstacle = other.number == region ? band : other.band;

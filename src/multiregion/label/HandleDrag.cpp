@@ -10,7 +10,7 @@ QRect movedRegionBand(const QRect& band, const QPoint& delta, const QSize& image
     int y = std::max(constraints.lowerBound.y(),
                      std::min(image.height() - band.height(), band.y() + delta.y()));
     const auto blocks = [&constraints](MoveDirection direction) {
-        return constraints.blocked.contains(direction);
+        return constraints.blocked.count(direction) > 0;
     };
     if ((y < band.y() && blocks(MoveDirection::Up))
         || (y > band.y() && blocks(MoveDirection::Down)))
@@ -31,44 +31,17 @@ QRect resizedRegionBand(const QRect& band, HandleGrab grab, const QPoint& point,
     int right = band.x() + band.width() - 1;
     int bottom = band.y() + band.height() - 1;
 
-    const auto leftEdge = [&] { return std::max(0, std::min(right - least.width(), point.x())); };
-    const auto rightEdge
-        = [&] { return std::max(left + least.width(), std::min(left + most.width(), point.x())); };
-    const auto topEdge = [&] { return std::max(0, std::min(bottom - least.height(), point.y())); };
-    const auto bottomEdge
-        = [&] { return std::max(top + least.height(), std::min(top + most.height(), point.y())); };
-
-    switch (grab) {
-    case HandleGrab::Left:
-        left = leftEdge();
-        break;
-    case HandleGrab::Right:
-        right = rightEdge();
-        break;
-    case HandleGrab::Top:
-        top = topEdge();
-        break;
-    case HandleGrab::Bottom:
-        bottom = bottomEdge();
-        break;
-    case HandleGrab::TopLeft:
-        left = leftEdge();
-        top = topEdge();
-        break;
-    case HandleGrab::TopRight:
-        right = std::max(0, std::min(left + most.width(), point.x()));
-        top = std::max(bottom - most.height(), std::min(bottom - least.height(), point.y()));
-        break;
-    case HandleGrab::BottomLeft:
-        left = leftEdge();
-        bottom = bottomEdge();
-        break;
-    case HandleGrab::BottomRight:
-        right = rightEdge();
-        bottom = bottomEdge();
-        break;
-    case HandleGrab::Move:
-        break;
-    }
+    const GrabbedEdges edges = grabbedEdges(grab);
+    const bool isTopRight = grab == HandleGrab::TopRight;
+    if (edges.horizontal < 0)
+        left = std::max(0, std::min(right - least.width(), point.x()));
+    else if (edges.horizontal > 0)
+        right = std::max(isTopRight ? 0 : left + least.width(),
+                         std::min(left + most.width(), point.x()));
+    if (edges.vertical < 0)
+        top = std::max(isTopRight ? bottom - most.height() : 0,
+                       std::min(bottom - least.height(), point.y()));
+    else if (edges.vertical > 0)
+        bottom = std::max(top + least.height(), std::min(top + most.height(), point.y()));
     return {left, top, right - left + 1, bottom - top + 1};
 }

@@ -2,8 +2,9 @@
 
 #include "multiregion/label/HandleGrab.h"
 
-#include <QSet>
 #include <QSize>
+
+#include <set>
 
 /// Directions in which constraint lines keep a band from moving.
 enum class MoveDirection {
@@ -13,16 +14,11 @@ enum class MoveDirection {
     Down = 4,
 };
 
-inline uint qHash(MoveDirection direction, uint seed = 0)
-{
-    return ::qHash(static_cast<int>(direction), seed);
-}
-
 /// How constraint lines hold a band that is being moved. A bound of -1 is none; as it stands, it
 /// lets the band protrude by one pixel.
 struct MoveConstraints
 {
-    QSet<MoveDirection> blocked;
+    std::set<MoveDirection> blocked;
     QPoint lowerBound{-1, -1}; ///< of the band's position, label pixels
 };
 
@@ -46,10 +42,3 @@ struct BandSizeLimits
 /// @param grab everything but Move
 QRect resizedRegionBand(const QRect& band, HandleGrab grab, const QPoint& point,
                         const BandSizeLimits& limits);
-
-/// Of two overlapping regions the one with the higher number is in conflict.
-/// @param other the region that overlaps, -1 for none
-constexpr bool isConflict(int region, int other)
-{
-    return other >= 0 && other < region;
-}

@@ -4,12 +4,6 @@ namespace {
 
 constexpr int zone = 4; ///< pixels
 
-enum class Edge {
-    None,
-    Near,
-    Far,
-};
-
 bool inNearZone(int first, int position)
 {
     return position >= first && position < first + zone;
@@ -22,49 +16,44 @@ bool inFarZone(int last, int position)
 
 } // namespace
 
+GrabbedEdges grabbedEdges(HandleGrab grab)
+{
+    constexpr GrabbedEdges edges[]
+        = {{0, 0}, {-1, 0}, {1, 0}, {0, -1}, {0, 1}, {-1, -1}, {1, -1}, {-1, 1}, {1, 1}};
+    return edges[static_cast<int>(grab)];
+}
+
 HandleGrab handleGrabAt(const QRect& band, const QPoint& point)
 {
     const int lastColumn = band.x() + band.width() - 1;
     const int lastRow = band.y() + band.height() - 1;
 
     // On a band thinner than both zones the right edge wins over the left, the top over the bottom.
-    Edge horizontal = Edge::None;
+    int column = 1;
     if (inFarZone(lastColumn, point.x()))
-        horizontal = Edge::Far;
+        column = 2;
     else if (inNearZone(band.x(), point.x()))
-        horizontal = Edge::Near;
-
-    Edge vertical = Edge::None;
+        column = 0;
+    int row = 1;
     if (inNearZone(band.y(), point.y()))
-        vertical = Edge::Near;
+        row = 0;
     else if (inFarZone(lastRow, point.y()))
-        vertical = Edge::Far;
+        row = 2;
 
     constexpr HandleGrab grabs[3][3] = {
-        {HandleGrab::Move, HandleGrab::Top, HandleGrab::Bottom},
-        {HandleGrab::Left, HandleGrab::TopLeft, HandleGrab::BottomLeft},
-        {HandleGrab::Right, HandleGrab::TopRight, HandleGrab::BottomRight},
+        {HandleGrab::TopLeft, HandleGrab::Top, HandleGrab::TopRight},
+        {HandleGrab::Left, HandleGrab::Move, HandleGrab::Right},
+        {HandleGrab::BottomLeft, HandleGrab::Bottom, HandleGrab::BottomRight},
     };
-    return grabs[static_cast<int>(horizontal)][static_cast<int>(vertical)];
+    return grabs[row][column];
 }
 
 Qt::CursorShape cursorForGrab(HandleGrab grab)
 {
-    switch (grab) {
-    case HandleGrab::Left:
-    case HandleGrab::Right:
+    const GrabbedEdges edges = grabbedEdges(grab);
+    if (edges.horizontal == 0)
+        return edges.vertical == 0 ? Qt::SizeAllCursor : Qt::SizeVerCursor;
+    if (edges.vertical == 0)
         return Qt::SizeHorCursor;
-    case HandleGrab::Top:
-    case HandleGrab::Bottom:
-        return Qt::SizeVerCursor;
-    case HandleGrab::TopLeft:
-    case HandleGrab::BottomRight:
-        return Qt::SizeFDiagCursor;
-    case HandleGrab::TopRight:
-    case HandleGrab::BottomLeft:
-        return Qt::SizeBDiagCursor;
-    case HandleGrab::Move:
-        break;
-    }
-    return Qt::SizeAllCursor;
+    return edges.horizontal == edges.vertical ? Qt::SizeFDiagCursor : Qt::SizeBDiagCursor;
 }

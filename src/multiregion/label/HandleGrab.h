@@ -17,6 +17,16 @@ enum class HandleGrab {
     BottomRight = 8,
 };
 
+/// The edges that a grab moves: -1 for the left or top one, 1 for the right or bottom one, 0 for
+/// none.
+struct GrabbedEdges
+{
+    int horizontal = 0;
+    int vertical = 0;
+};
+
+GrabbedEdges grabbedEdges(HandleGrab grab);
+
 /// What a press at @p point takes hold of, label pixels. The zones are four pixels wide inside the
 /// band; its last column and row do not belong to them. The caller knows the point on the band.
 HandleGrab handleGrabAt(const QRect& band, const QPoint& point);

@@ -34,11 +34,6 @@ std::optional<int> LineRubberBand::distanceTo(const QPoint& point) const
     return grabDistance(m_position, isVertical() ? point.x() : point.y());
 }
 
-void LineRubberBand::setBounds(const LineBounds& bounds)
-{
-    m_bounds = bounds;
-}
-
 void LineRubberBand::place(int position, int length)
 {
     m_position = position;
@@ -59,21 +54,6 @@ void LineRubberBand::setColor(const QColor& color)
     QPalette colors = palette();
     colors.setBrush(QPalette::Highlight, QBrush(color, Qt::SolidPattern));
     setPalette(colors);
-}
-
-void LineRubberBand::announce()
-{
-    emit geometryChanged(geometry());
-}
-
-void LineRubberBand::onMoveStarted()
-{
-    m_dragging = true;
-}
-
-void LineRubberBand::onMoveFinished()
-{
-    m_dragging = false;
 }
 
 void LineRubberBand::moveToPoint(QPoint point)

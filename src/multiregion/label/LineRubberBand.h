@@ -34,20 +34,20 @@ public:
     /// Of a point that is near enough to grab the line.
     std::optional<int> distanceTo(const QPoint& point) const;
 
-    void setBounds(const LineBounds& bounds);
+    void setBounds(const LineBounds& bounds) { m_bounds = bounds; }
     /// Places the line without a signal.
     void place(int position, int length);
     void setColor(const QColor& color);
     /// Tells the bands where the line is.
-    void announce();
+    void announce() { emit geometryChanged(geometry()); }
 
 signals:
     /// A null rectangle: the line goes.
     void geometryChanged(QRect newGeometry);
 
 public slots:
-    void onMoveStarted();
-    void onMoveFinished();
+    void onMoveStarted() { m_dragging = true; }
+    void onMoveFinished() { m_dragging = false; }
     void moveToPoint(QPoint point);
 
 protected:

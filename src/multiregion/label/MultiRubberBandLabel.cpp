@@ -1,9 +1,7 @@
 #include "multiregion/label/MultiRubberBandLabel.h"
 
-#include "multiregion/label/DragChanges.h"
 #include "multiregion/label/LineRubberBand.h"
 #include "multiregion/label/RectangleRubberBand.h"
-#include "multiregion/label/RegionRanges.h"
 
 #include <QPointer>
 #include <QSignalBlocker>
@@ -15,11 +13,6 @@ namespace {
 
 constexpr QSize preferredSize(400, 300);
 constexpr double smallestFactor = 1e-5;
-
-double ratio(int newLength, int oldLength)
-{
-    return oldLength > 0 ? static_cast<double>(newLength) / oldLength : 0.0;
-}
 
 } // namespace
 
@@ -68,7 +61,7 @@ void MultiRubberBandLabel::setRegionLimits(int regionNo, const RegionSizeLimits&
 
 void MultiRubberBandLabel::selectRegion(int regionNo)
 {
-    if (regionNo == m_selectedRegion && regionNo == m_pressedRegion)
+    if (m_pressedRegion == regionNo)
         return;
     m_selectedRegion = regionNo;
     for (RectangleRubberBand* band : qAsConst(m_bands))
@@ -83,34 +76,19 @@ QColor MultiRubberBandLabel::shownColor(int regionNo) const
     return band ? band->shownColor() : regionColor(regionNo);
 }
 
-std::optional<int> MultiRubberBandLabel::regionUnder(const QPoint& point) const
-{
-    return m_regions.regionAt(point, m_selectedRegion);
-}
-
-std::optional<int> MultiRubberBandLabel::intersecting(int region, const QRect& band) const
-{
-    return m_regions.intersecting(region, band);
-}
-
-bool MultiRubberBandLabel::canBeFollowed(int region, const QRect& band) const
-{
-    return m_regions.groups().isEmpty()
-        || membersCanFollow(m_regions.shown(), m_regions.groups(), region, band);
-}
-
-QVector<int> MultiRubberBandLabel::sharingRegions(int regionNo, Qt::Orientation axis) const
-{
-    return ::sharingRegions(m_regions.groups(), regionNo, axis);
-}
-
 void MultiRubberBandLabel::announceRegions()
 {
+    m_announcePending = false;
+    if (signalsBlocked())
+        return;
     if (m_arrangePending)
-        arrange();
-    else
-        announce({&MultiRubberBandLabel::announceColor, &MultiRubberBandLabel::announceConstraints,
-                  &MultiRubberBandLabel::announceRange});
+        arrangeSilently();
+    const QPointer<MultiRubberBandLabel> guard(this);
+    const QVector<int> regions = m_regions.numbers();
+    for (const int region : regions) {
+        if (guard)
+            announce(region);
+    }
 }
 
 QSize MultiRubberBandLabel::sizeHint() const
@@ -140,8 +118,12 @@ void MultiRubberBandLabel::removeRectangle(int index)
 
 void MultiRubberBandLabel::updateRegionRangeRect()
 {
-    if (!signalsBlocked())
-        announce({&MultiRubberBandLabel::announceRange});
+    const QPointer<MultiRubberBandLabel> guard(this);
+    const QList<int> regions = m_bands.keys();
+    for (const int region : regions) {
+        if (guard && !signalsBlocked())
+            announceRange(region);
+    }
 }
 
 void MultiRubberBandLabel::setBackgroundImage(std::shared_ptr<QPixmap> image, QSize sensorSize,
@@ -165,7 +147,7 @@ void MultiRubberBandLabel::onRegionGeometryChanged(int regionNo, QRect geometry)
 {
     m_regions.tell(regionNo, geometry);
     if (!m_drag.isRunning() && m_regions.applyWaiting())
-        arrangeUnlessBlocked();
+        arrange();
 }
 
 void MultiRubberBandLabel::onRegionActivated(int regionNo, bool active)
@@ -176,16 +158,11 @@ void MultiRubberBandLabel::onRegionActivated(int regionNo, bool active)
         showRectangle(regionNo);
 }
 
-bool MultiRubberBandLabel::grabs(const QPoint& point) const
-{
-    return lineAt(point) || bandAt(point);
-}
-
 void MultiRubberBandLabel::press(const QPoint& point)
 {
     const QPointer<MultiRubberBandLabel> guard(this);
     if (m_arrangePending)
-        arrange();
+        announceRegions();
     if (LineRubberBand* line = guard ? lineAt(point) : nullptr)
         m_drag.begin(line);
     else if (RectangleRubberBand* band = guard ? bandAt(point) : nullptr)
@@ -193,7 +170,7 @@ void MultiRubberBandLabel::press(const QPoint& point)
     if (guard && m_drag.isRunning())
         emit rubberChangeStarted(point);
     else if (guard)
-        dropDrag(); // there is nothing any more
+        dropDrag(); // nothing is there any more
 }
 
 void MultiRubberBandLabel::drag(const QPoint& point)
@@ -250,9 +227,10 @@ void MultiRubberBandLabel::resizeEvent(QResizeEvent* event)
     arrangeSilently();
     announceSoon();
     const QSize& shown = m_regions.mapping().shown;
-    const double factorX = ratio(shown.width(), before.width());
-    if (factorX >= smallestFactor)
-        emit labelGeometryChanged(factorX, ratio(shown.height(), before.height()), shown);
+    const double factorX = static_cast<double>(shown.width()) / std::max(1, before.width());
+    const double factorY = static_cast<double>(shown.height()) / std::max(1, before.height());
+    if (!before.isEmpty() && factorX >= smallestFactor)
+        emit labelGeometryChanged(factorX, factorY, shown);
 }
 
 void MultiRubberBandLabel::showRectangle(int regionNo)
@@ -277,7 +255,7 @@ void MultiRubberBandLabel::showRectangle(int regionNo)
     const QPointer<MultiRubberBandLabel> guard(this);
     emit regionActivated(regionNo, true);
     if (guard)
-        arrangeUnlessBlocked();
+        arrange();
 }
 
 RectangleRubberBand* MultiRubberBandLabel::bandAt(const QPoint& point) const
@@ -301,23 +279,15 @@ void MultiRubberBandLabel::rescale()
 }
 
 /// Brings everything on the label in line with what is known of the regions, except for the bands
-/// that are being dragged.
+/// that are being dragged. With its signals blocked the label is being told of many regions: each
+/// compared with all the others, for every one of them, would make the page wait.
 void MultiRubberBandLabel::arrange()
 {
-    arrangeSilently();
-    if (!signalsBlocked())
-        announceRegions();
-}
-
-/// With its signals blocked the label is being told of many regions: each compared with all the
-/// others, for every one of them, would make the page wait.
-void MultiRubberBandLabel::arrangeUnlessBlocked()
-{
-    m_arrangePending = signalsBlocked();
-    if (m_arrangePending)
+    m_arrangePending = true;
+    if (signalsBlocked())
         announceSoon();
     else
-        arrange();
+        announceRegions();
 }
 
 void MultiRubberBandLabel::arrangeSilently()
@@ -356,19 +326,6 @@ void MultiRubberBandLabel::restack()
     m_lines.raise();
 }
 
-void MultiRubberBandLabel::announce(const QVector<Announcement>& announcements)
-{
-    m_announcePending = false;
-    const QPointer<MultiRubberBandLabel> guard(this);
-    const QVector<int> regions = m_regions.numbers();
-    for (const Announcement announcement : announcements) {
-        for (const int region : regions) {
-            if (guard)
-                (this->*announcement)(region);
-        }
-    }
-}
-
 void MultiRubberBandLabel::announceSoon()
 {
     if (std::exchange(m_announcePending, true))
@@ -380,37 +337,24 @@ void MultiRubberBandLabel::announceSoon()
     QMetaObject::invokeMethod(this, announceIfPending, Qt::QueuedConnection);
 }
 
-void MultiRubberBandLabel::announceColor(int regionNo)
+void MultiRubberBandLabel::announce(int regionNo)
 {
+    const QPointer<MultiRubberBandLabel> guard(this);
     if (isRegionShown(regionNo))
         emit regionColorChanged(regionNo, shownColor(regionNo));
-}
-
-void MultiRubberBandLabel::announceConstraints(int regionNo)
-{
-    const QStringList features = sharedFeatures(regionNo, m_regions.groups());
-    const bool wasConstrained = m_regions.isConstrained(regionNo);
-    if (!m_regions.areNewConstraints(regionNo, features))
-        return;
-    const QPointer<MultiRubberBandLabel> guard(this);
-    if (wasConstrained)
-        emit constraintsActivated(regionNo, {});
-    if (guard && !features.isEmpty())
-        emit constraintsActivated(regionNo, features);
+    const auto news = guard ? m_regions.newConstraints(regionNo) : QVector<QStringList>();
+    for (const QStringList& features : news) {
+        if (guard)
+            emit constraintsActivated(regionNo, features);
+    }
+    if (guard)
+        announceRange(regionNo);
 }
 
 void MultiRubberBandLabel::announceRange(int regionNo)
 {
-    const QVector<ShownRegion> shown = m_regions.shown();
-    const auto region
-        = std::find_if(shown.begin(), shown.end(),
-                       [regionNo](const ShownRegion& known) { return known.number == regionNo; });
-    if (region == shown.end())
-        return;
-    const QRect range = rangeBetweenNeighbours(*region, shown, m_regions.mode(), m_regions.groups(),
-                                               sensorSize());
-    if (m_regions.isNewRange(regionNo, range))
-        emit regionRangeChanged(regionNo, range);
+    if (const auto range = m_regions.newRange(regionNo))
+        emit regionRangeChanged(regionNo, *range);
 }
 
 void MultiRubberBandLabel::onBandPressed(int regionNo)
@@ -422,7 +366,7 @@ void MultiRubberBandLabel::onBandPressed(int regionNo)
     m_pressedRegion = regionNo;
     emit regionSelected(regionNo);
     if (guard)
-        m_pressedRegion = -1;
+        m_pressedRegion.reset();
 }
 
 /// At the end of the band's drag, or when a neighbour has brought or solved a conflict. Nothing is

@@ -37,12 +37,25 @@ public:
     bool isRegionShown(int regionNo) const { return m_bands.contains(regionNo); }
 
     /// The shown region under a point.
-    std::optional<int> regionUnder(const QPoint& point) const;
-    std::optional<int> intersecting(int region, const QRect& band) const override;
-    bool canBeFollowed(int region, const QRect& band) const override;
+    std::optional<int> regionUnder(const QPoint& point) const
+    {
+        return m_regions.regionAt(point, m_selectedRegion);
+    }
+    std::optional<int> intersecting(int region, const QRect& band) const override
+    {
+        return m_regions.intersecting(region, band);
+    }
+    bool canBeFollowed(int region, const QRect& band) const override
+    {
+        return m_regions.groups().isEmpty()
+            || membersCanFollow(m_regions.shown(), m_regions.groups(), region, band);
+    }
     /// The shown regions that share their edges along @p axis with this one, the master first;
     /// empty for a region that shares none.
-    QVector<int> sharingRegions(int regionNo, Qt::Orientation axis) const;
+    QVector<int> sharingRegions(int regionNo, Qt::Orientation axis) const
+    {
+        return ::sharingRegions(m_regions.groups(), regionNo, axis);
+    }
 
     /// Announces the shown colours again, and what else changed while the signals were blocked.
     /// Regions told of meanwhile are arranged now, all at once; without this call, with the next
@@ -81,7 +94,7 @@ public slots:
     void onRegionActivated(int regionNo, bool active);
 
 protected:
-    bool grabs(const QPoint& point) const override;
+    bool grabs(const QPoint& point) const override { return lineAt(point) || bandAt(point); }
     void press(const QPoint& point) override;
     void drag(const QPoint& point) override;
     void release(const QPoint& point) override;
@@ -97,15 +110,11 @@ private:
     void rescale();
     void arrange();
     void arrangeSilently();
-    void arrangeUnlessBlocked();
     void placeBand(RectangleRubberBand* band);
     void restack();
 
-    using Announcement = void (MultiRubberBandLabel::*)(int);
-    void announce(const QVector<Announcement>& announcements);
     void announceSoon();
-    void announceColor(int regionNo);
-    void announceConstraints(int regionNo);
+    void announce(int regionNo);
     void announceRange(int regionNo);
 
     void onBandPressed(int regionNo);
@@ -118,7 +127,7 @@ private:
     ConstraintLineSet m_lines;
     QMap<int, RectangleRubberBand*> m_bands; ///< of the shown regions
     int m_selectedRegion = -1;
-    int m_pressedRegion = -1; ///< while regionSelected() tells it
+    std::optional<int> m_pressedRegion; ///< while regionSelected() tells it
     bool m_arrangePending = false;
     bool m_announcePending = false;
 };

@@ -62,16 +62,6 @@ void RectangleRubberBand::setOwnColor(const QColor& color)
     emit colorChanged(m_regionNo, shownColor());
 }
 
-void RectangleRubberBand::setSizeLimits(const BandSizeLimits& limits)
-{
-    m_limits = limits;
-}
-
-HandleGrab RectangleRubberBand::grabAt(const QPoint& point) const
-{
-    return handleGrabAt(geometry(), point);
-}
-
 void RectangleRubberBand::press(const QPoint& point)
 {
     m_grab = grabAt(point);
@@ -122,7 +112,7 @@ void RectangleRubberBand::resizeMoveToPoint(QPoint point)
 
 void RectangleRubberBand::onIntersectionFound(int conflictRegion)
 {
-    m_inConflict = isConflict(m_regionNo, conflictRegion);
+    m_inConflict = conflictRegion >= 0 && conflictRegion < m_regionNo;
     applyColor();
     emit colorChanged(m_regionNo, shownColor());
 }
@@ -158,11 +148,8 @@ void RectangleRubberBand::onConstraintBandChanged(QRect lineBandGeometry)
         m_lineConstraints.remove(line);
         return;
     }
-    const ConstraintGroup& group = line->group();
-    m_lineConstraints[line]
-        = constraintsFromLine({group.axis(), line->edge(), line->position(),
-                               group.members.contains(m_regionNo), group.master() == m_regionNo},
-                              geometry());
+    m_lineConstraints[line] = constraintsFromLine(line->group(), line->edge(), line->position(),
+                                                  m_regionNo, geometry());
 }
 
 void RectangleRubberBand::changeEvent(QEvent* event)

@@ -33,9 +33,9 @@ public:
     /// Red in a conflict, else the region's own.
     QColor shownColor() const;
     void setOwnColor(const QColor& color);
-    void setSizeLimits(const BandSizeLimits& limits);
+    void setSizeLimits(const BandSizeLimits& limits) { m_limits = limits; }
 
-    HandleGrab grabAt(const QPoint& point) const;
+    HandleGrab grabAt(const QPoint& point) const { return handleGrabAt(geometry(), point); }
 
     /// Takes hold of the band.
     void press(const QPoint& point);

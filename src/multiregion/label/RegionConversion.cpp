@@ -69,6 +69,13 @@ bool touchesOnlyOnSensor(const QRect& region, const ShownRegion& dragged, const 
 
 } // namespace
 
+const ShownRegion& regionIn(const QVector<ShownRegion>& regions, int number)
+{
+    return *std::lower_bound(
+        regions.begin(), regions.end(), number,
+        [](const ShownRegion& region, int wanted) { return region.number < wanted; });
+}
+
 RegionSpan convertedSpan(const ShownRegion& dragged, Qt::Orientation axis,
                          const SensorMapping& mapping)
 {

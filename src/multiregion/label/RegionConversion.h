@@ -37,6 +37,9 @@ struct ShownRegion
     RegionSizeLimits limits;
 };
 
+/// The region with a number that is among @p regions, which ascend.
+const ShownRegion& regionIn(const QVector<ShownRegion>& regions, int number);
+
 /// One axis of a region after a drag.
 ///
 /// Only edges that the drag moved are converted, to where the camera would round them; a span that

@@ -6,7 +6,6 @@
 
 #include <QPointer>
 
-#include <algorithm>
 #include <utility>
 
 namespace {
@@ -35,13 +34,7 @@ QVector<int> RegionDrag::held() const
 
 bool RegionDrag::isPossible() const
 {
-    if (!m_line)
-        return true;
-    const ConstraintGroup& held = m_line->group();
-    const QVector<ConstraintGroup>& groups = m_regions->groups();
-    return std::any_of(groups.begin(), groups.end(), [&held](const ConstraintGroup& group) {
-        return group.kind == held.kind && group.master() == held.master();
-    });
+    return !m_line || m_regions->groups().contains(m_line->group());
 }
 
 void RegionDrag::begin(LineRubberBand* line)

@@ -19,7 +19,7 @@ public:
     /// The regions whose bands go with it.
     QVector<int> held() const;
     bool holds(int region) const { return held().contains(region); }
-    /// Not for a line whose group is gone or has another master.
+    /// Not for a line whose group is not as it was.
     bool isPossible() const;
 
     void begin(LineRubberBand* line);

@@ -1,5 +1,7 @@
 #include "multiregion/label/RegionStore.h"
 
+#include "multiregion/label/RegionRanges.h"
+
 #include <algorithm>
 #include <utility>
 
@@ -24,11 +26,6 @@ void RegionStore::setRectangle(int region, const QRect& rectangle)
     m_regions[region].waiting.reset();
 }
 
-void RegionStore::tell(int region, const QRect& rectangle)
-{
-    m_regions[region].waiting = rectangle;
-}
-
 bool RegionStore::applyWaiting()
 {
     bool isChanged = false;
@@ -38,11 +35,6 @@ bool RegionStore::applyWaiting()
         isChanged = isChanged || (region.band && region.rectangle != before);
     }
     return isChanged;
-}
-
-void RegionStore::setLimits(int region, const RegionSizeLimits& limits)
-{
-    m_regions[region].limits = limits;
 }
 
 BandSizeLimits RegionStore::bandLimits(int region) const
@@ -67,26 +59,6 @@ BandSizeLimits RegionStore::bandLimits(const QVector<int>& regions) const
         result.maximum = result.maximum.boundedTo(limits.maximum);
     }
     return result;
-}
-
-QColor RegionStore::color(int region) const
-{
-    return find(region).color.value_or(m_defaultColor);
-}
-
-void RegionStore::setColor(int region, const QColor& color)
-{
-    m_regions[region].color = color;
-}
-
-void RegionStore::setBand(int region, const QRect& band)
-{
-    m_regions[region].band = band;
-}
-
-void RegionStore::hide(int region)
-{
-    m_regions[region].band.reset();
 }
 
 QVector<ShownRegion> RegionStore::shown() const
@@ -126,14 +98,24 @@ std::optional<int> RegionStore::regionAt(const QPoint& point, int preferred) con
     return it == m_regions.rend() ? std::nullopt : std::optional(it->first);
 }
 
-bool RegionStore::isNewRange(int region, const QRect& range)
+std::optional<QRect> RegionStore::newRange(int region)
 {
-    return std::exchange(m_regions[region].range, range) != range;
+    if (!find(region).band)
+        return std::nullopt;
+    const QRect range = rangeBetweenNeighbours(shown(), m_mode, m_groups, m_mapping.sensor, region);
+    const QRect before = std::exchange(m_regions[region].range, range);
+    return range == before ? std::nullopt : std::optional(range);
 }
 
-bool RegionStore::areNewConstraints(int region, const QStringList& features)
+QVector<QStringList> RegionStore::newConstraints(int region)
 {
-    return std::exchange(m_regions[region].constraints, features) != features;
+    const QStringList features = sharedFeatures(region, m_groups);
+    const QStringList before = std::exchange(m_regions[region].constraints, features);
+    if (features == before)
+        return {};
+    if (before.isEmpty())
+        return {features};
+    return features.isEmpty() ? QVector{features} : QVector{QStringList(), features};
 }
 
 const RegionStore::Region& RegionStore::find(int region) const

@@ -30,11 +30,14 @@ public:
     /// What was told of the region before does not count any more.
     void setRectangle(int region, const QRect& rectangle);
     /// The rectangle waits until it is applied.
-    void tell(int region, const QRect& rectangle);
+    void tell(int region, const QRect& rectangle) { m_regions[region].waiting = rectangle; }
     /// Whether a shown region has changed by it.
     bool applyWaiting();
 
-    void setLimits(int region, const RegionSizeLimits& limits);
+    void setLimits(int region, const RegionSizeLimits& limits)
+    {
+        m_regions[region].limits = limits;
+    }
     /// The sizes that the region's band may have. A camera reports the greatest size for the
     /// present offset; with the offset given up the region could be so much larger.
     BandSizeLimits bandLimits(int region) const;
@@ -42,15 +45,15 @@ public:
     BandSizeLimits bandLimits(const QVector<int>& regions) const;
 
     /// The region's own colour, which a conflict does not change.
-    QColor color(int region) const;
-    void setColor(int region, const QColor& color);
+    QColor color(int region) const { return find(region).color.value_or(m_defaultColor); }
+    void setColor(int region, const QColor& color) { m_regions[region].color = color; }
 
     /// Where the region's band is, label pixels; null for a region that is not shown.
     QRect band(int region) const { return find(region).band.value_or(QRect()); }
-    void setBand(int region, const QRect& band);
+    void setBand(int region, const QRect& band) { m_regions[region].band = band; }
     /// Its rectangle on the label.
     QRect placed(int region) const { return labelRect(rectangle(region), m_mapping); }
-    void hide(int region);
+    void hide(int region) { m_regions[region].band.reset(); }
     /// Ascending.
     QVector<ShownRegion> shown() const;
 
@@ -62,10 +65,11 @@ public:
     /// The shown region whose band contains @p point: @p preferred, else the highest number.
     std::optional<int> regionAt(const QPoint& point, int preferred) const;
 
-    /// Notes what is announced; false for what has been announced before.
-    bool isNewRange(int region, const QRect& range);
-    bool areNewConstraints(int region, const QStringList& features);
-    bool isConstrained(int region) const { return !find(region).constraints.isEmpty(); }
+    /// The shown region's range, once it is another one.
+    std::optional<QRect> newRange(int region);
+    /// The features that it takes from its groups' masters, once they are others; no features first
+    /// to withdraw those before.
+    QVector<QStringList> newConstraints(int region);
 
 private:
     struct Region

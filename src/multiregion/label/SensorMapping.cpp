@@ -2,6 +2,7 @@
 
 #include "features/NumberConversion.h"
 #include "sensor/PixelRect.h"
+#include "sensor/Span.h"
 
 #include <algorithm>
 
@@ -22,17 +23,16 @@ int scaled(double value, int to, int from)
 
 QRect labelRect(const QRect& region, const SensorMapping& mapping)
 {
-    const auto x = [&mapping](double edge) {
-        return scaled(edge, mapping.shown.width(), mapping.sensor.width());
-    };
-    const auto y = [&mapping](double edge) {
-        return scaled(edge, mapping.shown.height(), mapping.sensor.height());
-    };
-    const int left = x(region.x());
-    const int top = y(region.y());
-    const int right = x(static_cast<double>(region.x()) + region.width());
-    const int bottom = y(static_cast<double>(region.y()) + region.height());
-    return {left, top, std::max(1, right - left), std::max(1, bottom - top)};
+    QRect result;
+    for (const Qt::Orientation axis : {Qt::Horizontal, Qt::Vertical}) {
+        const auto span = spanOf<double>(region, axis);
+        const int shown = lengthOf(mapping.shown, axis);
+        const int sensor = lengthOf(mapping.sensor, axis);
+        const int start = scaled(span.start, shown, sensor);
+        const int length = scaled(span.end(), shown, sensor) - start;
+        result = withSpan(result, axis, {start, std::max(1, length)});
+    }
+    return result;
 }
 
 QSize labelSize(const QSize& size, const SensorMapping& mapping)

@@ -132,40 +132,62 @@ private slots:
     }
     void boundsLines() { runRow(); }
 
-    void grabsLines()
+    /// A band at 100, its lines and another one at @p positions; the pixels from 97 on that are the
+    /// lines'.
+    void grabsLines_data()
     {
-        QString near;
-        for (int point = 94; point < 109; ++point)
-            near += grabDistance(100, point) ? "x" : ".";
-        QCOMPARE(near, QString("..xxxxxxxxxx..."));
+        const DataTable row([](int length, const QVector<int>& positions, const QString& expected) {
+            const RegionSpan band{100, length};
+            QString result;
+            for (int point = 95; point < 95 + expected.size(); ++point) {
+                const bool isNear
+                    = std::any_of(positions.begin(), positions.end(), [point](int line) {
+                          return grabDistance(line, point).has_value();
+                      });
+                const bool isOn = point >= band.start && point < band.end();
+                result += isNear && (!isOn || isForLines(band, point, positions)) ? 'x' : '.';
+            }
+            QCOMPARE(result, expected);
+        });
+        row("one line", 9, {100}, ".xxxxxxxxxx....");
+        row("room between two", 13, {100, 111}, ".xxxxxxxxxx.xxxxxxxxxx.");
+        row("none", 12, {100, 110}, ".xxxxxxxx....xxxxxxxx.");
+        row("thin", 3, {100, 101}, ".xxxxx.xxxxx.");
+        row("thinnest", 2, {100, 100}, ".xxxx..xxxx.");
+        row("with a neighbour's", 13, {98, 100, 111}, "xxxxxxxxxxx.xxxxxxxxxx.");
+        row("between neighbours", 8, {98, 100, 106, 108}, "xxxxxxx....xxxxxxxx");
     }
+    void grabsLines() { runRow(); }
 
-    /// A band at rows 100 to 149.
+    /// The band of region 1 at rows 100 to 149, the line of a group of 0 and 1, of 1 and 2, or of
+    /// others.
     void linesConstrain_data()
     {
-        const DataTable row([](bool ownGroup, bool master, LineEdge edge, int position, int blocked,
-                               const QPoint& bound) {
-            const MoveConstraints rows = constraintsFromLine(
-                {Qt::Vertical, edge, position, ownGroup, master}, {30, 100, 40, 50});
+        const DataTable row([](const QVector<int>& members, LineEdge edge, int position,
+                               std::size_t blocked, const QPoint& bound) {
+            const MoveConstraints rows = constraintsFromLine({ConstraintGroup::Row, members}, edge,
+                                                             position, 1, {30, 100, 40, 50});
             QCOMPARE(rows.blocked.size(), blocked);
             QCOMPARE(rows.lowerBound, bound);
             const MoveConstraints columns = constraintsFromLine(
-                {Qt::Horizontal, edge, position, ownGroup, master}, {100, 30, 50, 40});
-            QVERIFY(!columns.blocked.intersects(rows.blocked));
+                {ConstraintGroup::Column, members}, edge, position, 1, {100, 30, 50, 40});
+            QCOMPARE(combined(columns, rows).blocked.size(), 2 * blocked);
             QCOMPARE(columns.lowerBound, QPoint(bound.y(), -1));
         });
         const QPoint none(-1, -1);
+        const QVector<int> member{0, 1};
+        const QVector<int> other{2, 3};
         const LineEdge leading = LineEdge::Leading;
         const LineEdge trailing = LineEdge::Trailing;
-        row("aligned", true, false, leading, 100, 2, none);
-        row("within a pixel", true, false, leading, 101, 2, none);
-        row("misaligned", true, false, leading, 102, 0, none);
-        row("aligned at the end", true, false, trailing, 148, 2, none);
-        row("master", true, true, leading, 100, 0, none);
-        row("before", false, false, trailing, 60, 0, {-1, 62});
-        row("touching", false, false, trailing, 98, 0, {-1, 100});
-        row("across", false, false, trailing, 99, 0, none);
-        row("leading", false, false, leading, 60, 0, none);
+        row("aligned", member, leading, 100, 2, none);
+        row("within a pixel", member, leading, 101, 2, none);
+        row("misaligned", member, leading, 102, 0, none);
+        row("aligned at the end", member, trailing, 148, 2, none);
+        row("master", {1, 2}, leading, 100, 0, none);
+        row("before", other, trailing, 60, 0, {-1, 62});
+        row("touching", other, trailing, 98, 0, {-1, 100});
+        row("across", other, trailing, 99, 0, none);
+        row("leading", other, leading, 60, 0, none);
     }
     void linesConstrain() { runRow(); }
 };

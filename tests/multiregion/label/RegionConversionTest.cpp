@@ -188,8 +188,8 @@ private slots:
         const QVector<ShownRegion> regions
             = regionsAt({{0, 10, 100, 200}, {150, 10, 100, 200}, {300, 20, 50, 100}});
         const auto range = [&regions](ArrangementMode mode, int region) {
-            return text(rangeBetweenNeighbours(regions[region], regions, mode,
-                                               constraintGroups(mode, {0, 1, 2}), {500, 400}));
+            return text(rangeBetweenNeighbours(regions, mode, constraintGroups(mode, {0, 1, 2}),
+                                               {500, 400}, region));
         };
         for (const auto mode : {ArrangementMode::Free, ArrangementMode::Vertical})
             QCOMPARE(range(mode, 1), QString("0,0 500x400"));
