@@ -1,0 +1,85 @@
+#include "Discovery.h"
+
+#include "Glib.h"
+
+#include <mutex>
+
+namespace genicam {
+
+namespace {
+
+/// The library's list of cameras is one for the process.
+std::mutex listMutex;
+
+std::string text(const char* source)
+{
+    return source ? source : "";
+}
+
+bool isLoopback(const std::string& address)
+{
+    const GObjectPtr<GInetAddress> parsed(g_inet_address_new_from_string(address.c_str()));
+    return parsed && g_inet_address_get_is_loopback(parsed.get());
+}
+
+} // namespace
+
+std::vector<FoundCamera> findCameras()
+{
+    countCriticals();
+    const std::lock_guard lock(listMutex);
+    arv_update_device_list();
+    std::vector<FoundCamera> cameras;
+    for (unsigned i = 0; i < arv_get_n_devices(); ++i) {
+        cameras.push_back({text(arv_get_device_id(i)), text(arv_get_device_vendor(i)),
+                           text(arv_get_device_model(i)), text(arv_get_device_serial_nbr(i)),
+                           text(arv_get_device_address(i)), text(arv_get_device_protocol(i))});
+    }
+    return cameras;
+}
+
+ArvDevice* openDevice(const std::string& idOrAddress, std::string& reason)
+{
+    countCriticals();
+    GError* error = nullptr;
+    ArvDevice* device = nullptr;
+    if (isLoopback(idOrAddress)) {
+        const GObjectPtr<GInetAddress> address(g_inet_address_new_from_string(idOrAddress.c_str()));
+        device = arv_gv_device_new(address.get(), address.get(), &error);
+    } else {
+        const std::lock_guard lock(listMutex);
+        device = arv_open_device(idOrAddress.c_str(), &error);
+    }
+    if (error || !device || !arv_device_get_genicam(device)) {
+        reason = error ? error->message
+            : device   ? "it has no description"
+                       : "there is no such camera";
+        g_clear_error(&error);
+        g_clear_object(&device);
+    }
+    return device;
+}
+
+FakeCamera::FakeCamera()
+    : m_camera(arv_gv_fake_camera_new(address, "GV01"))
+{
+    countCriticals();
+}
+
+FakeCamera::~FakeCamera()
+{
+    g_object_unref(m_camera);
+}
+
+bool FakeCamera::isRunning() const
+{
+    return arv_gv_fake_camera_is_running(m_camera);
+}
+
+void FakeCamera::writeRegister(unsigned registerAddress, unsigned value)
+{
+    arv_fake_camera_write_register(arv_gv_fake_camera_get_fake_camera(m_camera), registerAddress,
+                                   value);
+}
+
+} // namespace genicam

@@ -1,0 +1,123 @@
+#pragma once
+
+#include "ChangeWatch.h"
+
+#include <array>
+
+namespace genicam {
+
+/// One node of a camera's description as a feature of the SDK. After the camera is closed it
+/// answers ZebErrorBadHandle.
+class GenicamFeature : public ZebCPP::Feature, public std::enable_shared_from_this<GenicamFeature>
+{
+public:
+    struct Place
+    {
+        std::size_t index; ///< in the camera's list
+        std::string category;
+        std::string vendorPrefix; ///< put before the value, when it is not empty
+    };
+
+    /// Needs the device's lock.
+    GenicamFeature(ArvGcFeatureNode* node, Place place, std::shared_ptr<DeviceLink> link,
+                   std::shared_ptr<ChangeWatch> watch);
+
+    ArvGcFeatureNode* node() const { return m_node; }
+    const std::string& name() const { return m_name; }
+    bool isBackedByCamera() const { return m_isBackedByCamera; }
+
+    /// Reads the value past what the library remembers; false when the camera is lost.
+    bool look();
+    /// The value as a text, read in the same way.
+    std::string readText();
+    /// Writes a text, and leaves it to the watch to find out.
+    ZebErrorType writeUnnoticed(const std::string& text);
+    /// What this one selects, of the camera's list.
+    void setSelected(std::vector<std::weak_ptr<GenicamFeature>> selected);
+
+    ZebErrorType GetValue(std::int64_t& value) override;
+    ZebErrorType GetValue(double& value) override;
+    ZebErrorType GetValue(bool& value) override;
+    ZebErrorType GetValue(char* buffer, std::uint32_t& length) override;
+    ZebErrorType GetValue(std::uint8_t* buffer, std::uint32_t bufferSize,
+                          std::uint32_t& sizeFilled) override;
+    ZebErrorType GetValues(const char** values, std::uint32_t& count) override;
+    ZebErrorType GetValues(std::int64_t* values, std::uint32_t& count) override;
+    ZebErrorType GetEntry(ZebCPP::EnumEntry& entry, const char* name) override;
+    ZebErrorType GetEntries(ZebCPP::EnumEntry* entries, std::uint32_t& count) override;
+    ZebErrorType GetRange(std::int64_t& minimum, std::int64_t& maximum) override;
+    ZebErrorType GetRange(double& minimum, double& maximum) override;
+    ZebErrorType HasIncrement(bool& hasIncrement) override;
+    ZebErrorType GetIncrement(std::int64_t& increment) override;
+    ZebErrorType GetIncrement(double& increment) override;
+    ZebErrorType GetValidValueSet(std::int64_t* values, std::uint32_t bufferSize,
+                                  std::uint32_t* setSize) override;
+    ZebErrorType IsValueAvailable(std::int64_t value, bool& available) override;
+    ZebErrorType IsValueAvailable(const char* value, bool& available) override;
+    ZebErrorType SetValue(std::int64_t value) override;
+    ZebErrorType SetValue(double value) override;
+    ZebErrorType SetValue(bool value) override;
+    ZebErrorType SetValue(const char* value) override;
+    ZebErrorType SetValue(const std::uint8_t* data, std::uint32_t size) override;
+    ZebErrorType RunCommand() override;
+    ZebErrorType IsCommandDone(bool& done) override;
+    ZebErrorType GetName(char* buffer, std::uint32_t& length) override;
+    ZebErrorType GetDisplayName(char* buffer, std::uint32_t& length) override;
+    ZebErrorType GetCategory(char* buffer, std::uint32_t& length) override;
+    ZebErrorType GetUnit(char* buffer, std::uint32_t& length) override;
+    ZebErrorType GetRepresentation(char* buffer, std::uint32_t& length) override;
+    ZebErrorType GetToolTip(char* buffer, std::uint32_t& length) override;
+    ZebErrorType GetDescription(char* buffer, std::uint32_t& length) override;
+    ZebErrorType GetDataType(ZebFeatureDataType& dataType) override;
+    ZebErrorType GetFlags(ZebFeatureFlagsType& flags) override;
+    ZebErrorType GetVisibility(ZebFeatureVisibilityType& visibility) override;
+    ZebErrorType GetSelectedFeatures(ZebCPP::FeaturePtr* features, std::uint32_t& count) override;
+    ZebErrorType IsReadable(bool& readable) override;
+    ZebErrorType IsWritable(bool& writable) override;
+    ZebErrorType RegisterObserver(const ZebCPP::IFeatureObserverPtr& observer) override;
+    ZebErrorType UnregisterObserver(const ZebCPP::IFeatureObserverPtr& observer) override;
+
+private:
+    /// Kinds of reading: each has registers of its own.
+    enum Kind {
+        OfValue,
+        OfRange,
+        OfAccess,
+        OfEntries,
+        KindCount
+    };
+
+    struct Reading
+    {
+        std::uint64_t age = 0;
+        std::chrono::steady_clock::time_point time;
+    };
+
+    bool isOutOfDate(Kind kind);
+    template <typename Work> ZebErrorType read(Kind kind, Work&& work);
+    template <typename Work> ZebErrorType write(ZebFeatureDataType type, Work&& work);
+    template <typename Plain> ZebErrorType readPlain(ZebFeatureDataType type, Plain& plain);
+    ZebErrorType readAccess(Access& access);
+    ZebErrorType answer(const std::string& text, char* buffer, std::uint32_t& length) const;
+
+    ArvGcFeatureNode* const m_node;
+    const Place m_place;
+    const std::shared_ptr<DeviceLink> m_link;
+    const std::shared_ptr<ChangeWatch> m_watch;
+    const ZebFeatureDataType m_type;
+    const std::string m_name;
+    std::string m_displayName;
+    std::string m_unit;
+    std::string m_representation;
+    std::string m_toolTip;
+    std::string m_description;
+    ZebFeatureVisibilityType m_visibility;
+    bool m_isBackedByCamera = false;
+    std::vector<ArvGcFeatureNode*> m_entries;
+    std::vector<std::string> m_entryNames;
+    std::vector<std::weak_ptr<GenicamFeature>> m_selected;
+    std::mutex m_mutex;
+    std::array<Reading, KindCount> m_readings;
+};
+
+} // namespace genicam

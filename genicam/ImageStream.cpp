@@ -1,0 +1,163 @@
+#include "ImageStream.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace genicam {
+
+namespace {
+
+constexpr std::size_t memory = 256 * 1024 * 1024;
+constexpr std::uint64_t patience = 100 * 1000; // microseconds
+
+std::size_t readPayload(DeviceLink& link, GError** error)
+{
+    ArvGcNode* const node = link.node("PayloadSize");
+    const auto size
+        = ARV_IS_GC_INTEGER(node) ? arv_gc_integer_get_value(ARV_GC_INTEGER(node), error) : 0;
+    return static_cast<std::size_t>(std::max<gint64>(0, size));
+}
+
+/// Remembers its size, which the library forgets.
+ArvBuffer* newBuffer(std::size_t size)
+{
+    return arv_buffer_new_full(size, nullptr, GSIZE_TO_POINTER(size), nullptr);
+}
+
+} // namespace
+
+ImageStream::ImageStream(std::shared_ptr<DeviceLink> link, std::function<void()> onFrame)
+    : m_link(std::move(link))
+    , m_onFrame(std::move(onFrame))
+{
+}
+
+ImageStream::~ImageStream()
+{
+    if (!m_thread.joinable())
+        return;
+    m_link->perform(true, [this](GError** error) { return setAcquiring(false, error); });
+    m_isStopping = true;
+    m_thread.join();
+}
+
+std::string ImageStream::start()
+{
+    std::string reason = "the camera does not answer";
+    const ZebErrorType result = m_link->perform(true, [&](GError** error) {
+        m_payload = readPayload(*m_link, error);
+        if (!*error)
+            m_stream.reset(arv_device_create_stream(m_link->device(), nullptr, nullptr, error));
+        if (!*error && m_stream && m_payload > 0) {
+            const std::size_t count = std::clamp<std::size_t>(memory / m_payload, 2, 8);
+            for (std::size_t i = 0; i < count; ++i)
+                arv_stream_push_buffer(m_stream.get(), newBuffer(m_payload));
+            return setAcquiring(true, error);
+        }
+        reason = *error ? (*error)->message : "the camera tells no size of its pictures";
+        return ZebErrorOther;
+    });
+    if (result != ZebErrorSuccess)
+        return reason;
+    m_thread = std::thread(&ImageStream::run, this);
+    return {};
+}
+
+// While it streams a camera keeps what decides the size of its pictures as it is, when told so.
+ZebErrorType ImageStream::setAcquiring(bool isOn, GError** error)
+{
+    ArvGcNode* const command = m_link->node(isOn ? "AcquisitionStart" : "AcquisitionStop");
+    ArvGcNode* const locked = m_link->node("TLParamsLocked");
+    if (ARV_IS_GC_INTEGER(locked) && isOn)
+        arv_gc_integer_set_value(ARV_GC_INTEGER(locked), 1, error);
+    if (!*error && ARV_IS_GC_COMMAND(command))
+        arv_gc_command_execute(ARV_GC_COMMAND(command), error);
+    if (!*error && ARV_IS_GC_INTEGER(locked) && !isOn)
+        arv_gc_integer_set_value(ARV_GC_INTEGER(locked), 0, error);
+    return ARV_IS_GC_COMMAND(command) ? ZebErrorSuccess : ZebErrorNotFound;
+}
+
+void ImageStream::run()
+{
+    auto second = g_get_monotonic_time();
+    while (!m_isStopping) {
+        if (ArvBuffer* const buffer = newestBuffer()) {
+            handle(buffer);
+            pushBack(buffer);
+        }
+        const auto now = g_get_monotonic_time();
+        if (now - second < G_USEC_PER_SEC)
+            continue;
+        guint64 failures = 0;
+        guint64 underruns = 0;
+        arv_stream_get_statistics(m_stream.get(), nullptr, &failures, &underruns);
+        const std::lock_guard lock(m_mutex);
+        m_figures
+            = {m_framesOfSecond * 1e6 / static_cast<double>(now - second), failures + underruns};
+        m_framesOfSecond = 0;
+        second = now;
+    }
+}
+
+/// The others go back to the camera unseen.
+ArvBuffer* ImageStream::newestBuffer()
+{
+    ArvBuffer* newest = arv_stream_timeout_pop_buffer(m_stream.get(), patience);
+    while (newest) {
+        m_framesOfSecond += arv_buffer_get_status(newest) == ARV_BUFFER_STATUS_SUCCESS ? 1 : 0;
+        ArvBuffer* const next = arv_stream_try_pop_buffer(m_stream.get());
+        if (!next)
+            break;
+        pushBack(newest);
+        newest = next;
+    }
+    return newest;
+}
+
+void ImageStream::handle(ArvBuffer* buffer)
+{
+    const ArvBufferStatus status = arv_buffer_get_status(buffer);
+    if (status == ARV_BUFFER_STATUS_SIZE_MISMATCH) { // the pictures have grown in mid-stream
+        m_link->perform(true, [this](GError** error) {
+            m_payload = std::max(m_payload, readPayload(*m_link, error));
+            return ZebErrorSuccess;
+        });
+    }
+    if (status != ARV_BUFFER_STATUS_SUCCESS)
+        return;
+    std::size_t size = 0;
+    const void* const data = arv_buffer_get_image_data(buffer, &size);
+    Frame frame = decodeFrame(
+        static_cast<const std::uint8_t*>(data), size, arv_buffer_get_image_width(buffer),
+        arv_buffer_get_image_height(buffer), arv_buffer_get_image_pixel_format(buffer));
+    frame.x = arv_buffer_get_image_x(buffer);
+    frame.y = arv_buffer_get_image_y(buffer);
+    {
+        const std::lock_guard lock(m_mutex);
+        m_frame = std::move(frame);
+    }
+    m_onFrame();
+}
+
+void ImageStream::pushBack(ArvBuffer* buffer)
+{
+    if (GPOINTER_TO_SIZE(arv_buffer_get_user_data(buffer)) < m_payload) {
+        g_object_unref(buffer);
+        buffer = newBuffer(m_payload);
+    }
+    arv_stream_push_buffer(m_stream.get(), buffer);
+}
+
+StreamFigures ImageStream::figures() const
+{
+    const std::lock_guard lock(m_mutex);
+    return m_figures;
+}
+
+std::optional<Frame> ImageStream::take()
+{
+    const std::lock_guard lock(m_mutex);
+    return std::exchange(m_frame, std::nullopt);
+}
+
+} // namespace genicam

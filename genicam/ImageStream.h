@@ -1,0 +1,51 @@
+#pragma once
+
+#include "DeviceLink.h"
+#include "Frame.h"
+
+#include <optional>
+#include <string>
+#include <thread>
+
+namespace genicam {
+
+struct StreamFigures
+{
+    double framesPerSecond = 0.0;
+    std::uint64_t lostFrames = 0;
+};
+
+/// The pictures of a started camera, of which the newest is kept.
+class ImageStream
+{
+public:
+    /// @p onFrame is called on the stream's thread.
+    ImageStream(std::shared_ptr<DeviceLink> link, std::function<void()> onFrame);
+    ~ImageStream();
+
+    /// Starts the camera; empty, or why not.
+    std::string start();
+    StreamFigures figures() const;
+    /// The newest frame, once.
+    std::optional<Frame> take();
+
+private:
+    void run();
+    ArvBuffer* newestBuffer();
+    void handle(ArvBuffer* buffer);
+    void pushBack(ArvBuffer* buffer);
+    ZebErrorType setAcquiring(bool isOn, GError** error);
+
+    const std::shared_ptr<DeviceLink> m_link;
+    const std::function<void()> m_onFrame;
+    GObjectPtr<ArvStream> m_stream;
+    std::thread m_thread;
+    std::atomic<bool> m_isStopping{false};
+    std::size_t m_payload = 0;
+    mutable std::mutex m_mutex;
+    std::optional<Frame> m_frame;
+    StreamFigures m_figures;
+    int m_framesOfSecond = 0;
+};
+
+} // namespace genicam
