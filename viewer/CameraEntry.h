@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QMetaType>
 #include <QString>
 #include <QVector>
 
@@ -11,5 +10,3 @@ struct CameraEntry
     QString name;
     QString description;
 };
-
-Q_DECLARE_METATYPE(QVector<CameraEntry>)

@@ -1,7 +1,10 @@
 #pragma once
 
+#include "CameraEntry.h"
+
 #include <QWidget>
 
+class QHBoxLayout;
 class QLabel;
 class QListWidget;
 class QPushButton;
@@ -14,12 +17,24 @@ class CameraListPane : public QWidget
 public:
     explicit CameraListPane(QWidget* parent = nullptr);
 
-    /// Marks the open camera; an empty name when none is.
-    void setOpenCamera(const QString& modelName);
+    /// Offers a search for cameras, and one that needs no hardware.
+    void offerSearch(const QString& idWithoutHardware);
+    /// What a search found, in place of what the last one found.
+    void setFound(const QVector<CameraEntry>& cameras);
+
+    enum State {
+        Opening,
+        Open,
+        Gone ///< it does not answer any more
+    };
+
+    /// Marks the camera that is open, or not quite; an empty ID when none is.
+    void setOpenCamera(const QString& id, State state = Open);
 
 signals:
-    void openRequested(const QString& modelName);
+    void openRequested(const QString& id);
     void closeRequested();
+    void searchRequested();
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
@@ -27,11 +42,17 @@ protected:
 private:
     void onCurrentChanged();
     void openCurrent();
-    QString currentModel() const;
+    QString currentId() const;
+    void add(const CameraEntry& camera);
+    QPushButton* addButton(const QString& text, const char* objectName);
 
     QListWidget* m_list;
     QLabel* m_description;
     QPushButton* m_open;
     QPushButton* m_close;
+    QPushButton* m_search = nullptr;
+    QHBoxLayout* m_controls;
     QString m_openCamera;
+    State m_state = Open;
+    int m_simulated = 0; ///< cameras at the head of the list
 };

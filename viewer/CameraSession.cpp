@@ -19,13 +19,17 @@ QString featureName(const ZebCPP::FeaturePtr& feature)
 
 } // namespace
 
-CameraSession::CameraSession(const QString& id, std::unique_ptr<CameraSource> camera)
+CameraSession::CameraSession(const QString& id, std::shared_ptr<CameraSource> camera)
     : m_id(id)
     , m_camera(std::move(camera))
     , m_features(new QVector<ZebCPP::FeaturePtr>)
 {
     for (const ZebCPP::FeaturePtr& feature : m_camera->features())
         m_features->append(feature);
+    connect(m_camera.get(), &CameraSource::goneChanged, this, [this](bool isGone) {
+        if (isGone)
+            setStreaming(false);
+    });
 }
 
 QStringList CameraSession::featureNames() const

@@ -14,7 +14,7 @@ class CameraSession : public QObject
     Q_OBJECT
 
 public:
-    CameraSession(const QString& id, std::unique_ptr<CameraSource> camera);
+    CameraSession(const QString& id, std::shared_ptr<CameraSource> camera);
 
     QString id() const { return m_id; }
     TabExtensionInterface::FeatureList features() const { return m_features; }
@@ -33,7 +33,7 @@ signals:
 
 private:
     QString m_id;
-    std::unique_ptr<CameraSource> m_camera;
+    std::shared_ptr<CameraSource> m_camera;
     TabExtensionInterface::FeatureList m_features;
     bool m_streaming = false;
 };

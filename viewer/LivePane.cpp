@@ -33,7 +33,8 @@ QString describe(const CameraSource& camera)
     parts << LivePane::tr("binning %1 × %2").arg(state.binning.width()).arg(state.binning.height());
     if (!state.pixelFormat.isEmpty())
         parts << state.pixelFormat;
-    parts << describeExposure(state.exposureTime);
+    if (state.exposureTime > 0.0)
+        parts << describeExposure(state.exposureTime);
     if (const QString stream = camera.streamText(); !stream.isEmpty())
         parts << stream;
     // The line breaks between the parts only.

@@ -1,5 +1,6 @@
 #include "MainWindow.h"
 
+#include "CameraFinder.h"
 #include "CameraListPane.h"
 #include "CameraSession.h"
 #include "DarkPalette.h"
@@ -21,14 +22,17 @@
 #include <QStyleFactory>
 #include <QTabWidget>
 
-MainWindow::MainWindow(const QString& modulePath)
+MainWindow::MainWindow(const QString& modulePath, std::unique_ptr<CameraFinder> finder)
     : m_plugin(std::make_unique<PluginHost>(modulePath))
+    , m_finder(std::move(finder))
     , m_centre(new QStackedWidget(this))
     , m_pages(new QTabWidget)
 {
     setWindowTitle(tr("Camera viewer"));
     createPanes();
     createMenus();
+    if (m_finder)
+        connectFinder();
     if (!m_plugin->failure().isEmpty())
         m_log->append(ZebViewerLogGeneral, m_plugin->failure());
 }
@@ -38,16 +42,84 @@ MainWindow::~MainWindow()
     closeCamera();
 }
 
-void MainWindow::openCamera(const QString& modelName)
+void MainWindow::openCamera(const QString& id)
 {
     closeCamera();
-    m_session
-        = std::make_unique<CameraSession>(modelName, std::make_unique<SimulatedSource>(modelName));
+    if (!CameraFinder::isResponsibleFor(id)) {
+        startSession(id, std::make_shared<SimulatedSource>(id));
+        return;
+    }
+    m_opening = id;
+    m_cameras->setOpenCamera(id, CameraListPane::Opening);
+    m_finder->open(id);
+}
+
+void MainWindow::onOpened(const QString& id, const std::shared_ptr<CameraSource>& camera)
+{
+    if (id != m_opening)
+        return; // another one was asked for since
+    m_opening.clear();
+    startSession(id, camera);
+    emit openingEnded();
+}
+
+void MainWindow::onFailed(const QString& id, const QString& reason)
+{
+    m_log->append(ZebViewerLogGeneral, tr("%1 cannot be opened: %2").arg(id, reason));
+    if (id != m_opening)
+        return;
+    m_opening.clear();
+    m_cameras->setOpenCamera({});
+    emit openingEnded();
+}
+
+void MainWindow::onGone(bool isGone)
+{
+    m_cameras->setOpenCamera(m_session->id(), isGone ? CameraListPane::Gone : CameraListPane::Open);
+    m_log->append(ZebViewerLogGeneral,
+                  (isGone ? tr("%1 does not answer any more.") : tr("%1 answers again."))
+                      .arg(m_session->id()));
+}
+
+void MainWindow::searchCameras()
+{
+    if (m_finder)
+        m_finder->search();
+}
+
+void MainWindow::setPresentedAsSupported(bool is)
+{
+    if (m_presented)
+        m_presented->setChecked(is);
+}
+
+void MainWindow::connectFinder()
+{
+    m_cameras->offerSearch(m_finder->idWithoutHardware());
+    connect(m_cameras, &CameraListPane::searchRequested, this, &MainWindow::searchCameras);
+    connect(m_finder.get(), &CameraFinder::found, m_cameras, &CameraListPane::setFound);
+    connect(m_finder.get(), &CameraFinder::opened, this, &MainWindow::onOpened);
+    connect(m_finder.get(), &CameraFinder::failed, this, &MainWindow::onFailed);
+    connect(m_presented, &QAction::toggled, this, [this](bool is) {
+        m_finder->setPresentedAsSupported(is);
+        m_log->append(ZebViewerLogGeneral,
+                      is ? tr("Cameras that are opened from now on are presented as supported: "
+                              "the vendor's name is not the camera's own.")
+                         : tr("Cameras that are opened from now on tell their own vendor."));
+    });
+}
+
+void MainWindow::startSession(const QString& id, const std::shared_ptr<CameraSource>& camera)
+{
+    m_session = std::make_unique<CameraSession>(id, camera);
+    connect(camera.get(), &CameraSource::goneChanged, this, &MainWindow::onGone);
+    connect(camera.get(), &CameraSource::logged, m_log,
+            [this](const QString& text) { m_log->append(ZebViewerLogGeneral, text); });
     m_live->setSession(m_session.get());
     m_outside->setSession(m_session.get());
     m_features->setSession(m_session.get());
-    m_cameras->setOpenCamera(modelName);
-    m_log->append(ZebViewerLogGeneral, tr("%1 opened.").arg(modelName));
+    m_cameras->setOpenCamera(id);
+    m_log->append(ZebViewerLogGeneral, tr("%1 opened.").arg(id));
 
     auto* page = new PageHost(*m_plugin, *m_session, m_pages);
     connect(page, &PageHost::logged, m_log, &LogPane::append);
@@ -59,6 +131,7 @@ void MainWindow::openCamera(const QString& modelName)
 
 void MainWindow::closeCamera()
 {
+    m_opening.clear();
     if (!m_session)
         return;
     // The page goes before the camera: it still unregisters its observers.
@@ -145,6 +218,10 @@ void MainWindow::createPanes()
 void MainWindow::createMenus()
 {
     QMenu* file = menuBar()->addMenu(tr("&File"));
+    if (m_finder) {
+        m_presented = file->addAction(tr("&Present cameras as supported"));
+        m_presented->setCheckable(true);
+    }
     file->addAction(tr("&Quit"), this, &QWidget::close,
                     QKeySequence(int(Qt::CTRL) + int(Qt::Key_Q)));
 

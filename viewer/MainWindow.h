@@ -6,8 +6,10 @@
 
 #include <memory>
 
+class CameraFinder;
 class CameraListPane;
 class CameraSession;
+class CameraSource;
 class FeatureTablePane;
 class FeatureWritePane;
 class LivePane;
@@ -24,11 +26,16 @@ class MainWindow : public QMainWindow
     Q_OBJECT
 
 public:
-    explicit MainWindow(const QString& modulePath);
+    /// @p finder may be null: then there are the simulated cameras alone.
+    MainWindow(const QString& modulePath, std::unique_ptr<CameraFinder> finder);
     ~MainWindow() override;
 
-    void openCamera(const QString& modelName);
+    /// The open one goes. A simulated camera is open at once, others later.
+    void openCamera(const QString& id);
     void closeCamera();
+    bool isOpening() const { return !m_opening.isEmpty(); }
+    void searchCameras();
+    void setPresentedAsSupported(bool is);
 
     /// Opens the editor of a feature in the table of camera features; false when it is not there.
     bool editFeature(const QString& feature);
@@ -42,6 +49,10 @@ public:
     /// Fusion in light or dark colours.
     static void setDark(bool dark);
 
+signals:
+    /// Opening has succeeded, or not.
+    void openingEnded();
+
 protected:
     void showEvent(QShowEvent* event) override;
 
@@ -49,8 +60,16 @@ private:
     QDockWidget* addPane(QWidget* pane, const QString& title, Qt::DockWidgetArea area);
     void createPanes();
     void createMenus();
+    void connectFinder();
+    void startSession(const QString& id, const std::shared_ptr<CameraSource>& camera);
+    void onOpened(const QString& id, const std::shared_ptr<CameraSource>& camera);
+    void onFailed(const QString& id, const QString& reason);
+    void onGone(bool isGone);
 
     std::unique_ptr<PluginHost> m_plugin;
+    std::unique_ptr<CameraFinder> m_finder;
+    QString m_opening; ///< the ID of a camera that is asked for
+    QAction* m_presented = nullptr;
     std::unique_ptr<CameraSession> m_session;
     QStackedWidget* m_centre;
     QTabWidget* m_pages;

@@ -51,11 +51,14 @@ void addOptions(QCommandLineParser& parser)
         "is written."));
     parser.addHelpOption();
     parser.addOptions({
-        {"list-cameras", text("List the simulated cameras and end.")},
-        {"camera", text("Open this simulated camera."), "NAME"},
+        {"list-cameras",
+         text("List the cameras and end; where built with GenICam cameras, those found as well.")},
+        {"camera", text("Open this camera: a name of the list, or genicam:ADDRESS."), "NAME"},
         {"plugin", text("Load the module from this file instead of plugins/ beside the program."),
          "PATH"},
         {"size", text("Size of the window, 1400x900 when not given."), "WxH"},
+        {"present-as-supported",
+         text("Tell the page a vendor that it supports, whoever made the camera.")},
         {"dark", text("Use dark colours.")},
         {"screenshot", text("Write a picture of the window to this PNG file and end."), "FILE"},
         {"keep-going", text("Report actions that cannot be done and go on.")},
@@ -96,6 +99,7 @@ ViewerOptions parseOptions(const QStringList& arguments)
 
     ViewerOptions options;
     options.listCameras = parser.isSet("list-cameras");
+    options.presentAsSupported = parser.isSet("present-as-supported");
     options.dark = parser.isSet("dark");
     options.keepGoing = parser.isSet("keep-going");
     options.camera = parser.value("camera");

@@ -13,6 +13,7 @@ struct ViewerOptions
     bool listCameras = false;
     bool dark = false;
     bool keepGoing = false; ///< an action that cannot be done does not end the program
+    bool presentAsSupported = false;
     QString camera;
     QString modulePath;
     QString screenshot;

@@ -1,3 +1,4 @@
+#include "CameraFinder.h"
 #include "MainWindow.h"
 #include "ScriptRunner.h"
 #include "SimulatedSource.h"
@@ -20,6 +21,10 @@
 #include <qt_windows.h>
 #endif
 
+#ifdef WITH_GENICAM
+#include "GenicamFinder.h"
+#endif
+
 namespace {
 
 enum ExitCode {
@@ -34,15 +39,30 @@ void printError(const QString& message)
     QTextStream(stderr) << "viewer: " << message << '\n';
 }
 
+/// Null where the program knows simulated cameras alone.
+std::unique_ptr<CameraFinder> createFinder()
+{
+#ifdef WITH_GENICAM
+    return std::make_unique<GenicamFinder>();
+#else
+    return nullptr;
+#endif
+}
+
 void listCameras()
 {
     QTextStream out(stdout);
-    for (const CameraEntry& model : SimulatedSource::models())
-        out << model.name.leftJustified(28) << ' ' << model.description << '\n';
+    QVector<CameraEntry> cameras = SimulatedSource::models();
+    if (const auto finder = createFinder())
+        cameras += finder->findNow();
+    for (const CameraEntry& camera : qAsConst(cameras))
+        out << camera.id.leftJustified(28) << ' ' << camera.description << '\n';
 }
 
 bool isKnownCamera(const QString& name)
 {
+    if (CameraFinder::isResponsibleFor(name))
+        return createFinder() != nullptr;
     const auto models = SimulatedSource::models();
     return std::any_of(models.begin(), models.end(),
                        [&](const CameraEntry& model) { return model.name == name; });
@@ -146,7 +166,8 @@ int main(int argc, char** argv)
     QTranslator qtTranslator;
     loadQtTranslation(qtTranslator);
     MainWindow::setDark(options.dark);
-    MainWindow window(options.modulePath);
+    MainWindow window(options.modulePath, createFinder());
+    window.setPresentedAsSupported(options.presentAsSupported);
     window.resize(options.size);
     window.show();
     if (!options.camera.isEmpty())
@@ -157,7 +178,13 @@ int main(int argc, char** argv)
                      [&](const QString& reason) { onActionFailed(reason, options.keepGoing); });
     QObject::connect(&script, &ScriptRunner::finished, &window,
                      [&] { onScriptFinished(window, options.screenshot); });
-    script.start();
+    if (window.isOpening())
+        QObject::connect(&window, &MainWindow::openingEnded, &script, &ScriptRunner::start);
+    else
+        script.start();
+    // What is run by a script asks the network when the script says so.
+    if (options.actions.isEmpty() && options.screenshot.isEmpty())
+        window.searchCameras();
     if (options.quitAfter >= 0)
         QTimer::singleShot(options.quitAfter, application.get(), &QCoreApplication::quit);
     return QApplication::exec();

@@ -254,38 +254,48 @@ private slots:
     void notifies_data()
     {
         using Change = std::function<void(OpenCamera&)>;
-        const DataTable row([](const Change& change, const char* observed) {
+        const DataTable row([](const Change& change, const QStringList& touched, bool isAtOnce) {
             OpenCamera c;
             c.device.afterWrite([&c](std::uint32_t address) {
                 if (address == UserNumber) // nothing in the description says so
                     c.device.write(Width, 640);
             });
             const auto observer = std::make_shared<Observer>();
-            c[observed].RegisterObserver(observer);
-            c.integer(observed);
+            QStringList told;
+            observer->reaction = [&](const ZebCPP::FeaturePtr& feature) {
+                told << text(*feature, &ZebCPP::Feature::GetName);
+            };
+            for (const ZebCPP::FeaturePtr& feature : c.camera->features())
+                feature->RegisterObserver(observer);
+            c.integer("Width"); // otherwise nobody knows that it will be another
             change(c);
-            QTRY_VERIFY_WITH_TIMEOUT(observer->calls > 0, 2500);
-            c.integer(observed);
+            QTest::qWait(isAtOnce ? 200 : 1300);
             const int calls = observer->calls;
-            QTest::qWait(1300);
-            QCOMPARE(int(observer->calls), calls);
-            c[observed].UnregisterObserver(observer);
+            for (const ZebCPP::FeaturePtr& feature : c.camera->features())
+                feature->UnregisterObserver(observer);
             c.device.write(Width, 320);
-            QTest::qWait(1300);
+            c["Height"].SetValue(std::int64_t{400});
+            QTest::qWait(100);
             QCOMPARE(int(observer->calls), calls);
+            QCOMPARE(told, touched);
         });
         const auto set = [](const char* name, std::int64_t value) -> Change {
             return [=](OpenCamera& c) { c[name].SetValue(value); };
         };
-        row("of a write", set("Width", 1296), "Width");
-        row("of a bound", set("Width", 1296), "OffsetX");
-        row("of the bound of a bound", set("BinningHorizontal", 2), "Width");
-        row("of a formula", set("BinningHorizontal", 2), "WidthMax");
-        row("of what is selected", set("SubRegionSelector", 2), "SubRegionWidth");
-        row("of an entry's availability", set("BinningHorizontal", 2), "PixelFormat");
-        row("of the camera's own reset", set("UserNumber", 2), "Width");
+        row("of a write and a bound", set("Width", 1296), {"Width", "OffsetX"}, true);
+        row("of bounds of bounds, formulas and availability", set("BinningHorizontal", 2),
+            {"WidthMax", "Width", "OffsetX", "BinningHorizontal", "PixelFormat", "SubRegionOffsetX",
+             "SubRegionWidth"},
+            true);
+        row("of what is selected", set("SubRegionSelector", 2),
+            {"SubRegionSelector", "SubRegionMode", "SubRegionStatus", "SubRegionOffsetX",
+             "SubRegionOffsetY", "SubRegionWidth", "SubRegionHeight"},
+            true);
+        row("of the camera's own reset", set("UserNumber", 2), {"UserNumber", "Width", "OffsetX"},
+            false);
         row(
-            "of another client", [](OpenCamera& c) { c.device.write(Width, 1616); }, "Width");
+            "of another client", [](OpenCamera& c) { c.device.write(Width, 1616); },
+            {"Width", "OffsetX"}, false);
     }
     void notifies() { runRow(); }
 
