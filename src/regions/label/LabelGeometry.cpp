@@ -41,18 +41,14 @@ bool isFlat(const LabelGeometry& geometry)
 
 double sensorPerLabel(const LabelGeometry& geometry)
 {
-    const QSize displayed = displayedSize(geometry);
-    if (displayed.isEmpty())
-        return 0.0;
-    return static_cast<double>(geometry.sensor.width()) / displayed.width();
+    const int displayed = displayedSize(geometry).width();
+    return displayed > 0 ? static_cast<double>(geometry.sensor.width()) / displayed : 0.0;
 }
 
 double labelPerSensor(const LabelGeometry& geometry)
 {
-    const QSize displayed = displayedSize(geometry);
-    if (displayed.isEmpty())
-        return 0.0;
-    return static_cast<double>(displayed.width()) / geometry.sensor.width();
+    const int displayed = displayedSize(geometry).width();
+    return displayed > 0 ? static_cast<double>(displayed) / geometry.sensor.width() : 0.0;
 }
 
 QRect bandForRegion(const SensorRegion& region, const LabelGeometry& geometry)

@@ -15,15 +15,10 @@ EdgeGrab flags(const QString& text)
             text.contains("bottom")};
 }
 
-QString text(const EdgeGrab& f)
+bool operator==(const EdgeGrab& a, const EdgeGrab& b)
 {
-    QStringList words;
-    const bool held[]{f.moving, f.left, f.right, f.top, f.bottom};
-    const char* const names[]{"move", "left", "right", "top", "bottom"};
-    for (int i = 0; i < 5; ++i)
-        if (held[i])
-            words << names[i];
-    return words.join(' ');
+    return a.moving == b.moving && a.left == b.left && a.right == b.right && a.top == b.top
+        && a.bottom == b.bottom;
 }
 
 } // namespace
@@ -60,7 +55,7 @@ private slots:
     void takesEdgesOnPress_data()
     {
         const DataTable row([](const QRect& at, const QPoint& pointer, const QString& expected) {
-            QCOMPARE(text(flagsForPress(at, pointer)), expected);
+            QVERIFY(flagsForPress(at, pointer) == flags(expected));
         });
         row("inside", band, {200, 150}, "move");
         row("4 right of the right edge", band, {303, 150}, "right");

@@ -76,7 +76,8 @@ private slots:
                     painter.setClipRegion(band->mask());
                 band->style()->drawControl(QStyle::CE_RubberBand, &option, &painter, band);
                 painter.end();
-                // Fill and frame come in one layer instead of several, each of which would round.
+                // Fill and frame come in one layer instead of several, each of which
+                // would round.
                 QVERIFY(largestDifference(shown, expected) <= 2);
             }
         });
