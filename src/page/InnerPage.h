@@ -60,6 +60,10 @@ protected:
     void readSoon(const QStringList& names);
     void readAllSoon();
 
+    /// As the viewer told last.
+    bool isStreaming() const { return m_isStreaming; }
+    void setStreaming(bool isStreaming) { m_isStreaming = isStreaming; }
+
     void refreshFeatures() final;
     void showEvent(QShowEvent* event) override;
 
@@ -68,4 +72,5 @@ private:
     QTimer* m_soonTimer;
     int m_busy = 0;
     bool m_isRefreshing = false;
+    bool m_isStreaming = false;
 };

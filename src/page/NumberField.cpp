@@ -1,66 +1,94 @@
 #include "page/NumberField.h"
 
-#include "features/FeatureReading.h"
+#include "widgets/QSpinBoxMouseEventFilter.h"
 
 #include <QDoubleSpinBox>
 #include <QSignalBlocker>
 
 #include <algorithm>
 
-namespace {
-
-bool isMissing(double number)
+NumberField::NumberField(QDoubleSpinBox* box)
+    : m_box(box)
+    , m_filter(new QSpinBoxMouseEventFilter(box))
 {
-    return number == FeatureReading::missingNumber;
+    box->installEventFilter(m_filter);
 }
 
-void widenAndSet(QDoubleSpinBox* field, double minimum, double maximum, double value)
+double NumberField::value() const
 {
-    if (isMissing(value))
-        setRangeAndValue(field, minimum, maximum, value);
-    else
-        setRangeAndValue(field, std::min(minimum, value), std::max(maximum, value), value);
+    return m_box->value();
 }
 
-} // namespace
-
-bool isBeingTyped(const QDoubleSpinBox* field)
+FieldGrid NumberField::grid() const
 {
-    return field->hasFocus() && field->cleanText() != field->textFromValue(field->value());
+    return {m_box->minimum(), m_box->singleStep()};
 }
 
-void setRangeAndValue(QDoubleSpinBox* field, double minimum, double maximum, double value)
+bool NumberField::show(const Reading<double>& reading)
 {
-    const int formerWidth = field->sizeHint().width();
-    const double shown = isMissing(value) ? field->value() : value;
-    const QSignalBlocker blocker(field);
-    if (!isMissing(minimum) && !isMissing(maximum))
-        field->setRange(minimum, maximum);
-    field->setValue(shown);
+    if (isBeingTyped())
+        return false;
+    const bool hasRange = reading.minimum && reading.maximum;
+    setRangeAndValue(hasRange ? *reading.minimum : m_box->minimum(),
+                     hasRange ? *reading.maximum : m_box->maximum(),
+                     reading.value.value_or(value()));
+    return reading.isComplete;
+}
+
+bool NumberField::showWhole(const Reading<double>& reading)
+{
+    const bool isTold = show(reading);
+    if (reading.value && !isBeingTyped())
+        showTaken(*reading.value);
+    return isTold;
+}
+
+void NumberField::showStep(const Reading<double>& reading)
+{
+    if (reading.increment.value_or(0.0) > 0.0)
+        m_box->setSingleStep(*reading.increment);
+}
+
+void NumberField::showTaken(double value)
+{
+    setRangeAndValue(std::min(m_box->minimum(), value), std::max(m_box->maximum(), value), value);
+}
+
+void NumberField::showProvisional(double value)
+{
+    const QSignalBlocker blocker(m_box);
+    m_box->setValue(value);
+}
+
+void NumberField::limitTo(double maximum)
+{
+    const QSignalBlocker blocker(m_box);
+    m_box->setMaximum(std::max(m_box->minimum(), maximum));
+}
+
+bool NumberField::isHeld() const
+{
+    return m_filter->isMousePressed();
+}
+
+bool NumberField::isBeingTyped() const
+{
+    return m_box->hasFocus() && m_box->cleanText() != m_box->textFromValue(m_box->value());
+}
+
+void NumberField::commit()
+{
+    if (isBeingTyped())
+        m_box->interpretText();
+}
+
+void NumberField::setRangeAndValue(double minimum, double maximum, double value)
+{
+    const int formerWidth = m_box->sizeHint().width();
+    const QSignalBlocker blocker(m_box);
+    m_box->setRange(minimum, maximum);
+    m_box->setValue(value);
     // Qt does not tell the layout. A field that only ever grows keeps the form calm.
-    if (field->sizeHint().width() > formerWidth)
-        field->updateGeometry();
-}
-
-void showClamped(QDoubleSpinBox* field, double value)
-{
-    const QSignalBlocker blocker(field);
-    field->setValue(value);
-}
-
-void showValue(QDoubleSpinBox* field, double value)
-{
-    widenAndSet(field, field->minimum(), field->maximum(), value);
-}
-
-void showRangeAndValue(QDoubleSpinBox* field, double minimum, double maximum, double value)
-{
-    if (!isBeingTyped(field))
-        widenAndSet(field, minimum, maximum, value);
-}
-
-void setMaximumSilently(QDoubleSpinBox* field, double maximum)
-{
-    const QSignalBlocker blocker(field);
-    field->setMaximum(std::max(field->minimum(), maximum));
+    if (m_box->sizeHint().width() > formerWidth)
+        m_box->updateGeometry();
 }

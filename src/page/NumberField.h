@@ -1,25 +1,49 @@
 #pragma once
 
+#include "features/Reading.h"
+#include "page/FieldGrid.h"
+
 class QDoubleSpinBox;
+class QSpinBoxMouseEventFilter;
 
-// Showing the camera's numbers in a field. Nothing here makes the field emit. Where the camera
-// answers -1, for it could not be read, the field keeps what it has: its minimum and step are the
-// grid of all input.
+/// A number field, the mouse on it, and what it shows of the camera. Nothing here but commit()
+/// makes the field emit. What the camera does not tell stays as it is shown: minimum and step are
+/// the grid of all input.
+class NumberField
+{
+public:
+    /// The box owns the filter that watches the mouse.
+    explicit NumberField(QDoubleSpinBox* box);
 
-/// Whether the user has typed something that is not confirmed yet.
-bool isBeingTyped(const QDoubleSpinBox* field);
+    QDoubleSpinBox* box() const { return m_box; }
+    double value() const;
+    FieldGrid grid() const;
 
-/// The value is cut to the range.
-void setRangeAndValue(QDoubleSpinBox* field, double minimum, double maximum, double value);
+    /// Range and value, which is cut to the range. False when something is left as it was: the
+    /// camera did not tell it, or the user is typing.
+    bool show(const Reading<double>& reading);
+    /// As show(), but a value outside the range widens it: what is set differs from it, and emits.
+    bool showWhole(const Reading<double>& reading);
+    /// Without an increment the step stays.
+    void showStep(const Reading<double>& reading);
+    /// What the camera reports after a write. A value outside the range widens it: cameras report
+    /// ranges and values one by one.
+    void showTaken(double value);
+    /// A value that is not the camera's yet, cut to the range.
+    void showProvisional(double value);
+    /// Never below the minimum, which Qt would lower otherwise.
+    void limitTo(double maximum);
 
-/// A value outside the field's range is clamped to it.
-void showClamped(QDoubleSpinBox* field, double value);
+    /// Whether the mouse button is held on it.
+    bool isHeld() const;
+    /// Whether the user has typed something that is not confirmed yet.
+    bool isBeingTyped() const;
+    /// Confirms what is being typed; the field emits.
+    void commit();
 
-/// A value outside the field's range widens it: cameras report ranges and values one by one.
-void showValue(QDoubleSpinBox* field, double value);
+private:
+    void setRangeAndValue(double minimum, double maximum, double value);
 
-/// As showValue() with a new range; leaves a field alone that is being typed in.
-void showRangeAndValue(QDoubleSpinBox* field, double minimum, double maximum, double value);
-
-/// Never below the minimum, which Qt would lower otherwise.
-void setMaximumSilently(QDoubleSpinBox* field, double maximum);
+    QDoubleSpinBox* m_box;
+    QSpinBoxMouseEventFilter* m_filter;
+};

@@ -1,16 +1,149 @@
 #include "regions/AOIWidget.h"
 
+#include "features/FeatureNames.h"
 #include "features/NumberConversion.h"
-#include "regions/image/PresetGuard.h"
+#include "regions/image/AxisRules.h"
 #include "regions/image/RegionAxis.h"
-#include "regions/image/RegionPresets.h"
 #include "regions/label/RubberBandLabel.h"
 #include "ui_AOIWidget.h"
+#include "widgets/Theme.h"
 #include "widgets/WheelGuard.h"
 
+#include <QApplication>
+#include <QPointer>
 #include <QSignalBlocker>
 
+#include <array>
 #include <utility>
+
+namespace Name = FeatureNames;
+
+namespace {
+
+constexpr QColor regionColor(0, 100, 255, 255);
+
+/// Disables the preset buttons while one of them is written, and then restores what each of them
+/// was, and the focus, which a disabled button loses.
+class PresetGuard
+{
+public:
+    explicit PresetGuard(const Ui::AOIWidget& form)
+        : m_buttons{form.btnFull, form.btnHalf, form.btnQuarter}
+        , m_focus(QApplication::focusWidget())
+    {
+        for (std::size_t i = 0; i < m_buttons.size(); ++i) {
+            // The button's own flag: its parents may be disabled for reasons of their own.
+            m_wasEnabled[i] = !m_buttons[i]->testAttribute(Qt::WA_ForceDisabled);
+            m_buttons[i]->setEnabled(false);
+        }
+    }
+    ~PresetGuard()
+    {
+        for (std::size_t i = 0; i < m_buttons.size(); ++i)
+            m_buttons[i]->setEnabled(m_wasEnabled[i]);
+        if (m_focus)
+            m_focus->setFocus();
+    }
+    Q_DISABLE_COPY_MOVE(PresetGuard)
+
+private:
+    const std::array<QPushButton*, 3> m_buttons;
+    std::array<bool, 3> m_wasEnabled{};
+    QPointer<QWidget> m_focus;
+};
+
+} // namespace
+
+AOIWidget::AOIWidget(const FeatureList& camera, QWidget* parent)
+    : InnerPage(camera, parent)
+{
+    if (!featureManager->HasFeature(Name::height) || !featureManager->HasFeature(Name::width))
+        return;
+
+    // The module's coloured texts count on their style sheets from the first page on.
+    darkModeTextStyle();
+    lightModeTextStyle();
+
+    m_ui = std::make_unique<Ui::AOIWidget>();
+    m_ui->setupUi(this);
+    setTitle();
+    if (!accessibleName().isEmpty() && installTranslator(QStringLiteral("tabextensionaoi"))) {
+        m_ui->retranslateUi(this);
+        setTitle();
+    }
+    observedFeatures << Name::offsetX << Name::offsetY << Name::height << Name::width
+                     << Name::heightMax << Name::widthMax << Name::multipleRegionEnable;
+
+    createAxes();
+    createLabel();
+    connectForm();
+    onMultipleRegionsEnabled(false);
+    readMultipleRegions();
+    enableRegion();
+    showRegion();
+    checkConsistency();
+}
+
+AOIWidget::~AOIWidget()
+{
+    // A window that is deleted hides its children, which drops a drag and ends what was typed; the
+    // page's own parts are gone by then.
+    const auto children = findChildren<QObject*>();
+    for (QObject* child : children)
+        disconnect(child, nullptr, this, nullptr);
+}
+
+void AOIWidget::setTitle()
+{
+    const QString title = featureManager->HasFeature(Name::aoiEnable) ? tr("AOI") : tr("ROI");
+    setAccessibleName(title);
+    m_ui->gb_AOI->setTitle(title);
+}
+
+void AOIWidget::createAxes()
+{
+    m_vertical = std::make_unique<RegionAxis>(
+        *featureManager,
+        RegionAxisNames{Name::offsetY, Name::height, Name::heightMax, Name::sensorHeight},
+        m_ui->spinTop, m_ui->spinHeight);
+    m_horizontal = std::make_unique<RegionAxis>(
+        *featureManager,
+        RegionAxisNames{Name::offsetX, Name::width, Name::widthMax, Name::sensorWidth},
+        m_ui->spinLeft, m_ui->spinWidth);
+    m_vertical->load();
+    m_horizontal->load();
+}
+
+void AOIWidget::createLabel()
+{
+    m_label = new RubberBandLabel(toInt(m_horizontal->readMaximum()),
+                                  toInt(m_vertical->readMaximum()), regionColor, m_ui->gb_AOI);
+    m_ui->gb_AOI->layout()->addWidget(m_label);
+    connect(m_label, SIGNAL(SendGeometry(int, int, int, int)), this,
+            SLOT(OnSendGeometry(int, int, int, int)));
+    connect(m_label, SIGNAL(UpdateGeometry(int, int, int, int)), this,
+            SLOT(OnUpdateGeometry(int, int, int, int)));
+    connect(m_label, SIGNAL(clicked()), this, SLOT(OnRubberLabelClicked()));
+    connect(m_label, &RubberBandLabel::GeometryChangeAborted, this, &AOIWidget::readAllSoon);
+}
+
+void AOIWidget::connectForm()
+{
+    connectField(m_ui->spinTop, SLOT(OnSpinTopValueChanged(double)));
+    connectField(m_ui->spinLeft, SLOT(OnSpinLeftValueChanged(double)));
+    connectField(m_ui->spinWidth, SLOT(OnSpinWidthValueChanged(double)));
+    connectField(m_ui->spinHeight, SLOT(OnSpinHeightValueChanged(double)));
+    connect(m_ui->btnFull, SIGNAL(clicked()), this, SLOT(OnROIFull()));
+    connect(m_ui->btnHalf, SIGNAL(clicked()), this, SLOT(OnROIHalf()));
+    connect(m_ui->btnQuarter, SIGNAL(clicked()), this, SLOT(OnROIQuarter()));
+}
+
+void AOIWidget::connectField(QDoubleSpinBox* field, const char* valueSlot)
+{
+    field->installEventFilter(this);
+    connect(field, SIGNAL(valueChanged(double)), this, valueSlot);
+    connect(field, SIGNAL(editingFinished()), this, SLOT(OnSpinEditingFinished()));
+}
 
 bool AOIWidget::eventFilter(QObject* watched, QEvent* event)
 {
@@ -21,37 +154,49 @@ bool AOIWidget::eventFilter(QObject* watched, QEvent* event)
     return InnerPage::eventFilter(watched, event);
 }
 
+// Editing
+
 void AOIWidget::OnSpinTopValueChanged(double value)
 {
-    writeNumber(m_vertical.get(), &RegionAxis::writeOffset, value);
+    write(m_vertical, &RegionAxis::writeOffset, value);
 }
 
 void AOIWidget::OnSpinLeftValueChanged(double value)
 {
-    writeNumber(m_horizontal.get(), &RegionAxis::writeOffset, value);
+    write(m_horizontal, &RegionAxis::writeOffset, value);
 }
 
 void AOIWidget::OnSpinWidthValueChanged(double value)
 {
-    writeNumber(m_horizontal.get(), &RegionAxis::writeSize, value);
+    write(m_horizontal, &RegionAxis::writeSize, value);
 }
 
 void AOIWidget::OnSpinHeightValueChanged(double value)
 {
-    writeNumber(m_vertical.get(), &RegionAxis::writeSize, value);
+    write(m_vertical, &RegionAxis::writeSize, value);
 }
 
-void AOIWidget::writeNumber(RegionAxis* axis, void (RegionAxis::*write)(double), double value)
+void AOIWidget::write(const std::unique_ptr<RegionAxis>& axis, void (RegionAxis::*number)(double),
+                      double value)
 {
-    if (!m_ui)
+    // Nothing is written during a drag, whose end sets all four.
+    if (!m_ui || isAtWork())
         return;
-    (axis->*write)(value);
-    finishEdit();
+    ((*axis).*number)(value);
+    readAllNext();
+    showRegion();
+    checkConsistency();
 }
 
 void AOIWidget::OnSpinEditingFinished()
 {
     readAllSoon();
+}
+
+void AOIWidget::commitTyping()
+{
+    m_vertical->commit();
+    m_horizontal->commit();
 }
 
 void AOIWidget::OnSendGeometry(int top, int left, int width, int height)
@@ -60,23 +205,25 @@ void AOIWidget::OnSendGeometry(int top, int left, int width, int height)
         return;
     // The vertical correction moves by the size's step, the horizontal one by the offset's.
     const AxisPlan vertical
-        = m_vertical->plan({double(top), double(height)}, m_ui->spinHeight->singleStep());
+        = m_vertical->readPlan({double(top), double(height)}, m_ui->spinHeight->singleStep());
     const AxisPlan horizontal
-        = m_horizontal->plan({double(left), double(width)}, m_ui->spinLeft->singleStep());
+        = m_horizontal->readPlan({double(left), double(width)}, m_ui->spinLeft->singleStep());
     {
         const QSignalBlocker blocker(m_label);
         m_vertical->write(vertical);
         m_horizontal->write(horizontal);
     }
-    finishEdit();
+    showRegion();
+    checkConsistency();
+    readAllSoon();
 }
 
 void AOIWidget::OnUpdateGeometry(int top, int left, int width, int height)
 {
     if (!m_ui)
         return;
-    m_vertical->show({double(top), double(height)});
-    m_horizontal->show({double(left), double(width)});
+    m_vertical->showProvisional({double(top), double(height)});
+    m_horizontal->showProvisional({double(left), double(width)});
     checkConsistency();
 }
 
@@ -91,10 +238,9 @@ void AOIWidget::OnRubberLabelClicked()
 
 void AOIWidget::OnROIFull()
 {
-    if (!m_ui)
-        return;
-    applyPreset({toInt(m_ui->spinTop->minimum()), toInt(m_ui->spinLeft->minimum()),
-                 toInt(m_horizontal->maximum()), toInt(m_vertical->maximum())});
+    if (m_ui)
+        applyPreset({m_ui->spinLeft->minimum(), m_horizontal->readMaximum()},
+                    {m_ui->spinTop->minimum(), m_vertical->readMaximum()});
 }
 
 void AOIWidget::OnROIHalf()
@@ -109,35 +255,133 @@ void AOIWidget::OnROIQuarter()
 
 void AOIWidget::applyCentredPreset(double factor)
 {
-    if (!m_ui)
-        return;
-    applyPreset(
-        centredRegion({toInt(m_horizontal->maximum()), toInt(m_vertical->maximum())}, factor));
+    if (m_ui)
+        applyPreset(centredSpan(m_horizontal->readMaximum(), factor),
+                    centredSpan(m_vertical->readMaximum(), factor));
 }
 
-void AOIWidget::applyPreset(const SensorRegion& region)
+void AOIWidget::applyPreset(const Span<double>& horizontal, const Span<double>& vertical)
 {
+    if (isAtWork())
+        return;
     {
-        const PresetGuard guard{m_ui->btnFull, m_ui->btnHalf, m_ui->btnQuarter};
-        OnSendGeometry(region.top, region.left, region.width, region.height);
+        const PresetGuard guard(*m_ui);
+        OnSendGeometry(toInt(vertical.start), toInt(horizontal.start), toInt(horizontal.length),
+                       toInt(vertical.length));
     }
     m_label->setEnabled(false);
     m_vertical->forgetMaximum();
-    readAllSoon();
 }
+
+// What the page shows of the camera
+
+bool AOIWidget::isAtWork() const
+{
+    return m_label && m_label->isDragging();
+}
+
+Changes AOIWidget::refresh(const Changes& changes)
+{
+    if (!m_ui || changes.isEmpty())
+        return {};
+    // The vertical increment too becomes the step of the horizontal field.
+    QStringList untold;
+    if (changes.any({Name::offsetY, Name::height, Name::heightMax}))
+        untold += m_vertical->readAll(m_ui->spinLeft);
+    if (changes.any({Name::offsetX, Name::width, Name::widthMax}))
+        untold += m_horizontal->readAll(m_ui->spinLeft);
+    if (changes.any(Name::multipleRegionSwitches))
+        readMultipleRegions();
+    // Only when they were not told: a picture is scaled for them.
+    if (changes.names.contains(Name::sensorWidth))
+        showBackgroundAgain();
+    enableRegion();
+    showRegion();
+    checkConsistency();
+    return {false, untold};
+}
+
+void AOIWidget::showEvent(QShowEvent* event)
+{
+    if (m_ui)
+        reserveProblemLines();
+    InnerPage::showEvent(event);
+}
+
+void AOIWidget::readMultipleRegions()
+{
+    const Reading<double> isEnabled
+        = readNumber(*featureManager, Name::multipleRegionEnable, Name::multipleRegionsEnable);
+    if (isEnabled.value)
+        onMultipleRegionsEnabled(*isEnabled.value > 0.0);
+    if (!isEnabled.isComplete)
+        readNext({Name::multipleRegionEnable});
+}
+
+// A region takes all four numbers.
+void AOIWidget::enableRegion()
+{
+    const bool isWritable = m_horizontal->isWritable() && m_vertical->isWritable();
+    for (QWidget* widget :
+         std::initializer_list<QWidget*>{m_label, m_ui->btnFull, m_ui->btnHalf, m_ui->btnQuarter})
+        widget->setEnabled(isWritable);
+}
+
+void AOIWidget::showRegion()
+{
+    const double width = m_horizontal->readMaximum();
+    const double height = m_vertical->readMaximum();
+    const QSize sensor(toInt(width), toInt(height));
+    if (m_label->sensorSize() != sensor) {
+        m_label->setSensorSize(sensor.width(), sensor.height());
+        if (m_background)
+            showBackgroundAgain();
+    }
+    const Span<double> vertical = onSensor(m_vertical->onCamera(), height);
+    const Span<double> horizontal = onSensor(m_horizontal->onCamera(), width);
+    m_label->setRegion(toInt(vertical.start), toInt(horizontal.start), toInt(horizontal.length),
+                       toInt(vertical.length));
+}
+
+// The camera's region is judged as well: a field cannot show what is out of its range.
+void AOIWidget::checkConsistency()
+{
+    const QString text
+        = problemText(m_horizontal->isBeyondMaximum(), m_vertical->isBeyondMaximum());
+    m_ui->labelInvalidSettings->setText(text);
+    m_ui->labelInvalidSettings->setVisible(text != problemText(false, false));
+}
+
+QString AOIWidget::problemText(bool isTooWide, bool isTooHigh)
+{
+    QString text = tr("Invalid settings: ");
+    if (isTooWide)
+        text += tr("\n\tOffsetX + Width > Maximum Width! ");
+    if (isTooHigh)
+        text += tr("\n\tOffsetY + Height > Maximum Height! ");
+    return text;
+}
+
+// The text comes and goes during a drag, and must not resize the picture beneath the mouse.
+void AOIWidget::reserveProblemLines()
+{
+    QLabel* const label = m_ui->labelInvalidSettings;
+    QSizePolicy policy = label->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    label->setSizePolicy(policy);
+    label->setFixedHeight(
+        label->fontMetrics().size(Qt::TextExpandTabs, problemText(true, true)).height());
+}
+
+// The viewer
 
 void AOIWidget::camIsStreaming(bool streaming)
 {
-    m_isStreaming = streaming;
-    enableControls(!m_isStreaming);
-}
-
-void AOIWidget::enableControls(bool enabled)
-{
+    setStreaming(streaming);
     if (!m_ui)
         return;
-    m_ui->gb_AOI->setEnabled(enabled);
-    m_ui->gb_Region->setEnabled(enabled);
+    m_ui->gb_AOI->setEnabled(!streaming);
+    m_ui->gb_Region->setEnabled(!streaming);
 }
 
 void AOIWidget::onMultipleRegionsEnabled(bool multipleEnabled)
@@ -156,22 +400,27 @@ void AOIWidget::onMultipleRegionsEnabled(bool multipleEnabled)
 void AOIWidget::setBackgroundImage(std::shared_ptr<QPixmap> image)
 {
     m_background = std::move(image);
-    if (m_ui)
-        showBackground();
+    if (!m_ui)
+        return;
+    m_horizontal->forgetMaximum();
+    m_vertical->forgetMaximum();
+    showBackground();
 }
 
-void AOIWidget::showEvent(QShowEvent* event)
+void AOIWidget::showBackground()
 {
-    if (m_ui)
-        reserveProblemLines();
-    InnerPage::showEvent(event);
+    const bool isTold = m_horizontal->readSensor();
+    if (!m_vertical->readSensor() || !isTold)
+        readNext({Name::sensorWidth});
+    m_label->showBackground(m_background,
+                            {toInt(m_horizontal->sensor()), toInt(m_vertical->sensor())}, {});
 }
 
-void AOIWidget::finishEdit()
+// Showing an image takes back the cursor of whoever chose it; nobody did.
+void AOIWidget::showBackgroundAgain()
 {
-    readAllNext();
-    showOnLabel();
-    checkConsistency();
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+    showBackground();
 }
 
 void AOIWidget::onPaletteChanged(QEvent*) { }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "page/InnerPage.h"
+#include "sensor/Span.h"
 
 #include <QPixmap>
 
@@ -9,7 +10,6 @@
 class QDoubleSpinBox;
 class RegionAxis;
 class RubberBandLabel;
-struct SensorRegion;
 
 namespace Ui {
 class AOIWidget;
@@ -58,22 +58,25 @@ private:
     void createLabel();
     void connectForm();
     void connectField(QDoubleSpinBox* field, const char* valueSlot);
-    void showOnLabel();
-    void showBackground();
-    void refreshMultipleRegions();
-    static QString problemText(const QString& problems);
     void reserveProblemLines();
-    void checkConsistency();
-    void enableControls(bool enabled);
-    void writeNumber(RegionAxis* axis, void (RegionAxis::*write)(double), double value);
-    void finishEdit();
-    void applyPreset(const SensorRegion& region);
+
+    void write(const std::unique_ptr<RegionAxis>& axis, void (RegionAxis::*number)(double),
+               double value);
+    void applyPreset(const Span<double>& horizontal, const Span<double>& vertical);
     void applyCentredPreset(double factor);
+    void commitTyping();
+
+    void enableRegion();
+    void readMultipleRegions();
+    void showBackground();
+    void showBackgroundAgain();
+    void showRegion();
+    void checkConsistency();
+    static QString problemText(bool isTooWide, bool isTooHigh);
 
     std::unique_ptr<Ui::AOIWidget> m_ui; ///< null, as all below, when the page does not apply
     std::unique_ptr<RegionAxis> m_horizontal;
     std::unique_ptr<RegionAxis> m_vertical;
     RubberBandLabel* m_label = nullptr;
     std::shared_ptr<QPixmap> m_background;
-    bool m_isStreaming = false;
 };

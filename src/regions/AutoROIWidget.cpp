@@ -1,13 +1,12 @@
 #include "regions/AutoROIWidget.h"
 
 #include "features/FeatureNames.h"
-#include "page/NumberField.h"
-#include "regions/automatic/AutoExposureEditor.h"
 #include "regions/automatic/AutoRegionCamera.h"
 #include "regions/automatic/AutoRegionForm.h"
 #include "regions/automatic/AutoRegionPicture.h"
 #include "regions/automatic/AutoRegionView.h"
 #include "regions/automatic/AutoRegionWriter.h"
+#include "regions/automatic/ExposureLimits.h"
 #include "regions/label/RubberBandLabel.h"
 #include "ui_AutoROIWidget.h"
 #include "widgets/SilentFields.h"
@@ -15,11 +14,146 @@
 
 #include <QCoreApplication>
 #include <QPointer>
+#include <QScopedValueRollback>
 #include <QTimer>
 
 #include <utility>
 
 namespace Name = FeatureNames;
+
+namespace {
+
+constexpr int trustMs = 250;
+
+} // namespace
+
+AutoROIWidget::AutoROIWidget(const FeatureList& camera, QWidget* parent)
+    : InnerPage(camera, parent)
+{
+    if (!AutoRegionCamera::hasAutoRegion(*featureManager))
+        return;
+
+    setTitle();
+    if (installTranslator(QStringLiteral("tabextensionautoaoi")))
+        setTitle();
+    observedFeatures << Name::height << Name::width << Name::dspTop << Name::dspLeft
+                     << Name::dspRight << Name::dspBottom << Name::aoiHeight << Name::aoiWidth
+                     << Name::aoiOffsetX << Name::aoiOffsetY << Name::autoModeHeight
+                     << Name::autoModeWidth << Name::autoModeOffsetX << Name::autoModeOffsetY
+                     << Name::aoiEnable << Name::aoiShowArea << Name::exposureAutoMin
+                     << Name::exposureAutoMax << Name::exposureAutoTimebase
+                     << Name::intensityControllerRegion;
+
+    m_ui = std::make_unique<Ui::AutoROIWidget>();
+    m_ui->setupUi(this);
+    createParts();
+    adaptForm(*m_ui, *m_camera);
+    guardAgainstWheel(*m_ui, this);
+    connectLabel();
+    connectRegion();
+    setUpExposure();
+    loadRegion();
+    showRegion();
+
+    if (m_camera->has(Name::dspLeft) && m_camera->usesEdges()
+        && !hasValidEdges(m_camera->region(), m_limits))
+        m_ui->btnFull->click();
+}
+
+AutoROIWidget::~AutoROIWidget()
+{
+    // A page that is deleted while it is visible is hidden later, when its parts are gone: a drag
+    // then ends, and a field gives up what was typed.
+    const auto children = findChildren<QObject*>();
+    for (QObject* child : children)
+        disconnect(child, nullptr, this, nullptr);
+}
+
+void AutoROIWidget::setTitle()
+{
+    setAccessibleName(featureManager->HasFeature(Name::aoiOffsetX) ? tr("Autofunction AOI")
+                                                                   : tr("Autofunction ROI"));
+}
+
+void AutoROIWidget::createParts()
+{
+    m_camera = std::make_unique<AutoRegionCamera>(*featureManager);
+    m_view = std::make_unique<AutoRegionView>(
+        *m_camera,
+        AutoRegionView::Fields{NumberField(m_ui->spinTop), NumberField(m_ui->spinLeft),
+                               NumberField(m_ui->spinRight), NumberField(m_ui->spinBottom),
+                               NumberField(m_ui->spinWidth), NumberField(m_ui->spinHeight)});
+    m_writer = std::make_unique<AutoRegionWriter>(*m_camera, *m_view);
+    readLimits();
+    m_picture
+        = std::make_unique<AutoRegionPicture>(*m_camera, m_limits, *m_ui->gb_AutoROI->layout());
+    m_exposure = std::make_unique<ExposureLimits>(*featureManager, m_ui->spinExpAutoMin,
+                                                  m_ui->spinExpAutoMax);
+    m_trustTimer = new QTimer(this);
+    m_trustTimer->setSingleShot(true);
+    m_trustTimer->setInterval(trustMs);
+    connect(m_trustTimer, &QTimer::timeout, this, &AutoROIWidget::OnResetTrustedUpdate);
+}
+
+void AutoROIWidget::connectLabel()
+{
+    const RubberBandLabel* const label = m_picture->label();
+    connect(label, &RubberBandLabel::SendGeometry, this, &AutoROIWidget::OnSendGeometry);
+    connect(label, &RubberBandLabel::UpdateGeometry, this, &AutoROIWidget::OnUpdateGeometry);
+    connect(label, &RubberBandLabel::GeometryChangeStarted, this,
+            &AutoROIWidget::OnGeometryChangeStarted);
+    connect(label, &RubberBandLabel::GeometryChangeAborted, this,
+            &AutoROIWidget::onGeometryChangeAborted);
+}
+
+void AutoROIWidget::connectRegion()
+{
+    const auto connectField = [this](QDoubleSpinBox* field, void (AutoROIWidget::*slot)(double)) {
+        connect(field, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this, slot);
+        connect(field, &QDoubleSpinBox::editingFinished, this,
+                &AutoROIWidget::OnSpinEditingFinished);
+    };
+    connectField(m_ui->spinTop, &AutoROIWidget::OnSpinTopValueChanged);
+    connectField(m_ui->spinLeft, &AutoROIWidget::OnSpinLeftValueChanged);
+    if (m_camera->has(Name::dspBottom)) {
+        connectField(m_ui->spinRight, &AutoROIWidget::OnSpinRightValueChanged);
+        connectField(m_ui->spinBottom, &AutoROIWidget::OnSpinBottomValueChanged);
+    } else if (m_camera->usesSizes()) {
+        connectField(m_ui->spinWidth, &AutoROIWidget::OnSpinWidthValueChanged);
+        connectField(m_ui->spinHeight, &AutoROIWidget::OnSpinHeightValueChanged);
+    }
+    if (m_camera->has(Name::aoiEnable))
+        connect(m_ui->cbEnable, &QCheckBox::stateChanged, this,
+                &AutoROIWidget::OnEnableStateChanged);
+    if (m_camera->has(Name::aoiShowArea))
+        connect(m_ui->cbShowArea, &QCheckBox::stateChanged, this,
+                &AutoROIWidget::OnShowAreaStateChanged);
+    connect(m_ui->btnFull, &QPushButton::clicked, this, &AutoROIWidget::OnROIFull);
+    connect(m_ui->btnHalf, &QPushButton::clicked, this, &AutoROIWidget::OnROIHalf);
+    connect(m_ui->btnQuarter, &QPushButton::clicked, this, &AutoROIWidget::OnROIQuarter);
+
+    fillComboBox(Name::intensityControllerRegion, m_ui->comboIntensityControllerRegion, false);
+    connect(m_ui->comboIntensityControllerRegion, &QComboBox::currentTextChanged, this,
+            &AutoROIWidget::OnIntensityControllerRegionChanged);
+}
+
+void AutoROIWidget::setUpExposure()
+{
+    if (m_camera->has(Name::exposureAutoTimebase)) {
+        fillComboBox(Name::exposureAutoTimebase, m_ui->comboExpAutoTimeBase, false);
+        connect(m_ui->comboExpAutoTimeBase, &QComboBox::currentTextChanged, this,
+                &AutoROIWidget::OnExpAutoTimebaseChanged);
+    }
+    readNext(m_exposure->refresh());
+    connect(m_ui->spinExpAutoMin, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this,
+            &AutoROIWidget::OnSpinExpAutoMinChanged);
+    connect(m_ui->spinExpAutoMax, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this,
+            &AutoROIWidget::OnSpinExpAutoMaxChanged);
+    connect(m_ui->btnExpAutoMinCurrent, &QPushButton::clicked, this,
+            &AutoROIWidget::OnBtnExpAutoMinCurrentClicked);
+    connect(m_ui->btnExpAutoMaxCurrent, &QPushButton::clicked, this,
+            &AutoROIWidget::OnBtnExpAutoMaxCurrentClicked);
+}
 
 bool AutoROIWidget::eventFilter(QObject* watched, QEvent* event)
 {
@@ -64,11 +198,12 @@ void AutoROIWidget::OnSpinHeightValueChanged(double value)
 
 void AutoROIWidget::writeNumber(RegionNumber number, double value)
 {
-    if (!m_ui || !m_camera->has(number))
+    // Nothing is written during a drag, whose end sets all four.
+    if (!m_ui || isAtWork() || !m_camera->has(number))
         return;
     // The wanted edges are judged, for a strict camera keeps its former ones.
-    showClamped(m_editor->field(number), value);
-    const DspEdges wanted = m_editor->edges();
+    m_view->field(number).showProvisional(value);
+    const AutoRegion wanted = m_view->shown();
     m_writer->write(number, value);
     readAllNext();
     if (m_camera->usesEdges())
@@ -81,8 +216,8 @@ void AutoROIWidget::OnSpinEditingFinished()
     if (!m_ui)
         return;
     // The field has missed what the camera told while it was being typed in.
-    if (!m_picture->label()->isDragging())
-        m_editor->refresh(m_limits);
+    if (!isAtWork())
+        m_view->refresh(m_limits);
     readSoon({});
 }
 
@@ -94,7 +229,7 @@ void AutoROIWidget::OnEnableStateChanged(int state)
     showChecked(m_ui->cbEnable,
                 featureManager->SetValue(Name::aoiEnable, state > 0 ? 1.0 : 0.0) > 0.0);
     // Reading everything would check the region again and take back what the user switched on.
-    readSoon({});
+    readSoon({Name::aoiEnable});
 }
 
 void AutoROIWidget::OnShowAreaStateChanged(int state)
@@ -124,13 +259,13 @@ bool AutoROIWidget::pumpEvents()
 void AutoROIWidget::OnGeometryChangeStarted()
 {
     if (m_ui)
-        m_dragOrigin = m_camera->origin();
+        m_camera->readOrigin();
     suspendUpdates();
 }
 
 void AutoROIWidget::onGeometryChangeAborted()
 {
-    finishDrag();
+    m_picture->showWaitingImage();
     resumeUpdates(false);
     readAllSoon();
 }
@@ -140,9 +275,10 @@ void AutoROIWidget::OnUpdateGeometry(int top, int left, int width, int height)
     if (!m_ui)
         return;
     const auto blockers = blockFields(*m_ui);
-    // During a drag this comes with every move of the mouse.
-    const QPointF origin = m_dragOrigin ? *m_dragOrigin : m_camera->origin();
-    m_editor->show(fieldsForRegion({top, left, width, height}, origin));
+    // During a drag, whose begin has read the origin, this comes with every move of the mouse.
+    if (!isAtWork())
+        m_camera->readOrigin();
+    m_view->showProvisional(fromLabel({top, left, width, height}, m_camera->origin()));
 }
 
 void AutoROIWidget::OnSendGeometry(int top, int left, int width, int height)
@@ -151,24 +287,18 @@ void AutoROIWidget::OnSendGeometry(int top, int left, int width, int height)
         return;
     if (m_writer->writeDrawn({top, left, width, height}, m_limits))
         m_isTrusted = true;
-    readAllNext();
-    finishDrag();
+    m_picture->showWaitingImage();
     // Also while the region is off: the band lies where it was dropped.
     m_picture->showRegion(m_limits);
     if (m_camera->usesEdges()) {
-        showEdgeProblems(m_editor->edges());
+        showEdgeProblems(m_view->shown());
     } else if (m_camera->usesSizes()) {
         if (!pumpEvents())
             return;
         m_trustTimer->start();
     }
     resumeUpdates(false);
-}
-
-void AutoROIWidget::finishDrag()
-{
-    m_dragOrigin.reset();
-    m_picture->showWaitingImage();
+    readAllSoon();
 }
 
 void AutoROIWidget::OnResetTrustedUpdate()
@@ -215,7 +345,7 @@ void AutoROIWidget::applyCentredPreset(double factor)
 void AutoROIWidget::finishPreset()
 {
     if (m_camera->usesEdges())
-        showEdgeProblems(m_editor->edges());
+        showEdgeProblems(m_view->shown());
     showRegion();
     readAllSoon();
 }
@@ -224,14 +354,14 @@ void AutoROIWidget::finishPreset()
 
 void AutoROIWidget::OnSpinExpAutoMinChanged(double value)
 {
-    if (m_ui)
-        m_exposure->writeMinimum(value);
+    if (m_ui && !m_exposure->writeMinimum(value))
+        readNext({Name::exposureAutoMin});
 }
 
 void AutoROIWidget::OnSpinExpAutoMaxChanged(double value)
 {
-    if (m_ui)
-        m_exposure->writeMaximum(value);
+    if (m_ui && !m_exposure->writeMaximum(value))
+        readNext({Name::exposureAutoMax});
 }
 
 void AutoROIWidget::OnBtnExpAutoMinCurrentClicked()
@@ -252,7 +382,7 @@ void AutoROIWidget::OnExpAutoTimebaseChanged(const QString& timebase)
         return;
     showEntry(m_ui->comboExpAutoTimeBase,
               featureManager->SetStringValue(Name::exposureAutoTimebase, timebase));
-    m_exposure->refresh();
+    readNext(m_exposure->refresh());
 }
 
 // The viewer and the camera
@@ -261,20 +391,168 @@ void AutoROIWidget::camIsStreaming(bool streaming)
 {
     if (!m_ui || !m_camera->has(Name::autoModeWidth))
         return;
-    enableControls(!m_isStreaming);
-    m_isStreaming = streaming;
+    enableControls(!isStreaming());
+    setStreaming(streaming);
 }
 
 void AutoROIWidget::enableControls(bool enabled)
 {
-    m_picture->label()->setEnabled(enabled);
-    enableRegion(*m_ui, *m_camera, enabled);
+    m_picture->label()->setEnabled(enabled && m_view->isRegionWritable());
+    enableRegion(*m_ui, *m_view, enabled);
 }
 
 void AutoROIWidget::setBackgroundImage(std::shared_ptr<QPixmap> image)
 {
-    if (m_ui)
-        m_picture->setImage(std::move(image));
+    if (!m_ui)
+        return;
+    m_picture->setImage(std::move(image));
+    readNext(m_camera->takeUntold());
+}
+
+// What the page shows of the camera
+
+void AutoROIWidget::showEvent(QShowEvent* event)
+{
+    InnerPage::showEvent(event);
+    m_isJustShown = true;
+}
+
+bool AutoROIWidget::isAtWork() const
+{
+    return m_picture && m_picture->label()->isDragging();
+}
+
+Changes AutoROIWidget::refresh(const Changes& changes)
+{
+    if (!m_ui)
+        return {};
+    const QScopedValueRollback<bool> refreshing(m_isRefreshing, true);
+    const auto blockers = blockFields(*m_ui);
+    m_ui->gb_AutoROI->setMaximumWidth(QWIDGETSIZE_MAX);
+    QStringList untold;
+    if (!changes.isEmpty()) {
+        const bool isSizeTold
+            = changes.names.contains(Name::height) || changes.names.contains(Name::width);
+        const bool isNewSize = isSizeTold && !std::exchange(m_isJustShown, false);
+        const bool isResized = updateLimits(isNewSize);
+        const bool readsRegion = isResized || changes.any(Name::autoRegion);
+        const bool readsSwitches = changes.any({Name::aoiEnable, Name::aoiShowArea});
+        if (readsRegion || readsSwitches)
+            refreshSwitches();
+        // A region that is switched on is drawn where it is by now.
+        if ((readsRegion || readsSwitches) && !refreshRegion())
+            untold << Name::autoRegion;
+        if (readsRegion)
+            checkRegion();
+        showRegion();
+    }
+    m_picture->retryImage();
+    if (changes.any(Name::exposureLimits))
+        untold += refreshExposure();
+    if (changes.any({Name::intensityControllerRegion})
+        && m_camera->has(Name::intensityControllerRegion)
+        && !fillComboBox(Name::intensityControllerRegion, m_ui->comboIntensityControllerRegion,
+                         false))
+        untold << Name::intensityControllerRegion;
+    enableControls(!isStreaming());
+    return {false, untold + m_camera->takeUntold()};
+}
+
+// Whether they changed. Some cameras bound size and offset by each other, so the limits are taken
+// only for a new image size; otherwise they would shrink with each move of the region.
+bool AutoROIWidget::updateLimits(bool isSizeTold)
+{
+    const QSizeF imageSize(m_camera->readValue(Name::width), m_camera->readValue(Name::height));
+    if (!isSizeTold && imageSize == m_imageSize)
+        return false;
+    const RegionLimits former = m_limits;
+    readLimits();
+    if (m_limits == former)
+        return false;
+    m_picture->setSize(m_limits);
+    loadRegion();
+    return true;
+}
+
+void AutoROIWidget::readLimits()
+{
+    const auto limits = m_camera->readLimits();
+    if (!limits) {
+        readNext({Name::height});
+        return;
+    }
+    m_limits = *limits;
+    m_imageSize = {m_camera->readValue(Name::width), m_camera->readValue(Name::height)};
+}
+
+void AutoROIWidget::loadRegion()
+{
+    m_view->load();
+    fitColumns(*m_ui);
+    refreshSwitches();
+    m_ui->gb_AutoROI->setEnabled(m_view->isRegionWritable());
+    m_ui->gb_Region->setEnabled(m_view->isRegionWritable());
+}
+
+void AutoROIWidget::refreshSwitches()
+{
+    const auto show = [this](const QString& name, QCheckBox* box) {
+        const Reading<double> reading = m_camera->read(name);
+        if (reading.value)
+            showChecked(box, *reading.value != 0.0);
+    };
+    show(Name::aoiEnable, m_ui->cbEnable);
+    show(Name::aoiShowArea, m_ui->cbShowArea);
+}
+
+bool AutoROIWidget::refreshRegion()
+{
+    const bool isShown = m_view->refresh(m_limits);
+    fitColumns(*m_ui);
+    return isShown;
+}
+
+QStringList AutoROIWidget::refreshExposure()
+{
+    QStringList untold = m_exposure->refresh();
+    if (m_camera->has(Name::exposureAutoTimebase)
+        && !fillComboBox(Name::exposureAutoTimebase, m_ui->comboExpAutoTimeBase, false))
+        untold << Name::exposureAutoTimebase;
+    fitColumns(*m_ui);
+    return untold;
+}
+
+void AutoROIWidget::showRegion()
+{
+    if (m_camera->usesEdges() || m_camera->has(Name::autoModeHeight) || m_ui->cbEnable->isChecked())
+        m_picture->showRegion(m_limits);
+}
+
+void AutoROIWidget::showEdgeProblems(const AutoRegion& edges)
+{
+    const QString problems = edgeProblems(edges, m_limits);
+    m_ui->labelInvalidSettings->setText(tr("Invalid settings: ") + problems);
+    m_ui->labelInvalidSettings->setVisible(!problems.isEmpty());
+}
+
+void AutoROIWidget::checkRegion()
+{
+    if (m_camera->usesEdges())
+        showEdgeProblems(m_view->shown());
+    else if (m_camera->usesSizes())
+        checkSizes();
+}
+
+void AutoROIWidget::checkSizes()
+{
+    const QString problem = m_isTrusted ? QString() : m_camera->problem(m_limits);
+    m_ui->labelInvalidSettings->setVisible(!problem.isEmpty());
+    if (problem.isEmpty())
+        return;
+    m_ui->labelInvalidSettings->setText(problem);
+    // The automatic functions must not work on what is no part of the image.
+    if (isVisible())
+        OnEnableStateChanged(0);
 }
 
 void AutoROIWidget::onPaletteChanged(QEvent*) { }

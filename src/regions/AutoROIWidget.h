@@ -1,22 +1,19 @@
 #pragma once
 
 #include "page/InnerPage.h"
-#include "regions/automatic/RegionLimits.h"
+#include "regions/automatic/AutoRegionRules.h"
 
 #include <QPixmap>
-#include <QPointF>
 #include <QSizeF>
 
 #include <memory>
-#include <optional>
 
-class AutoExposureEditor;
 class AutoRegionCamera;
 class AutoRegionView;
 class AutoRegionPicture;
 class AutoRegionWriter;
+class ExposureLimits;
 enum class RegionNumber;
-struct DspEdges;
 
 namespace Ui {
 class AutoROIWidget;
@@ -86,28 +83,27 @@ private:
     void finishPreset();
     bool pumpEvents();
     void onGeometryChangeAborted();
-    void finishDrag();
 
     bool updateLimits(bool isSizeTold);
-    void refreshRegion();
+    void readLimits();
+    bool refreshRegion();
     void refreshSwitches();
-    void refreshExposure();
-    void showEdgeProblems(const DspEdges& edges);
+    QStringList refreshExposure();
+    void checkRegion();
+    void showEdgeProblems(const AutoRegion& edges);
     void checkSizes();
     void showRegion();
 
     std::unique_ptr<Ui::AutoROIWidget> m_ui; ///< null, as all below, when the page does not apply
     std::unique_ptr<AutoRegionCamera> m_camera;
-    std::unique_ptr<AutoRegionView> m_editor;
+    std::unique_ptr<AutoRegionView> m_view;
     std::unique_ptr<AutoRegionWriter> m_writer;
     std::unique_ptr<AutoRegionPicture> m_picture;
-    std::unique_ptr<AutoExposureEditor> m_exposure;
+    std::unique_ptr<ExposureLimits> m_exposure;
     QTimer* m_trustTimer = nullptr;
     RegionLimits m_limits;
-    std::optional<QPointF> m_dragOrigin; ///< of the region under the mouse
-    QSizeF m_imageSize;                  ///< of which the limits were taken
+    QSizeF m_imageSize;       ///< of which the limits were taken
     bool m_isTrusted = false; ///< a drag was just written; what it passes through is no error
-    bool m_isStreaming = false;
     bool m_isRefreshing = false;
     bool m_isJustShown = false; ///< which counts every feature as changed
 };

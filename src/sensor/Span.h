@@ -3,6 +3,8 @@
 #include <QRect>
 #include <Qt>
 
+#include <cmath>
+
 /// One axis of a rectangle, in pixels of the rectangle: whole ones, or exact ones as a camera tells
 /// them.
 template <typename Number> struct Span
@@ -34,6 +36,13 @@ template <typename Number> constexpr bool operator!=(const Span<Number>& a, cons
 template <typename Number> constexpr bool overlap(const Span<Number>& a, const Span<Number>& b)
 {
     return a.start < b.end() && b.start < a.end();
+}
+
+/// In the middle of @p whole, @p factor times as long; what is less than a pixel long is dropped.
+inline Span<double> centredSpan(double whole, double factor)
+{
+    const double length = std::trunc(whole * factor);
+    return {(whole - length) * 0.5, length};
 }
 
 /// @param axis Qt::Horizontal for x and width, Qt::Vertical for y and height

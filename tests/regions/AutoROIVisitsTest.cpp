@@ -1,7 +1,6 @@
 #include "DataTable.h"
 #include "regions/Visitor.h"
-#include "regions/automatic/AutoRegion.h"
-#include "regions/automatic/DspRegion.h"
+#include "regions/automatic/AutoRegionRules.h"
 
 using Mode = sim::NotificationSettings::Mode;
 
@@ -40,15 +39,11 @@ protected:
         for (const auto& field : m_fields)
             bound << m_page.value(field.second);
         if (tellsEdges(m_page))
-            return drawnDspRegion({bound[0], bound[1], bound[2], bound[3]}, limits);
-        AutoRegionFields fields;
-        fields.left = bound[0];
-        fields.top = bound[1];
-        fields.width = bound[2];
-        fields.height = bound[3];
+            return drawnByEdges({spanBetween(bound[0], bound[2]), spanBetween(bound[1], bound[3])},
+                                limits);
         const QPointF origin(m_page.value("AutoModeRegionOffsetX"),
                              m_page.value("AutoModeRegionOffsetY"));
-        return drawnAutoRegion(fields, origin, limits);
+        return drawnBySize({{bound[0], bound[2]}, {bound[1], bound[3]}}, origin, limits);
     }
 
 private:

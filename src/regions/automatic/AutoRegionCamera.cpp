@@ -6,16 +6,10 @@
 #include "features/SdkValues.h"
 #include "sensor/PixelRect.h"
 
-#include <QCoreApplication>
-
 #include <algorithm>
+#include <utility>
 
 namespace Name = FeatureNames;
-
-QSize sizeOf(const RegionLimits& limits)
-{
-    return {toInt(static_cast<double>(limits.width)), toInt(static_cast<double>(limits.height))};
-}
 
 AutoRegionCamera::AutoRegionCamera(FeatureManager& manager)
     : m_manager(manager)
@@ -41,15 +35,11 @@ bool AutoRegionCamera::has(const QString& name) const
     return m_manager.HasFeature(name);
 }
 
-bool AutoRegionCamera::isRegionWritable() const
+std::vector<RegionNumber> AutoRegionCamera::numbers() const
 {
     if (m_usesEdges)
-        return m_manager.IsWritable(Name::dspLeft) && m_manager.IsWritable(Name::dspTop)
-            && m_manager.IsWritable(Name::dspRight) && m_manager.IsWritable(Name::dspBottom);
-    return m_manager.IsWritable(Name::aoiOffsetX, Name::autoModeOffsetX)
-        && m_manager.IsWritable(Name::aoiOffsetY, Name::autoModeOffsetY)
-        && m_manager.IsWritable(Name::aoiWidth, Name::autoModeWidth)
-        && m_manager.IsWritable(Name::aoiHeight, Name::autoModeHeight);
+        return {RegionNumber::Top, RegionNumber::Left, RegionNumber::Right, RegionNumber::Bottom};
+    return {RegionNumber::Top, RegionNumber::Left, RegionNumber::Width, RegionNumber::Height};
 }
 
 const QString& AutoRegionCamera::nameOf(RegionNumber number) const
@@ -57,63 +47,41 @@ const QString& AutoRegionCamera::nameOf(RegionNumber number) const
     return m_names[static_cast<std::size_t>(number)];
 }
 
-AutoRegionCamera::State AutoRegionCamera::state(RegionNumber number) const
+Reading<double> AutoRegionCamera::readForField(RegionNumber number)
 {
-    State state;
-    if (has(number))
-        state.value = m_manager.GetValueRange(nameOf(number), state.minimum, state.maximum,
-                                              state.increment);
-    return state;
+    const QString& name = nameOf(number);
+    return noted(name, readFieldNumber(m_manager, name));
 }
 
-AutoRegionCamera::State AutoRegionCamera::range(RegionNumber number) const
+Reading<double> AutoRegionCamera::read(const QString& name)
 {
-    return rangeOf(nameOf(number));
+    return noted(name, readNumber(m_manager, name));
 }
 
-double AutoRegionCamera::write(RegionNumber number, double value)
+Reading<double> AutoRegionCamera::noted(const QString& name, const Reading<double>& reading)
 {
-    return has(number) ? m_manager.SetValue(nameOf(number), value) : value;
+    if (reading.value)
+        m_values[name] = *reading.value;
+    if (!reading.isComplete)
+        m_untold << name;
+    return reading;
 }
 
-DspEdges AutoRegionCamera::edges() const
+double AutoRegionCamera::readValue(const QString& name, const QString& alternative)
 {
-    return {value(Name::dspLeft), value(Name::dspTop), value(Name::dspRight),
-            value(Name::dspBottom)};
+    const Reading<double> reading = readNumber(m_manager, name, alternative);
+    return noted(name, reading).exists ? m_values.value(name) : 0.0;
 }
 
-AutoRegionFields AutoRegionCamera::offsetAndSize() const
+std::optional<double> AutoRegionCamera::write(RegionNumber number, double value)
 {
-    AutoRegionFields fields;
-    fields.top = range(RegionNumber::Top).value;
-    fields.left = range(RegionNumber::Left).value;
-    fields.width = range(RegionNumber::Width).value;
-    fields.height = range(RegionNumber::Height).value;
-    fields.right = fields.left + fields.width;
-    fields.bottom = fields.top + fields.height;
-    return fields;
-}
-
-bool AutoRegionCamera::isAutoMode() const
-{
-    return nameOf(RegionNumber::Left) == Name::autoModeOffsetX;
-}
-
-QString AutoRegionCamera::sizeProblem(const RegionLimits& limits) const
-{
-    const QString region = has(Name::aoiHeight) ? QStringLiteral("AOI") : QStringLiteral("ROI");
-    const QPointF start = origin();
-    if (exceedsLimit(range(RegionNumber::Top).value, start.y(), range(RegionNumber::Height).value,
-                     limits.height))
-        return QCoreApplication::translate("AutoROIWidget",
-                                           "Invalid settings:\nHeight + OffsetY > %1 Height")
-            .arg(region);
-    if (exceedsLimit(range(RegionNumber::Left).value, start.x(), range(RegionNumber::Width).value,
-                     limits.width))
-        return QCoreApplication::translate("AutoROIWidget",
-                                           "Invalid settings:\nWidth + OffsetX > %1 Width")
-            .arg(region);
-    return {};
+    if (!has(number))
+        return value;
+    const double taken = m_manager.SetValue(nameOf(number), value);
+    if (taken < 0.0)
+        return {};
+    m_values[nameOf(number)] = taken;
+    return taken;
 }
 
 void AutoRegionCamera::write(const QString& name, double value)
@@ -121,74 +89,98 @@ void AutoRegionCamera::write(const QString& name, double value)
     m_manager.SetValue(name, value);
 }
 
-double AutoRegionCamera::value(const QString& name, const QString& alternative) const
+AutoRegion AutoRegionCamera::region() const
 {
-    return m_manager.HasFeature(name, alternative) ? m_manager.GetValue(name, alternative) : 0.0;
-}
-
-AutoRegionCamera::State AutoRegionCamera::rangeOf(const QString& name) const
-{
-    State state;
-    if (!name.isEmpty() && has(name))
-        state.value = m_manager.GetValueLimits(name, state.minimum, state.maximum);
-    return state;
+    const double left = value(RegionNumber::Left);
+    const double top = value(RegionNumber::Top);
+    if (m_usesEdges)
+        return {spanBetween(left, value(RegionNumber::Right)),
+                spanBetween(top, value(RegionNumber::Bottom))};
+    return {{left, value(RegionNumber::Width)}, {top, value(RegionNumber::Height)}};
 }
 
 QPointF AutoRegionCamera::origin() const
 {
-    return {value(Name::autoModeOffsetX), value(Name::autoModeOffsetY)};
+    return {m_values.value(Name::autoModeOffsetX), m_values.value(Name::autoModeOffsetY)};
 }
 
-RegionLimits AutoRegionCamera::limits() const
+void AutoRegionCamera::readOrigin()
 {
+    for (const QString& name : {Name::autoModeOffsetX, Name::autoModeOffsetY})
+        if (name != nameOf(RegionNumber::Left) && name != nameOf(RegionNumber::Top))
+            read(name);
+}
+
+bool AutoRegionCamera::isAutoMode() const
+{
+    return nameOf(RegionNumber::Left) == Name::autoModeOffsetX;
+}
+
+SensorRegion AutoRegionCamera::drawn(const RegionLimits& limits) const
+{
+    return m_usesEdges ? drawnByEdges(region(), limits) : drawnBySize(region(), origin(), limits);
+}
+
+QString AutoRegionCamera::problem(const RegionLimits& limits) const
+{
+    return sizeProblem(region(), origin(), limits,
+                       has(Name::aoiHeight) ? QStringLiteral("AOI") : QStringLiteral("ROI"));
+}
+
+std::optional<RegionLimits> AutoRegionCamera::readLimits()
+{
+    const auto minimum = [this](const QString& name) { return read(name).minimum.value_or(0.0); };
+    const auto maximum = [this](const QString& name) { return read(name).maximum.value_or(0.0); };
+    const int untoldBefore = untoldCount();
     RegionLimits limits;
-    if (has(Name::aoiHeight))
-        limits.height
-            = aoiHeightLimit(value(Name::height), m_manager.GetIncrement(Name::aoiHeight),
-                             rangeOf(Name::height).minimum, rangeOf(Name::aoiOffsetX).minimum);
+    const Reading<double> aoiHeight = read(Name::aoiHeight);
+    if (aoiHeight.exists)
+        limits.height = aoiHeightLimit(readValue(Name::height), aoiHeight.increment.value_or(0.0),
+                                       minimum(Name::height), minimum(Name::aoiOffsetX));
     else
-        limits.height = toInt64(has(Name::autoModeHeight) ? rangeOf(Name::autoModeHeight).maximum
-                                                          : value(Name::height));
-    if (has(Name::aoiWidth))
-        limits.width = aoiWidthLimit(value(Name::width), m_manager.GetIncrement(Name::aoiWidth),
-                                     rangeOf(Name::aoiOffsetY).minimum);
+        limits.height = toInt64(has(Name::autoModeHeight) ? maximum(Name::autoModeHeight)
+                                                          : readValue(Name::height));
+    const Reading<double> aoiWidth = read(Name::aoiWidth);
+    if (aoiWidth.exists)
+        limits.width = aoiWidthLimit(readValue(Name::width), aoiWidth.increment.value_or(0.0),
+                                     minimum(Name::aoiOffsetY));
     else
-        limits.width = toInt64(has(Name::autoModeWidth) ? rangeOf(Name::autoModeWidth).maximum
-                                                        : value(Name::width));
-    return limits;
+        limits.width = toInt64(has(Name::autoModeWidth) ? maximum(Name::autoModeWidth)
+                                                        : readValue(Name::width));
+    return untoldCount() == untoldBefore ? std::optional(limits) : std::nullopt;
 }
 
-QSizeF AutoRegionCamera::imageSize() const
+QSize AutoRegionCamera::readSensorSize()
 {
-    return {value(Name::width), value(Name::height)};
+    return {readSensorExtent(Name::sensorWidth, Name::widthMax, Name::width, Name::offsetX),
+            readSensorExtent(Name::sensorHeight, Name::heightMax, Name::height, Name::offsetY)};
 }
 
-QSize AutoRegionCamera::sensorSize() const
+int AutoRegionCamera::readSensorExtent(const QString& sensor, const QString& maximum,
+                                       const QString& size, const QString& offset)
 {
-    return {sensorExtent(Name::sensorWidth, Name::widthMax, Name::width, Name::offsetX),
-            sensorExtent(Name::sensorHeight, Name::heightMax, Name::height, Name::offsetY)};
+    read(sensor);
+    read(maximum);
+    const bool hasSensor = m_values.contains(sensor);
+    const bool hasMaximum = m_values.contains(maximum);
+    if (hasSensor && hasMaximum)
+        return toInt(std::min(m_values.value(sensor), m_values.value(maximum)));
+    if (hasSensor || hasMaximum)
+        return toInt(m_values.value(hasSensor ? sensor : maximum));
+    return toInt(read(size).maximum.value_or(0.0) + readValue(offset));
 }
 
-int AutoRegionCamera::sensorExtent(const QString& sensor, const QString& maximum,
-                                   const QString& size, const QString& offset) const
+QRect AutoRegionCamera::readImageRegion(bool hasImage)
 {
-    if (has(sensor) && has(maximum))
-        return toInt(std::min(value(sensor), value(maximum)));
-    if (m_manager.HasFeature(sensor, maximum))
-        return toInt(value(sensor, maximum));
-    return toInt(rangeOf(size).maximum + value(offset));
-}
-
-QRect AutoRegionCamera::imageRegion(bool hasImage)
-{
-    const bool isMultiple = value(Name::multipleRegionEnable, Name::multipleRegionsEnable) != 0.0;
+    const bool isMultiple
+        = readValue(Name::multipleRegionEnable, Name::multipleRegionsEnable) != 0.0;
     if (!isMultiple || !hasImage)
-        return truncatedRect(value(Name::offsetX), value(Name::offsetY), value(Name::width),
-                             value(Name::height));
+        return truncatedRect(readValue(Name::offsetX), readValue(Name::offsetY),
+                             readValue(Name::width), readValue(Name::height));
     selectFirstRegion();
-    return truncatedRect(value(Name::subRegionOffsetX, Name::offsetX),
-                         value(Name::subRegionOffsetY), value(Name::subRegionWidth, Name::width),
-                         value(Name::subRegionHeight));
+    return truncatedRect(
+        readValue(Name::subRegionOffsetX, Name::offsetX), readValue(Name::subRegionOffsetY),
+        readValue(Name::subRegionWidth, Name::width), readValue(Name::subRegionHeight));
 }
 
 void AutoRegionCamera::selectFirstRegion()
@@ -198,4 +190,9 @@ void AutoRegionCamera::selectFirstRegion()
         m_manager.SetStringValue(selector, QStringLiteral("Region0"));
     else
         m_manager.SetValue(selector, 0.0);
+}
+
+QStringList AutoRegionCamera::takeUntold()
+{
+    return std::exchange(m_untold, {});
 }

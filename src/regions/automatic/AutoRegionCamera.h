@@ -1,16 +1,17 @@
 #pragma once
 
-#include "regions/automatic/AutoRegion.h"
-#include "regions/automatic/DspRegion.h"
-#include "regions/automatic/RegionLimits.h"
+#include "features/Reading.h"
+#include "regions/automatic/AutoRegionRules.h"
 
+#include <QHash>
 #include <QPointF>
 #include <QRect>
 #include <QSize>
-#include <QSizeF>
-#include <QString>
+#include <QStringList>
 
 #include <array>
+#include <optional>
+#include <vector>
 
 class FeatureManager;
 
@@ -23,28 +24,19 @@ enum class RegionNumber {
     Width,
     Height,
 };
-constexpr std::size_t regionNumberCount = 6;
-
-/// As a label or a preset takes them.
-QSize sizeOf(const RegionLimits& limits);
+constexpr std::array<RegionNumber, 6> regionNumbers{RegionNumber::Top,   RegionNumber::Left,
+                                                    RegionNumber::Right, RegionNumber::Bottom,
+                                                    RegionNumber::Width, RegionNumber::Height};
 
 /// The camera as far as the region of its automatic functions goes. Cameras describe that region by
 /// "AutofunctionAOI..." or "AutoModeRegion..." (offset and size) or by "DSPSubregion..." (edges);
 /// some have several of them, and each number then has its own order of preference.
 ///
-/// What is missing reads 0 and is not written. Numbers are pixels of the image.
+/// What the camera does not tell keeps its last value, at first 0, and is gathered for another try.
+/// What it lacks is 0 and is not written. Numbers are pixels of the image.
 class AutoRegionCamera
 {
 public:
-    /// A number's value and what the camera takes for it; all 0 where it is missing.
-    struct State
-    {
-        double value = 0.0;
-        double minimum = 0.0;
-        double maximum = 0.0;
-        double increment = 0.0;
-    };
-
     explicit AutoRegionCamera(FeatureManager& manager);
 
     static bool hasAutoRegion(FeatureManager& manager);
@@ -52,46 +44,57 @@ public:
     bool has(const QString& name) const;
     bool usesEdges() const { return m_usesEdges; }
     bool usesSizes() const { return m_usesSizes; }
-    /// Whether all four numbers can be written.
-    bool isRegionWritable() const;
 
+    /// The four that tell the region.
+    std::vector<RegionNumber> numbers() const;
     bool has(RegionNumber number) const { return !nameOf(number).isEmpty(); }
+    Reading<double> read(RegionNumber number) { return read(nameOf(number)); }
     /// With the maximum on the increment's grid.
-    State state(RegionNumber number) const;
-    /// As the camera tells, without the increment.
-    State range(RegionNumber number) const;
-    /// Answers what the camera then reports; @p value itself where nothing can be written.
-    double write(RegionNumber number, double value);
-    DspEdges edges() const;
-    AutoRegionFields offsetAndSize() const;
-    /// Whether offset and size are those of "AutoModeRegion...".
-    bool isAutoMode() const;
-    /// What is wrong with offset and size, for the user; empty when they keep to the limits.
-    QString sizeProblem(const RegionLimits& limits) const;
+    Reading<double> readForField(RegionNumber number);
+    double readValue(RegionNumber number) { return readValue(nameOf(number)); }
+    /// Answers what the camera then reports, @p value itself where nothing can be written, or
+    /// nothing when the camera does not tell.
+    std::optional<double> write(RegionNumber number, double value);
 
-    void write(const QString& name, double value);
-    double value(const QString& name, const QString& alternative = {}) const;
-
+    /// As read last.
+    double value(RegionNumber number) const { return m_values.value(nameOf(number)); }
+    AutoRegion region() const;
     /// The offset from which the camera counts the region that the label shows.
     QPointF origin() const;
-    RegionLimits limits() const;
-    QSizeF imageSize() const;
+    /// The region on the label.
+    SensorRegion drawn(const RegionLimits& limits) const;
+    QString problem(const RegionLimits& limits) const;
+
+    void readOrigin();
+    /// Nothing unless the camera told all of it.
+    std::optional<RegionLimits> readLimits();
+    Reading<double> read(const QString& name);
+    double readValue(const QString& name, const QString& alternative = {});
+    void write(const QString& name, double value);
+    /// Whether offset and size are those of "AutoModeRegion...".
+    bool isAutoMode() const;
 
     /// The sensor area after binning.
-    QSize sensorSize() const;
+    QSize readSensorSize();
     /// The part of the sensor that a background image shows; empty where the camera does not tell.
     /// With multiple regions it is the first one's, which becomes the selected one.
-    QRect imageRegion(bool hasImage);
+    QRect readImageRegion(bool hasImage);
+
+    /// What the camera did not tell since the last call.
+    QStringList takeUntold();
+    int untoldCount() const { return m_untold.size(); }
 
 private:
     const QString& nameOf(RegionNumber number) const;
-    State rangeOf(const QString& name) const;
-    int sensorExtent(const QString& sensor, const QString& maximum, const QString& size,
-                     const QString& offset) const;
+    Reading<double> noted(const QString& name, const Reading<double>& reading);
+    int readSensorExtent(const QString& sensor, const QString& maximum, const QString& size,
+                         const QString& offset);
     void selectFirstRegion();
 
     FeatureManager& m_manager;
-    std::array<QString, regionNumberCount> m_names; ///< empty: the camera has no such number
+    std::array<QString, regionNumbers.size()> m_names; ///< empty: the camera has no such number
     bool m_usesEdges;
     bool m_usesSizes;
+    QHash<QString, double> m_values; ///< as read last
+    QStringList m_untold;
 };

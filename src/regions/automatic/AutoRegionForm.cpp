@@ -2,6 +2,7 @@
 
 #include "features/FeatureNames.h"
 #include "regions/automatic/AutoRegionCamera.h"
+#include "regions/automatic/AutoRegionView.h"
 #include "ui_AutoROIWidget.h"
 
 #include <QCoreApplication>
@@ -186,16 +187,14 @@ void guardAgainstWheel(const Ui::AutoROIWidget& form, QObject* filter)
     guard(form.comboIntensityControllerRegion);
 }
 
-void enableRegion(const Ui::AutoROIWidget& form, const AutoRegionCamera& camera, bool enabled)
+void enableRegion(const Ui::AutoROIWidget& form, const AutoRegionView& view, bool enabled)
 {
     if (!form.cbShowArea->isHidden())
         form.cbShowArea->setEnabled(enabled);
-    if (camera.usesSizes()) {
-        form.spinWidth->setEnabled(enabled);
-        form.spinHeight->setEnabled(enabled);
-    }
-    for (QWidget* widget :
-         std::initializer_list<QWidget*>{form.spinTop, form.spinLeft, form.btnFull, form.btnHalf,
-                                         form.btnQuarter, form.gb_AutoROI, form.gb_Region})
-        widget->setEnabled(enabled);
+    for (const RegionNumber number : regionNumbers)
+        view.field(number).box()->setEnabled(enabled && view.isWritable(number));
+    for (QPushButton* button : {form.btnFull, form.btnHalf, form.btnQuarter})
+        button->setEnabled(enabled && view.isRegionWritable());
+    form.gb_AutoROI->setEnabled(enabled);
+    form.gb_Region->setEnabled(enabled);
 }

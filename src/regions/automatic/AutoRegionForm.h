@@ -5,6 +5,7 @@
 #include <vector>
 
 class AutoRegionCamera;
+class AutoRegionView;
 class QObject;
 
 namespace Ui {
@@ -24,5 +25,5 @@ std::vector<QSignalBlocker> blockFields(const Ui::AutoROIWidget& form);
 /// Keeps the wheel from changing fields without focus.
 void guardAgainstWheel(const Ui::AutoROIWidget& form, QObject* filter);
 
-/// Lets the user edit the region, in the fields and on the label.
-void enableRegion(const Ui::AutoROIWidget& form, const AutoRegionCamera& camera, bool enabled);
+/// Lets the user edit the region, as far as the camera does.
+void enableRegion(const Ui::AutoROIWidget& form, const AutoRegionView& view, bool enabled);

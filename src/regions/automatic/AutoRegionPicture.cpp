@@ -1,5 +1,6 @@
 #include "regions/automatic/AutoRegionPicture.h"
 
+#include "features/NumberConversion.h"
 #include "regions/automatic/AutoRegionCamera.h"
 #include "regions/label/RubberBandLabel.h"
 
@@ -8,6 +9,15 @@
 #include <QSignalBlocker>
 
 #include <utility>
+
+namespace {
+
+QSize sizeOf(const RegionLimits& limits)
+{
+    return {toInt(static_cast<double>(limits.width)), toInt(static_cast<double>(limits.height))};
+}
+
+} // namespace
 
 AutoRegionPicture::AutoRegionPicture(AutoRegionCamera& camera, const RegionLimits& limits,
                                      QLayout& layout)
@@ -32,30 +42,42 @@ void AutoRegionPicture::showWaitingImage()
         showImage();
 }
 
+void AutoRegionPicture::retryImage()
+{
+    if (!m_isPlaceTold)
+        showImageAgain();
+}
+
 void AutoRegionPicture::setSize(const RegionLimits& limits)
 {
     const QSize size = sizeOf(limits);
     if (m_label->sensorSize() == size)
         return;
     m_label->setSensorSize(size.width(), size.height());
-    // Showing an image takes back the cursor of whoever chose it; nobody did.
+    showImageAgain();
+}
+
+// Showing an image takes back the cursor of whoever chose it; nobody did.
+void AutoRegionPicture::showImageAgain()
+{
     QGuiApplication::setOverrideCursor(Qt::WaitCursor);
     showImage();
 }
 
 void AutoRegionPicture::showImage()
 {
-    const QRect region = m_camera.imageRegion(m_image != nullptr);
-    m_label->showBackground(m_image, m_camera.sensorSize(), region);
+    const int untoldBefore = m_camera.untoldCount();
+    const QRect region = m_camera.readImageRegion(m_image != nullptr);
+    const QSize sensor = m_camera.readSensorSize();
+    m_isPlaceTold = m_camera.untoldCount() == untoldBefore;
+    m_label->showBackground(m_image, sensor, region);
 }
 
 void AutoRegionPicture::showRegion(const RegionLimits& limits)
 {
     if (!m_camera.usesEdges() && !m_camera.usesSizes())
         return;
-    const SensorRegion region = m_camera.usesEdges()
-        ? drawnDspRegion(m_camera.edges(), limits)
-        : drawnAutoRegion(m_camera.offsetAndSize(), m_camera.origin(), limits);
+    const SensorRegion region = m_camera.drawn(limits);
     const QSignalBlocker blocker(m_label);
     m_label->setRegion(region.top, region.left, region.width, region.height);
 }

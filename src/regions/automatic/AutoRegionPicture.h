@@ -1,7 +1,5 @@
 #pragma once
 
-#include "regions/automatic/RegionLimits.h"
-
 #include <QPixmap>
 
 #include <memory>
@@ -9,6 +7,7 @@
 class AutoRegionCamera;
 class QLayout;
 class RubberBandLabel;
+struct RegionLimits;
 
 /// The region on the image: the label, and what it shows of the camera.
 class AutoRegionPicture
@@ -22,6 +21,8 @@ public:
     /// During a drag, in which nothing may be written, the image waits for showWaitingImage().
     void setImage(std::shared_ptr<QPixmap> image);
     void showWaitingImage();
+    /// Once more, when the camera did not tell where the image lies.
+    void retryImage();
     /// Keeps the image. Nothing happens when the label has this size already.
     void setSize(const RegionLimits& limits);
 
@@ -30,9 +31,11 @@ public:
 
 private:
     void showImage();
+    void showImageAgain();
 
     AutoRegionCamera& m_camera;
     RubberBandLabel* m_label;
     std::shared_ptr<QPixmap> m_image;
     bool m_imageWaits = false;
+    bool m_isPlaceTold = true;
 };

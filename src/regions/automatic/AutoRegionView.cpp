@@ -1,125 +1,153 @@
 #include "regions/automatic/AutoRegionView.h"
 
-#include "page/NumberField.h"
-
 #include <QDoubleSpinBox>
 
 #include <algorithm>
 #include <limits>
-#include <utility>
 
-AutoRegionView::AutoRegionView(AutoRegionCamera& camera, const Fields& fields, HeldQuery isHeld)
+namespace {
+
+constexpr std::size_t indexOf(RegionNumber number)
+{
+    return static_cast<std::size_t>(number);
+}
+
+} // namespace
+
+AutoRegionView::AutoRegionView(AutoRegionCamera& camera, const Fields& fields)
     : m_camera(camera)
     , m_fields(fields)
-    , m_isHeld(std::move(isHeld))
 {
 }
 
-QDoubleSpinBox* AutoRegionView::field(RegionNumber number) const
+NumberField& AutoRegionView::field(RegionNumber number)
 {
-    return m_fields[static_cast<std::size_t>(number)];
+    return m_fields[indexOf(number)];
 }
 
-AutoRegionFields AutoRegionView::values() const
+const NumberField& AutoRegionView::field(RegionNumber number) const
 {
-    AutoRegionFields values;
-    values.top = field(RegionNumber::Top)->value();
-    values.left = field(RegionNumber::Left)->value();
-    values.right = field(RegionNumber::Right)->value();
-    values.bottom = field(RegionNumber::Bottom)->value();
-    values.width = field(RegionNumber::Width)->value();
-    values.height = field(RegionNumber::Height)->value();
-    return values;
+    return m_fields[indexOf(number)];
 }
 
-DspEdges AutoRegionView::edges() const
+AutoRegion AutoRegionView::shown() const
 {
-    const AutoRegionFields shown = values();
-    return {shown.left, shown.top, shown.right, shown.bottom};
+    const double left = field(RegionNumber::Left).value();
+    const double top = field(RegionNumber::Top).value();
+    if (m_camera.usesEdges())
+        return {spanBetween(left, field(RegionNumber::Right).value()),
+                spanBetween(top, field(RegionNumber::Bottom).value())};
+    return {{left, field(RegionNumber::Width).value()}, {top, field(RegionNumber::Height).value()}};
 }
 
-void AutoRegionView::show(const AutoRegionFields& values)
+bool AutoRegionView::isWritable(RegionNumber number) const
 {
-    showClamped(field(RegionNumber::Top), values.top);
-    showClamped(field(RegionNumber::Left), values.left);
-    showClamped(field(RegionNumber::Right), values.right);
-    showClamped(field(RegionNumber::Bottom), values.bottom);
-    showClamped(field(RegionNumber::Width), values.width);
-    showClamped(field(RegionNumber::Height), values.height);
+    return !m_isLocked[indexOf(number)];
+}
+
+bool AutoRegionView::isRegionWritable() const
+{
+    const auto numbers = m_camera.numbers();
+    return std::all_of(numbers.begin(), numbers.end(), [this](RegionNumber number) {
+        return m_camera.has(number) && isWritable(number);
+    });
+}
+
+void AutoRegionView::showProvisional(const AutoRegion& region)
+{
+    field(RegionNumber::Top).showProvisional(region.vertical.start);
+    field(RegionNumber::Left).showProvisional(region.horizontal.start);
+    field(RegionNumber::Right).showProvisional(region.horizontal.end());
+    field(RegionNumber::Bottom).showProvisional(region.vertical.end());
+    field(RegionNumber::Width).showProvisional(region.horizontal.length);
+    field(RegionNumber::Height).showProvisional(region.vertical.length);
+}
+
+void AutoRegionView::commit()
+{
+    for (NumberField& each : m_fields)
+        each.commit();
 }
 
 void AutoRegionView::load()
 {
-    for (const RegionNumber number :
-         {RegionNumber::Top, RegionNumber::Left, RegionNumber::Right, RegionNumber::Bottom,
-          RegionNumber::Width, RegionNumber::Height})
-        loadField(number);
-
-    const auto deriveField
-        = [this](RegionNumber derived, double minimum, double maximum, double value) {
-              showRangeAndValue(field(derived), minimum, maximum, value);
-          };
-    const auto top = m_camera.state(RegionNumber::Top);
-    const auto left = m_camera.state(RegionNumber::Left);
+    for (const RegionNumber number : regionNumbers) {
+        if (!m_camera.has(number))
+            continue;
+        const Reading<double> reading = m_camera.readForField(number);
+        field(number).showStep(reading);
+        show(number, reading);
+    }
     if (m_camera.usesEdges()) {
-        const auto bottom = m_camera.state(RegionNumber::Bottom);
-        const auto right = m_camera.state(RegionNumber::Right);
-        deriveField(RegionNumber::Height, top.minimum, bottom.maximum, bottom.value - top.value);
-        deriveField(RegionNumber::Width, left.minimum, right.maximum, right.value - left.value);
+        loadExtent(RegionNumber::Height, RegionNumber::Top, RegionNumber::Bottom);
+        loadExtent(RegionNumber::Width, RegionNumber::Left, RegionNumber::Right);
     } else if (m_camera.usesSizes()) {
-        const auto height = m_camera.state(RegionNumber::Height);
-        const auto width = m_camera.state(RegionNumber::Width);
-        // The offset's minimum counts here, not its value; the first refresh shows the edges.
-        deriveField(RegionNumber::Bottom, top.minimum, height.maximum + top.maximum,
-                    height.value + top.minimum);
-        deriveField(RegionNumber::Right, left.minimum, width.maximum + left.maximum,
-                    width.value + left.minimum);
+        loadFarEdge(RegionNumber::Bottom, RegionNumber::Top, RegionNumber::Height);
+        loadFarEdge(RegionNumber::Right, RegionNumber::Left, RegionNumber::Width);
     }
 }
 
-void AutoRegionView::loadField(RegionNumber number)
+bool AutoRegionView::show(RegionNumber number, const Reading<double>& reading)
 {
-    if (!m_camera.has(number))
-        return;
-    const auto state = m_camera.state(number);
-    field(number)->setSingleStep(state.increment > 0.0 ? state.increment : 1.0);
-    showRangeAndValue(field(number), state.minimum, state.maximum, state.value);
+    if (reading.isComplete || reading.isWritable)
+        m_isLocked[indexOf(number)] = !reading.isWritable;
+    field(number).showWhole(reading);
+    return !field(number).isBeingTyped();
 }
 
-AutoRegionCamera::State AutoRegionView::refreshField(RegionNumber number)
+void AutoRegionView::loadExtent(RegionNumber size, RegionNumber nearEdge, RegionNumber farEdge)
 {
-    const auto state = m_camera.range(number);
-    showRangeAndValue(field(number), state.minimum, state.maximum, state.value);
-    return state;
+    Reading<double> extent;
+    extent.minimum = field(nearEdge).box()->minimum();
+    extent.maximum = field(farEdge).box()->maximum();
+    extent.value = m_camera.value(farEdge) - m_camera.value(nearEdge);
+    field(size).showWhole(extent);
 }
 
-void AutoRegionView::refresh(const RegionLimits& limits)
+// The offset's minimum counts here, not its value; the first refresh shows the edges.
+void AutoRegionView::loadFarEdge(RegionNumber farEdge, RegionNumber offset, RegionNumber size)
 {
+    const double minimum = field(offset).box()->minimum();
+    Reading<double> edge;
+    edge.minimum = minimum;
+    edge.maximum = field(size).box()->maximum() + field(offset).box()->maximum();
+    edge.value = m_camera.value(size) + minimum;
+    field(farEdge).showWhole(edge);
+}
+
+bool AutoRegionView::refreshField(RegionNumber number)
+{
+    return !m_camera.has(number) || show(number, m_camera.read(number));
+}
+
+bool AutoRegionView::refresh(const RegionLimits& limits)
+{
+    bool isShown = true;
+    for (const RegionNumber number : m_camera.numbers())
+        isShown = refreshField(number) && isShown;
+    m_camera.readOrigin();
     if (m_camera.usesEdges()) {
-        for (const RegionNumber edge :
-             {RegionNumber::Top, RegionNumber::Left, RegionNumber::Right, RegionNumber::Bottom})
-            refreshField(edge);
-        const DspEdges camera = m_camera.edges();
-        refreshExtent(RegionNumber::Height, camera.bottom - camera.top);
-        refreshExtent(RegionNumber::Width, camera.right - camera.left);
+        Reading<double> extent;
+        extent.minimum = 0.0;
+        extent.maximum = std::numeric_limits<double>::max();
+        extent.value = m_camera.region().vertical.length;
+        field(RegionNumber::Height).showWhole(extent);
+        extent.value = m_camera.region().horizontal.length;
+        field(RegionNumber::Width).showWhole(extent);
     } else if (m_camera.usesSizes()) {
         refreshAxis(RegionNumber::Top, RegionNumber::Height, RegionNumber::Bottom, limits.height);
         refreshAxis(RegionNumber::Left, RegionNumber::Width, RegionNumber::Right, limits.width);
     }
-}
-
-void AutoRegionView::refreshExtent(RegionNumber size, double extent)
-{
-    showRangeAndValue(field(size), 0.0, std::numeric_limits<double>::max(), extent);
+    return isShown;
 }
 
 void AutoRegionView::refreshAxis(RegionNumber offset, RegionNumber size, RegionNumber farEdge,
                                  qint64 limit)
 {
-    const double position = refreshField(offset).value;
-    const double extent = refreshField(size).value;
-    showValue(field(farEdge), position + extent);
-    if (m_isHeld(size))
-        setMaximumSilently(field(size),
-                           std::min(field(size)->maximum(), static_cast<double>(limit) - position));
+    const double position = m_camera.value(offset);
+    field(farEdge).showTaken(position + m_camera.value(size));
+    NumberField& sizeField = field(size);
+    if (sizeField.isHeld())
+        sizeField.limitTo(
+            std::min(sizeField.box()->maximum(), static_cast<double>(limit) - position));
 }

@@ -1,45 +1,48 @@
 #pragma once
 
-#include "regions/automatic/AutoRegion.h"
+#include "page/NumberField.h"
 #include "regions/automatic/AutoRegionCamera.h"
 
 #include <array>
-#include <functional>
 
-class QDoubleSpinBox;
-
-/// The six fields of the region and what they show of the camera. Nothing here makes a field emit.
+/// The six fields of the region and what they show of the camera. Nothing here but commit() makes a
+/// field emit.
 ///
 /// Fields that the camera has no feature for follow from the others.
 class AutoRegionView
 {
 public:
     /// In the order of RegionNumber.
-    using Fields = std::array<QDoubleSpinBox*, regionNumberCount>;
-    /// Whether the mouse button is held on a field.
-    using HeldQuery = std::function<bool(RegionNumber)>;
+    using Fields = std::array<NumberField, regionNumbers.size()>;
 
-    AutoRegionView(AutoRegionCamera& camera, const Fields& fields, HeldQuery isHeld);
+    AutoRegionView(AutoRegionCamera& camera, const Fields& fields);
 
-    QDoubleSpinBox* field(RegionNumber number) const;
-    AutoRegionFields values() const;
-    DspEdges edges() const;
+    NumberField& field(RegionNumber number);
+    const NumberField& field(RegionNumber number) const;
+    AutoRegion shown() const;
+    // As the camera told last.
+    bool isWritable(RegionNumber number) const;
+    bool isRegionWritable() const;
 
     /// Ranges, steps and values from the camera.
     void load();
-    /// Ranges and values from the camera. A size whose field is held stays within the limits.
-    void refresh(const RegionLimits& limits);
-    /// The ranges stay, and clamp the values: drawn regions pass over what the camera takes.
-    void show(const AutoRegionFields& values);
+    /// Ranges and values from the camera. A size whose field is held stays within the limits. False
+    /// when a field is left as it was, for it is being typed in.
+    bool refresh(const RegionLimits& limits);
     /// One field's range and value from the camera.
-    AutoRegionCamera::State refreshField(RegionNumber number);
+    bool refreshField(RegionNumber number);
+    /// The ranges stay, and clamp the values: drawn regions pass over what the camera takes.
+    void showProvisional(const AutoRegion& region);
+    /// Writes what is being typed.
+    void commit();
 
 private:
-    void loadField(RegionNumber number);
+    bool show(RegionNumber number, const Reading<double>& reading);
+    void loadExtent(RegionNumber size, RegionNumber nearEdge, RegionNumber farEdge);
+    void loadFarEdge(RegionNumber farEdge, RegionNumber offset, RegionNumber size);
     void refreshAxis(RegionNumber offset, RegionNumber size, RegionNumber farEdge, qint64 limit);
-    void refreshExtent(RegionNumber size, double extent);
 
     AutoRegionCamera& m_camera;
     Fields m_fields;
-    HeldQuery m_isHeld;
+    std::array<bool, regionNumbers.size()> m_isLocked{};
 };

@@ -2,33 +2,31 @@
 
 #include "features/FeatureNames.h"
 #include "features/NumberConversion.h"
-#include "page/NumberField.h"
 #include "regions/automatic/AutoRegionView.h"
-#include "regions/automatic/EdgeSpan.h"
-#include "regions/image/RegionPresets.h"
-#include "regions/image/RegionSnapping.h"
 
 #include <QDoubleSpinBox>
 
 #include <algorithm>
 
-AutoRegionWriter::AutoRegionWriter(AutoRegionCamera& camera, AutoRegionView& editor)
+AutoRegionWriter::AutoRegionWriter(AutoRegionCamera& camera, AutoRegionView& view)
     : m_camera(camera)
-    , m_editor(editor)
+    , m_view(view)
 {
 }
 
 void AutoRegionWriter::write(RegionNumber number, double value)
 {
-    if (m_camera.has(number))
-        showValue(m_editor.field(number), m_camera.write(number, value));
+    if (!m_camera.has(number))
+        return;
+    m_view.field(number).showTaken(m_camera.write(number, value).value_or(m_camera.value(number)));
 }
 
 // Drawn regions
 
 bool AutoRegionWriter::writeDrawn(const SensorRegion& region, const RegionLimits& limits)
 {
-    m_editor.show(fieldsForRegion(region, m_camera.origin()));
+    m_camera.readOrigin();
+    m_view.showProvisional(fromLabel(region, m_camera.origin()));
     if (!m_camera.usesEdges())
         return m_camera.usesSizes() && writeSizes(region, limits);
     writeEdges(region, limits);
@@ -37,23 +35,23 @@ bool AutoRegionWriter::writeDrawn(const SensorRegion& region, const RegionLimits
 
 void AutoRegionWriter::writeEdges(const SensorRegion& region, const RegionLimits& limits)
 {
-    writeAxis(RegionNumber::Left, RegionNumber::Right, region.left, region.width, limits.width);
-    writeAxis(RegionNumber::Top, RegionNumber::Bottom, region.top, region.height, limits.height);
+    const AutoRegion drawn = fromLabel(region, {});
+    writeAxis(RegionNumber::Left, RegionNumber::Right, drawn.horizontal, limits.width);
+    writeAxis(RegionNumber::Top, RegionNumber::Bottom, drawn.vertical, limits.height);
 }
 
-void AutoRegionWriter::writeAxis(RegionNumber nearEdge, RegionNumber farEdge, double position,
-                                 double extent, qint64 limit)
+void AutoRegionWriter::writeAxis(RegionNumber nearEdge, RegionNumber farEdge,
+                                 const Span<double>& drawn, qint64 limit)
 {
-    const double currentNear = m_camera.range(nearEdge).value;
-    const double currentFar = m_camera.range(farEdge).value;
-    const EdgeSpan wanted = edgesForExtent(position, extent, static_cast<double>(limit),
-                                           m_editor.field(nearEdge)->singleStep());
-    if (writesFarEdgeFirst(currentNear, currentFar, wanted.nearEdge, wanted.farEdge)) {
-        write(farEdge, wanted.farEdge);
-        write(nearEdge, wanted.nearEdge);
+    const auto current = spanBetween(m_camera.readValue(nearEdge), m_camera.readValue(farEdge));
+    const Span<double> wanted
+        = keptApart(drawn, static_cast<double>(limit), m_view.field(nearEdge).grid().step);
+    if (writesFarEdgeFirst(current, wanted)) {
+        write(farEdge, wanted.end());
+        write(nearEdge, wanted.start);
     } else {
-        write(nearEdge, wanted.nearEdge);
-        write(farEdge, wanted.farEdge);
+        write(nearEdge, wanted.start);
+        write(farEdge, wanted.end());
     }
 }
 
@@ -61,15 +59,14 @@ bool AutoRegionWriter::writeSizes(const SensorRegion& region, const RegionLimits
 {
     const QPointF origin = m_camera.origin();
     const auto snapped = [this](RegionNumber offset, int value) {
-        const QDoubleSpinBox* const field = m_editor.field(offset);
-        return snappedUp(value, {field->minimum(), field->singleStep()});
+        return snappedUp(value, m_view.field(offset).grid());
     };
     const double left = snapped(RegionNumber::Left, region.left);
     const double top = snapped(RegionNumber::Top, region.top);
     const double roomRight = static_cast<double>(limits.width) - left;
     const double roomBelow = static_cast<double>(limits.height) - top;
-    setMaximumSilently(m_editor.field(RegionNumber::Height), roomBelow);
-    setMaximumSilently(m_editor.field(RegionNumber::Width), roomRight);
+    m_view.field(RegionNumber::Height).limitTo(roomBelow);
+    m_view.field(RegionNumber::Width).limitTo(roomRight);
 
     write(RegionNumber::Left, origin.x() + left);
     write(RegionNumber::Top, origin.y() + top);
@@ -84,8 +81,8 @@ bool AutoRegionWriter::writeSizes(const SensorRegion& region, const RegionLimits
 void AutoRegionWriter::settleOffset(RegionNumber offset, double wanted)
 {
     if (m_camera.usesSizes() && !m_camera.usesEdges()
-        && toInt64(m_camera.range(offset).value)
-            != toInt64(onGrid(wanted, m_editor.field(offset)->singleStep())))
+        && toInt64(m_camera.readValue(offset))
+            != toInt64(onGrid(wanted, m_view.field(offset).grid().step)))
         write(offset, wanted);
 }
 
@@ -93,9 +90,10 @@ void AutoRegionWriter::settleOffset(RegionNumber offset, double wanted)
 
 void AutoRegionWriter::setFullArea(const RegionLimits& limits)
 {
-    const RegionLimits current = m_camera.limits();
+    const RegionLimits current = m_camera.readLimits().value_or(limits);
     growImage(FeatureNames::height, current.height, limits.height);
     growImage(FeatureNames::width, current.width, limits.width);
+    m_camera.readOrigin();
     const QPointF origin = m_camera.origin();
     setSizeMaximum(RegionNumber::Width, origin.x() + static_cast<double>(current.width));
     setSizeMaximum(RegionNumber::Height, origin.y() + static_cast<double>(current.height));
@@ -106,70 +104,73 @@ void AutoRegionWriter::growImage(const QString& name, qint64 current, qint64 for
     // Where size and offset bound each other a larger limit may only tell of a smaller offset; the
     // image must not be cut to it.
     const auto size = static_cast<double>(current);
-    if (current > former && !(m_camera.isAutoMode() && size < m_camera.value(name)))
+    if (current > former && !(m_camera.isAutoMode() && size < m_camera.readValue(name)))
         m_camera.write(name, size);
 }
 
 // A size that is cut is written: the field emits.
 void AutoRegionWriter::setSizeMaximum(RegionNumber size, double maximum)
 {
-    QDoubleSpinBox* const field = m_editor.field(size);
+    QDoubleSpinBox* const field = m_view.field(size).box();
     field->setMaximum(std::max(field->minimum(), maximum));
 }
 
 void AutoRegionWriter::presetFull(const RegionLimits& limits)
 {
-    m_editor.refresh(limits); // the fields emit what differs from the camera
+    m_view.refresh(limits); // the fields emit what differs from the camera
     setFullArea(limits);
-    const double left = m_editor.field(RegionNumber::Left)->minimum();
-    const double top = m_editor.field(RegionNumber::Top)->minimum();
+    const double left = m_view.field(RegionNumber::Left).grid().minimum;
+    const double top = m_view.field(RegionNumber::Top).grid().minimum;
     const auto width = static_cast<double>(limits.width);
     const auto height = static_cast<double>(limits.height);
-    makeRoom({left, top, width - left, height - top});
+    makeRoom({spanBetween(left, width - left), spanBetween(top, height - top)});
     setEdge(RegionNumber::Left, left);
     setEdge(RegionNumber::Top, top);
-    m_editor.field(RegionNumber::Height)->setValue(height);
-    m_editor.field(RegionNumber::Width)->setValue(width);
+    m_view.field(RegionNumber::Height).box()->setValue(height);
+    m_view.field(RegionNumber::Width).box()->setValue(width);
     setEdge(RegionNumber::Right, width - left);
     setEdge(RegionNumber::Bottom, height - top);
 }
 
 void AutoRegionWriter::presetCentred(const RegionLimits& limits, double factor)
 {
-    m_editor.refresh(limits); // the fields emit what differs from the camera
+    m_view.refresh(limits); // the fields emit what differs from the camera
     setFullArea(limits);
-    const auto [position, size] = centredAutoRegion(sizeOf(limits), factor, m_camera.origin());
-    makeRoom(
-        {position.x(), position.y(), position.x() + size.width(), position.y() + size.height()});
-    setEdge(RegionNumber::Left, position.x());
-    setEdge(RegionNumber::Top, position.y());
-    write(RegionNumber::Left, position.x());
-    write(RegionNumber::Top, position.y());
-    m_editor.field(RegionNumber::Height)->setValue(size.height());
-    m_editor.field(RegionNumber::Width)->setValue(size.width());
-    settleOffset(RegionNumber::Left, position.x());
-    settleOffset(RegionNumber::Top, position.y());
-    const AutoRegionFields shown = m_editor.values();
-    setEdge(RegionNumber::Right, shown.width + shown.left);
-    setEdge(RegionNumber::Bottom, shown.height + shown.top);
+    const QPointF origin = m_camera.origin();
+    AutoRegion wanted{centredSpan(static_cast<double>(limits.width), factor),
+                      centredSpan(static_cast<double>(limits.height), factor)};
+    wanted.horizontal.start += origin.x();
+    wanted.vertical.start += origin.y();
+    makeRoom(wanted);
+    setEdge(RegionNumber::Left, wanted.horizontal.start);
+    setEdge(RegionNumber::Top, wanted.vertical.start);
+    write(RegionNumber::Left, wanted.horizontal.start);
+    write(RegionNumber::Top, wanted.vertical.start);
+    m_view.field(RegionNumber::Height).box()->setValue(wanted.vertical.length);
+    m_view.field(RegionNumber::Width).box()->setValue(wanted.horizontal.length);
+    settleOffset(RegionNumber::Left, wanted.horizontal.start);
+    settleOffset(RegionNumber::Top, wanted.vertical.start);
+    const auto shown = [this](RegionNumber number) { return m_view.field(number).value(); };
+    setEdge(RegionNumber::Right, shown(RegionNumber::Width) + shown(RegionNumber::Left));
+    setEdge(RegionNumber::Bottom, shown(RegionNumber::Height) + shown(RegionNumber::Top));
 }
 
 // Near edges are written first; one that would reach the far edge has to wait for it.
-void AutoRegionWriter::makeRoom(const DspEdges& wanted)
+void AutoRegionWriter::makeRoom(const AutoRegion& wanted)
 {
     if (!m_camera.usesEdges())
         return;
-    const DspEdges current = m_camera.edges();
-    if (wanted.left >= current.right)
-        setEdge(RegionNumber::Right, wanted.right);
-    if (wanted.top >= current.bottom)
-        setEdge(RegionNumber::Bottom, wanted.bottom);
+    const AutoRegion current = m_camera.region();
+    if (wanted.horizontal.start >= current.horizontal.end())
+        setEdge(RegionNumber::Right, wanted.horizontal.end());
+    if (wanted.vertical.start >= current.vertical.end())
+        setEdge(RegionNumber::Bottom, wanted.vertical.end());
 }
 
 // Cameras may bound edges by each other; the field takes what the camera takes by now.
 void AutoRegionWriter::setEdge(RegionNumber number, double value)
 {
     if (m_camera.usesEdges() && m_camera.has(number))
-        m_editor.refreshField(number);
-    m_editor.field(number)->setValue(value);
+        m_view.refreshField(number);
+    m_view.field(number).box()->setValue(value);
 }

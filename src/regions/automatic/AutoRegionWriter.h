@@ -1,6 +1,5 @@
 #pragma once
 
-#include "regions/automatic/AutoRegion.h"
 #include "regions/automatic/AutoRegionCamera.h"
 
 class AutoRegionView;
@@ -9,7 +8,7 @@ class AutoRegionView;
 class AutoRegionWriter
 {
 public:
-    AutoRegionWriter(AutoRegionCamera& camera, AutoRegionView& editor);
+    AutoRegionWriter(AutoRegionCamera& camera, AutoRegionView& view);
 
     /// Writes one number and shows what the camera reports.
     void write(RegionNumber number, double value);
@@ -29,14 +28,14 @@ public:
 private:
     void writeEdges(const SensorRegion& region, const RegionLimits& limits);
     bool writeSizes(const SensorRegion& region, const RegionLimits& limits);
-    void writeAxis(RegionNumber nearEdge, RegionNumber farEdge, double position, double extent,
+    void writeAxis(RegionNumber nearEdge, RegionNumber farEdge, const Span<double>& drawn,
                    qint64 limit);
-    void makeRoom(const DspEdges& wanted);
+    void makeRoom(const AutoRegion& wanted);
     void setEdge(RegionNumber number, double value);
     void growImage(const QString& name, qint64 current, qint64 former);
     void setSizeMaximum(RegionNumber size, double maximum);
     void settleOffset(RegionNumber offset, double wanted);
 
     AutoRegionCamera& m_camera;
-    AutoRegionView& m_editor;
+    AutoRegionView& m_view;
 };

@@ -2,41 +2,30 @@
 
 #include "features/FeatureManager.h"
 #include "features/FeatureNames.h"
-#include "features/NumberConversion.h"
-#include "page/NumberField.h"
-#include "widgets/QSpinBoxMouseEventFilter.h"
+#include "regions/image/AxisRules.h"
 
 #include <QDoubleSpinBox>
-#include <QSignalBlocker>
 
+#include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace {
 
-QSpinBoxMouseEventFilter* filterOn(QDoubleSpinBox* field)
+/// A field follows the access of its feature, unless the camera does not tell it.
+void followAccess(const Reading<double>& reading, const NumberField& field, bool& isWritable)
 {
-    auto* const filter = new QSpinBoxMouseEventFilter(field);
-    field->installEventFilter(filter);
-    return filter;
-}
-
-/// Typing counts until it is confirmed, the mouse while it is held.
-bool isBusy(const QDoubleSpinBox* field, const QSpinBoxMouseEventFilter* filter)
-{
-    return isBeingTyped(field) || filter->isMousePressed();
+    if (reading.isComplete || reading.isWritable)
+        isWritable = reading.isWritable;
+    field.box()->setEnabled(isWritable);
 }
 
 /// Shows what the camera took, or what it had when it does not tell.
-void showTaken(QDoubleSpinBox* field, double taken, double& last)
+void showTaken(NumberField& field, double& onCamera, double taken)
 {
     if (taken >= 0.0)
-        last = taken;
-    showValue(field, last);
-}
-
-FieldGrid gridOf(const QDoubleSpinBox* field)
-{
-    return {field->minimum(), field->singleStep()};
+        onCamera = taken;
+    field.showTaken(onCamera);
 }
 
 } // namespace
@@ -45,171 +34,207 @@ RegionAxis::RegionAxis(FeatureManager& manager, RegionAxisNames names, QDoubleSp
                        QDoubleSpinBox* sizeField)
     : m_manager(manager)
     , m_names(std::move(names))
-    , m_offsetField(offsetField)
-    , m_sizeField(sizeField)
-    , m_offsetFilter(filterOn(offsetField))
-    , m_sizeFilter(filterOn(sizeField))
+    , m_offset(offsetField)
+    , m_size(sizeField)
 {
 }
 
 void RegionAxis::load()
 {
-    const auto loadField = [this](QDoubleSpinBox* field, const QString& name) {
-        double minimum = 0.0;
-        double maximum = 0.0;
-        const bool exists = m_manager.HasFeature(name);
-        const double value = exists ? m_manager.GetValueLimits(name, minimum, maximum) : 0.0;
-        const double increment = exists ? m_manager.GetIncrement(name) : 0.0;
-        field->setEnabled(exists);
-        field->setSingleStep(increment > 0.0 ? increment : 1.0);
-        setRangeAndValue(field, minimum, maximum, value);
-    };
-    loadField(m_offsetField, m_names.offset);
-    loadField(m_sizeField, m_names.size);
+    const Reading<double> offset = readOffset();
+    followAccess(offset, m_offset, m_isOffsetWritable);
+    m_offset.showStep(offset);
+    m_hasOffsetStep = offset.isComplete;
+    m_offset.show(offset);
+    showSize();
 }
 
-bool RegionAxis::refresh(QDoubleSpinBox* stepField)
+QStringList RegionAxis::readAll(QDoubleSpinBox* stepField)
 {
-    const bool isOffsetFresh = refreshOffset(stepField);
-    const bool isSizeFresh = refreshSize();
-    return isOffsetFresh && isSizeFresh;
+    QStringList untold;
+    forgetMaximum();
+    readMaximum();
+    if (!m_isMaximumFresh)
+        untold << m_names.maximum;
+    if (!showOffset(stepField))
+        untold << m_names.offset;
+    if (!showSize())
+        untold << m_names.size;
+    return untold;
 }
 
-bool RegionAxis::refreshOffset(QDoubleSpinBox* stepField)
+bool RegionAxis::showOffset(QDoubleSpinBox* stepField)
 {
-    if (isBusy(m_offsetField, m_offsetFilter))
+    const Reading<double> offset = readOffset();
+    if (m_offset.isHeld() || m_offset.isBeingTyped())
         return false;
-    if (!m_manager.HasFeature(m_names.offset))
-        return true;
-    OffsetRange range{0.0, 0.0, 0.0};
-    double value = 0.0;
-    if (needsEvenSize(m_manager.GetCategory(m_names.offset),
-                      m_manager.GetStringValue(FeatureNames::pixelFormat))) {
-        value = m_manager.GetValueRange(m_names.offset, range.minimum, range.maximum,
-                                        range.increment);
-        range = evenOffsetRange(range);
-        stepField->setSingleStep(range.increment);
-    } else {
-        value = m_manager.GetValueLimits(m_names.offset, range.minimum, range.maximum);
+    followAccess(offset, m_offset, m_isOffsetWritable);
+    if (!m_hasOffsetStep) {
+        m_offset.showStep(offset);
+        m_hasOffsetStep = offset.isComplete;
     }
-    setRangeAndValue(m_offsetField, range.minimum, range.maximum, value);
-    return true;
+    const bool isFormatTold = readPixelFormat();
+    if (!needsEven(m_names.offset))
+        return m_offset.show(offset) && isFormatTold;
+    const Reading<double> even = evenOffsets(offset);
+    if (even.increment)
+        stepField->setSingleStep(*even.increment);
+    return m_offset.show(even) && isFormatTold;
 }
 
-bool RegionAxis::refreshSize()
+bool RegionAxis::showSize()
 {
-    if (isBusy(m_sizeField, m_sizeFilter))
+    const Reading<double> size = readSize();
+    if (m_size.isHeld() || m_size.isBeingTyped())
         return false;
-    double minimum = 0.0;
-    double maximum = 0.0;
-    const double value = m_manager.GetValueLimits(m_names.size, minimum, maximum);
-    setRangeAndValue(m_sizeField, minimum, maximum, value);
-    return true;
-}
-
-double RegionAxis::maximum()
-{
-    if (!m_isMaximumFresh) {
-        const qint64 maximum = toInt64(readMaximum());
-        m_isMaximumFresh = maximum > 0;
-        if (m_isMaximumFresh)
-            m_maximum = maximum;
-    }
-    return static_cast<double>(m_maximum);
+    followAccess(size, m_size, m_isSizeWritable);
+    m_size.showStep(size);
+    return m_size.show(size);
 }
 
 double RegionAxis::readMaximum()
 {
+    if (!m_isMaximumFresh)
+        m_isMaximumFresh = readLargest();
+    return m_maximum;
+}
+
+// Another feature stands in for a maximum that is missing, or that was never told.
+bool RegionAxis::readLargest()
+{
+    bool isTold = true;
     for (const QString& name : {m_names.maximum, m_names.sensor}) {
-        const double extent = m_manager.HasFeature(name) ? m_manager.GetValue(name) : 0.0;
-        if (extent >= 1.0)
-            return extent;
+        const Reading<double> extent = readNumber(m_manager, name);
+        isTold = isTold && extent.isComplete;
+        if (extent.value.value_or(0.0) >= 1.0) {
+            m_maximum = std::trunc(*extent.value);
+            return isTold;
+        }
+        if (!isTold && m_maximum > 0.0)
+            return false;
     }
-    double minimum = 0.0;
-    double largestSize = 0.0;
-    m_manager.GetValueLimits(m_names.size, minimum, largestSize);
-    return largestSize >= 1.0 ? largestSize + cameraOffset() : 0.0;
+    const double largestSize = readSize().maximum.value_or(0.0);
+    if (largestSize < 1.0)
+        return false;
+    m_maximum = std::trunc(largestSize + readOffset().value.value_or(m_onCamera.start));
+    return isTold;
 }
 
-double RegionAxis::cameraOffset()
+bool RegionAxis::readSensor()
 {
-    const double offset
-        = m_manager.HasFeature(m_names.offset) ? m_manager.GetValue(m_names.offset) : 0.0;
-    if (offset >= 0.0)
-        m_lastOnCamera.offset = offset;
-    return m_lastOnCamera.offset;
+    const Reading<double> sensor = readNumber(m_manager, m_names.sensor);
+    m_sensor = sensor.value.value_or(m_sensor);
+    return sensor.isComplete;
 }
 
-double RegionAxis::cameraSize()
+double RegionAxis::sensor()
 {
-    const double size = m_manager.GetValue(m_names.size);
-    if (size >= 0.0)
-        m_lastOnCamera.size = size;
-    return m_lastOnCamera.size;
+    const double maximum = readMaximum();
+    return m_sensor >= 1.0 ? std::min(m_sensor, maximum) : maximum;
 }
 
-AxisSpan RegionAxis::onCamera()
+bool RegionAxis::readPixelFormat()
 {
-    return {cameraOffset(), cameraSize()};
+    const Reading<QString> format = readText(m_manager, FeatureNames::pixelFormat);
+    if (format.value)
+        m_pixelFormat = *format.value;
+    return format.isComplete;
 }
 
-AxisSpan RegionAxis::inFields() const
+bool RegionAxis::needsEven(const QString& offset)
 {
-    return {m_offsetField->value(), m_sizeField->value()};
+    QString& category = m_categories[offset];
+    if (category.isEmpty())
+        category = m_manager.GetCategory(offset);
+    return needsEvenSize(category, m_pixelFormat);
 }
 
-void RegionAxis::show(const AxisSpan& span)
+Reading<double> RegionAxis::readOffset()
 {
-    const QSignalBlocker offsetBlocker(m_offsetField);
-    const QSignalBlocker sizeBlocker(m_sizeField);
-    m_offsetField->setValue(span.offset);
-    m_sizeField->setValue(span.size);
+    const Reading<double> offset = readNumber(m_manager, m_names.offset);
+    m_hasOffset = offset.exists;
+    m_onCamera.start = offset.value.value_or(m_onCamera.start);
+    return offset;
+}
+
+Reading<double> RegionAxis::readSize()
+{
+    const Reading<double> size = readNumber(m_manager, m_names.size);
+    m_onCamera.length = size.value.value_or(m_onCamera.length);
+    return size;
+}
+
+Span<double> RegionAxis::inFields() const
+{
+    return {m_offset.value(), m_size.value()};
+}
+
+bool RegionAxis::isWritable() const
+{
+    return m_isSizeWritable && (m_isOffsetWritable || !m_hasOffset);
+}
+
+bool RegionAxis::isBeyondMaximum() const
+{
+    return inFields().end() > m_maximum || m_onCamera.end() > m_maximum;
+}
+
+void RegionAxis::showProvisional(const Span<double>& span)
+{
+    m_offset.showProvisional(span.start);
+    m_size.showProvisional(span.length);
 }
 
 void RegionAxis::widen()
 {
-    for (QDoubleSpinBox* field : {m_offsetField, m_sizeField})
-        setMaximumSilently(field, maximum());
+    m_offset.limitTo(readMaximum());
+    m_size.limitTo(readMaximum());
+}
+
+void RegionAxis::commit()
+{
+    m_offset.commit();
+    m_size.commit();
 }
 
 void RegionAxis::writeOffset(double value)
 {
-    if (!m_manager.HasFeature(m_names.offset))
-        return;
-    value = snappedUp(value, gridOf(m_offsetField));
-    value = cutToMaximum(value, cameraSize(), maximum());
-    showTaken(m_offsetField, m_manager.SetValue(m_names.offset, value), m_lastOnCamera.offset);
+    m_onCamera.length = readValue(m_manager, m_names.size).value_or(m_onCamera.length);
+    value = snappedUp(value, m_offset.grid());
+    value = cutToMaximum(value, m_onCamera.length, readMaximum());
+    if (m_hasOffset)
+        showTaken(m_offset, m_onCamera.start, m_manager.SetValue(m_names.offset, value));
 }
 
 void RegionAxis::writeSize(double value)
 {
-    value = snappedUp(value, gridOf(m_sizeField));
-    if (needsEvenSize(m_manager.GetCategory(FeatureNames::offsetX),
-                      m_manager.GetStringValue(FeatureNames::pixelFormat)))
+    m_onCamera.start = readValue(m_manager, m_names.offset).value_or(m_onCamera.start);
+    readPixelFormat();
+    value = snappedUp(value, m_size.grid());
+    if (needsEven(FeatureNames::offsetX))
         value = raisedToEven(value);
-    value = cutToMaximum(value, cameraOffset(), maximum());
-    showTaken(m_sizeField, m_manager.SetValue(m_names.size, value), m_lastOnCamera.size);
+    value = cutToMaximum(value, m_onCamera.start, readMaximum());
+    showTaken(m_size, m_onCamera.length, m_manager.SetValue(m_names.size, value));
 }
 
-AxisPlan RegionAxis::plan(const AxisSpan& wanted, double overflowStep)
+AxisPlan RegionAxis::readPlan(const Span<double>& wanted, double overflowStep)
 {
-    double minimum = 0.0;
-    double offsetMaximum = 0.0;
-    if (m_manager.HasFeature(m_names.offset))
-        m_manager.GetValueLimits(m_names.offset, minimum, offsetMaximum);
-    const AxisSpan snapped{snappedUp(wanted.offset, gridOf(m_offsetField)),
-                           snappedUp(wanted.size, gridOf(m_sizeField))};
-    const AxisSpan span = overflowCorrected(snapped, maximum(), gridOf(m_sizeField), overflowStep);
-    return {span, writesOffsetFirst(span.offset, cameraSize(), maximum(), offsetMaximum)};
+    const double offsetMaximum = readOffset().maximum.value_or(m_offset.box()->maximum());
+    readSize();
+    const double maximum = readMaximum();
+    const Span<double> snapped{snappedUp(wanted.start, m_offset.grid()),
+                               snappedUp(wanted.length, m_size.grid())};
+    const Span<double> span = overflowCorrected(snapped, maximum, m_size.grid(), overflowStep);
+    return {span, writesOffsetFirst(span.start, m_onCamera.length, maximum, offsetMaximum)};
 }
 
 void RegionAxis::write(const AxisPlan& plan)
 {
     if (plan.isOffsetFirst) {
-        writeOffset(plan.span.offset);
-        writeSize(plan.span.size);
+        writeOffset(plan.span.start);
+        writeSize(plan.span.length);
     } else {
-        writeSize(plan.span.size);
-        writeOffset(plan.span.offset);
+        writeSize(plan.span.length);
+        writeOffset(plan.span.start);
     }
 }

@@ -1,0 +1,143 @@
+#include "regions/automatic/AutoRegionRules.h"
+
+#include "features/NumberConversion.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+struct Text
+{
+    Q_DECLARE_TR_FUNCTIONS(AutoROIWidget)
+};
+
+/// Differs from @p value by floating-point rounding only.
+double scaledThroughIncrement(double value, double increment)
+{
+    return increment > 0.0 ? (value / increment) * increment : value;
+}
+
+bool exceeds(const Span<double>& span, double origin, qint64 limit)
+{
+    return static_cast<double>(limit) < (span.start - origin) + span.length;
+}
+
+bool isValid(const Span<double>& edges, qint64 limit)
+{
+    const auto last = static_cast<double>(limit);
+    return edges.length > 0.0 && edges.start < last && edges.end() <= last;
+}
+
+// A camera with two such regions may count one of them from behind the other.
+Span<double> cutBySize(const Span<double>& span, double origin, qint64 limit)
+{
+    const auto last = static_cast<double>(limit);
+    return {std::max(0.0, std::min(span.start - origin, last)), std::min(span.length, last)};
+}
+
+Span<double> cutByEdges(const Span<double>& span, qint64 limit)
+{
+    const double end = std::min(span.end(), static_cast<double>(limit));
+    return spanBetween(std::min(span.start, end), end);
+}
+
+SensorRegion truncated(const Span<double>& horizontal, const Span<double>& vertical)
+{
+    return {toInt(vertical.start), toInt(horizontal.start), toInt(horizontal.length),
+            toInt(vertical.length)};
+}
+
+} // namespace
+
+qint64 aoiHeightLimit(double height, double increment, double minimumHeight, double minimumOffsetX)
+{
+    const double wholeHeight = std::trunc(height);
+    const int wholeIncrement = toInt(increment);
+    const bool offGrid = wholeIncrement > 0 && std::fmod(wholeHeight, wholeIncrement) != 0.0;
+    const double remainder = offGrid ? minimumHeight : 0.0;
+    return toInt64(scaledThroughIncrement(wholeHeight - remainder, increment) + minimumOffsetX);
+}
+
+qint64 aoiWidthLimit(double width, double increment, double minimumOffsetY)
+{
+    return toInt64(scaledThroughIncrement(width, increment) + minimumOffsetY);
+}
+
+AutoRegion fromLabel(const SensorRegion& drawn, const QPointF& origin)
+{
+    return {{origin.x() + drawn.left, double(drawn.width)},
+            {origin.y() + drawn.top, double(drawn.height)}};
+}
+
+SensorRegion drawnBySize(const AutoRegion& region, const QPointF& origin,
+                         const RegionLimits& limits)
+{
+    return truncated(cutBySize(region.horizontal, origin.x(), limits.width),
+                     cutBySize(region.vertical, origin.y(), limits.height));
+}
+
+SensorRegion drawnByEdges(const AutoRegion& region, const RegionLimits& limits)
+{
+    return truncated(cutByEdges(region.horizontal, limits.width),
+                     cutByEdges(region.vertical, limits.height));
+}
+
+double onGrid(double value, double step)
+{
+    const qint64 wholeStep = std::max<qint64>(1, toInt64(step));
+    const qint64 steps = toInt64(value) / wholeStep;
+    return static_cast<double>(steps * wholeStep);
+}
+
+QString sizeProblem(const AutoRegion& region, const QPointF& origin, const RegionLimits& limits,
+                    const QString& name)
+{
+    if (exceeds(region.vertical, origin.y(), limits.height))
+        return Text::tr("Invalid settings:\nHeight + OffsetY > %1 Height").arg(name);
+    if (exceeds(region.horizontal, origin.x(), limits.width))
+        return Text::tr("Invalid settings:\nWidth + OffsetX > %1 Width").arg(name);
+    return {};
+}
+
+QString edgeProblems(const AutoRegion& region, const RegionLimits& limits)
+{
+    const auto width = static_cast<double>(limits.width);
+    const auto height = static_cast<double>(limits.height);
+    QString problems;
+    if (region.vertical.length < 0.0)
+        problems += Text::tr("\nTop > Bottom! ");
+    if (region.vertical.start > height)
+        problems += Text::tr("\nTop > ROI Height! ");
+    if (region.vertical.end() > height)
+        problems += Text::tr("\nBottom > ROI Height! ");
+    if (region.horizontal.length < 0.0)
+        problems += Text::tr("Left > Right! ");
+    if (region.horizontal.start > width)
+        problems += Text::tr("Left > ROI Width! ");
+    if (region.horizontal.end() > width)
+        problems += Text::tr("Right > ROI Width! ");
+    return problems;
+}
+
+bool hasValidEdges(const AutoRegion& region, const RegionLimits& limits)
+{
+    return isValid(region.horizontal, limits.width) && isValid(region.vertical, limits.height);
+}
+
+bool writesFarEdgeFirst(const Span<double>& current, const Span<double>& wanted)
+{
+    return current.start < wanted.start && current.end() < wanted.end();
+}
+
+Span<double> keptApart(const Span<double>& drawn, double limit, double increment)
+{
+    if (onGrid(drawn.start, increment) < onGrid(drawn.end(), increment))
+        return drawn;
+    const double thinnest = std::max(increment, 1.0);
+    const double start
+        = drawn.start + thinnest <= limit ? drawn.start : std::max(0.0, limit - thinnest);
+    return {start, thinnest};
+}

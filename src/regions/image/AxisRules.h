@@ -1,0 +1,39 @@
+#pragma once
+
+#include "features/Reading.h"
+#include "page/FieldGrid.h"
+#include "sensor/Span.h"
+
+class QString;
+
+// How offset and size of the image region reach the camera along one axis, in sensor pixels.
+
+/// Cameras that keep their offset among the image format features demand even sizes for pixel
+/// formats that share colour among neighbours.
+/// @param offsetCategory the category path of "OffsetX"
+bool needsEvenSize(const QString& offsetCategory, const QString& pixelFormat);
+
+/// The even number at or next above @p value.
+double raisedToEven(double value);
+
+/// The camera's range of an offset where sizes have to be even.
+Reading<double> evenOffsets(const Reading<double>& offset);
+
+/// @p value, cut so that together with the other value of its axis (the offset of a size, the size
+/// of an offset) it stays within the maximum size.
+double cutToMaximum(double value, double otherValue, double maximum);
+
+/// The part of the span that lies on the sensor.
+Span<double> onSensor(const Span<double>& span, double maximum);
+
+/// A span that reaches beyond the maximum size is cut there and moved back by one step; any other
+/// stays. Snapping, and corner drags, take a region that far.
+/// @param sizeField the grid of the axis's size
+/// @param step by which the offset moves: of the height field vertically, of the left field
+///     horizontally
+Span<double> overflowCorrected(const Span<double>& span, double maximum, const FieldGrid& sizeField,
+                               double step);
+
+/// Whether the camera takes the offset before the size: the size it has now must fit behind the new
+/// offset, and the offset within its present range. Otherwise the size goes first.
+bool writesOffsetFirst(double offset, double currentSize, double maximum, double offsetMaximum);

@@ -1,0 +1,88 @@
+#include "regions/automatic/AutoRegionRules.h"
+#include "DataTable.h"
+#include "regions/automatic/ExposureLimits.h"
+
+class AutoRegionRulesTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void limitsAoi()
+    {
+        QCOMPARE(aoiHeightLimit(1080.0, 4.0, 16.0, 2.0), qint64(1082));
+        QCOMPARE(aoiHeightLimit(1081.0, 4.0, 16.0, 2.0), qint64(1067));
+        QCOMPARE(aoiHeightLimit(1081.0, 0.0, 16.0, 0.0), qint64(1081));
+        QCOMPARE(aoiWidthLimit(1081.0, 4.0, 3.0), qint64(1084));
+    }
+
+    void namesProblems()
+    {
+        const auto edges = [](double left, double top, double right, double bottom) {
+            return AutoRegion{spanBetween(left, right), spanBetween(top, bottom)};
+        };
+        QCOMPARE(edgeProblems(edges(10, 10, 10, 10), {10, 10}), QString());
+        QCOMPARE(edgeProblems(edges(5, 0, 4, 10), {10, 10}), QString("Left > Right! "));
+        QCOMPARE(edgeProblems(edges(13, 13, 12, 12), {10, 11}),
+                 QString("\nTop > Bottom! \nTop > ROI Height! \nBottom > ROI Height! "
+                         "Left > Right! Left > ROI Width! Right > ROI Width! "));
+        const AutoRegion sized{{8.0, 95.0}, {0.0, 10.0}};
+        QCOMPARE(sizeProblem(sized, {3.0, 0.0}, {100, 10}, "AOI"), QString());
+        QCOMPARE(sizeProblem(sized, {2.0, 0.0}, {100, 10}, "AOI"),
+                 QString("Invalid settings:\nWidth + OffsetX > AOI Width"));
+    }
+
+    void roundsExposureLimits()
+    {
+        QCOMPARE(exposureLimitToWrite(10.0, 0.01, 2, 2), double(10.005F));
+        QCOMPARE(exposureLimitToWrite(10.0, 1.0, 2, 0), 10.5);
+        QCOMPARE(exposureLimitToWrite(10.0, 1.0, 0, 2), 10.0);
+        QCOMPARE(exposureLimitToWrite(10.0, 0.0, 2, 2), 10.0);
+        QVERIFY(qIsFinite(exposureLimitToWrite(1e300, 1.0, 2, 2)));
+    }
+
+    void judgesEdges_data()
+    {
+        const DataTable row(
+            [](double top, double bottom, bool valid, int drawnTop, int drawnHeight) {
+                const AutoRegion region{{0.0, 10.0}, spanBetween(top, bottom)};
+                QCOMPARE(hasValidEdges(region, {10, 20}), valid);
+                const SensorRegion drawn = drawnByEdges(region, {10, 20});
+                QCOMPARE(drawn.top, drawnTop);
+                QCOMPARE(drawn.height, drawnHeight);
+            });
+        row("whole", 0, 20, true, 0, 20);
+        row("empty", 5, 5, false, 5, 0);
+        row("crossed", 9, 5, false, 5, 0);
+        row("too low", 5, 21, false, 5, 15);
+        row("beyond", 30, 40, false, 20, 0);
+    }
+    void judgesEdges() { runRow(); }
+
+    /// The camera takes what is as thin as its grid; nothing else is moved.
+    void keepsEdgesApart()
+    {
+        const auto kept = [](double start, double length) {
+            return keptApart({start, length}, 100, 8);
+        };
+        QVERIFY((kept(13, 20) == Span<double>{13, 20}));
+        QVERIFY((kept(14, 4) == Span<double>{14, 4})); // across a grid point
+        QVERIFY((kept(17, 4) == Span<double>{17, 8})); // between grid points
+        QVERIFY((kept(100, 0) == Span<double>{92, 8}));
+        QVERIFY(writesFarEdgeFirst({1.0, 4.0}, {4.0, 4.0}));
+        QVERIFY(!writesFarEdgeFirst({1.0, 4.0}, {4.0, 1.0}));
+    }
+
+    void drawsWithoutTheOrigin()
+    {
+        const QPointF origin(8.0, 4.0);
+        const AutoRegion region = fromLabel({10, 20, 70, 50}, origin);
+        QCOMPARE(region.horizontal.end(), 98.0);
+        QCOMPARE(region.vertical.end(), 64.0);
+        QVERIFY((drawnBySize(region, origin, {60, 100}) == SensorRegion{10, 20, 60, 50}));
+        QVERIFY((drawnBySize(region, origin, {15, 100}) == SensorRegion{10, 15, 15, 50}));
+    }
+};
+
+QTEST_APPLESS_MAIN(AutoRegionRulesTest)
+
+#include "AutoRegionRulesTest.moc"
