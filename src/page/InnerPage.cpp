@@ -1,5 +1,10 @@
 #include "page/InnerPage.h"
 
+#include "widgets/WheelGuard.h"
+
+#include <QAbstractSpinBox>
+#include <QComboBox>
+#include <QEvent>
 #include <QTimer>
 
 #include <algorithm>
@@ -49,6 +54,37 @@ InnerPage::InnerPage(const FeatureList& camera, QWidget* parent)
     m_soonTimer->setSingleShot(true);
     m_soonTimer->setInterval(refreshDelayMs);
     connect(m_soonTimer, &QTimer::timeout, this, &InnerPage::updateTimer);
+}
+
+InnerPage::~InnerPage()
+{
+    // A page that is deleted while it is visible is hidden later, when its parts are gone: a drag
+    // then ends, and a field gives up what was typed.
+    const auto children = findChildren<QObject*>();
+    for (QObject* child : children)
+        disconnect(child, nullptr, this, nullptr);
+}
+
+void InnerPage::guardFieldsAgainstWheel()
+{
+    const auto guard = [this](QWidget* field) {
+        // The default policy lets the wheel itself take the focus.
+        field->setFocusPolicy(Qt::StrongFocus);
+        field->installEventFilter(this);
+    };
+    for (QWidget* field : findChildren<QAbstractSpinBox*>())
+        guard(field);
+    for (QWidget* field : findChildren<QComboBox*>())
+        guard(field);
+}
+
+bool InnerPage::eventFilter(QObject* watched, QEvent* event)
+{
+    if (isUnfocusedFieldWheel(watched, event)) {
+        event->ignore();
+        return true;
+    }
+    return BaseTabPluginWidget::eventFilter(watched, event);
 }
 
 void InnerPage::readSoon(const QStringList& names)

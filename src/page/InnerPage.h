@@ -26,6 +26,9 @@ class InnerPage : public BaseTabPluginWidget
 
 public:
     InnerPage(const FeatureList& camera, QWidget* parent);
+    ~InnerPage() override;
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 protected:
     /// No refresh while it lives: a question to the user, or work on many values. What was to be
@@ -60,6 +63,10 @@ protected:
     void readSoon(const QStringList& names);
     void readAllSoon();
 
+    /// Keeps the wheel from changing fields without focus. To be called when the form is built.
+    void guardFieldsAgainstWheel();
+
+    bool isRefreshing() const { return m_isRefreshing; }
     /// As the viewer told last.
     bool isStreaming() const { return m_isStreaming; }
     void setStreaming(bool isStreaming) { m_isStreaming = isStreaming; }

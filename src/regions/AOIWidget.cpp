@@ -7,7 +7,6 @@
 #include "regions/label/RubberBandLabel.h"
 #include "ui_AOIWidget.h"
 #include "widgets/Theme.h"
-#include "widgets/WheelGuard.h"
 
 #include <QApplication>
 #include <QPointer>
@@ -77,6 +76,7 @@ AOIWidget::AOIWidget(const FeatureList& camera, QWidget* parent)
     createAxes();
     createLabel();
     connectForm();
+    guardFieldsAgainstWheel();
     onMultipleRegionsEnabled(false);
     readMultipleRegions();
     enableRegion();
@@ -84,14 +84,7 @@ AOIWidget::AOIWidget(const FeatureList& camera, QWidget* parent)
     checkConsistency();
 }
 
-AOIWidget::~AOIWidget()
-{
-    // A window that is deleted hides its children, which drops a drag and ends what was typed; the
-    // page's own parts are gone by then.
-    const auto children = findChildren<QObject*>();
-    for (QObject* child : children)
-        disconnect(child, nullptr, this, nullptr);
-}
+AOIWidget::~AOIWidget() = default;
 
 void AOIWidget::setTitle()
 {
@@ -140,18 +133,8 @@ void AOIWidget::connectForm()
 
 void AOIWidget::connectField(QDoubleSpinBox* field, const char* valueSlot)
 {
-    field->installEventFilter(this);
     connect(field, SIGNAL(valueChanged(double)), this, valueSlot);
     connect(field, SIGNAL(editingFinished()), this, SLOT(OnSpinEditingFinished()));
-}
-
-bool AOIWidget::eventFilter(QObject* watched, QEvent* event)
-{
-    if (isUnfocusedFieldWheel(watched, event)) {
-        event->ignore();
-        return true;
-    }
-    return InnerPage::eventFilter(watched, event);
 }
 
 // Editing

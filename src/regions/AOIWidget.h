@@ -28,8 +28,6 @@ public:
     AOIWidget(const FeatureList& camera, QWidget* parent);
     ~AOIWidget() override;
 
-    bool eventFilter(QObject* watched, QEvent* event) override;
-
 public slots:
     void OnSpinTopValueChanged(double value);
     void OnSpinLeftValueChanged(double value);

@@ -1,8 +1,10 @@
 #include "regions/AutoROIWidget.h"
 
 #include "features/FeatureNames.h"
+#include "regions/AutoROIConnections.h"
 #include "regions/automatic/AutoRegionCamera.h"
 #include "regions/automatic/AutoRegionForm.h"
+#include "regions/automatic/AutoRegionMessage.h"
 #include "regions/automatic/AutoRegionPicture.h"
 #include "regions/automatic/AutoRegionView.h"
 #include "regions/automatic/AutoRegionWriter.h"
@@ -10,11 +12,9 @@
 #include "regions/label/RubberBandLabel.h"
 #include "ui_AutoROIWidget.h"
 #include "widgets/SilentFields.h"
-#include "widgets/WheelGuard.h"
 
 #include <QCoreApplication>
 #include <QPointer>
-#include <QScopedValueRollback>
 #include <QTimer>
 
 #include <utility>
@@ -48,26 +48,21 @@ AutoROIWidget::AutoROIWidget(const FeatureList& camera, QWidget* parent)
     m_ui->setupUi(this);
     createParts();
     adaptForm(*m_ui, *m_camera);
-    guardAgainstWheel(*m_ui, this);
-    connectLabel();
-    connectRegion();
-    setUpExposure();
+    guardFieldsAgainstWheel();
+    readNext(showEntries() + m_exposure->refresh());
+    connectForm(*this, *m_ui, *m_camera);
+    connectLabel(*this, *m_picture->label());
+    connect(m_picture->label(), &RubberBandLabel::GeometryChangeAborted, this,
+            &AutoROIWidget::onGeometryChangeAborted);
     loadRegion();
     showRegion();
 
     if (m_camera->has(Name::dspLeft) && m_camera->usesEdges()
-        && !hasValidEdges(m_camera->region(), m_limits))
+        && !hasValidEdges(m_camera->region(), m_camera->limits()))
         m_ui->btnFull->click();
 }
 
-AutoROIWidget::~AutoROIWidget()
-{
-    // A page that is deleted while it is visible is hidden later, when its parts are gone: a drag
-    // then ends, and a field gives up what was typed.
-    const auto children = findChildren<QObject*>();
-    for (QObject* child : children)
-        disconnect(child, nullptr, this, nullptr);
-}
+AutoROIWidget::~AutoROIWidget() = default;
 
 void AutoROIWidget::setTitle()
 {
@@ -78,90 +73,17 @@ void AutoROIWidget::setTitle()
 void AutoROIWidget::createParts()
 {
     m_camera = std::make_unique<AutoRegionCamera>(*featureManager);
+    m_camera->followImage(true);
     m_view = std::make_unique<AutoRegionView>(
         *m_camera,
         AutoRegionView::Fields{NumberField(m_ui->spinTop), NumberField(m_ui->spinLeft),
                                NumberField(m_ui->spinRight), NumberField(m_ui->spinBottom),
                                NumberField(m_ui->spinWidth), NumberField(m_ui->spinHeight)});
     m_writer = std::make_unique<AutoRegionWriter>(*m_camera, *m_view);
-    readLimits();
-    m_picture
-        = std::make_unique<AutoRegionPicture>(*m_camera, m_limits, *m_ui->gb_AutoROI->layout());
+    m_picture = std::make_unique<AutoRegionPicture>(*m_camera, *m_ui->gb_AutoROI->layout());
+    m_message = std::make_unique<AutoRegionMessage>(*m_camera, m_ui->labelInvalidSettings);
     m_exposure = std::make_unique<ExposureLimits>(*featureManager, m_ui->spinExpAutoMin,
                                                   m_ui->spinExpAutoMax);
-    m_trustTimer = new QTimer(this);
-    m_trustTimer->setSingleShot(true);
-    m_trustTimer->setInterval(trustMs);
-    connect(m_trustTimer, &QTimer::timeout, this, &AutoROIWidget::OnResetTrustedUpdate);
-}
-
-void AutoROIWidget::connectLabel()
-{
-    const RubberBandLabel* const label = m_picture->label();
-    connect(label, &RubberBandLabel::SendGeometry, this, &AutoROIWidget::OnSendGeometry);
-    connect(label, &RubberBandLabel::UpdateGeometry, this, &AutoROIWidget::OnUpdateGeometry);
-    connect(label, &RubberBandLabel::GeometryChangeStarted, this,
-            &AutoROIWidget::OnGeometryChangeStarted);
-    connect(label, &RubberBandLabel::GeometryChangeAborted, this,
-            &AutoROIWidget::onGeometryChangeAborted);
-}
-
-void AutoROIWidget::connectRegion()
-{
-    const auto connectField = [this](QDoubleSpinBox* field, void (AutoROIWidget::*slot)(double)) {
-        connect(field, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this, slot);
-        connect(field, &QDoubleSpinBox::editingFinished, this,
-                &AutoROIWidget::OnSpinEditingFinished);
-    };
-    connectField(m_ui->spinTop, &AutoROIWidget::OnSpinTopValueChanged);
-    connectField(m_ui->spinLeft, &AutoROIWidget::OnSpinLeftValueChanged);
-    if (m_camera->has(Name::dspBottom)) {
-        connectField(m_ui->spinRight, &AutoROIWidget::OnSpinRightValueChanged);
-        connectField(m_ui->spinBottom, &AutoROIWidget::OnSpinBottomValueChanged);
-    } else if (m_camera->usesSizes()) {
-        connectField(m_ui->spinWidth, &AutoROIWidget::OnSpinWidthValueChanged);
-        connectField(m_ui->spinHeight, &AutoROIWidget::OnSpinHeightValueChanged);
-    }
-    if (m_camera->has(Name::aoiEnable))
-        connect(m_ui->cbEnable, &QCheckBox::stateChanged, this,
-                &AutoROIWidget::OnEnableStateChanged);
-    if (m_camera->has(Name::aoiShowArea))
-        connect(m_ui->cbShowArea, &QCheckBox::stateChanged, this,
-                &AutoROIWidget::OnShowAreaStateChanged);
-    connect(m_ui->btnFull, &QPushButton::clicked, this, &AutoROIWidget::OnROIFull);
-    connect(m_ui->btnHalf, &QPushButton::clicked, this, &AutoROIWidget::OnROIHalf);
-    connect(m_ui->btnQuarter, &QPushButton::clicked, this, &AutoROIWidget::OnROIQuarter);
-
-    fillComboBox(Name::intensityControllerRegion, m_ui->comboIntensityControllerRegion, false);
-    connect(m_ui->comboIntensityControllerRegion, &QComboBox::currentTextChanged, this,
-            &AutoROIWidget::OnIntensityControllerRegionChanged);
-}
-
-void AutoROIWidget::setUpExposure()
-{
-    if (m_camera->has(Name::exposureAutoTimebase)) {
-        fillComboBox(Name::exposureAutoTimebase, m_ui->comboExpAutoTimeBase, false);
-        connect(m_ui->comboExpAutoTimeBase, &QComboBox::currentTextChanged, this,
-                &AutoROIWidget::OnExpAutoTimebaseChanged);
-    }
-    readNext(m_exposure->refresh());
-    connect(m_ui->spinExpAutoMin, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this,
-            &AutoROIWidget::OnSpinExpAutoMinChanged);
-    connect(m_ui->spinExpAutoMax, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this,
-            &AutoROIWidget::OnSpinExpAutoMaxChanged);
-    connect(m_ui->btnExpAutoMinCurrent, &QPushButton::clicked, this,
-            &AutoROIWidget::OnBtnExpAutoMinCurrentClicked);
-    connect(m_ui->btnExpAutoMaxCurrent, &QPushButton::clicked, this,
-            &AutoROIWidget::OnBtnExpAutoMaxCurrentClicked);
-}
-
-bool AutoROIWidget::eventFilter(QObject* watched, QEvent* event)
-{
-    if (isUnfocusedFieldWheel(watched, event)) {
-        event->ignore();
-        return true;
-    }
-    return InnerPage::eventFilter(watched, event);
 }
 
 // Editing
@@ -207,7 +129,7 @@ void AutoROIWidget::writeNumber(RegionNumber number, double value)
     m_writer->write(number, value);
     readAllNext();
     if (m_camera->usesEdges())
-        showEdgeProblems(wanted);
+        m_message->showEdges(wanted);
     showRegion();
 }
 
@@ -217,14 +139,14 @@ void AutoROIWidget::OnSpinEditingFinished()
         return;
     // The field has missed what the camera told while it was being typed in.
     if (!isAtWork())
-        m_view->refresh(m_limits);
+        m_view->refresh();
     readSoon({});
 }
 
 void AutoROIWidget::OnEnableStateChanged(int state)
 {
     // A refresh must not be entered again by what waits in the queue.
-    if (!m_ui || !m_camera->has(Name::aoiEnable) || (!m_isRefreshing && !pumpEvents()))
+    if (!m_ui || !m_camera->has(Name::aoiEnable) || (!isRefreshing() && !pumpEvents()))
         return;
     showChecked(m_ui->cbEnable,
                 featureManager->SetValue(Name::aoiEnable, state > 0 ? 1.0 : 0.0) > 0.0);
@@ -274,7 +196,6 @@ void AutoROIWidget::OnUpdateGeometry(int top, int left, int width, int height)
 {
     if (!m_ui)
         return;
-    const auto blockers = blockFields(*m_ui);
     // During a drag, whose begin has read the origin, this comes with every move of the mouse.
     if (!isAtWork())
         m_camera->readOrigin();
@@ -285,17 +206,17 @@ void AutoROIWidget::OnSendGeometry(int top, int left, int width, int height)
 {
     if (!m_ui)
         return;
-    if (m_writer->writeDrawn({top, left, width, height}, m_limits))
+    if (m_writer->writeDrawn({top, left, width, height}))
         m_isTrusted = true;
     m_picture->showWaitingImage();
     // Also while the region is off: the band lies where it was dropped.
-    m_picture->showRegion(m_limits);
+    m_picture->showRegion();
     if (m_camera->usesEdges()) {
-        showEdgeProblems(m_view->shown());
+        m_message->showEdges(m_view->shown());
     } else if (m_camera->usesSizes()) {
         if (!pumpEvents())
             return;
-        m_trustTimer->start();
+        QTimer::singleShot(trustMs, this, &AutoROIWidget::OnResetTrustedUpdate);
     }
     resumeUpdates(false);
     readAllSoon();
@@ -313,14 +234,14 @@ void AutoROIWidget::SetFullArea()
     if (!m_ui)
         return;
     readAllNext();
-    m_writer->setFullArea(m_limits);
+    m_writer->setFullArea();
 }
 
 void AutoROIWidget::OnROIFull()
 {
     if (!m_ui)
         return;
-    m_writer->presetFull(m_limits);
+    m_writer->presetFull();
     finishPreset();
 }
 
@@ -338,14 +259,14 @@ void AutoROIWidget::applyCentredPreset(double factor)
 {
     if (!m_ui)
         return;
-    m_writer->presetCentred(m_limits, factor);
+    m_writer->presetCentred(factor);
     finishPreset();
 }
 
 void AutoROIWidget::finishPreset()
 {
     if (m_camera->usesEdges())
-        showEdgeProblems(m_view->shown());
+        m_message->showEdges(m_view->shown());
     showRegion();
     readAllSoon();
 }
@@ -426,15 +347,13 @@ Changes AutoROIWidget::refresh(const Changes& changes)
 {
     if (!m_ui)
         return {};
-    const QScopedValueRollback<bool> refreshing(m_isRefreshing, true);
-    const auto blockers = blockFields(*m_ui);
     m_ui->gb_AutoROI->setMaximumWidth(QWIDGETSIZE_MAX);
     QStringList untold;
     if (!changes.isEmpty()) {
         const bool isSizeTold
             = changes.names.contains(Name::height) || changes.names.contains(Name::width);
         const bool isNewSize = isSizeTold && !std::exchange(m_isJustShown, false);
-        const bool isResized = updateLimits(isNewSize);
+        const bool isResized = followImage(isNewSize);
         const bool readsRegion = isResized || changes.any(Name::autoRegion);
         const bool readsSwitches = changes.any({Name::aoiEnable, Name::aoiShowArea});
         if (readsRegion || readsSwitches)
@@ -447,42 +366,23 @@ Changes AutoROIWidget::refresh(const Changes& changes)
         showRegion();
     }
     m_picture->retryImage();
-    if (changes.any(Name::exposureLimits))
-        untold += refreshExposure();
-    if (changes.any({Name::intensityControllerRegion})
-        && m_camera->has(Name::intensityControllerRegion)
-        && !fillComboBox(Name::intensityControllerRegion, m_ui->comboIntensityControllerRegion,
-                         false))
-        untold << Name::intensityControllerRegion;
+    if (changes.any(Name::exposureLimits + QStringList{Name::intensityControllerRegion}))
+        untold += showEntries();
+    if (changes.any(Name::exposureLimits)) {
+        untold += m_exposure->refresh();
+        fitColumns(*m_ui);
+    }
     enableControls(!isStreaming());
     return {false, untold + m_camera->takeUntold()};
 }
 
-// Whether they changed. Some cameras bound size and offset by each other, so the limits are taken
-// only for a new image size; otherwise they would shrink with each move of the region.
-bool AutoROIWidget::updateLimits(bool isSizeTold)
+bool AutoROIWidget::followImage(bool isSizeTold)
 {
-    const QSizeF imageSize(m_camera->readValue(Name::width), m_camera->readValue(Name::height));
-    if (!isSizeTold && imageSize == m_imageSize)
+    if (!m_camera->followImage(isSizeTold))
         return false;
-    const RegionLimits former = m_limits;
-    readLimits();
-    if (m_limits == former)
-        return false;
-    m_picture->setSize(m_limits);
+    m_picture->followLimits();
     loadRegion();
     return true;
-}
-
-void AutoROIWidget::readLimits()
-{
-    const auto limits = m_camera->readLimits();
-    if (!limits) {
-        readNext({Name::height});
-        return;
-    }
-    m_limits = *limits;
-    m_imageSize = {m_camera->readValue(Name::width), m_camera->readValue(Name::height)};
 }
 
 void AutoROIWidget::loadRegion()
@@ -507,51 +407,37 @@ void AutoROIWidget::refreshSwitches()
 
 bool AutoROIWidget::refreshRegion()
 {
-    const bool isShown = m_view->refresh(m_limits);
+    const bool isShown = m_view->refresh();
     fitColumns(*m_ui);
     return isShown;
 }
 
-QStringList AutoROIWidget::refreshExposure()
+QStringList AutoROIWidget::showEntries()
 {
-    QStringList untold = m_exposure->refresh();
-    if (m_camera->has(Name::exposureAutoTimebase)
-        && !fillComboBox(Name::exposureAutoTimebase, m_ui->comboExpAutoTimeBase, false))
-        untold << Name::exposureAutoTimebase;
-    fitColumns(*m_ui);
+    QStringList untold;
+    const auto show = [&](const QString& name, QComboBox* comboBox) {
+        if (m_camera->has(name) && !fillComboBox(name, comboBox, false))
+            untold << name;
+    };
+    show(Name::exposureAutoTimebase, m_ui->comboExpAutoTimeBase);
+    show(Name::intensityControllerRegion, m_ui->comboIntensityControllerRegion);
     return untold;
 }
 
 void AutoROIWidget::showRegion()
 {
     if (m_camera->usesEdges() || m_camera->has(Name::autoModeHeight) || m_ui->cbEnable->isChecked())
-        m_picture->showRegion(m_limits);
+        m_picture->showRegion();
 }
 
-void AutoROIWidget::showEdgeProblems(const AutoRegion& edges)
-{
-    const QString problems = edgeProblems(edges, m_limits);
-    m_ui->labelInvalidSettings->setText(tr("Invalid settings: ") + problems);
-    m_ui->labelInvalidSettings->setVisible(!problems.isEmpty());
-}
-
+// The automatic functions must not work on what is no part of the image.
 void AutoROIWidget::checkRegion()
 {
     if (m_camera->usesEdges())
-        showEdgeProblems(m_view->shown());
-    else if (m_camera->usesSizes())
-        checkSizes();
-}
-
-void AutoROIWidget::checkSizes()
-{
-    const QString problem = m_isTrusted ? QString() : m_camera->problem(m_limits);
-    m_ui->labelInvalidSettings->setVisible(!problem.isEmpty());
-    if (problem.isEmpty())
-        return;
-    m_ui->labelInvalidSettings->setText(problem);
-    // The automatic functions must not work on what is no part of the image.
-    if (isVisible())
+        m_message->showEdges(m_view->shown());
+    else if (m_isTrusted)
+        m_message->hide();
+    else if (m_camera->usesSizes() && !m_message->showSizes() && isVisible())
         OnEnableStateChanged(0);
 }
 

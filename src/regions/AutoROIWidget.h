@@ -1,14 +1,13 @@
 #pragma once
 
 #include "page/InnerPage.h"
-#include "regions/automatic/AutoRegionRules.h"
 
 #include <QPixmap>
-#include <QSizeF>
 
 #include <memory>
 
 class AutoRegionCamera;
+class AutoRegionMessage;
 class AutoRegionView;
 class AutoRegionPicture;
 class AutoRegionWriter;
@@ -31,8 +30,6 @@ class AutoROIWidget : public InnerPage
 public:
     AutoROIWidget(const FeatureList& camera, QWidget* parent);
     ~AutoROIWidget() override;
-
-    bool eventFilter(QObject* watched, QEvent* event) override;
 
 public slots:
     void OnSpinTopValueChanged(double value);
@@ -72,9 +69,6 @@ protected:
 private:
     void setTitle();
     void createParts();
-    void connectLabel();
-    void connectRegion();
-    void setUpExposure();
     void loadRegion();
     void enableControls(bool enabled);
 
@@ -84,14 +78,11 @@ private:
     bool pumpEvents();
     void onGeometryChangeAborted();
 
-    bool updateLimits(bool isSizeTold);
-    void readLimits();
+    bool followImage(bool isSizeTold);
     bool refreshRegion();
     void refreshSwitches();
-    QStringList refreshExposure();
+    QStringList showEntries();
     void checkRegion();
-    void showEdgeProblems(const AutoRegion& edges);
-    void checkSizes();
     void showRegion();
 
     std::unique_ptr<Ui::AutoROIWidget> m_ui; ///< null, as all below, when the page does not apply
@@ -99,11 +90,8 @@ private:
     std::unique_ptr<AutoRegionView> m_view;
     std::unique_ptr<AutoRegionWriter> m_writer;
     std::unique_ptr<AutoRegionPicture> m_picture;
+    std::unique_ptr<AutoRegionMessage> m_message;
     std::unique_ptr<ExposureLimits> m_exposure;
-    QTimer* m_trustTimer = nullptr;
-    RegionLimits m_limits;
-    QSizeF m_imageSize;       ///< of which the limits were taken
-    bool m_isTrusted = false; ///< a drag was just written; what it passes through is no error
-    bool m_isRefreshing = false;
+    bool m_isTrusted = false;   ///< a drag was just written; what it passes through is no error
     bool m_isJustShown = false; ///< which counts every feature as changed
 };

@@ -22,6 +22,10 @@ AutoRegionCamera::AutoRegionCamera(FeatureManager& manager)
     , m_usesEdges(manager.HasFeature(Name::dspTop))
     , m_usesSizes(manager.HasFeature(Name::aoiHeight, Name::autoModeHeight))
 {
+    for (const QString& name : {Name::autoModeOffsetX, Name::autoModeOffsetY})
+        if (manager.HasFeature(name) && name != nameOf(RegionNumber::Left)
+            && name != nameOf(RegionNumber::Top))
+            m_originNames << name;
 }
 
 bool AutoRegionCamera::hasAutoRegion(FeatureManager& manager)
@@ -106,9 +110,8 @@ QPointF AutoRegionCamera::origin() const
 
 void AutoRegionCamera::readOrigin()
 {
-    for (const QString& name : {Name::autoModeOffsetX, Name::autoModeOffsetY})
-        if (name != nameOf(RegionNumber::Left) && name != nameOf(RegionNumber::Top))
-            read(name);
+    for (const QString& name : m_originNames)
+        read(name);
 }
 
 bool AutoRegionCamera::isAutoMode() const
@@ -116,15 +119,24 @@ bool AutoRegionCamera::isAutoMode() const
     return nameOf(RegionNumber::Left) == Name::autoModeOffsetX;
 }
 
-SensorRegion AutoRegionCamera::drawn(const RegionLimits& limits) const
+SensorRegion AutoRegionCamera::drawn() const
 {
-    return m_usesEdges ? drawnByEdges(region(), limits) : drawnBySize(region(), origin(), limits);
+    return m_usesEdges ? drawnByEdges(region(), m_limits)
+                       : drawnBySize(region(), origin(), m_limits);
 }
 
-QString AutoRegionCamera::problem(const RegionLimits& limits) const
+bool AutoRegionCamera::followImage(bool isSizeTold)
 {
-    return sizeProblem(region(), origin(), limits,
-                       has(Name::aoiHeight) ? QStringLiteral("AOI") : QStringLiteral("ROI"));
+    const QSizeF imageSize(readValue(Name::width), readValue(Name::height));
+    if (!isSizeTold && imageSize == m_imageSize)
+        return false;
+    const auto limits = readLimits();
+    if (!limits) {
+        m_untold << Name::height;
+        return false;
+    }
+    m_imageSize = imageSize;
+    return !(std::exchange(m_limits, *limits) == *limits);
 }
 
 std::optional<RegionLimits> AutoRegionCamera::readLimits()

@@ -6,7 +6,7 @@
 #include <QHash>
 #include <QPointF>
 #include <QRect>
-#include <QSize>
+#include <QSizeF>
 #include <QStringList>
 
 #include <array>
@@ -61,12 +61,17 @@ public:
     AutoRegion region() const;
     /// The offset from which the camera counts the region that the label shows.
     QPointF origin() const;
+    const RegionLimits& limits() const { return m_limits; }
     /// The region on the label.
-    SensorRegion drawn(const RegionLimits& limits) const;
-    QString problem(const RegionLimits& limits) const;
+    SensorRegion drawn() const;
+
+    /// Takes the limits for a new image size only, or when one is told: some cameras bound size and
+    /// offset by each other, and the limits would shrink with each move of the region. Answers
+    /// whether they changed.
+    bool followImage(bool isSizeTold);
 
     void readOrigin();
-    /// Nothing unless the camera told all of it.
+    /// What the camera would allow by now; nothing unless it told all of it.
     std::optional<RegionLimits> readLimits();
     Reading<double> read(const QString& name);
     double readValue(const QString& name, const QString& alternative = {});
@@ -95,6 +100,9 @@ private:
     std::array<QString, regionNumbers.size()> m_names; ///< empty: the camera has no such number
     bool m_usesEdges;
     bool m_usesSizes;
-    QHash<QString, double> m_values; ///< as read last
+    QStringList m_originNames; ///< which are not the region's own
+    QHash<QString, double> m_values;
+    RegionLimits m_limits;
+    QSizeF m_imageSize; ///< of which they were taken
     QStringList m_untold;
 };

@@ -8,8 +8,8 @@
 #include <QCoreApplication>
 
 #include <algorithm>
-#include <array>
 #include <initializer_list>
+#include <vector>
 
 namespace Name = FeatureNames;
 
@@ -24,12 +24,6 @@ struct Text
 {
     Q_DECLARE_TR_FUNCTIONS(AutoROIWidget)
 };
-
-std::array<QDoubleSpinBox*, 8> spinBoxes(const Ui::AutoROIWidget& form)
-{
-    return {form.spinTop,   form.spinLeft,   form.spinRight,      form.spinBottom,
-            form.spinWidth, form.spinHeight, form.spinExpAutoMin, form.spinExpAutoMax};
-}
 
 void adaptTexts(const Ui::AutoROIWidget& form, const AutoRegionCamera& camera)
 {
@@ -160,31 +154,6 @@ void fitColumns(const Ui::AutoROIWidget& form)
                {form.spinTop, form.spinBottom, form.spinHeight}));
     form.gridLayout->setColumnMinimumWidth(1,
                                            fieldWidth({form.spinExpAutoMin, form.spinExpAutoMax}));
-}
-
-std::vector<QSignalBlocker> blockFields(const Ui::AutoROIWidget& form)
-{
-    std::vector<QSignalBlocker> blockers;
-    for (QDoubleSpinBox* field : spinBoxes(form))
-        blockers.emplace_back(field);
-    for (QObject* field : std::initializer_list<QObject*>{form.comboExpAutoTimeBase,
-                                                          form.comboIntensityControllerRegion,
-                                                          form.cbEnable, form.cbShowArea})
-        blockers.emplace_back(field);
-    return blockers;
-}
-
-void guardAgainstWheel(const Ui::AutoROIWidget& form, QObject* filter)
-{
-    const auto guard = [filter](QWidget* field) {
-        // The default policy lets the wheel itself take the focus.
-        field->setFocusPolicy(Qt::StrongFocus);
-        field->installEventFilter(filter);
-    };
-    for (QDoubleSpinBox* field : spinBoxes(form))
-        guard(field);
-    guard(form.comboExpAutoTimeBase);
-    guard(form.comboIntensityControllerRegion);
 }
 
 void enableRegion(const Ui::AutoROIWidget& form, const AutoRegionView& view, bool enabled)

@@ -19,11 +19,10 @@ QSize sizeOf(const RegionLimits& limits)
 
 } // namespace
 
-AutoRegionPicture::AutoRegionPicture(AutoRegionCamera& camera, const RegionLimits& limits,
-                                     QLayout& layout)
+AutoRegionPicture::AutoRegionPicture(AutoRegionCamera& camera, QLayout& layout)
     : m_camera(camera)
-    , m_label(new RubberBandLabel(sizeOf(limits).width(), sizeOf(limits).height(), Qt::darkGreen,
-                                  nullptr))
+    , m_label(new RubberBandLabel(sizeOf(camera.limits()).width(), sizeOf(camera.limits()).height(),
+                                  Qt::darkGreen, nullptr))
 {
     layout.addWidget(m_label);
 }
@@ -48,9 +47,9 @@ void AutoRegionPicture::retryImage()
         showImageAgain();
 }
 
-void AutoRegionPicture::setSize(const RegionLimits& limits)
+void AutoRegionPicture::followLimits()
 {
-    const QSize size = sizeOf(limits);
+    const QSize size = sizeOf(m_camera.limits());
     if (m_label->sensorSize() == size)
         return;
     m_label->setSensorSize(size.width(), size.height());
@@ -73,11 +72,11 @@ void AutoRegionPicture::showImage()
     m_label->showBackground(m_image, sensor, region);
 }
 
-void AutoRegionPicture::showRegion(const RegionLimits& limits)
+void AutoRegionPicture::showRegion()
 {
     if (!m_camera.usesEdges() && !m_camera.usesSizes())
         return;
-    const SensorRegion region = m_camera.drawn(limits);
+    const SensorRegion region = m_camera.drawn();
     const QSignalBlocker blocker(m_label);
     m_label->setRegion(region.top, region.left, region.width, region.height);
 }

@@ -7,14 +7,13 @@
 class AutoRegionCamera;
 class QLayout;
 class RubberBandLabel;
-struct RegionLimits;
 
 /// The region on the image: the label, and what it shows of the camera.
 class AutoRegionPicture
 {
 public:
     /// The layout's parent owns the label.
-    AutoRegionPicture(AutoRegionCamera& camera, const RegionLimits& limits, QLayout& layout);
+    AutoRegionPicture(AutoRegionCamera& camera, QLayout& layout);
 
     RubberBandLabel* label() const { return m_label; }
 
@@ -24,10 +23,10 @@ public:
     /// Once more, when the camera did not tell where the image lies.
     void retryImage();
     /// Keeps the image. Nothing happens when the label has this size already.
-    void setSize(const RegionLimits& limits);
+    void followLimits();
 
     /// The camera's region. The label does not emit.
-    void showRegion(const RegionLimits& limits);
+    void showRegion();
 
 private:
     void showImage();

@@ -120,8 +120,9 @@ bool AutoRegionView::refreshField(RegionNumber number)
     return !m_camera.has(number) || show(number, m_camera.read(number));
 }
 
-bool AutoRegionView::refresh(const RegionLimits& limits)
+bool AutoRegionView::refresh()
 {
+    const RegionLimits& limits = m_camera.limits();
     bool isShown = true;
     for (const RegionNumber number : m_camera.numbers())
         isShown = refreshField(number) && isShown;

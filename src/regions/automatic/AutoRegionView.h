@@ -28,7 +28,7 @@ public:
     void load();
     /// Ranges and values from the camera. A size whose field is held stays within the limits. False
     /// when a field is left as it was, for it is being typed in.
-    bool refresh(const RegionLimits& limits);
+    bool refresh();
     /// One field's range and value from the camera.
     bool refreshField(RegionNumber number);
     /// The ranges stay, and clamp the values: drawn regions pass over what the camera takes.

@@ -23,21 +23,21 @@ void AutoRegionWriter::write(RegionNumber number, double value)
 
 // Drawn regions
 
-bool AutoRegionWriter::writeDrawn(const SensorRegion& region, const RegionLimits& limits)
+bool AutoRegionWriter::writeDrawn(const SensorRegion& region)
 {
     m_camera.readOrigin();
     m_view.showProvisional(fromLabel(region, m_camera.origin()));
     if (!m_camera.usesEdges())
-        return m_camera.usesSizes() && writeSizes(region, limits);
-    writeEdges(region, limits);
+        return m_camera.usesSizes() && writeSizes(region);
+    writeEdges(region);
     return false;
 }
 
-void AutoRegionWriter::writeEdges(const SensorRegion& region, const RegionLimits& limits)
+void AutoRegionWriter::writeEdges(const SensorRegion& region)
 {
     const AutoRegion drawn = fromLabel(region, {});
-    writeAxis(RegionNumber::Left, RegionNumber::Right, drawn.horizontal, limits.width);
-    writeAxis(RegionNumber::Top, RegionNumber::Bottom, drawn.vertical, limits.height);
+    writeAxis(RegionNumber::Left, RegionNumber::Right, drawn.horizontal, m_camera.limits().width);
+    writeAxis(RegionNumber::Top, RegionNumber::Bottom, drawn.vertical, m_camera.limits().height);
 }
 
 void AutoRegionWriter::writeAxis(RegionNumber nearEdge, RegionNumber farEdge,
@@ -55,7 +55,7 @@ void AutoRegionWriter::writeAxis(RegionNumber nearEdge, RegionNumber farEdge,
     }
 }
 
-bool AutoRegionWriter::writeSizes(const SensorRegion& region, const RegionLimits& limits)
+bool AutoRegionWriter::writeSizes(const SensorRegion& region)
 {
     const QPointF origin = m_camera.origin();
     const auto snapped = [this](RegionNumber offset, int value) {
@@ -63,8 +63,8 @@ bool AutoRegionWriter::writeSizes(const SensorRegion& region, const RegionLimits
     };
     const double left = snapped(RegionNumber::Left, region.left);
     const double top = snapped(RegionNumber::Top, region.top);
-    const double roomRight = static_cast<double>(limits.width) - left;
-    const double roomBelow = static_cast<double>(limits.height) - top;
+    const double roomRight = static_cast<double>(m_camera.limits().width) - left;
+    const double roomBelow = static_cast<double>(m_camera.limits().height) - top;
     m_view.field(RegionNumber::Height).limitTo(roomBelow);
     m_view.field(RegionNumber::Width).limitTo(roomRight);
 
@@ -88,11 +88,11 @@ void AutoRegionWriter::settleOffset(RegionNumber offset, double wanted)
 
 // Presets
 
-void AutoRegionWriter::setFullArea(const RegionLimits& limits)
+void AutoRegionWriter::setFullArea()
 {
-    const RegionLimits current = m_camera.readLimits().value_or(limits);
-    growImage(FeatureNames::height, current.height, limits.height);
-    growImage(FeatureNames::width, current.width, limits.width);
+    const RegionLimits current = m_camera.readLimits().value_or(m_camera.limits());
+    growImage(FeatureNames::height, current.height, m_camera.limits().height);
+    growImage(FeatureNames::width, current.width, m_camera.limits().width);
     m_camera.readOrigin();
     const QPointF origin = m_camera.origin();
     setSizeMaximum(RegionNumber::Width, origin.x() + static_cast<double>(current.width));
@@ -115,14 +115,14 @@ void AutoRegionWriter::setSizeMaximum(RegionNumber size, double maximum)
     field->setMaximum(std::max(field->minimum(), maximum));
 }
 
-void AutoRegionWriter::presetFull(const RegionLimits& limits)
+void AutoRegionWriter::presetFull()
 {
-    m_view.refresh(limits); // the fields emit what differs from the camera
-    setFullArea(limits);
+    m_view.refresh(); // the fields emit what differs from the camera
+    setFullArea();
     const double left = m_view.field(RegionNumber::Left).grid().minimum;
     const double top = m_view.field(RegionNumber::Top).grid().minimum;
-    const auto width = static_cast<double>(limits.width);
-    const auto height = static_cast<double>(limits.height);
+    const auto width = static_cast<double>(m_camera.limits().width);
+    const auto height = static_cast<double>(m_camera.limits().height);
     makeRoom({spanBetween(left, width - left), spanBetween(top, height - top)});
     setEdge(RegionNumber::Left, left);
     setEdge(RegionNumber::Top, top);
@@ -132,13 +132,13 @@ void AutoRegionWriter::presetFull(const RegionLimits& limits)
     setEdge(RegionNumber::Bottom, height - top);
 }
 
-void AutoRegionWriter::presetCentred(const RegionLimits& limits, double factor)
+void AutoRegionWriter::presetCentred(double factor)
 {
-    m_view.refresh(limits); // the fields emit what differs from the camera
-    setFullArea(limits);
+    m_view.refresh(); // the fields emit what differs from the camera
+    setFullArea();
     const QPointF origin = m_camera.origin();
-    AutoRegion wanted{centredSpan(static_cast<double>(limits.width), factor),
-                      centredSpan(static_cast<double>(limits.height), factor)};
+    AutoRegion wanted{centredSpan(static_cast<double>(m_camera.limits().width), factor),
+                      centredSpan(static_cast<double>(m_camera.limits().height), factor)};
     wanted.horizontal.start += origin.x();
     wanted.vertical.start += origin.y();
     makeRoom(wanted);

@@ -16,18 +16,18 @@ public:
     /// Writes a region drawn on the label: edges in an order that leaves the camera an area at
     /// every write, or offsets and then sizes. True when it lies within the limits, so that
     /// whatever the camera passes through meanwhile is no error.
-    bool writeDrawn(const SensorRegion& region, const RegionLimits& limits);
+    bool writeDrawn(const SensorRegion& region);
 
     /// Lets the image and the size fields grow to what the camera allows now.
-    void setFullArea(const RegionLimits& limits);
+    void setFullArea();
 
     // The presets set the fields; the page writes each one that changes.
-    void presetFull(const RegionLimits& limits);
-    void presetCentred(const RegionLimits& limits, double factor);
+    void presetFull();
+    void presetCentred(double factor);
 
 private:
-    void writeEdges(const SensorRegion& region, const RegionLimits& limits);
-    bool writeSizes(const SensorRegion& region, const RegionLimits& limits);
+    void writeEdges(const SensorRegion& region);
+    bool writeSizes(const SensorRegion& region);
     void writeAxis(RegionNumber nearEdge, RegionNumber farEdge, const Span<double>& drawn,
                    qint64 limit);
     void makeRoom(const AutoRegion& wanted);
