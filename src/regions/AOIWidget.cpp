@@ -117,7 +117,8 @@ void AOIWidget::createLabel()
     connect(m_label, SIGNAL(UpdateGeometry(int, int, int, int)), this,
             SLOT(OnUpdateGeometry(int, int, int, int)));
     connect(m_label, SIGNAL(clicked()), this, SLOT(OnRubberLabelClicked()));
-    connect(m_label, &RubberBandLabel::GeometryChangeAborted, this, &AOIWidget::readAllSoon);
+    connect(m_label, &SensorLabel::aboutToDrag, this, &AOIWidget::commitTyping);
+    connect(m_label, &SensorLabel::dragDropped, this, &AOIWidget::readAllSoon);
 }
 
 void AOIWidget::connectForm()

@@ -52,8 +52,8 @@ AutoROIWidget::AutoROIWidget(const FeatureList& camera, QWidget* parent)
     readNext(showEntries() + m_exposure->refresh());
     connectForm(*this, *m_ui, *m_camera);
     connectLabel(*this, *m_picture->label());
-    connect(m_picture->label(), &RubberBandLabel::GeometryChangeAborted, this,
-            &AutoROIWidget::onGeometryChangeAborted);
+    connect(m_picture->label(), &SensorLabel::aboutToDrag, this, &AutoROIWidget::commitTyping);
+    connect(m_picture->label(), &SensorLabel::dragDropped, this, &AutoROIWidget::onDragDropped);
     loadRegion();
     showRegion();
 
@@ -185,7 +185,13 @@ void AutoROIWidget::OnGeometryChangeStarted()
     suspendUpdates();
 }
 
-void AutoROIWidget::onGeometryChangeAborted()
+void AutoROIWidget::commitTyping()
+{
+    m_view->commit();
+    m_exposure->commit();
+}
+
+void AutoROIWidget::onDragDropped()
 {
     m_picture->showWaitingImage();
     resumeUpdates(false);

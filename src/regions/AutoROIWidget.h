@@ -76,7 +76,8 @@ private:
     void applyCentredPreset(double factor);
     void finishPreset();
     bool pumpEvents();
-    void onGeometryChangeAborted();
+    void commitTyping();
+    void onDragDropped();
 
     bool followImage(bool isSizeTold);
     bool refreshRegion();
