@@ -1,8 +1,6 @@
 #include "sensor/SensorBackground.h"
 
-#include <QEvent>
 #include <QImage>
-#include <QLabel>
 #include <QPainter>
 #include <QtMath>
 
@@ -92,6 +90,12 @@ QPixmap onBlack(const QImage& area, const QSize& size)
     return result;
 }
 
+/// The picture spread over @p size, whatever its aspect ratio.
+QPixmap stretchedBackground(const SensorPicture& picture, const QSize& size)
+{
+    return onBlack(scaledArea(*picture.image, shownArea(picture.sensor, picture.crop), size), size);
+}
+
 } // namespace
 
 bool needsOpaquePlaceholder(const QOperatingSystemVersion& system)
@@ -116,27 +120,6 @@ QPixmap composeBackground(const QPixmap& image, const QSize& sensor, const QRect
         return {};
     const QRect source = shownArea(sensor, crop);
     return onBlack(scaledArea(image, source, ::fittedSize(source.size(), target)), target);
-}
-
-QPixmap stretchedBackground(const SensorPicture& picture, const QSize& size)
-{
-    if (size.isEmpty())
-        return {};
-    return onBlack(scaledArea(*picture.image, shownArea(picture.sensor, picture.crop), size), size);
-}
-
-void coverWithPicture(QLabel* label, const QPixmap& picture)
-{
-    // A disabled label paints its picture paler, and what is in the margins is not the picture.
-    const bool isPlain = label->isEnabled() && label->contentsRect() == label->rect();
-    label->setAttribute(Qt::WA_OpaquePaintEvent,
-                        isPlain && picture.size() == label->size() && !picture.hasAlphaChannel());
-}
-
-bool isCoverChange(const QEvent* event)
-{
-    return event->type() == QEvent::EnabledChange || event->type() == QEvent::ContentsRectChange
-        || event->type() == QEvent::Resize;
 }
 
 void SensorBackground::showPlaceholder(const QColor& color, const QSize& sensor)

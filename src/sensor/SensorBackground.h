@@ -8,9 +8,6 @@
 
 #include <memory>
 
-class QEvent;
-class QLabel;
-
 /// Windows 7 and its predecessors paint no translucent placeholder well.
 bool needsOpaquePlaceholder(const QOperatingSystemVersion& system);
 
@@ -38,13 +35,6 @@ struct SensorPicture
     /// Whether all of a sensor of this size shows.
     bool fills(const QSize& area) const { return crop.isEmpty() && sensor == area; }
 };
-
-/// The same stretched to @p size, whatever its aspect ratio.
-QPixmap stretchedBackground(const SensorPicture& picture, const QSize& size);
-
-// For the label that has not been converted to SensorLabel yet.
-void coverWithPicture(QLabel* label, const QPixmap& picture);
-bool isCoverChange(const QEvent* event);
 
 /// What a label shows of the sensor below its bands: the placeholder, which is no more than a
 /// colour and a size and needs no memory, or a picture.
