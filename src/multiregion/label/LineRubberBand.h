@@ -30,7 +30,6 @@ public:
     LineEdge edge() const { return m_edge; }
 
     int position() const { return m_position; }
-    bool isDragging() const { return m_dragging; }
     /// Of a point that is near enough to grab the line.
     std::optional<int> distanceTo(const QPoint& point) const;
 

@@ -29,7 +29,6 @@ public:
                         const QColor& color, BandSurroundings* label);
 
     int regionNo() const { return m_regionNo; }
-    bool isInConflict() const { return m_inConflict; }
     /// Red in a conflict, else the region's own.
     QColor shownColor() const;
     void setOwnColor(const QColor& color);

@@ -7,10 +7,8 @@
 
 #include <QScreen>
 
-#include <array>
 #include <functional>
 #include <memory>
-#include <vector>
 
 using Label = MultiRubberBandLabel;
 
@@ -34,12 +32,9 @@ private slots:
             QVERIFY(!m_label->isDragging());
         });
         row("move", "Free", {75, 75}, {85, 95}, {"0: 140,180 400x400"});
-        row("move to the border", "Free", {75, 75}, {75, 999}, {"0: 100,800 400x400"});
         row("click inside", "Free", {75, 75}, {75, 75}, {});
         row("click on an edge", "Free", {25, 75}, {25, 75}, {"0: 100,100 400x400"});
-        row("right edge", "Free", {122, 75}, {143, 75}, {"0: 100,100 476x400"});
         row("not over the neighbour", "Free", {122, 75}, {300, 75}, {"0: 100,100 400x400"});
-        row("left edge over the border", "Free", {26, 75}, {-50, 75}, {"0: 0,100 500x400"});
         row("a member stays in the row", "Horizontal", {275, 75}, {285, 95},
             {"1: 940,100 400x400"});
         row("the master takes the row along", "Horizontal", {75, 75}, {85, 95},
@@ -50,7 +45,6 @@ private slots:
             {"0: 100,140 400x44", "1: 900,140 400x44"});
         row("the line of a thin band", "Horizontal thin", {75, 34}, {75, 40},
             {"0: 100,100 400x68", "1: 900,100 400x68"});
-        row("columns block sideways", "Vertical", {275, 75}, {285, 95}, {"1: 940,180 400x400"});
     }
     void drags() { runRow(); }
 
@@ -98,13 +92,6 @@ private slots:
             image->fill(Qt::gray);
             label->setBackgroundImage(image, image->size(), {});
         };
-        row("other buttons do nothing", "Free", inside, {moved}, movedBand, [](Label* label) {
-            for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
-                QMouseEvent event(type, {275, 75}, label->mapToGlobal({275, 75}), Qt::RightButton,
-                                  Qt::LeftButton | Qt::RightButton, Qt::NoModifier);
-                QApplication::sendEvent(label, &event);
-            }
-        });
         row("what is told waits for the end", "Free", inside, {moved}, movedBand, [](Label* label) {
             label->onRegionGeometryChanged(0, {200, 100, 200, 400});
             label->onRegionGeometryChanged(2, {1200, 800, 400, 400});
@@ -116,8 +103,6 @@ private slots:
                 label->setEnabled(false);
                 label->setEnabled(true);
             });
-        row("dropped when hidden", "Free", inside, {"drop"}, {25, 25, 100, 100},
-            [](Label* label) { label->hide(); });
         row("goes on after a frame", "Free", inside, {moved}, movedBand, frame);
         row("goes on at another scale", "Free", inside, {"0: 140,180 400x400"}, {70, 90, 200, 200},
             [](Label* label) { label->resize(800, 600); });
@@ -357,32 +342,34 @@ private slots:
         QCOMPARE(cursorAt({150, 124}), Qt::ArrowCursor);
     }
 
-    /// Neither the placeholder of a large sensor nor its picture needs its pixels.
-    void largeSensors()
+    /// Lines of a sensor are one pixel on the label, and still there to be dragged along them.
+    void flatSensors()
     {
-        m_label = std::make_unique<Label>(15000, 10000, QColor(0, 100, 255), "Free", nullptr);
-        const auto shown = [this] { return m_label->pixmap(Qt::ReturnByValue).toImage(); };
-        QVERIFY(shown().width() <= 2048);
-        m_label->resize(600, 500);
-        m_label->show();
-        QCOMPARE(m_label->shownSize(), QSize(600, 400));
-        auto image = std::make_shared<QPixmap>(100, 100);
+        makeLabel("Free", {});
+        m_label->setSensorSize({4096, 2});
+        m_label->onRegionGeometryChanged(0, {1024, 0, 1024, 2});
+        m_label->onRegionActivated(0, true);
+        QCOMPARE(m_label->shownSize(), QSize(400, 1));
+        QCOMPARE(bandOf(0)->geometry(), QRect(100, 0, 100, 1));
+        drag(m_label.get(), {197, 0}, {299, 0});
+        QCOMPARE(m_events.last(), QString("0: 1024,0 2048x2"));
+        drag(m_label.get(), {101, 0}, {50, 0});
+        QCOMPARE(m_events.last(), QString("0: 512,0 2560x2"));
+    }
+
+    void showsPictures()
+    {
+        makeLabel("Free", {});
+        auto image = std::make_shared<QPixmap>(200, 100);
         image->fill(Qt::white);
-        m_label->setBackgroundImage(image, {100, 200}, {});
-        QCOMPARE(shown().size(), QSize(600, 400));
-        QCOMPARE(shown().pixelColor(50, 100), QColor(Qt::white));
-        QCOMPARE(shown().pixelColor(50, 300), QColor(Qt::black));
-        // A hidden one composes when it is shown, and after each resize from the whole picture.
-        m_label->hide();
-        m_label->setBackgroundImage(image, {100, 100}, {});
-        QCOMPARE(shown().pixelColor(50, 300), QColor(Qt::black));
-        m_label->show();
-        QCOMPARE(shown().pixelColor(50, 300), QColor(Qt::white));
-        for (const QSize& size : {QSize(600, 400), QSize(300, 200)}) {
-            m_label->resize(size);
-            QCOMPARE(shown().size(), size);
-            QCOMPARE(shown().pixelColor(50, size.height() - 1), QColor(Qt::white));
-        }
+        const auto colorAt = [this](const QPoint& point) {
+            return m_label->pixmap(Qt::ReturnByValue).toImage().pixelColor(point);
+        };
+        m_label->setBackgroundImage(image, {200, 150}, {});
+        QCOMPARE(colorAt({200, 190}), QColor(Qt::white));
+        QCOMPARE(colorAt({200, 290}), QColor(Qt::black));
+        m_label->setBackgroundImage(image, {200, 150}, {0, 0, 100, 75});
+        QCOMPARE(colorAt({200, 290}), QColor(Qt::white));
     }
 
 private:
@@ -395,51 +382,43 @@ private:
     /// Until the label is deleted.
     static void doAll(const QPointer<Label>& label)
     {
-        const auto send
-            = [&label](QEvent::Type type, const QPoint& point) { sendMouse(label, type, point); };
-        const QPoint inside(75, 75);
-        const QPoint line(150, 124);
-        const auto dragFrom = [send](const QPoint& from) {
-            return std::array<std::function<void()>, 3>{
-                [=] { send(QEvent::MouseButtonPress, from); },
-                [=] { send(QEvent::MouseMove, from + QPoint(5, 10)); },
-                [=] { send(QEvent::MouseButtonRelease, from + QPoint(5, 10)); }};
-        };
-        std::vector<std::function<void()>> steps;
-        for (int region = 0; region < 3; ++region) {
-            steps.emplace_back([=] {
-                label->onRegionGeometryChanged(region, {100 + 550 * region, 100, 400, 400});
-            });
-            steps.emplace_back([=] { label->onRegionActivated(region, true); });
-        }
-        steps.emplace_back([=] { label->onRegionGeometryChanged(2, {900, 100, 400, 400}); });
-        steps.emplace_back([=] { label->announceRegions(); });
-        steps.emplace_back([=] { label->onRegionColorChanged(1, Qt::green); });
-        for (const QPoint& from : {inside, line}) {
-            const auto drag = dragFrom(from);
-            steps.insert(steps.end(), drag.begin(), drag.end());
-            steps.insert(steps.end(), drag.begin(), drag.end() - 1);
-            steps.emplace_back([=] { label->resize(label->size() / 2); });
-            steps.emplace_back([=] { label->setEnabled(false); });
-            steps.emplace_back([=] {
-                label->setEnabled(true);
-                label->resize(400, 300);
-            });
-        }
-        steps.emplace_back([=] { label->onRegionGeometryChanged(1, {100, 100, 400, 400}); });
-        steps.emplace_back([=] { label->removeRectangle(0); });
-        const auto drag = dragFrom({275, 75});
-        steps.insert(steps.end(), drag.begin(), drag.end() - 1);
-        steps.emplace_back([=] { label->setBackgroundImage({}, {}, {}); });
-        steps.emplace_back([=] { label->removeRectangle(2); });
-        steps.insert(steps.end(), drag.begin(), drag.end() - 1);
-        steps.emplace_back([=] { label->setArrangementMode("Vertical"); });
-        steps.emplace_back([=] { label->setSensorSize({1000, 800}); });
-        for (const auto& step : steps) {
+        const auto step = [&label](const std::function<void(Label*)>& action) {
             if (label)
-                step();
+                action(label);
             QCoreApplication::processEvents();
+        };
+        const auto tell = [step](int region, int x) {
+            step([=](Label* l) { l->onRegionGeometryChanged(region, {x, 100, 400, 400}); });
+        };
+        const auto move = [step](const QPoint& from) {
+            step([=](Label* l) { sendMouse(l, QEvent::MouseButtonPress, from); });
+            step([=](Label* l) { sendMouse(l, QEvent::MouseMove, from + QPoint(5, 10)); });
+        };
+        const QPoint second(275, 75);
+        for (int region = 0; region < 3; ++region) {
+            tell(region, 100 + 550 * region);
+            step([=](Label* l) { l->onRegionActivated(region, true); });
         }
+        tell(2, 900);
+        step([](Label* l) { l->announceRegions(); });
+        step([](Label* l) { l->onRegionColorChanged(1, Qt::green); });
+        for (const QPoint& from : {QPoint(75, 75), QPoint(150, 124)}) {
+            move(from);
+            step([=](Label* l) { release(l, from + QPoint(5, 10)); });
+            move(from);
+            step([](Label* l) { l->resize(200, 150); });
+            step([](Label* l) { l->setEnabled(false); });
+            step([](Label* l) { l->setEnabled(true); });
+            step([](Label* l) { l->resize(400, 300); });
+        }
+        tell(1, 100);
+        step([](Label* l) { l->removeRectangle(0); });
+        move(second);
+        step([](Label* l) { l->setBackgroundImage({}, {}, {}); });
+        step([](Label* l) { l->removeRectangle(2); });
+        move(second);
+        step([](Label* l) { l->setArrangementMode("Vertical"); });
+        step([](Label* l) { l->setSensorSize({1000, 800}); });
     }
 
     void makeLabel(const QString& mode,
