@@ -153,8 +153,11 @@ void ChangeWatch::deliver(const DependencyGraph::Places& changed)
         const Observers observers = list == m_observers.end() ? Observers() : list->second;
         lock.unlock();
         for (const ZebCPP::IFeatureObserverPtr& observer : observers) {
-            if (isRegistered(feature, observer)) // a call before may have taken it off
-                observer->FeatureChanged(m_features[feature]);
+            try {
+                if (isRegistered(feature, observer)) // a call before may have taken it off
+                    observer->FeatureChanged(m_features[feature]);
+            } catch (...) { // the observer's fault, not to end the process
+            }
         }
     }
 }

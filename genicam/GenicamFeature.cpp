@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <tuple>
 
 namespace genicam {
 
@@ -9,6 +10,23 @@ namespace {
 
 /// What is older is read from the camera again: another client may have changed it.
 constexpr std::chrono::seconds longestTrust{1};
+
+/// No description is trusted with the memory.
+constexpr std::uint64_t largestRegister = 1 << 24;
+
+template <typename Number>
+constexpr ZebFeatureDataType typeFor
+    = std::is_same_v<Number, double> ? ZebFeatureDataFloat : ZebFeatureDataInt;
+
+void setNumber(ArvGcFeatureNode* node, std::int64_t value, GError** error)
+{
+    arv_gc_integer_set_value(ARV_GC_INTEGER(node), value, error);
+}
+
+void setNumber(ArvGcFeatureNode* node, double value, GError** error)
+{
+    arv_gc_float_set_value(ARV_GC_FLOAT(node), value, error);
+}
 
 std::string text(const char* source)
 {
@@ -118,21 +136,6 @@ ZebErrorType GenicamFeature::readPlain(ZebFeatureDataType type, Plain& plain)
     return ZebErrorSuccess;
 }
 
-ZebErrorType GenicamFeature::GetValue(std::int64_t& value)
-{
-    return readPlain(ZebFeatureDataInt, value);
-}
-
-ZebErrorType GenicamFeature::GetValue(double& value)
-{
-    return readPlain(ZebFeatureDataFloat, value);
-}
-
-ZebErrorType GenicamFeature::GetValue(bool& value)
-{
-    return readPlain(ZebFeatureDataBool, value);
-}
-
 ZebErrorType GenicamFeature::GetValue(char* buffer, std::uint32_t& length)
 {
     std::string value;
@@ -166,7 +169,10 @@ ZebErrorType GenicamFeature::GetValue(std::uint8_t* buffer, std::uint32_t buffer
     return read(OfValue, [&](GError** error) {
         if (!accessOf(m_node, error).isReadable)
             return ZebErrorInvalidAccess;
-        std::vector<std::uint8_t> bytes(arv_gc_register_get_length(ARV_GC_REGISTER(m_node), error));
+        const auto size = arv_gc_register_get_length(ARV_GC_REGISTER(m_node), error);
+        if (size > largestRegister)
+            return ZebErrorResources;
+        std::vector<std::uint8_t> bytes(size);
         if (buffer && !*error)
             arv_gc_register_get(ARV_GC_REGISTER(m_node), bytes.data(), bytes.size(), error);
         sizeFilled = bufferSize;
@@ -299,61 +305,44 @@ ZebErrorType GenicamFeature::GetSelectedFeatures(ZebCPP::FeaturePtr* features, s
 
 // Range and increment
 
-ZebErrorType GenicamFeature::GetRange(std::int64_t& minimum, std::int64_t& maximum)
+template <typename Number> ZebErrorType GenicamFeature::readLimits(Range<Number>& range)
 {
-    if (m_type != ZebFeatureDataInt)
+    if (m_type != typeFor<Number>)
         return ZebErrorBadParameter;
     return read(OfRange, [&](GError** error) {
-        const auto range = readIntegerRange(m_node, error);
-        if (range.isAbsurd())
-            return ZebErrorNotFound;
-        minimum = range.minimum;
-        maximum = range.maximum;
+        range = readRange<Number>(m_node, error);
         return ZebErrorSuccess;
     });
 }
 
-ZebErrorType GenicamFeature::GetRange(double& minimum, double& maximum)
+template <typename Number> ZebErrorType GenicamFeature::readBounds(Number& minimum, Number& maximum)
 {
-    if (m_type != ZebFeatureDataFloat)
-        return ZebErrorBadParameter;
-    return read(OfRange, [&](GError** error) {
-        const auto range = readFloatRange(m_node, error);
-        if (range.isAbsurd())
-            return ZebErrorNotFound;
-        minimum = range.minimum;
-        maximum = range.maximum;
-        return ZebErrorSuccess;
-    });
+    Range<Number> range{};
+    const ZebErrorType result = readLimits(range);
+    if (result != ZebErrorSuccess || range.isAbsurd())
+        return result != ZebErrorSuccess ? result : ZebErrorNotFound;
+    std::tie(minimum, maximum) = std::tie(range.minimum, range.maximum);
+    return ZebErrorSuccess;
+}
+
+template <typename Number> ZebErrorType GenicamFeature::readIncrement(Number& increment)
+{
+    Range<Number> range{};
+    const ZebErrorType result = readLimits(range);
+    if (result != ZebErrorSuccess)
+        return result;
+    increment = range.increment;
+    return increment > 0 ? ZebErrorSuccess : ZebErrorNotFound;
 }
 
 ZebErrorType GenicamFeature::HasIncrement(bool& hasIncrement)
 {
-    return read(OfRange, [&](GError** error) {
-        hasIncrement = m_type == ZebFeatureDataInt
-            || (m_type == ZebFeatureDataFloat && readFloatRange(m_node, error).increment > 0.0);
-        return ZebErrorSuccess;
-    });
-}
-
-ZebErrorType GenicamFeature::GetIncrement(std::int64_t& increment)
-{
-    if (m_type != ZebFeatureDataInt)
-        return ZebErrorBadParameter;
-    return read(OfRange, [&](GError** error) {
-        increment = readIntegerRange(m_node, error).increment;
-        return ZebErrorSuccess;
-    });
-}
-
-ZebErrorType GenicamFeature::GetIncrement(double& increment)
-{
-    if (m_type != ZebFeatureDataFloat)
-        return ZebErrorBadParameter;
-    return read(OfRange, [&](GError** error) {
-        increment = readFloatRange(m_node, error).increment;
-        return increment > 0.0 ? ZebErrorSuccess : ZebErrorNotFound;
-    });
+    Range<double> range{};
+    const ZebErrorType result = m_type == ZebFeatureDataFloat
+        ? readLimits(range)
+        : tell(range.increment, range.increment);
+    hasIncrement = m_type == ZebFeatureDataInt || range.increment > 0.0;
+    return result;
 }
 
 // Writing
@@ -390,24 +379,17 @@ ZebErrorType GenicamFeature::SetValue(std::int64_t value)
             return ZebErrorBadParameter;
         });
     }
-    return write(ZebFeatureDataInt, [&](GError** error) {
-        const auto range = readIntegerRange(m_node, error);
-        if (!*error && !range.holds(value))
-            return ZebErrorBadParameter;
-        if (!*error)
-            arv_gc_integer_set_value(ARV_GC_INTEGER(m_node), value, error);
-        return ZebErrorSuccess;
-    });
+    return writeNumber(value);
 }
 
-ZebErrorType GenicamFeature::SetValue(double value)
+template <typename Number> ZebErrorType GenicamFeature::writeNumber(Number value)
 {
-    return write(ZebFeatureDataFloat, [&](GError** error) {
-        const auto range = readFloatRange(m_node, error);
+    return write(typeFor<Number>, [&](GError** error) {
+        const auto range = readRange<Number>(m_node, error);
         if (!*error && !range.holds(value))
             return ZebErrorBadParameter;
         if (!*error)
-            arv_gc_float_set_value(ARV_GC_FLOAT(m_node), value, error);
+            setNumber(m_node, value, error);
         return ZebErrorSuccess;
     });
 }
@@ -501,100 +483,24 @@ ZebErrorType GenicamFeature::answer(const std::string& text, char* buffer,
     return answerList(characters, buffer, length);
 }
 
-ZebErrorType GenicamFeature::GetName(char* buffer, std::uint32_t& length)
-{
-    return answer(m_name, buffer, length);
-}
-
-ZebErrorType GenicamFeature::GetDisplayName(char* buffer, std::uint32_t& length)
-{
-    return answer(m_displayName, buffer, length);
-}
-
-ZebErrorType GenicamFeature::GetCategory(char* buffer, std::uint32_t& length)
-{
-    return answer(m_place.category, buffer, length);
-}
-
-ZebErrorType GenicamFeature::GetUnit(char* buffer, std::uint32_t& length)
-{
-    return answer(m_unit, buffer, length);
-}
-
-ZebErrorType GenicamFeature::GetRepresentation(char* buffer, std::uint32_t& length)
-{
-    return answer(m_representation, buffer, length);
-}
-
-ZebErrorType GenicamFeature::GetToolTip(char* buffer, std::uint32_t& length)
-{
-    return answer(m_toolTip, buffer, length);
-}
-
-ZebErrorType GenicamFeature::GetDescription(char* buffer, std::uint32_t& length)
-{
-    return answer(m_description, buffer, length);
-}
-
-ZebErrorType GenicamFeature::GetDataType(ZebFeatureDataType& dataType)
-{
-    dataType = m_type;
-    return m_link->isClosed() ? ZebErrorBadHandle : ZebErrorSuccess;
-}
-
-ZebErrorType GenicamFeature::GetVisibility(ZebFeatureVisibilityType& visibility)
-{
-    visibility = m_visibility;
-    return m_link->isClosed() ? ZebErrorBadHandle : ZebErrorSuccess;
-}
-
 // Access
 
-ZebErrorType GenicamFeature::readAccess(Access& access)
+ZebErrorType GenicamFeature::readAccess(bool Access::*part, bool& output)
 {
     return read(OfAccess, [&](GError** error) {
-        access = accessOf(m_node, error);
+        output = accessOf(m_node, error).*part;
         return ZebErrorSuccess;
     });
 }
 
 ZebErrorType GenicamFeature::GetFlags(ZebFeatureFlagsType& flags)
 {
-    Access access;
-    const ZebErrorType result = readAccess(access);
-    const std::uint32_t set = (access.isReadable ? ZebFeatureFlagsRead : 0U)
-        | (access.isWritable ? ZebFeatureFlagsWrite : 0U);
-    if (result == ZebErrorSuccess)
-        flags = static_cast<ZebFeatureFlagsType>(set);
-    return result;
-}
-
-ZebErrorType GenicamFeature::IsReadable(bool& readable)
-{
-    Access access;
-    const ZebErrorType result = readAccess(access);
-    if (result == ZebErrorSuccess)
-        readable = access.isReadable;
-    return result;
-}
-
-ZebErrorType GenicamFeature::IsWritable(bool& writable)
-{
-    Access access;
-    const ZebErrorType result = readAccess(access);
-    if (result == ZebErrorSuccess)
-        writable = access.isWritable;
-    return result;
-}
-
-ZebErrorType GenicamFeature::RegisterObserver(const ZebCPP::IFeatureObserverPtr& observer)
-{
-    return m_link->isClosed() ? ZebErrorBadHandle : m_watch->add(m_place.index, observer);
-}
-
-ZebErrorType GenicamFeature::UnregisterObserver(const ZebCPP::IFeatureObserverPtr& observer)
-{
-    return m_link->isClosed() ? ZebErrorBadHandle : m_watch->remove(m_place.index, observer);
+    return read(OfAccess, [&](GError** error) {
+        const Access access = accessOf(m_node, error);
+        flags = static_cast<ZebFeatureFlagsType>((access.isReadable ? ZebFeatureFlagsRead : 0U)
+                                                 | (access.isWritable ? ZebFeatureFlagsWrite : 0U));
+        return ZebErrorSuccess;
+    });
 }
 
 } // namespace genicam

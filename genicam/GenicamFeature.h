@@ -35,9 +35,12 @@ public:
     /// What this one selects, of the camera's list.
     void setSelected(std::vector<std::weak_ptr<GenicamFeature>> selected);
 
-    ZebErrorType GetValue(std::int64_t& value) override;
-    ZebErrorType GetValue(double& value) override;
-    ZebErrorType GetValue(bool& value) override;
+    ZebErrorType GetValue(std::int64_t& value) override
+    {
+        return readPlain(ZebFeatureDataInt, value);
+    }
+    ZebErrorType GetValue(double& value) override { return readPlain(ZebFeatureDataFloat, value); }
+    ZebErrorType GetValue(bool& value) override { return readPlain(ZebFeatureDataBool, value); }
     ZebErrorType GetValue(char* buffer, std::uint32_t& length) override;
     ZebErrorType GetValue(std::uint8_t* buffer, std::uint32_t bufferSize,
                           std::uint32_t& sizeFilled) override;
@@ -45,37 +48,82 @@ public:
     ZebErrorType GetValues(std::int64_t* values, std::uint32_t& count) override;
     ZebErrorType GetEntry(ZebCPP::EnumEntry& entry, const char* name) override;
     ZebErrorType GetEntries(ZebCPP::EnumEntry* entries, std::uint32_t& count) override;
-    ZebErrorType GetRange(std::int64_t& minimum, std::int64_t& maximum) override;
-    ZebErrorType GetRange(double& minimum, double& maximum) override;
+    ZebErrorType GetRange(std::int64_t& minimum, std::int64_t& maximum) override
+    {
+        return readBounds(minimum, maximum);
+    }
+    ZebErrorType GetRange(double& minimum, double& maximum) override
+    {
+        return readBounds(minimum, maximum);
+    }
     ZebErrorType HasIncrement(bool& hasIncrement) override;
-    ZebErrorType GetIncrement(std::int64_t& increment) override;
-    ZebErrorType GetIncrement(double& increment) override;
+    ZebErrorType GetIncrement(std::int64_t& increment) override { return readIncrement(increment); }
+    ZebErrorType GetIncrement(double& increment) override { return readIncrement(increment); }
     ZebErrorType GetValidValueSet(std::int64_t* values, std::uint32_t bufferSize,
                                   std::uint32_t* setSize) override;
     ZebErrorType IsValueAvailable(std::int64_t value, bool& available) override;
     ZebErrorType IsValueAvailable(const char* value, bool& available) override;
     ZebErrorType SetValue(std::int64_t value) override;
-    ZebErrorType SetValue(double value) override;
+    ZebErrorType SetValue(double value) override { return writeNumber(value); }
     ZebErrorType SetValue(bool value) override;
     ZebErrorType SetValue(const char* value) override;
     ZebErrorType SetValue(const std::uint8_t* data, std::uint32_t size) override;
     ZebErrorType RunCommand() override;
     ZebErrorType IsCommandDone(bool& done) override;
-    ZebErrorType GetName(char* buffer, std::uint32_t& length) override;
-    ZebErrorType GetDisplayName(char* buffer, std::uint32_t& length) override;
-    ZebErrorType GetCategory(char* buffer, std::uint32_t& length) override;
-    ZebErrorType GetUnit(char* buffer, std::uint32_t& length) override;
-    ZebErrorType GetRepresentation(char* buffer, std::uint32_t& length) override;
-    ZebErrorType GetToolTip(char* buffer, std::uint32_t& length) override;
-    ZebErrorType GetDescription(char* buffer, std::uint32_t& length) override;
-    ZebErrorType GetDataType(ZebFeatureDataType& dataType) override;
+    ZebErrorType GetName(char* buffer, std::uint32_t& length) override
+    {
+        return answer(m_name, buffer, length);
+    }
+    ZebErrorType GetDisplayName(char* buffer, std::uint32_t& length) override
+    {
+        return answer(m_displayName, buffer, length);
+    }
+    ZebErrorType GetCategory(char* buffer, std::uint32_t& length) override
+    {
+        return answer(m_place.category, buffer, length);
+    }
+    ZebErrorType GetUnit(char* buffer, std::uint32_t& length) override
+    {
+        return answer(m_unit, buffer, length);
+    }
+    ZebErrorType GetRepresentation(char* buffer, std::uint32_t& length) override
+    {
+        return answer(m_representation, buffer, length);
+    }
+    ZebErrorType GetToolTip(char* buffer, std::uint32_t& length) override
+    {
+        return answer(m_toolTip, buffer, length);
+    }
+    ZebErrorType GetDescription(char* buffer, std::uint32_t& length) override
+    {
+        return answer(m_description, buffer, length);
+    }
+    ZebErrorType GetDataType(ZebFeatureDataType& dataType) override
+    {
+        return tell(m_type, dataType);
+    }
     ZebErrorType GetFlags(ZebFeatureFlagsType& flags) override;
-    ZebErrorType GetVisibility(ZebFeatureVisibilityType& visibility) override;
+    ZebErrorType GetVisibility(ZebFeatureVisibilityType& visibility) override
+    {
+        return tell(m_visibility, visibility);
+    }
     ZebErrorType GetSelectedFeatures(ZebCPP::FeaturePtr* features, std::uint32_t& count) override;
-    ZebErrorType IsReadable(bool& readable) override;
-    ZebErrorType IsWritable(bool& writable) override;
-    ZebErrorType RegisterObserver(const ZebCPP::IFeatureObserverPtr& observer) override;
-    ZebErrorType UnregisterObserver(const ZebCPP::IFeatureObserverPtr& observer) override;
+    ZebErrorType IsReadable(bool& readable) override
+    {
+        return readAccess(&Access::isReadable, readable);
+    }
+    ZebErrorType IsWritable(bool& writable) override
+    {
+        return readAccess(&Access::isWritable, writable);
+    }
+    ZebErrorType RegisterObserver(const ZebCPP::IFeatureObserverPtr& observer) override
+    {
+        return m_link->isClosed() ? ZebErrorBadHandle : m_watch->add(m_place.index, observer);
+    }
+    ZebErrorType UnregisterObserver(const ZebCPP::IFeatureObserverPtr& observer) override
+    {
+        return m_link->isClosed() ? ZebErrorBadHandle : m_watch->remove(m_place.index, observer);
+    }
 
 private:
     /// Kinds of reading: each has registers of its own.
@@ -97,7 +145,16 @@ private:
     template <typename Work> ZebErrorType read(Kind kind, Work&& work);
     template <typename Work> ZebErrorType write(ZebFeatureDataType type, Work&& work);
     template <typename Plain> ZebErrorType readPlain(ZebFeatureDataType type, Plain& plain);
-    ZebErrorType readAccess(Access& access);
+    ZebErrorType readAccess(bool Access::*part, bool& output);
+    template <typename Number> ZebErrorType readLimits(Range<Number>& range);
+    template <typename Number> ZebErrorType readBounds(Number& minimum, Number& maximum);
+    template <typename Number> ZebErrorType readIncrement(Number& increment);
+    template <typename Number> ZebErrorType writeNumber(Number value);
+    template <typename Plain> ZebErrorType tell(const Plain& known, Plain& output) const
+    {
+        output = known;
+        return m_link->isClosed() ? ZebErrorBadHandle : ZebErrorSuccess;
+    }
     ZebErrorType answer(const std::string& text, char* buffer, std::uint32_t& length) const;
 
     ArvGcFeatureNode* const m_node;

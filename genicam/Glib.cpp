@@ -15,7 +15,7 @@ std::atomic<int> criticals{0};
 void onCritical(const char* domain, GLogLevelFlags, const char* message, void*)
 {
     ++criticals;
-    std::fprintf(stderr, "genicam: %s: %s\n", domain, message);
+    std::fprintf(stderr, "genicam: %s: %s\n", domain ? domain : "Aravis", message);
 }
 
 ZebErrorType codeOfDeviceError(int code)
@@ -89,7 +89,8 @@ void countCriticals()
     static std::once_flag once;
     std::call_once(once, [] {
         const auto levels = static_cast<GLogLevelFlags>(G_LOG_LEVEL_CRITICAL | G_LOG_LEVEL_WARNING);
-        for (const char* domain : {"Aravis", "GLib", "GLib-GObject", "GLib-GIO"})
+        for (const char* domain :
+             {static_cast<const char*>(nullptr), "GLib", "GLib-GObject", "GLib-GIO"})
             g_log_set_handler(domain, levels, onCritical, nullptr);
     });
 }

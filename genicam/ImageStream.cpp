@@ -8,6 +8,7 @@ namespace genicam {
 namespace {
 
 constexpr std::size_t memory = 256 * 1024 * 1024;
+constexpr std::size_t largestPayload = 1024 * 1024 * 1024;
 constexpr std::uint64_t patience = 100 * 1000; // microseconds
 
 std::size_t readPayload(DeviceLink& link, GError** error)
@@ -16,12 +17,6 @@ std::size_t readPayload(DeviceLink& link, GError** error)
     const auto size
         = ARV_IS_GC_INTEGER(node) ? arv_gc_integer_get_value(ARV_GC_INTEGER(node), error) : 0;
     return static_cast<std::size_t>(std::max<gint64>(0, size));
-}
-
-/// Remembers its size, which the library forgets.
-ArvBuffer* newBuffer(std::size_t size)
-{
-    return arv_buffer_new_full(size, nullptr, GSIZE_TO_POINTER(size), nullptr);
 }
 
 } // namespace
@@ -39,22 +34,28 @@ ImageStream::~ImageStream()
     m_link->perform(true, [this](GError** error) { return setAcquiring(false, error); });
     m_isStopping = true;
     m_thread.join();
+    // A lost camera blocks this, too, for seconds.
+    if (m_link->isLost())
+        std::thread([stream = m_stream.release(), link = m_link] {
+            g_object_unref(stream);
+        }).detach();
 }
 
 std::string ImageStream::start()
 {
     std::string reason = "the camera does not answer";
     const ZebErrorType result = m_link->perform(true, [&](GError** error) {
-        m_payload = readPayload(*m_link, error);
+        const std::size_t payload = readPayload(*m_link, error);
         if (!*error)
             m_stream.reset(arv_device_create_stream(m_link->device(), nullptr, nullptr, error));
-        if (!*error && m_stream && m_payload > 0) {
-            const std::size_t count = std::clamp<std::size_t>(memory / m_payload, 2, 8);
+        if (!*error && m_stream && payload > 0 && payload <= largestPayload) {
+            const std::size_t count = std::clamp<std::size_t>(memory / payload, 2, 8);
             for (std::size_t i = 0; i < count; ++i)
-                arv_stream_push_buffer(m_stream.get(), newBuffer(m_payload));
+                arv_stream_push_buffer(m_stream.get(), arv_buffer_new_allocate(payload));
             return setAcquiring(true, error);
         }
-        reason = *error ? (*error)->message : "the camera tells no size of its pictures";
+        reason = *error ? (*error)->message
+                        : "the camera tells no size of its pictures, or an absurd one";
         return ZebErrorOther;
     });
     if (result != ZebErrorSuccess)
@@ -83,7 +84,7 @@ void ImageStream::run()
     while (!m_isStopping) {
         if (ArvBuffer* const buffer = newestBuffer()) {
             handle(buffer);
-            pushBack(buffer);
+            arv_stream_push_buffer(m_stream.get(), buffer);
         }
         const auto now = g_get_monotonic_time();
         if (now - second < G_USEC_PER_SEC)
@@ -108,7 +109,7 @@ ArvBuffer* ImageStream::newestBuffer()
         ArvBuffer* const next = arv_stream_try_pop_buffer(m_stream.get());
         if (!next)
             break;
-        pushBack(newest);
+        arv_stream_push_buffer(m_stream.get(), newest);
         newest = next;
     }
     return newest;
@@ -116,14 +117,7 @@ ArvBuffer* ImageStream::newestBuffer()
 
 void ImageStream::handle(ArvBuffer* buffer)
 {
-    const ArvBufferStatus status = arv_buffer_get_status(buffer);
-    if (status == ARV_BUFFER_STATUS_SIZE_MISMATCH) { // the pictures have grown in mid-stream
-        m_link->perform(true, [this](GError** error) {
-            m_payload = std::max(m_payload, readPayload(*m_link, error));
-            return ZebErrorSuccess;
-        });
-    }
-    if (status != ARV_BUFFER_STATUS_SUCCESS)
+    if (arv_buffer_get_status(buffer) != ARV_BUFFER_STATUS_SUCCESS)
         return;
     std::size_t size = 0;
     const void* const data = arv_buffer_get_image_data(buffer, &size);
@@ -137,15 +131,6 @@ void ImageStream::handle(ArvBuffer* buffer)
         m_frame = std::move(frame);
     }
     m_onFrame();
-}
-
-void ImageStream::pushBack(ArvBuffer* buffer)
-{
-    if (GPOINTER_TO_SIZE(arv_buffer_get_user_data(buffer)) < m_payload) {
-        g_object_unref(buffer);
-        buffer = newBuffer(m_payload);
-    }
-    arv_stream_push_buffer(m_stream.get(), buffer);
 }
 
 StreamFigures ImageStream::figures() const

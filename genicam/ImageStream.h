@@ -33,7 +33,6 @@ private:
     void run();
     ArvBuffer* newestBuffer();
     void handle(ArvBuffer* buffer);
-    void pushBack(ArvBuffer* buffer);
     ZebErrorType setAcquiring(bool isOn, GError** error);
 
     const std::shared_ptr<DeviceLink> m_link;
@@ -41,7 +40,6 @@ private:
     GObjectPtr<ArvStream> m_stream;
     std::thread m_thread;
     std::atomic<bool> m_isStopping{false};
-    std::size_t m_payload = 0;
     mutable std::mutex m_mutex;
     std::optional<Frame> m_frame;
     StreamFigures m_figures;

@@ -98,7 +98,7 @@ Value readValue(ArvGcFeatureNode* node, GError** error)
     return *error ? Value() : value;
 }
 
-Range<std::int64_t> readIntegerRange(ArvGcFeatureNode* node, GError** error)
+template <> Range<std::int64_t> readRange(ArvGcFeatureNode* node, GError** error)
 {
     ArvGcInteger* const integer = ARV_GC_INTEGER(node);
     Range<std::int64_t> range{arv_gc_integer_get_min(integer, error), 0, 1};
@@ -112,7 +112,7 @@ Range<std::int64_t> readIntegerRange(ArvGcFeatureNode* node, GError** error)
     return range;
 }
 
-Range<double> readFloatRange(ArvGcFeatureNode* node, GError** error)
+template <> Range<double> readRange(ArvGcFeatureNode* node, GError** error)
 {
     ArvGcFloat* const number = ARV_GC_FLOAT(node);
     Range<double> range{arv_gc_float_get_min(number, error), 0.0, 0.0};

@@ -38,8 +38,7 @@ Access accessOf(ArvGcFeatureNode* node, GError** error);
 
 /// An enumeration's value is its number.
 Value readValue(ArvGcFeatureNode* node, GError** error);
-Range<std::int64_t> readIntegerRange(ArvGcFeatureNode* node, GError** error);
-Range<double> readFloatRange(ArvGcFeatureNode* node, GError** error);
+template <typename Number> Range<Number> readRange(ArvGcFeatureNode* node, GError** error);
 bool isCommandDone(ArvGcFeatureNode* node, GError** error);
 
 std::string unitOf(ArvGcFeatureNode* node);

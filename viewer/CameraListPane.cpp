@@ -77,7 +77,7 @@ void CameraListPane::offerSearch(const QString& idWithoutHardware)
         m_search->setEnabled(false);
         emit searchRequested();
     });
-    add({idWithoutHardware, tr("Try without hardware"),
+    add({idWithoutHardware, tr("GigE camera without hardware"),
          tr("A GigE Vision camera that this program plays itself")});
     ++m_simulated;
     connect(addButton(tr("&Try without hardware"), "btnTryWithoutHardware"), &QPushButton::clicked,

@@ -13,6 +13,12 @@ BUILD_PACKAGES=(
     fonts-dejavu-core
 )
 
+# What real cameras in the viewer take besides.
+GENICAM_PACKAGES=(
+    libaravis-dev
+    pkg-config
+)
+
 # What the tests and the format check take besides. The sanitizers' runtimes come with g++.
 TEST_PACKAGES=(
     binutils
