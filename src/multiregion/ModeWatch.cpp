@@ -1,35 +1,60 @@
 #include "multiregion/ModeWatch.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace {
 
-constexpr int shortestEcho = 4; // seconds
-constexpr int longestEcho = 64;
+constexpr int longestEcho = 10; ///< seconds
+constexpr int mostVainLooks = 8;
 
 } // namespace
 
-void ModeWatch::note()
+void ModeWatch::reported()
 {
-    (m_isSelecting ? m_isEchoImmediate : m_isReported) = true;
+    if (m_isSelecting && !std::exchange(m_hasEcho, true))
+        return;
+    ++m_reports;
 }
 
-bool ModeWatch::isLookDue(bool isVisible)
+bool ModeWatch::isLookDue()
 {
-    const bool isReported = std::exchange(m_isReported, false);
-    if (m_echoSeconds > 0) {
-        --m_echoSeconds;
+    const bool isQuiet = std::exchange(m_reportsBefore, m_reports) == m_reports;
+    m_quietSeconds = isQuiet ? m_quietSeconds + 1 : 0;
+    if (m_reports == 0) {
+        if (m_quietSeconds >= longestEcho)
+            rest();
         return false;
     }
-    if (isReported && isVisible)
+    // After a look in vain all of its echo is waited for, a little longer each time: cameras need
+    // not tell it all at once.
+    if (m_vainLooks == 0 || (m_echo && m_reports > *m_echo))
         return true;
-    m_patience = 0;
+    if (m_quietSeconds < m_vainLooks)
+        return false;
+    const bool isEcho = m_reports == m_echo && m_reports >= m_selections;
+    if (!isEcho && m_vainLooks < mostVainLooks)
+        return true;
+    rest();
     return false;
 }
 
-void ModeWatch::lookEnded(bool isUnchanged)
+void ModeWatch::lookBegins()
 {
-    m_patience = isUnchanged ? std::clamp(2 * m_patience, shortestEcho, longestEcho) : 0;
-    m_echoSeconds = m_isEchoImmediate ? 0 : m_patience;
+    m_echo = m_vainLooks > 0 ? std::optional<int>(m_reports) : std::nullopt;
+    m_reports = 0;
+    m_selections = 0;
+}
+
+void ModeWatch::looked(bool found)
+{
+    m_vainLooks = found ? 0 : m_vainLooks + 1;
+    m_reportsBefore = m_reports;
+    m_quietSeconds = 0;
+}
+
+void ModeWatch::rest()
+{
+    m_reports = 0;
+    m_vainLooks = 0;
+    m_echo.reset();
 }

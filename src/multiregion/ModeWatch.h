@@ -1,11 +1,13 @@
 #pragma once
 
+#include <optional>
+
 /// Tells when to look at all regions for those that another client has switched.
 ///
-/// A camera may notify of a region's mode whenever another region is selected. When it does so
-/// within the selecting this is told apart. When it does so later, what it reports for some seconds
-/// after a look that changed nothing is taken for that look's echo, and for longer if another such
-/// look follows at once: no camera, however late, keeps the page selecting.
+/// A camera may notify of a region's mode whenever another region is selected, as a look does for
+/// each. The echo within the selecting is told apart. What comes later is looked at, whatever it
+/// is; the echo of a look that found nothing is known for one when the next such look is followed
+/// by as many reports again, no fewer than it had selections.
 class ModeWatch
 {
 public:
@@ -13,34 +15,41 @@ public:
     class Selecting
     {
     public:
-        explicit Selecting(ModeWatch& reports)
-            : m_reports(reports)
+        /// @param isOther another one than before
+        Selecting(ModeWatch& watch, bool isOther)
+            : m_watch(watch)
         {
-            m_reports.m_echoSeconds = 0;
-            m_reports.m_isSelecting = true;
+            m_watch.m_hasEcho = false;
+            m_watch.m_isSelecting = true;
+            m_watch.m_selections += isOther ? 1 : 0;
         }
-        ~Selecting() { m_reports.m_isSelecting = false; }
+        ~Selecting() { m_watch.m_isSelecting = false; }
         Selecting(const Selecting&) = delete;
         Selecting& operator=(const Selecting&) = delete;
 
     private:
-        ModeWatch& m_reports;
+        ModeWatch& m_watch;
     };
 
     /// The camera has notified of a region's mode.
-    void note();
-    /// All regions are read anyway.
-    void forget() { m_isReported = false; }
+    void reported();
 
     /// To be asked once a second. Each true is followed by a look.
-    bool isLookDue(bool isVisible);
-    void lookBegins() { m_isEchoImmediate = false; }
-    void lookEnded(bool isUnchanged);
+    bool isLookDue();
+
+    /// All regions are about to be read.
+    void lookBegins();
+    void looked(bool found);
 
 private:
+    void rest();
+
     bool m_isSelecting = false;
-    bool m_isReported = false;      ///< while the page selected none
-    bool m_isEchoImmediate = false; ///< the camera notifies within the selecting
-    int m_echoSeconds = 0;          ///< for which reports are taken for echoes of a look
-    int m_patience = 0;             ///< seconds, doubled by each look that changed nothing
+    bool m_hasEcho = false; ///< this selecting has had its own
+    int m_reports = 0;      ///< since the last look
+    int m_reportsBefore = 0;
+    int m_quietSeconds = 0;
+    int m_selections = 0;      ///< of the last look
+    int m_vainLooks = 0;       ///< in a row
+    std::optional<int> m_echo; ///< reports after the look before, which was in vain too
 };

@@ -3,16 +3,23 @@
 #include "features/FeatureManager.h"
 #include "features/FeatureNames.h"
 #include "features/NumberConversion.h"
+#include "features/Reading.h"
 #include "features/SdkValues.h"
 #include "sensor/PixelRect.h"
 
 #include <QCoreApplication>
 
 #include <algorithm>
+#include <mutex>
 
 namespace Name = FeatureNames;
 
 namespace {
+
+struct Text
+{
+    Q_DECLARE_TR_FUNCTIONS(MultiROIWidget)
+};
 
 const QString onEntry = QStringLiteral("On");
 const QString offEntry = QStringLiteral("Off");
@@ -21,137 +28,188 @@ const QString regionEntry = QStringLiteral("Region%1");
 /// Far beyond any sensor, and still an int when added up.
 constexpr double largestSize = 1 << 29;
 
-int wholePixels(double value, int missing)
+int wholePixels(std::optional<double> value, int missing)
 {
-    return value > 0.0 ? toInt(std::min(value, largestSize)) : missing;
+    return value.value_or(0.0) > 0.0 ? toInt(std::min(*value, largestSize)) : missing;
 }
+
+/// 0 for what the camera does not have.
+std::optional<double> readKnown(FeatureManager& manager, const QString& name,
+                                const QString& olderName = {})
+{
+    const Reading<double> reading = manager.Read(name, olderName).number(FeatureReader::ValueOnly);
+    return reading.isComplete ? std::optional<double>(reading.value.value_or(0.0)) : std::nullopt;
+}
+
+double readCount(FeatureManager& manager, bool isEnumerated)
+{
+    if (isEnumerated)
+        return manager.GetEnumEntries(Name::subRegionSelector).size();
+    const auto maximum = readNumber(manager, Name::subRegionSelector).maximum;
+    return maximum ? std::max(0.0, *maximum + 1.0) : 0.0;
+}
+
+/// The names of a region's features on one axis, the older one last.
+struct AxisNames
+{
+    QString offset, olderOffset, size, olderSize;
+};
+
+const AxisNames& namesOf(Qt::Orientation axis)
+{
+    static const AxisNames horizontal{Name::subRegionOffsetX, Name::offsetX, Name::subRegionWidth,
+                                      Name::width};
+    static const AxisNames vertical{Name::subRegionOffsetY, {}, Name::subRegionHeight, {}};
+    return axis == Qt::Horizontal ? horizontal : vertical;
+}
+
+struct AxisReading
+{
+    explicit AxisReading(FeatureManager& manager, Qt::Orientation axis)
+        : offset(readNumber(manager, namesOf(axis).offset, namesOf(axis).olderOffset))
+        , size(readFieldNumber(manager, namesOf(axis).size, namesOf(axis).olderSize))
+    {
+    }
+
+    bool isComplete() const { return offset.isComplete && size.isComplete; }
+    AxisLimits limits() const
+    {
+        AxisLimits limits;
+        limits.minimum = wholePixels(size.minimum, 1);
+        limits.maximum = wholePixels(size.maximum, toInt(largestSize));
+        limits.increment = wholePixels(size.increment, 1);
+        limits.offsetIncrement = wholePixels(offset.increment, 1);
+        return limits;
+    }
+
+    const Reading<double> offset;
+    const Reading<double> size;
+};
 
 } // namespace
 
 RegionCamera::RegionCamera(FeatureManager* manager)
-    : m_manager(manager)
+    : m_manager(*manager)
+    , m_isEnumerated(manager->GetDataType(Name::subRegionSelector) == Sdk::enumerationType)
+    , m_count(readCount(*manager, m_isEnumerated))
 {
 }
 
-double RegionCamera::count() const
+RegionCamera::Selection RegionCamera::select(int region)
 {
-    if (!m_manager->HasFeature(Name::subRegionSelector))
-        return 0.0;
-    if (hasEnumeratedSelector())
-        return m_manager->GetEnumEntries(Name::subRegionSelector).size();
-    SizeRange range;
-    m_manager->GetValueLimits(Name::subRegionSelector, range.minimum, range.maximum);
-    return std::max(0.0, range.maximum + 1.0);
-}
-
-QString RegionCamera::select(int region)
-{
-    if (hasEnumeratedSelector()) {
+    const std::unique_lock<QMutex> lock(m_selectorLock, std::try_to_lock);
+    if (!lock || region < 0)
+        return Selection::Refused;
+    if (m_isEnumerated) {
         const QString entry = regionEntry.arg(region);
-        if (m_manager->SetStringValue(Name::subRegionSelector, entry) != entry)
-            return QCoreApplication::translate("MultiROIWidget",
-                                               "Set 'SubRegionSelector' = '%1' failed!")
-                .arg(entry);
-    } else if (toInt(m_manager->SetValue(Name::subRegionSelector, region)) != region) {
-        return QCoreApplication::translate("MultiROIWidget", "Set 'SubRegionSelector' = %1 failed!")
-            .arg(region);
+        const QString answer = m_manager.SetStringValue(Name::subRegionSelector, entry);
+        if (answer != entry)
+            return answer.isEmpty() ? Selection::Unknown : Selection::Refused;
+    } else {
+        // The manager would clamp it to another region.
+        if (region >= m_count)
+            return Selection::Refused;
+        const double answer = m_manager.SetValue(Name::subRegionSelector, region);
+        if (toInt(answer) != region)
+            return answer < 0.0 ? Selection::Unknown : Selection::Refused;
     }
-    return {};
+    m_lastSelected = region;
+    return Selection::Done;
 }
 
-int RegionCamera::selected() const
+QString RegionCamera::failureOf(int region) const
 {
-    if (!hasEnumeratedSelector())
-        return toInt(m_manager->GetValue(Name::subRegionSelector));
-    const QString entry = m_manager->GetStringValue(Name::subRegionSelector);
+    return m_isEnumerated
+        ? Text::tr("Set 'SubRegionSelector' = '%1' failed!").arg(regionEntry.arg(region))
+        : Text::tr("Set 'SubRegionSelector' = %1 failed!").arg(region);
+}
+
+std::optional<int> RegionCamera::readSelected() const
+{
+    if (!m_isEnumerated) {
+        const auto region = readValue(m_manager, Name::subRegionSelector);
+        return region ? std::optional<int>(toInt(*region)) : std::nullopt;
+    }
+    const QString entry = m_manager.GetStringValue(Name::subRegionSelector);
     bool isNumber = false;
     const int region = entry.midRef(regionEntry.indexOf(QLatin1Char('%'))).toInt(&isNumber);
-    return isNumber && entry == regionEntry.arg(region) ? region : -1;
+    return isNumber && entry == regionEntry.arg(region) ? std::optional<int>(region) : std::nullopt;
 }
 
-bool RegionCamera::isOn() const
+std::optional<bool> RegionCamera::readOn() const
 {
-    return m_manager->GetStringValue(Name::subRegionMode) == onEntry;
+    const Reading<QString> mode = readText(m_manager, Name::subRegionMode);
+    return mode.isComplete ? std::optional<bool>(mode.value == onEntry) : std::nullopt;
 }
 
-bool RegionCamera::isValid() const
+std::optional<RegionState> RegionCamera::read() const
 {
-    if (!isOn())
-        return false;
-    const bool isJudged = m_manager->HasFeature(Name::multipleRegionsEnable)
-        && m_manager->GetValue(Name::multipleRegionsEnable) != 0.0;
-    return !isJudged || m_manager->GetStringValue(Name::subRegionStatus) == QLatin1String("Valid");
+    const AxisReading x(m_manager, Qt::Horizontal);
+    const AxisReading y(m_manager, Qt::Vertical);
+    if (!x.isComplete() || !y.isComplete())
+        return std::nullopt;
+    const QRect geometry = truncatedRect(x.offset.value.value_or(0.0), y.offset.value.value_or(0.0),
+                                         x.size.value.value_or(0.0), y.size.value.value_or(0.0));
+    return RegionState{geometry, {x.limits(), y.limits()}};
 }
 
-bool RegionCamera::switchOn(bool on)
+std::optional<QRect> RegionCamera::readGeometry() const
 {
-    return m_manager->SetStringValue(Name::subRegionMode, on ? onEntry : offEntry) == onEntry;
+    const auto x = readKnown(m_manager, Name::subRegionOffsetX, Name::offsetX);
+    const auto y = readKnown(m_manager, Name::subRegionOffsetY);
+    const auto size = readSize();
+    return x && y && size
+        ? std::optional<QRect>(truncatedRect(*x, *y, size->width(), size->height()))
+        : std::nullopt;
 }
 
-QRect RegionCamera::geometry() const
+std::optional<QSize> RegionCamera::readSize() const
 {
-    return truncatedRect(m_manager->GetValue(Name::subRegionOffsetX, Name::offsetX),
-                         m_manager->GetValue(Name::subRegionOffsetY),
-                         m_manager->GetValue(Name::subRegionWidth, Name::width),
-                         m_manager->GetValue(Name::subRegionHeight));
+    const auto width = readKnown(m_manager, Name::subRegionWidth, Name::width);
+    const auto height = readKnown(m_manager, Name::subRegionHeight);
+    return width && height ? std::optional<QSize>({toInt(*width), toInt(*height)}) : std::nullopt;
 }
 
-SizeRange RegionCamera::widthRange() const
+std::optional<SizeRange> RegionCamera::readSizeRange(Qt::Orientation axis) const
 {
-    SizeRange range;
-    m_manager->GetValueRange(Name::subRegionWidth, Name::width, range.minimum, range.maximum,
-                             range.increment);
-    return range;
+    const Reading<double> size
+        = readFieldNumber(m_manager, namesOf(axis).size, namesOf(axis).olderSize);
+    if (!size.isComplete)
+        return std::nullopt;
+    return SizeRange{size.minimum.value_or(0.0), size.maximum.value_or(0.0),
+                     size.increment.value_or(0.0)};
 }
 
-SizeRange RegionCamera::heightRange() const
+std::optional<bool> RegionCamera::writeOn(bool on)
 {
-    SizeRange range;
-    m_manager->GetValueRange(Name::subRegionHeight, range.minimum, range.maximum, range.increment);
-    return range;
+    const QString answer = m_manager.SetStringValue(Name::subRegionMode, on ? onEntry : offEntry);
+    return answer.isEmpty() ? std::nullopt : std::optional<bool>(answer == onEntry);
 }
 
-RegionSizeLimits RegionCamera::limits() const
+bool RegionCamera::writeFeature(const QString& name, const QVariant& value)
 {
-    return {axisLimits(widthRange(), Name::subRegionOffsetX, Name::offsetX),
-            axisLimits(heightRange(), Name::subRegionOffsetY, Name::subRegionOffsetY)};
+    return m_manager.SetVariantValue(name, value);
 }
 
 void RegionCamera::writeGeometry(const QRect& rect, const QSize& former)
 {
-    const auto writeX
-        = [&] { m_manager->SetValue(Name::subRegionOffsetX, Name::offsetX, rect.x()); };
-    const auto writeY = [&] { m_manager->SetValue(Name::subRegionOffsetY, rect.y()); };
-    if (rect.width() > former.width())
-        writeX();
-    m_manager->SetValue(Name::subRegionWidth, Name::width, rect.width());
-    if (rect.width() <= former.width())
-        writeX();
-    if (rect.height() > former.height())
-        writeY();
-    m_manager->SetValue(Name::subRegionHeight, rect.height());
-    if (rect.height() <= former.height())
-        writeY();
+    const auto write = [this](Qt::Orientation axis, double offset, double size, double formerSize) {
+        const AxisNames& names = namesOf(axis);
+        if (size > formerSize)
+            m_manager.SetValue(names.offset, names.olderOffset, offset);
+        m_manager.SetValue(names.size, names.olderSize, size);
+        if (size <= formerSize)
+            m_manager.SetValue(names.offset, names.olderOffset, offset);
+    };
+    write(Qt::Horizontal, rect.x(), rect.width(), former.width());
+    write(Qt::Vertical, rect.y(), rect.height(), former.height());
 }
 
-QSize RegionCamera::sensorSize() const
+std::optional<QSize> RegionCamera::readSensorSize() const
 {
-    return {wholePixels(m_manager->GetValue(Name::widthMax), 0),
-            wholePixels(m_manager->GetValue(Name::heightMax), 0)};
-}
-
-bool RegionCamera::hasEnumeratedSelector() const
-{
-    return m_manager->GetDataType(Name::subRegionSelector) == Sdk::enumerationType;
-}
-
-AxisLimits RegionCamera::axisLimits(const SizeRange& size, const QString& offset,
-                                    const QString& olderOffset) const
-{
-    AxisLimits limits;
-    limits.minimum = wholePixels(size.minimum, 1);
-    limits.maximum = wholePixels(size.maximum, toInt(largestSize));
-    limits.increment = wholePixels(size.increment, 1);
-    limits.offsetIncrement = wholePixels(m_manager->GetIncrement(offset, olderOffset), 1);
-    return limits;
+    const auto width = readKnown(m_manager, Name::widthMax);
+    const auto height = readKnown(m_manager, Name::heightMax);
+    if (!width || !height)
+        return std::nullopt;
+    return QSize(wholePixels(width, 0), wholePixels(height, 0));
 }

@@ -3,54 +3,69 @@
 #include "multiregion/label/RegionConversion.h"
 #include "multiregion/rules/SizeRange.h"
 
+#include <QMutex>
 #include <QRect>
 #include <QString>
 
+#include <optional>
+
 class FeatureManager;
+class QVariant;
+
+/// A region as the camera has it, sensor pixels.
+struct RegionState
+{
+    QRect geometry;
+    RegionSizeLimits limits;
+};
 
 /// The camera's features of its regions. Except for the sensor's and the selector's, a feature is
-/// that of the region selected last, by whomever: select() before every access.
+/// that of the region selected last, by whomever: select() before every access. What the camera
+/// does not tell is empty.
 ///
 /// Cameras of older generations have no horizontal features of the regions' own; "OffsetX" and
 /// "Width" take their place.
 class RegionCamera
 {
 public:
-    /// @p manager must outlive the object.
+    enum class Selection {
+        Done,
+        Refused,
+        Unknown, ///< the camera does not tell
+    };
+
+    /// @p manager must outlive the object. Reads how many regions there are.
     explicit RegionCamera(FeatureManager* manager);
 
-    /// 0 for a camera without regions.
-    double count() const;
+    /// 0 for a camera without regions; beyond int for one that claims so many.
+    double count() const { return m_count; }
 
-    /// Selects a region; answers why that failed, for the log, and an empty text otherwise.
-    QString select(int region);
-    /// The region that the camera has selected, -1 when it names none.
-    int selected() const;
+    /// Writes the selector, but no number that it does not have.
+    Selection select(int region);
+    QString failureOf(int region) const;
+    /// What select() wrote last.
+    std::optional<int> lastSelected() const { return m_lastSelected; }
+    std::optional<int> readSelected() const;
 
-    /// What the following read counts for the selected region.
-    bool isOn() const;
-    /// On, and by the camera's own judgement well placed.
-    bool isValid() const;
+    // Of the selected region:
+    std::optional<bool> readOn() const;
+    std::optional<RegionState> read() const;
+    std::optional<QRect> readGeometry() const;
+    std::optional<QSize> readSize() const;
+    std::optional<SizeRange> readSizeRange(Qt::Orientation axis) const;
     /// Answers whether the region is on afterwards.
-    bool switchOn(bool on);
-
-    /// Sensor pixels.
-    QRect geometry() const;
-    SizeRange widthRange() const;
-    SizeRange heightRange() const;
-    RegionSizeLimits limits() const;
-
-    /// Writes the selected region's rectangle. Each axis begins with its size when that is not
-    /// larger than @p former, else with its offset. A null rectangle shrinks the region to the
-    /// camera's minimum.
+    std::optional<bool> writeOn(bool on);
+    bool writeFeature(const QString& name, const QVariant& value);
+    /// Each axis begins with its size when that is not larger than @p former, else with its offset.
+    /// A null rectangle shrinks the region to the camera's minimum.
     void writeGeometry(const QRect& rect, const QSize& former);
 
-    QSize sensorSize() const;
+    std::optional<QSize> readSensorSize() const;
 
 private:
-    bool hasEnumeratedSelector() const;
-    AxisLimits axisLimits(const SizeRange& size, const QString& offset,
-                          const QString& olderOffset) const;
-
-    FeatureManager* m_manager;
+    FeatureManager& m_manager;
+    const bool m_isEnumerated; ///< the selector
+    const double m_count;
+    std::optional<int> m_lastSelected;
+    QMutex m_selectorLock;
 };

@@ -69,18 +69,12 @@ private slots:
             QVERIFY(!open.page);
             QCOMPARE(open.active(4), QString("0123"));
         });
-        row("Tile 3 Row", "Tile", 3, "Row", "01",
+        row("Tile 3 Column", "Tile", 3, "Column", "02",
             "deactivation of either a row or a column.\nWhat");
-        row("Tile 3 Column", "Tile", 3, "Column", "02", "either a row or a column");
-        row("Tile 3 Cancel", "Tile", 3, "Cancel", "0123", "either a row or a column");
-        row("Tile 3 Escape", "Tile", 3, "Escape", "0123", "either a row or a column");
-        row("Tile 1 OK", "Tile", 1, "OK", "02",
-            "'Tile' requires deactivation of the whole column.");
-        row("Tile 2 OK", "Tile", 2, "OK", "01", "the whole row.");
-        row("Tile 2 Cancel", "Tile", 2, "Cancel", "0123", "the whole row.");
+        row("Tile 2 Cancel", "Tile", 2, "Cancel", "0123",
+            "'Tile' requires deactivation of the whole row.");
         row("Horizontal 1 OK", "Horizontal", 1, "OK", "0",
             "'Horizontal' requires deactivation of all subsequent");
-        row("Vertical 1 Cancel", "Vertical", 1, "Cancel", "0123", "deactivation of all subsequent");
         row("Free -1 No", "Free", -1, "No", "0123", "Overwrite the current region settings?");
     }
     void asks() { runRow(); }

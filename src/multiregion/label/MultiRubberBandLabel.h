@@ -50,12 +50,6 @@ public:
         return m_regions.groups().isEmpty()
             || membersCanFollow(m_regions.shown(), m_regions.groups(), region, band);
     }
-    /// The shown regions that share their edges along @p axis with this one, the master first;
-    /// empty for a region that shares none.
-    QVector<int> sharingRegions(int regionNo, Qt::Orientation axis) const
-    {
-        return ::sharingRegions(m_regions.groups(), regionNo, axis);
-    }
 
     /// Announces the shown colours again, and what else changed while the signals were blocked.
     /// Regions told of meanwhile are arranged now, all at once; without this call, with the next

@@ -2,6 +2,8 @@
 
 #include "features/FeatureNames.h"
 
+namespace Name = FeatureNames;
+
 namespace {
 
 /// Appends the group of the regions that belong to it, when they are two or more.
@@ -55,6 +57,24 @@ QVector<int> sharingRegions(const QVector<ConstraintGroup>& groups, int region,
     return {};
 }
 
+std::optional<Qt::Orientation> axisOf(const QString& feature)
+{
+    if (feature == Name::subRegionOffsetY || feature == Name::subRegionHeight)
+        return Qt::Vertical;
+    if (QStringList{Name::subRegionOffsetX, Name::offsetX, Name::subRegionWidth, Name::width}
+            .contains(feature))
+        return Qt::Horizontal;
+    return std::nullopt;
+}
+
+QVector<int> sharingRegions(const QVector<ConstraintGroup>& groups, int region,
+                            const QString& feature)
+{
+    const auto axis = axisOf(feature);
+    const QVector<int> members = axis ? sharingRegions(groups, region, *axis) : QVector<int>();
+    return members.isEmpty() ? QVector<int>{region} : members;
+}
+
 QStringList sharedFeatures(int region, const QVector<ConstraintGroup>& groups)
 {
     QStringList features;
@@ -62,9 +82,9 @@ QStringList sharedFeatures(int region, const QVector<ConstraintGroup>& groups)
         if (!group.members.contains(region) || group.master() == region)
             continue;
         if (group.kind == ConstraintGroup::Row)
-            features << FeatureNames::subRegionOffsetY << FeatureNames::subRegionHeight;
+            features << Name::subRegionOffsetY << Name::subRegionHeight;
         else
-            features << FeatureNames::subRegionOffsetX << FeatureNames::subRegionWidth;
+            features << Name::subRegionOffsetX << Name::subRegionWidth;
     }
     return features;
 }

@@ -6,6 +6,8 @@
 #include <QVector>
 #include <Qt>
 
+#include <optional>
+
 /// Shown regions that share their rows (offset and height) or their columns (offset and width).
 struct ConstraintGroup
 {
@@ -36,6 +38,12 @@ QVector<ConstraintGroup> constraintGroups(ArrangementMode mode, const QVector<in
 /// The members of the group whose edges along @p axis a region shares; none without such a group.
 QVector<int> sharingRegions(const QVector<ConstraintGroup>& groups, int region,
                             Qt::Orientation axis);
+
+/// The axis on which a feature places a region; none for any other feature.
+std::optional<Qt::Orientation> axisOf(const QString& feature);
+/// The regions that have the feature in common with this one, itself among them, the master first.
+QVector<int> sharingRegions(const QVector<ConstraintGroup>& groups, int region,
+                            const QString& feature);
 
 /// The features that a region takes from the masters of its groups.
 QStringList sharedFeatures(int region, const QVector<ConstraintGroup>& groups);

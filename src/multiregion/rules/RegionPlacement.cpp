@@ -33,7 +33,7 @@ std::optional<RegionExtent> placedAlong(const PlacementRequest& request, double 
 QRect placedInRow(const PlacementRequest& request)
 {
     double limit = spaceBehind(request);
-    if (request.size.maximum >= 0.0)
+    if (request.size.maximum > 0.0)
         limit = std::min(limit, request.size.maximum);
     const auto along = placedAlong(request, limit);
     if (!along)

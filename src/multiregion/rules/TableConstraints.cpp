@@ -1,6 +1,7 @@
 #include "multiregion/rules/TableConstraints.h"
 
 #include "features/FeatureNames.h"
+#include "multiregion/rules/ConstraintGroups.h"
 
 namespace Name = FeatureNames;
 
@@ -12,15 +13,6 @@ bool isOffset(const QString& feature)
 {
     return feature == Name::subRegionOffsetX || feature == Name::offsetX
         || feature == Name::subRegionOffsetY;
-}
-
-std::optional<Qt::Orientation> axisOf(const QString& feature)
-{
-    if (feature == Name::subRegionOffsetY || feature == Name::subRegionHeight)
-        return Qt::Vertical;
-    if (feature == Name::subRegionWidth || feature == Name::width || isOffset(feature))
-        return Qt::Horizontal;
-    return std::nullopt;
 }
 
 } // namespace

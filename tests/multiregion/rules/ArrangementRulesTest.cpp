@@ -36,7 +36,7 @@ private slots:
         row("too little is left", {0, 160}, {693, 2000, 8}, {}, 0);
         row("just enough is left", {0, 160}, {692, 2000, 8}, {308, 692}, 692);
         row("fractions are dropped", {0, 160.9}, {16, 640, 0.5}, {300, 160}, 160);
-        row("no range", {0, 160}, {-1, -1, -1}, {300, 160}, 160);
+        row("no range", {0, 160}, {}, {300, 160}, 160);
     }
     void places() { runRow(); }
 
@@ -118,7 +118,7 @@ private slots:
         row("Vertical: four minima do not fit", {1000, 800, w, {201, 800, 2}, 4},
             {{20, 40, 960, 213}, {20, 292, 960, 213}, {20, 544, 960, 213}});
         row("Vertical: none fits", {1000, 800, w, {801, 800, 2}, 1}, {});
-        row("Vertical: no minimum", {1000, 800, w, {-1, 800, 2}, 1}, {{20, 80, 960, 640}});
+        row("Vertical: no minimum", {1000, 800, w, {0, 800, 2}, 1}, {{20, 80, 960, 640}});
         row("Vertical: small maximum", {1000, 800, {16, 300, 4}, {16, 100, 2}, 2},
             {{20, 213, 300, 80}, {20, 505, 300, 80}});
         // Share 308.5, gap 61.7, height 246.8, spacing 49.36.

@@ -1,0 +1,206 @@
+#include "multiregion/RegionActivation.h"
+
+#include "multiregion/RegionCamera.h"
+#include "multiregion/RegionDisplay.h"
+#include "multiregion/RegionWriter.h"
+#include "multiregion/rules/DefaultLayouts.h"
+#include "multiregion/rules/RegionPlacement.h"
+#include "widgets/OverrideCursor.h"
+
+#include <QCoreApplication>
+
+#include <mutex>
+#include <utility>
+
+namespace {
+
+struct Text
+{
+    Q_DECLARE_TR_FUNCTIONS(MultiROIWidget)
+};
+
+Qt::Orientation across(Qt::Orientation axis)
+{
+    return axis == Qt::Horizontal ? Qt::Vertical : Qt::Horizontal;
+}
+
+RegionExtent extentOf(const QRect& rect, Qt::Orientation axis)
+{
+    return axis == Qt::Horizontal
+        ? RegionExtent{static_cast<double>(rect.x()), static_cast<double>(rect.width())}
+        : RegionExtent{static_cast<double>(rect.y()), static_cast<double>(rect.height())};
+}
+
+} // namespace
+
+RegionActivation::RegionActivation(RegionCamera& camera, RegionDisplay& display,
+                                   RegionWriter& writer, Ask ask)
+    : m_camera(camera)
+    , m_display(display)
+    , m_writer(writer)
+    , m_ask(std::move(ask))
+{
+}
+
+void RegionActivation::toggle(int region, bool on)
+{
+    const Toggle toggle
+        = toggleFor(arrangementMode(m_display.mode()), region, on, m_display.active());
+    if (toggle.kind == Toggle::Place)
+        place(region, toggle.axis);
+    else if (toggle.kind == Toggle::SwitchOn)
+        m_writer.setActive(region, true);
+    else
+        switchOff(region, toggle);
+}
+
+void RegionActivation::switchOff(int region, const Toggle& toggle)
+{
+    QVector<int> off = toggle.off;
+    if (toggle.question != Question::None) {
+        const QPointer<RegionActivation> self(this);
+        const std::optional<Answer> answer = m_ask(toggle.question);
+        if (!self || answer == Answer::None)
+            return;
+        if (!answer || answer == Answer::Rejected) {
+            m_display.setChecked(region, true);
+            return;
+        }
+        if (answer == Answer::Column)
+            off = toggle.offColumn;
+    }
+    const SignalQueue::Call call(m_writer.queue());
+    for (const int each : qAsConst(off))
+        m_writer.setActive(each, false);
+}
+
+/// The button stays as it is where the region finds no place.
+void RegionActivation::place(int region, Qt::Orientation axis)
+{
+    const QPointer<RegionActivation> self(this);
+    std::optional<QRect> placed;
+    {
+        const SignalQueue::Call call(m_writer.queue());
+        placed = placement(region, axis);
+        if (!placed)
+            m_display.setChecked(region, m_display.isActive(region));
+        else if (!placed->isNull())
+            write(region, {}, *placed);
+    }
+    if (self && placed && !placed->isNull())
+        completeTile(region, *placed);
+}
+
+/// With both partners of the corner active the tile is to be completed: the user is told, and the
+/// new region is placed again if the corner would have a place.
+void RegionActivation::completeTile(int region, const QRect& placed)
+{
+    const Question question
+        = toggleFor(arrangementMode(m_display.mode()), region, true, m_display.active()).question;
+    if (question == Question::None)
+        return;
+    const QPointer<RegionActivation> self(this);
+    const std::optional<Answer> answer = m_ask(question);
+    if (!self || answer != Answer::Accepted)
+        return;
+    const SignalQueue::Call call(m_writer.queue());
+    const bool isColumn = question == Question::ColumnOn;
+    // Either may have been switched off by another client meanwhile.
+    const bool areOn = isOn(isColumn ? 2 : 1) && isOn(region);
+    const std::optional<QRect> test = !areOn ? std::nullopt
+        : isColumn                           ? placement(3, Qt::Horizontal)
+                                             : placement(2, Qt::Vertical);
+    if (test && !test->isNull())
+        write(region, QRect(placed.topLeft(), QSize(1, 1)), placed);
+    else
+        m_writer.select(region);
+}
+
+/// Where a region may be activated, null for nowhere; leaves it selected. Region 0 has no
+/// predecessor and is never placed. Nothing when the camera does not tell or refuses a selection.
+std::optional<QRect> RegionActivation::placement(int region, Qt::Orientation axis)
+{
+    if (region < 1 || !m_display.has(region))
+        return QRect();
+    const auto geometryOf = [this](int each) {
+        return m_writer.select(each) ? m_camera.readGeometry() : std::nullopt;
+    };
+    const std::optional<QSize> sensor = m_camera.readSensorSize();
+    const std::optional<QRect> first = geometryOf(0);
+    const std::optional<QRect> before = first ? geometryOf(region - 1) : std::nullopt;
+    const std::optional<QRect> current = before ? geometryOf(region) : std::nullopt;
+    const std::optional<SizeRange> size = current ? m_camera.readSizeRange(axis) : std::nullopt;
+    if (!sensor || !size)
+        return std::nullopt;
+    const bool isRow = axis == Qt::Horizontal;
+    const PlacementRequest request{static_cast<double>(isRow ? sensor->width() : sensor->height()),
+                                   extentOf(*before, axis), extentOf(*current, axis),
+                                   extentOf(*first, across(axis)), *size};
+    const QRect placed = isRow ? placedInRow(request) : placedInColumn(request);
+    if (placed.isNull())
+        m_writer.log(Text::tr("Region%1 cannot be activated into a valid configuration due to the "
+                              "minimum size.")
+                         .arg(region));
+    return placed;
+}
+
+bool RegionActivation::isOn(int region)
+{
+    return m_writer.select(region) && m_camera.readOn().value_or(false);
+}
+
+void RegionActivation::write(int region, const QRect& first, const QRect& placed)
+{
+    m_writer.save(region, first);
+    m_writer.save(region, placed);
+}
+
+void RegionActivation::loadDefaults(const QColor& color)
+{
+    // From the question on, or a second one could be answered first. The page may go meanwhile.
+    const std::shared_ptr<QMutex> loadLock = m_loadLock;
+    const std::unique_lock<QMutex> lock(*loadLock, std::try_to_lock);
+    if (!lock)
+        return;
+    const QPointer<RegionActivation> self(this);
+    const std::optional<Answer> answer = m_ask(Question::LoadDefaults);
+    if (!self || answer != Answer::Accepted)
+        return;
+    const OverrideCursor cursor(Qt::WaitCursor);
+    const SignalQueue::Call call(m_writer.queue());
+    {
+        const RegionWriter::Loading loading(m_writer);
+        applyDefaults(color);
+    }
+    m_writer.readAll();
+    m_display.open(0);
+    m_writer.tellCurrent(0);
+}
+
+void RegionActivation::applyDefaults(const QColor& color)
+{
+    const std::optional<QSize> sensor = m_camera.readSensorSize();
+    for (int region = m_display.count() - 1; region >= 0; --region) {
+        m_writer.save(region, {});
+        m_writer.setActive(region, false);
+        if (m_writer.isCameraLost())
+            return;
+    }
+    m_display.open(0);
+    if (!sensor || !m_writer.select(0))
+        return;
+    const auto width = m_camera.readSizeRange(Qt::Horizontal);
+    const auto height = m_camera.readSizeRange(Qt::Vertical);
+    if (!width || !height)
+        return;
+    const DefaultLayout layout = defaultLayout(m_display.mode(),
+                                               {static_cast<double>(sensor->width()),
+                                                static_cast<double>(sensor->height()), *width,
+                                                *height, m_display.count()});
+    m_writer.log(layout.message);
+    for (auto it = layout.regions.cbegin(); it != layout.regions.cend(); ++it) {
+        m_writer.save(it.key(), it.value());
+        m_display.setColor(it.key(), color);
+        m_writer.tellColor(it.key(), color);
+    }
+}

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "multiregion/RegionQuestions.h"
+
+#include <QMutex>
+#include <QObject>
+#include <QRect>
+
+#include <functional>
+#include <memory>
+#include <optional>
+
+class RegionCamera;
+class RegionDisplay;
+class RegionWriter;
+
+/// Switches regions on and off in a way that the arrangement can satisfy, and loads the default
+/// layouts.
+class RegionActivation : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Nothing when by the time of the answer, whatever that was, the page is gone or hidden, or
+    /// the camera streams or is arranged otherwise.
+    using Ask = std::function<std::optional<Answer>(Question)>;
+
+    RegionActivation(RegionCamera& camera, RegionDisplay& display, RegionWriter& writer, Ask ask);
+
+    void toggle(int region, bool on);
+    /// @param color of the regions that are placed
+    void loadDefaults(const QColor& color);
+
+private:
+    void switchOff(int region, const struct Toggle& toggle);
+    void place(int region, Qt::Orientation axis);
+    void completeTile(int region, const QRect& placed);
+    std::optional<QRect> placement(int region, Qt::Orientation axis);
+    bool isOn(int region);
+    void write(int region, const QRect& first, const QRect& placed);
+    void applyDefaults(const QColor& color);
+
+    RegionCamera& m_camera;
+    RegionDisplay& m_display;
+    RegionWriter& m_writer;
+    const Ask m_ask;
+    const std::shared_ptr<QMutex> m_loadLock = std::make_shared<QMutex>();
+};

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "multiregion/RegionCamera.h"
+
+#include <QColor>
+#include <QVector>
+
+/// Where the camera's regions are shown, numbered from 0.
+class RegionDisplay
+{
+public:
+    virtual ~RegionDisplay() = default;
+
+    virtual int count() const = 0;
+    bool has(int region) const { return region >= 0 && region < count(); }
+
+    /// The region whose tab is open; none when there are no tabs.
+    virtual int current() const = 0;
+    virtual void open(int region) = 0;
+
+    /// The arrangement's name.
+    virtual QString mode() const = 0;
+    /// As the camera had it when last read; its button may stay checked without a place for it.
+    virtual bool isActive(int region) const = 0;
+    virtual void setActive(int region, bool active) = 0;
+    virtual void setChecked(int region, bool checked) = 0;
+    virtual QColor color(int region) const = 0;
+    virtual void setColor(int region, const QColor& color) = 0;
+
+    /// Shows the region, which is selected: its table reads on its own.
+    virtual void show(int region, const RegionState& state) = 0;
+    virtual void refreshTable(int region) = 0;
+
+    // All regions are read between these.
+    virtual void beginAll() = 0;
+    virtual void endAll() = 0;
+
+    QVector<bool> active() const
+    {
+        QVector<bool> result;
+        for (int region = 0; region < count(); ++region)
+            result << isActive(region);
+        return result;
+    }
+};

@@ -1,0 +1,174 @@
+#include "multiregion/RegionTabs.h"
+
+#include "multiregion/RegionLabelWidget.h"
+#include "multiregion/RegionTableWidget.h"
+#include "multiregion/label/MultiRubberBandLabel.h"
+#include "multiregion/rules/RegionButtonRules.h"
+#include "ui_MultiROIWidget.h"
+#include "widgets/RoundButton.h"
+
+#include <QSignalBlocker>
+#include <QTabBar>
+
+RegionTabs::RegionTabs(const Ui::MultiROIWidget& form, MultiRubberBandLabel* label)
+    : m_form(form)
+    , m_label(label)
+{
+    m_form.scrollRegionLabels->viewport()->setAutoFillBackground(false);
+    m_form.scrollRegionLabelsContents->setAutoFillBackground(false);
+    m_form.verticalLayout_6->setAlignment(Qt::AlignTop);
+    m_form.tabRegions->clear();
+    m_form.tabRegions->setMode(ExtendedTabWidget::TabMenu);
+}
+
+const RegionTabs::Tab& RegionTabs::add(RegionTableWidget* table, const QString& title,
+                                       const QColor& color)
+{
+    const int region = count();
+    QTabBar* const bar = m_form.tabRegions->tabBar();
+    Tab tab{new RoundButton(region, false, bar), table,
+            new RegionLabelWidget(region, QRect(), color, m_form.scrollRegionLabelsContents)};
+    tab.button->setObjectName(QStringLiteral("btnRegion%1").arg(region));
+    tab.button->setAccessibleName(title);
+    tab.label->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    m_form.verticalLayout_6->addWidget(tab.label);
+    tab.label->setVisible(false);
+    m_form.tabRegions->addTab(table, title);
+    bar->setTabButton(region, QTabBar::LeftSide, tab.button);
+    m_tabs.push_back(tab);
+    return m_tabs.back();
+}
+
+RegionTableWidget* RegionTabs::currentTable() const
+{
+    return has(current()) ? tab(current()).table : nullptr;
+}
+
+void RegionTabs::setMode(const QString& mode)
+{
+    m_mode = mode;
+    if (m_label)
+        m_label->setArrangementMode(mode);
+    updateButtons();
+}
+
+void RegionTabs::setStreaming(bool streaming)
+{
+    m_isStreaming = streaming;
+    updateButtons();
+}
+
+void RegionTabs::updateButtons()
+{
+    QVector<bool> checked;
+    for (const Tab& tab : m_tabs)
+        checked << (tab.button && tab.button->isChecked());
+    const auto states
+        = regionButtonStates(arrangementMode(m_mode), active(), checked, m_isStreaming);
+    for (int region = 0; region < count(); ++region) {
+        if (RoundButton* button = tab(region).button) {
+            button->setEnabled(states[region].enabled);
+            button->setToolTip(states[region].toolTip);
+        }
+    }
+}
+
+void RegionTabs::showColor(int region, const QColor& color)
+{
+    if (has(region))
+        tab(region).label->updateColor(region, color);
+}
+
+void RegionTabs::fitLabels()
+{
+    m_form.scrollRegionLabelsContents->layout()->activate();
+    m_form.scrollRegionLabels->setMinimumWidth(
+        m_form.scrollRegionLabelsContents->sizeHint().width());
+}
+
+QVector<ConstraintGroup> RegionTabs::groups() const
+{
+    QVector<int> shown;
+    for (int region = 0; region < count(); ++region) {
+        if (isActive(region))
+            shown << region;
+    }
+    return constraintGroups(arrangementMode(m_mode), shown);
+}
+
+int RegionTabs::current() const
+{
+    return m_form.tabRegions->currentIndex();
+}
+
+void RegionTabs::open(int region)
+{
+    m_form.tabRegions->setCurrentIndex(region);
+}
+
+bool RegionTabs::isActive(int region) const
+{
+    return m_label && has(region) && m_label->isRegionShown(region);
+}
+
+void RegionTabs::setActive(int region, bool active)
+{
+    if (m_label)
+        m_label->onRegionActivated(region, active);
+    setChecked(region, active);
+    tab(region).label->setVisible(active);
+    fitLabels();
+}
+
+void RegionTabs::setChecked(int region, bool checked)
+{
+    if (RoundButton* button = tab(region).button) {
+        const QSignalBlocker blocker(button);
+        button->setChecked(checked);
+    }
+    updateButtons();
+}
+
+QColor RegionTabs::color(int region) const
+{
+    return m_label ? m_label->regionColor(region) : QColor();
+}
+
+void RegionTabs::setColor(int region, const QColor& color)
+{
+    if (m_label)
+        m_label->onRegionColorChanged(region, color);
+    showColor(region, color);
+}
+
+void RegionTabs::show(int region, const RegionState& state)
+{
+    const Tab& tab = this->tab(region);
+    tab.table->refresh();
+    tab.label->setRegionGeometry(state.geometry);
+    tab.label->highlightIfSelected(current());
+    if (!m_label)
+        return;
+    m_label->setRegionLimits(region, state.limits);
+    m_label->onRegionGeometryChanged(region, state.geometry);
+}
+
+void RegionTabs::refreshTable(int region)
+{
+    tab(region).table->refresh();
+}
+
+void RegionTabs::beginAll()
+{
+    if (m_label)
+        m_label->blockSignals(true);
+}
+
+void RegionTabs::endAll()
+{
+    if (!m_label)
+        return;
+    m_label->blockSignals(false);
+    // What changed meanwhile, and the colours of conflicts.
+    m_label->announceRegions();
+}

@@ -1,0 +1,95 @@
+#pragma once
+
+#include "host/TabExtensionInterface.h"
+#include "multiregion/ModeWatch.h"
+#include "page/SignalQueue.h"
+
+#include <QColor>
+#include <QRect>
+#include <QSet>
+#include <QVariant>
+
+#include <functional>
+#include <memory>
+
+class CameraLink;
+class RegionCamera;
+class RegionDisplay;
+
+/// Writes the camera's regions and reads them back. Its signals come when all of a call is done.
+///
+/// What the camera does not tell stays as it is shown, and is read with readUntold().
+class RegionWriter : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Holds up the page for as long as what it answers lives.
+    using Hold = std::function<std::shared_ptr<void>()>;
+
+    RegionWriter(RegionCamera& camera, RegionDisplay& display, CameraLink& link, Hold hold);
+
+    /// While it lives the regions are written one after the other; they are not read as a whole.
+    class Loading
+    {
+    public:
+        explicit Loading(RegionWriter& writer);
+        ~Loading();
+        Q_DISABLE_COPY_MOVE(Loading)
+
+    private:
+        const QPointer<RegionWriter> m_writer;
+        std::shared_ptr<void> m_hold;
+    };
+
+    SignalQueue& queue() { return m_queue; }
+    ModeWatch& watch() { return m_watch; }
+
+    bool isCameraLost() const;
+
+    /// Logs when the camera refuses: it still reads and writes another region then.
+    bool select(int region);
+    /// Opens a region's tab to the camera: selects it and reads its table.
+    void open(int region);
+
+    /// @param rect sensor pixels; the null rectangle shrinks the region to the camera's minimum and
+    /// does not activate it
+    void save(int region, const QRect& rect);
+    void setActive(int region, bool on);
+    void setFeature(const QVector<int>& regions, const QString& name, const QVariant& value);
+
+    void readAll();
+    void readUntold();
+    /// The region that the camera has selected; with its mode, which another client may have
+    /// changed.
+    void readSelected(bool withMode);
+    /// Looks for regions that another client has switched, when that is due; asked once a second.
+    void lookIfDue();
+
+    void tellCurrent(int region);
+    void tellColor(int region, const QColor& color);
+    void log(const QString& text);
+
+signals:
+    void loggingMessage(ZebViewerLogCategory category, const QString& text);
+    void regionColorChanged(int regionNo, QColor color);
+    void currentRegionChanged(int regionNo);
+    void regionActivated(int regionNo, bool active);
+
+private:
+    bool selectUnlessLost(int region);
+    void returnToCurrent();
+    void readRegion(int region);
+    bool follow(int region);
+    void show(int region);
+    void tellActive(int region, bool active);
+
+    RegionCamera& m_camera;
+    RegionDisplay& m_display;
+    CameraLink& m_link;
+    const Hold m_hold;
+    SignalQueue m_queue{this};
+    ModeWatch m_watch;
+    bool m_isLoading = false;
+    QSet<int> m_untold;
+};

@@ -1,0 +1,33 @@
+#include "page/SignalQueue.h"
+
+#include <utility>
+
+SignalQueue::Call::Call(SignalQueue& queue)
+    : m_queue(queue)
+    , m_owner(queue.m_owner)
+{
+    ++m_queue.m_calls;
+}
+
+SignalQueue::Call::~Call()
+{
+    if (m_owner && --m_queue.m_calls == 0)
+        m_queue.deliver();
+}
+
+void SignalQueue::add(std::function<void()> emission)
+{
+    m_waiting.push_back(std::move(emission));
+    if (m_calls == 0)
+        deliver();
+}
+
+void SignalQueue::deliver()
+{
+    const QPointer<QObject> owner = m_owner;
+    while (owner && !m_waiting.empty()) {
+        const std::function<void()> emission = std::move(m_waiting.front());
+        m_waiting.pop_front();
+        emission();
+    }
+}
