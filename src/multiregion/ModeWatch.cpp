@@ -1,10 +1,12 @@
 #include "multiregion/ModeWatch.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace {
 
 constexpr int longestEcho = 10; ///< seconds
+constexpr int longestGap = 4;   ///< seconds between the reports of one echo
 constexpr int mostVainLooks = 8;
 
 } // namespace
@@ -25,22 +27,38 @@ bool ModeWatch::isLookDue()
             rest();
         return false;
     }
-    // After a look in vain all of its echo is waited for, a little longer each time: cameras need
-    // not tell it all at once.
-    if (m_vainLooks == 0 || (m_echo && m_reports > *m_echo))
+    if (m_vainLooks == 0)
         return true;
-    if (m_quietSeconds < m_vainLooks)
+    const bool isKnown = m_echoesAlike > 1;
+    if (isKnown && isEcho()) {
+        ++m_echoesAlike;
+        rest();
         return false;
-    const bool isEcho = m_reports == m_echo && m_reports >= m_selections;
-    if (!isEcho && m_vainLooks < mostVainLooks)
+    }
+    if (isKnown && m_reports > m_echo)
+        return true;
+    // All of the echo is waited for, a little longer each time: it need not come at once.
+    if (m_quietSeconds < (isKnown ? longestGap : std::min(m_vainLooks, longestGap)))
+        return false;
+    if (m_vainLooks < mostVainLooks)
         return true;
     rest();
     return false;
 }
 
+/// As many for a selection.
+bool ModeWatch::isEcho() const
+{
+    return m_reports * m_echoSelections == m_echo * m_selections;
+}
+
 void ModeWatch::lookBegins()
 {
-    m_echo = m_vainLooks > 0 ? std::optional<int>(m_reports) : std::nullopt;
+    if (m_vainLooks > 0) {
+        m_echoesAlike = isEcho() ? m_echoesAlike + 1 : 1;
+        m_echo = m_reports;
+        m_echoSelections = m_selections;
+    }
     m_reports = 0;
     m_selections = 0;
 }
@@ -56,5 +74,4 @@ void ModeWatch::rest()
 {
     m_reports = 0;
     m_vainLooks = 0;
-    m_echo.reset();
 }

@@ -1,13 +1,11 @@
 #pragma once
 
-#include <optional>
-
 /// Tells when to look at all regions for those that another client has switched.
 ///
 /// A camera may notify of a region's mode whenever another region is selected, as a look does for
 /// each. The echo within the selecting is told apart. What comes later is looked at, whatever it
-/// is; the echo of a look that found nothing is known for one when the next such look is followed
-/// by as many reports again, no fewer than it had selections.
+/// is, until three looks in vain were each followed by as many reports: that many are known for
+/// the echo of a look from then on, and more or fewer are news.
 class ModeWatch
 {
 public:
@@ -42,6 +40,7 @@ public:
     void looked(bool found);
 
 private:
+    bool isEcho() const;
     void rest();
 
     bool m_isSelecting = false;
@@ -49,7 +48,10 @@ private:
     int m_reports = 0;      ///< since the last look
     int m_reportsBefore = 0;
     int m_quietSeconds = 0;
-    int m_selections = 0;      ///< of the last look
-    int m_vainLooks = 0;       ///< in a row
-    std::optional<int> m_echo; ///< reports after the look before, which was in vain too
+    int m_selections = 0; ///< since the last look began
+    int m_vainLooks = 0;  ///< in a row
+    // What followed looks in vain, alike so many times:
+    int m_echo = 0;
+    int m_echoSelections = 0;
+    int m_echoesAlike = 0;
 };

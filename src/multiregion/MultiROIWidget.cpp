@@ -148,6 +148,11 @@ void MultiROIWidget::createLabel()
     connect(m_label, &Label::regionSelected, this, &MultiROIWidget::selectRegionTab);
     connect(m_label, &Label::labelGeometryChanged, this, &MultiROIWidget::onDragAreaResized);
     connect(m_label, &Label::loggingMessage, this, &MultiROIWidget::loggingMessage);
+    // What an open editor holds is written and read back before a drag begins.
+    connect(m_label, &Label::aboutToDrag, this, [this] {
+        if (RegionTableWidget* const table = m_tabs->currentTable())
+            table->finishEditing();
+    });
     const auto readSoon = [this] { InnerPage::readSoon({}); };
     connect(m_label, &Label::rubberChangeFinished, this, readSoon);
     connect(m_label, &Label::dragDropped, this, readSoon);
@@ -187,6 +192,7 @@ void MultiROIWidget::createRegions()
         if (state)
             m_label->setRegionLimits(region, state->limits);
     }
+    m_ui->tabRegions->setMode(ExtendedTabWidget::TabMenu);
     const int selected = m_regions.readSelected().value_or(0);
     m_tabs->open(isRegion(selected) ? selected : 0);
     m_label->selectRegion(m_tabs->current());

@@ -27,9 +27,10 @@ public:
     virtual QColor color(int region) const = 0;
     virtual void setColor(int region, const QColor& color) = 0;
 
-    /// Shows the region, which is selected: its table reads on its own.
-    virtual void show(int region, const RegionState& state) = 0;
-    virtual void refreshTable(int region) = 0;
+    // Of the region that is selected: its table reads on its own. False when the camera did not
+    // tell all of that.
+    virtual bool show(int region, const RegionState& state) = 0;
+    virtual bool refreshTable(int region) = 0;
 
     // All regions are read between these.
     virtual void beginAll() = 0;

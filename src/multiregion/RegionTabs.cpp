@@ -18,7 +18,6 @@ RegionTabs::RegionTabs(const Ui::MultiROIWidget& form, MultiRubberBandLabel* lab
     m_form.scrollRegionLabelsContents->setAutoFillBackground(false);
     m_form.verticalLayout_6->setAlignment(Qt::AlignTop);
     m_form.tabRegions->clear();
-    m_form.tabRegions->setMode(ExtendedTabWidget::TabMenu);
 }
 
 const RegionTabs::Tab& RegionTabs::add(RegionTableWidget* table, const QString& title,
@@ -141,21 +140,24 @@ void RegionTabs::setColor(int region, const QColor& color)
     showColor(region, color);
 }
 
-void RegionTabs::show(int region, const RegionState& state)
+bool RegionTabs::show(int region, const RegionState& state)
 {
-    const Tab& tab = this->tab(region);
-    tab.table->refresh();
-    tab.label->setRegionGeometry(state.geometry);
-    tab.label->highlightIfSelected(current());
-    if (!m_label)
-        return;
-    m_label->setRegionLimits(region, state.limits);
-    m_label->onRegionGeometryChanged(region, state.geometry);
+    const bool isTold = refreshTable(region);
+    RegionLabelWidget* const label = tab(region).label;
+    label->setRegionGeometry(state.geometry);
+    label->highlightIfSelected(current());
+    if (m_label) {
+        m_label->setRegionLimits(region, state.limits);
+        m_label->onRegionGeometryChanged(region, state.geometry);
+    }
+    return isTold;
 }
 
-void RegionTabs::refreshTable(int region)
+bool RegionTabs::refreshTable(int region)
 {
-    tab(region).table->refresh();
+    RegionTableWidget* const table = tab(region).table;
+    table->refresh();
+    return table->isEditing() || table->pendingFeatures().isEmpty();
 }
 
 void RegionTabs::beginAll()

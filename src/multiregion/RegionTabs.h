@@ -54,8 +54,8 @@ public:
     void setChecked(int region, bool checked) override;
     QColor color(int region) const override;
     void setColor(int region, const QColor& color) override;
-    void show(int region, const RegionState& state) override;
-    void refreshTable(int region) override;
+    bool show(int region, const RegionState& state) override;
+    bool refreshTable(int region) override;
     void beginAll() override;
     void endAll() override;
 

@@ -66,7 +66,7 @@ void RegionWriter::open(int region)
 {
     const SignalQueue::Call call(m_queue);
     if (select(region) && !m_isLoading)
-        m_display.refreshTable(region);
+        refreshTable(region);
 }
 
 void RegionWriter::save(int region, const QRect& rect)
@@ -187,7 +187,7 @@ void RegionWriter::readSelected(bool withMode)
     if (m_display.isActive(*region))
         show(*region);
     else
-        m_display.refreshTable(*region);
+        refreshTable(*region);
 }
 
 void RegionWriter::lookIfDue()
@@ -218,9 +218,14 @@ bool RegionWriter::follow(int region)
 
 void RegionWriter::show(int region)
 {
-    if (const std::optional<RegionState> state = m_camera.read())
-        m_display.show(region, *state);
-    else
+    const std::optional<RegionState> state = m_camera.read();
+    if (!state || !m_display.show(region, *state))
+        m_untold << region;
+}
+
+void RegionWriter::refreshTable(int region)
+{
+    if (!m_display.refreshTable(region))
         m_untold << region;
 }
 

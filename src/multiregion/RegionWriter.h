@@ -82,6 +82,7 @@ private:
     void readRegion(int region);
     bool follow(int region);
     void show(int region);
+    void refreshTable(int region);
     void tellActive(int region, bool active);
 
     RegionCamera& m_camera;

@@ -1,9 +1,11 @@
 #include "multiregion/MultiROIWidget.h"
 #include "DataTable.h"
+#include "TestEvents.h"
 #include "multiregion/MultiROIPage.h"
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QSpinBox>
 
 class MultiROIWidgetTest : public QObject
 {
@@ -136,12 +138,52 @@ private slots:
         }
         QCOMPARE(open.contradiction(), QString());
         QCOMPARE(open.tabs->currentIndex(), 0);
-        open.camera->failures().add("SubRegionHeight", sim::Operation::SetValue,
-                                    sim::Failure::refuse());
-        open.page->setFeatureValue(0, -1, "SubRegionHeight", 700);
-        QCOMPARE(open.log.size(), 4);
-        QCOMPARE(open.log[3],
-                 QString("SubRegion: 3, Saving feature 'SubRegionHeight' to value=700 failed."));
+    }
+
+    /// Six regions as tiles: rows and columns are those of the region, whatever master is named.
+    void keepsOtherRowsApart()
+    {
+        const MultiROIPage open("multi-region-6", "Tile");
+        open.loadDefaults();
+        open.page->saveNewRegionGeometry(4, {40, 1600, 160, 160});
+        open.page->saveNewRegionGeometry(5, {400, 1600, 160, 160});
+        const QRect first = open.onCamera(0);
+        open.page->setFeatureValue(5, 0, "SubRegionOffsetY", 1700);
+        QCOMPARE(open.onCamera(0), first);
+        QCOMPARE(open.onCamera(4).y(), 1700);
+        QCOMPARE(open.onCamera(5).y(), 1700);
+        open.settle();
+        QCOMPARE(open.contradiction(), QString());
+    }
+
+    /// What is being typed is written before a drag begins, which then has the new shape to go by.
+    void commitsBeforeADrag()
+    {
+        const MultiROIPage open("multi-region", "Horizontal");
+        open.loadDefaults();
+        QTableWidgetItem* const cell = open.cell(0, "SubRegionHeight");
+        QTableWidget* const table = cell->tableWidget();
+        table->scrollToItem(cell);
+        const QPoint center = table->visualItemRect(cell).center();
+        QTest::mouseClick(table->viewport(), Qt::LeftButton, {}, center);
+        QTest::mouseDClick(table->viewport(), Qt::LeftButton, {}, center);
+        auto* const field = table->findChild<QSpinBox*>("editorField");
+        QVERIFY(field);
+        field->selectAll();
+        QTest::keyClicks(field, "600");
+        const QPoint band
+            = QPoint(open.onCamera(0).center().x(), 300) * open.label->shownSize().height() / 1944;
+        press(open.label, band);
+        QCOMPARE(open.onCamera(3).height(), 600);
+        open.camera->journal().clear();
+        sendMouse(open.label, QEvent::MouseMove, band + QPoint(0, 10));
+        QCOMPARE(open.camera->journal().writes().size(), 0u);
+        release(open.label, band + QPoint(0, 10));
+        open.settle();
+        for (int region = 0; region < 4; ++region)
+            QCOMPARE(open.onCamera(region).height(), 600);
+        QVERIFY(open.onCamera(3).y() > 10);
+        QCOMPARE(open.contradiction(), QString());
     }
 
     /// The bounds that an editor offers follow the neighbours.
@@ -230,7 +272,6 @@ private slots:
         QCOMPARE(open.active(), QString("0123"));
     }
 
-    /// What cannot be selected is neither written nor shown with another region's values.
     void refusals()
     {
         MultiROIPage open("multi-region", "Free");
@@ -240,23 +281,12 @@ private slots:
         QCOMPARE(open.contradiction(), QString());
         open.camera->failures().clear();
         open.loadDefaults();
-        const QRect first = open.onCamera(0);
-        const QRect second = open.onCamera(1);
         open.camera->failures().add("SubRegionSelector", sim::Operation::SetValue,
                                     sim::Failure::refuse());
-        open.page->saveNewRegionGeometry(1, {0, 0, 160, 160});
-        open.switchOff(1);
         open.button(2)->click();
         QCOMPARE(open.active(), QString("0123"));
-        QCOMPARE(open.onCamera(0), first);
-        QCOMPARE(open.onCamera(1), second);
         QCOMPARE(open.contradiction(), QString());
-        QVERIFY(open.log.contains("Set 'SubRegionSelector' = 'Region1' failed!"));
-        QVERIFY(
-            open.log.contains("SubRegion: 1, Saving feature 'SubRegionMode' to value=Off failed."));
         open.camera->failures().clear();
-        open.page->setSubRegionSelector(4711);
-        QVERIFY(open.log.contains("Set 'SubRegionSelector' = 'Region4711' failed!"));
 
         auto* const enable = open.page->findChild<QCheckBox*>("chkMultipleRegionEnable");
         open.camera->failures().add("MultipleRegionEnable", sim::Operation::SetValue,
@@ -265,6 +295,138 @@ private slots:
         const bool isOn = enable->isChecked();
         enable->setChecked(!isOn);
         QCOMPARE(told.value(0), QVariantList{isOn});
+    }
+
+    /// A region that the camera does not have is not asked for, where that would be another one.
+    void noSuchRegion_data()
+    {
+        const DataTable row([](const QByteArray& model, const QString& line) {
+            const MultiROIPage open(model, "Free");
+            open.page->setSubRegionSelector(1);
+            open.page->setSubRegionSelector(4711);
+            QCOMPARE(open.log, QStringList(line));
+            QCOMPARE(open.camera->feature("SubRegionSelector").text().back(), '1');
+        });
+        row("entries", "multi-region", "Set 'SubRegionSelector' = 'Region4711' failed!");
+        row("numbers", "multi-region-integer", "Set 'SubRegionSelector' = 4711 failed!");
+    }
+    void noSuchRegion() { runRow(); }
+
+    /// A camera that does not notify may move regions as another arrangement is chosen.
+    void readsAfterTheArrangement()
+    {
+        const MultiROIPage open("multi-region", "Free");
+        open.loadDefaults();
+        open.camera->setNotifications(sim::NotificationSettings::off());
+        open.camera->forceAt("SubRegionOffsetX", 1, 16);
+        open.choose("Vertical");
+        QCOMPARE(open.contradiction(), QString());
+    }
+
+    /// A receiver that selects another region does not make the page read that one instead.
+    void selectsAgainAfterSignals()
+    {
+        const MultiROIPage open("multi-region", "Free");
+        open.loadDefaults();
+        open.switchOff(1);
+        open.camera->setNotifications(sim::NotificationSettings::off());
+        open.camera->forceAt("SubRegionMode", 1, "On");
+        connect(open.page.get(), &MultiROIWidget::regionActivated, open.page.get(),
+                [&open] { open.writeAsOther("SubRegionSelector", "Region0"); });
+        open.page->setFeatureValue(2, -1, "SubRegionWidth", 320);
+        QVERIFY(open.isOn(1));
+        QCOMPARE(open.contradiction(), QString());
+    }
+
+    /// Reads are refused for a while: what is shown stays, and in the end agrees with the camera.
+    void refusedReadsEnd()
+    {
+        MultiROIPage open("multi-region", "Free");
+        open.loadDefaults();
+        for (std::uint64_t seed = 1; seed <= 20; ++seed) {
+            open.camera->failures().add(sim::FailureInjector::anyFeature, sim::Operation::GetValue,
+                                        sim::Failure::refuse(),
+                                        sim::Occurrence::randomly(0.05, seed));
+            open.switchAsOther(int(seed % 4), seed % 3 == 0 ? "Off" : "On");
+            open.page->setFeatureValue(int(seed % 4), -1, "SubRegionWidth", int(160 + 8 * seed));
+            open.page->saveNewRegionGeometry(int(seed % 4), {int(seed) * 8, 8, 320, 240});
+            open.settle();
+            for (int region = 0; region < 4; ++region)
+                QVERIFY(open.label->regionRectangle(region).width() > 0);
+            open.camera->failures().clear();
+            open.settle();
+            QCOMPARE(open.contradiction(), QString());
+        }
+    }
+
+    /// The viewer may close the page, or take its label, in any receiver of its signals.
+    void endsInAnySignal_data()
+    {
+        using Action = std::function<void(const MultiROIPage&)>;
+        const DataTable row([](const Action& action) {
+            for (const bool isLabel : {false, true}) {
+                for (int signal = 0; signal < 5; ++signal) {
+                    MultiROIPage open("multi-region", "Horizontal");
+                    open.loadDefaults();
+                    MultiROIWidget* const page = open.page.get();
+                    bool isTold = false;
+                    const auto end = [&open, &isTold, isLabel] {
+                        isTold = true;
+                        if (isLabel)
+                            delete open.page->findChild<MultiRubberBandLabel*>();
+                        else
+                            open.page.reset();
+                    };
+                    using Page = MultiROIWidget;
+                    if (signal == 0)
+                        connect(page, &Page::loggingMessage, qApp, end);
+                    else if (signal == 1)
+                        connect(page, &Page::multipleRegionsEnabled, qApp, end);
+                    else if (signal == 2)
+                        connect(page, &Page::regionColorChanged, qApp, end);
+                    else if (signal == 3)
+                        connect(page, &Page::currentRegionChanged, qApp, end);
+                    else
+                        connect(page, &Page::regionActivated, qApp, end);
+                    Answers answers({"OK", "OK"});
+                    action(open);
+                    if (isLabel)
+                        open.settle();
+                    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+                    QCOMPARE(!open.page, isTold && !isLabel);
+                }
+            }
+        });
+        row("button", [](const MultiROIPage& open) { open.button(2)->click(); });
+        row("switch", [](const MultiROIPage& open) {
+            open.page->findChild<QCheckBox*>("chkMultipleRegionEnable")->click();
+        });
+        row("arrangement", [](const MultiROIPage& open) {
+            auto* const box = open.page->findChild<QComboBox*>();
+            QTest::keyClick(box, Qt::Key_Up);
+        });
+        row("refused tab", [](const MultiROIPage& open) {
+            open.camera->failures().add("SubRegionSelector", sim::Operation::SetValue,
+                                        sim::Failure::refuse());
+            QTest::keyClick(open.tabs->tabBar(), Qt::Key_Right);
+        });
+        row("refused value", [](const MultiROIPage& open) {
+            open.camera->failures().add("SubRegionWidth", sim::Operation::SetValue,
+                                        sim::Failure::refuse());
+            open.page->setFeatureValue(1, -1, "SubRegionWidth", 320);
+        });
+        row("defaults", [](const MultiROIPage& open) {
+            Answers yes({"Yes"});
+            open.page->loadDefaultConfiguration();
+        });
+    }
+    void endsInAnySignal() { runRow(); }
+
+    void manyTabs()
+    {
+        const MultiROIPage open("multi-region-256", "Free");
+        QVERIFY(open.page->sizeHint().width() <= 1000);
+        QVERIFY(open.tabs->cornerWidget(Qt::TopRightCorner)->isVisible());
     }
 
     /// Cameras that notify of each registration, and late, keep no page busy.

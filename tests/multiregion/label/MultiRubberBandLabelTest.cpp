@@ -205,7 +205,6 @@ private slots:
         QCOMPARE(tests.size(), 1);
         QCOMPARE(colors.size(), 3);
         QCOMPARE(m_label->shownColor(1), QColor("red"));
-        QCOMPARE(m_label->sharingRegions(0, Qt::Vertical), (QVector<int>{0, 1, 2}));
         // Nobody has to announce.
         {
             const QSignalBlocker blocker(m_label.get());
