@@ -3,6 +3,7 @@
 #include "Glib.h"
 
 #include <atomic>
+#include <chrono>
 #include <functional>
 #include <memory>
 #include <mutex>
@@ -28,8 +29,10 @@ public:
     void onLost(std::function<void()> told) { m_told = std::move(told); }
 
     /// Runs @p work(GError**) -> ZebErrorType with device and nodes to itself; an error that it
-    /// leaves makes the code. @p isPastCache: registers are read from the camera.
-    template <typename Work> ZebErrorType perform(bool isPastCache, Work&& work);
+    /// leaves makes the code. @p isPastCache: registers are read from the camera. Who is not
+    /// patient takes a camera for lost with which another thread is stuck.
+    template <typename Work>
+    ZebErrorType perform(bool isPastCache, Work&& work, bool isPatient = false);
 
     /// Whether a lost camera answers by now: reads @p node from it. May block for seconds.
     bool ask(ArvGcFeatureNode* node);
@@ -55,18 +58,23 @@ private:
     void setCache(bool isOn);
     ZebErrorType refusal() const { return isClosed() ? ZebErrorBadHandle : ZebErrorTimeout; }
 
-    std::mutex m_mutex;
+    std::timed_mutex m_mutex;
     std::atomic<State> m_state{Answering};
     GObjectPtr<ArvDevice> m_device;
     ArvGc* m_genicam; ///< the device's own
     std::function<void()> m_told;
 };
 
-template <typename Work> ZebErrorType DeviceLink::perform(bool isPastCache, Work&& work)
+template <typename Work>
+ZebErrorType DeviceLink::perform(bool isPastCache, Work&& work, bool isPatient)
 {
     if (m_state != Answering)
         return refusal();
-    const std::lock_guard lock(m_mutex);
+    std::unique_lock lock(m_mutex, std::defer_lock);
+    if (isPatient)
+        lock.lock();
+    else if (!lock.try_lock_for(std::chrono::milliseconds(500)))
+        lose();
     if (m_state != Answering) // by now: another call was waited for
         return refusal();
     if (isPastCache)

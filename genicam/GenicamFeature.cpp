@@ -185,11 +185,14 @@ bool GenicamFeature::look()
     if (m_type == ZebFeatureDataCommand || m_type == ZebFeatureDataRaw)
         return true;
     Value value;
-    const ZebErrorType result = m_link->perform(true, [&](GError** error) {
-        if (accessOf(m_node, error).isReadable)
-            value = readValue(m_node, error);
-        return ZebErrorSuccess;
-    });
+    const ZebErrorType result = m_link->perform(
+        true,
+        [&](GError** error) {
+            if (accessOf(m_node, error).isReadable)
+                value = readValue(m_node, error);
+            return ZebErrorSuccess;
+        },
+        true);
     if (result == ZebErrorTimeout || result == ZebErrorBadHandle)
         return false;
     m_watch->seen(m_place.index, value);

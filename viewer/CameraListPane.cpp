@@ -103,6 +103,11 @@ void CameraListPane::setOpenCamera(const QString& id, State state)
     const bool isNew = id != m_openCamera;
     m_openCamera = id;
     m_state = state;
+    if (!id.isEmpty()
+        && m_list->model()
+               ->match(m_list->model()->index(0, 0), IdRole, id, 1, Qt::MatchExactly)
+               .isEmpty())
+        add({id, id, tr("Opened by its address")});
     for (int row = 0; row < m_list->count(); ++row) {
         QListWidgetItem* item = m_list->item(row);
         const bool open = !id.isEmpty() && item->data(IdRole).toString() == id;
