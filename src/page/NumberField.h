@@ -1,10 +1,20 @@
 #pragma once
 
 #include "features/Reading.h"
-#include "page/FieldGrid.h"
 
 class QDoubleSpinBox;
 class QSpinBoxMouseEventFilter;
+
+/// The grid of a number field, which carries its feature's minimum and increment. Both count
+/// truncated to int.
+struct FieldGrid
+{
+    double minimum = 0.0;
+    double step = 1.0;
+};
+
+/// The grid point at or next above @p value; the value itself when the step is below 1.
+double snappedUp(double value, const FieldGrid& grid);
 
 /// A number field, the mouse on it, and what it shows of the camera. Nothing here but commit()
 /// makes the field emit. What the camera does not tell stays as it is shown: minimum and step are

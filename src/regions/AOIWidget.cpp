@@ -3,16 +3,15 @@
 #include "features/FeatureNames.h"
 #include "features/NumberConversion.h"
 #include "regions/image/AxisRules.h"
+#include "regions/image/PresetGuard.h"
 #include "regions/image/RegionAxis.h"
 #include "regions/label/RubberBandLabel.h"
 #include "ui_AOIWidget.h"
 #include "widgets/Theme.h"
 
 #include <QApplication>
-#include <QPointer>
 #include <QSignalBlocker>
 
-#include <array>
 #include <utility>
 
 namespace Name = FeatureNames;
@@ -20,36 +19,6 @@ namespace Name = FeatureNames;
 namespace {
 
 constexpr QColor regionColor(0, 100, 255, 255);
-
-/// Disables the preset buttons while one of them is written, and then restores what each of them
-/// was, and the focus, which a disabled button loses.
-class PresetGuard
-{
-public:
-    explicit PresetGuard(const Ui::AOIWidget& form)
-        : m_buttons{form.btnFull, form.btnHalf, form.btnQuarter}
-        , m_focus(QApplication::focusWidget())
-    {
-        for (std::size_t i = 0; i < m_buttons.size(); ++i) {
-            // The button's own flag: its parents may be disabled for reasons of their own.
-            m_wasEnabled[i] = !m_buttons[i]->testAttribute(Qt::WA_ForceDisabled);
-            m_buttons[i]->setEnabled(false);
-        }
-    }
-    ~PresetGuard()
-    {
-        for (std::size_t i = 0; i < m_buttons.size(); ++i)
-            m_buttons[i]->setEnabled(m_wasEnabled[i]);
-        if (m_focus)
-            m_focus->setFocus();
-    }
-    Q_DISABLE_COPY_MOVE(PresetGuard)
-
-private:
-    const std::array<QPushButton*, 3> m_buttons;
-    std::array<bool, 3> m_wasEnabled{};
-    QPointer<QWidget> m_focus;
-};
 
 } // namespace
 
@@ -172,11 +141,6 @@ void AOIWidget::write(const std::unique_ptr<RegionAxis>& axis, void (RegionAxis:
     checkConsistency();
 }
 
-void AOIWidget::OnSpinEditingFinished()
-{
-    readAllSoon();
-}
-
 void AOIWidget::commitTyping()
 {
     m_vertical->commit();
@@ -227,16 +191,6 @@ void AOIWidget::OnROIFull()
                     {m_ui->spinTop->minimum(), m_vertical->readMaximum()});
 }
 
-void AOIWidget::OnROIHalf()
-{
-    applyCentredPreset(0.5);
-}
-
-void AOIWidget::OnROIQuarter()
-{
-    applyCentredPreset(0.25);
-}
-
 void AOIWidget::applyCentredPreset(double factor)
 {
     if (m_ui)
@@ -249,7 +203,7 @@ void AOIWidget::applyPreset(const Span<double>& horizontal, const Span<double>& 
     if (isAtWork())
         return;
     {
-        const PresetGuard guard(*m_ui);
+        const PresetGuard guard{m_ui->btnFull, m_ui->btnHalf, m_ui->btnQuarter};
         OnSendGeometry(toInt(vertical.start), toInt(horizontal.start), toInt(horizontal.length),
                        toInt(vertical.length));
     }

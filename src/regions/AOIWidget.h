@@ -33,13 +33,13 @@ public slots:
     void OnSpinLeftValueChanged(double value);
     void OnSpinWidthValueChanged(double value);
     void OnSpinHeightValueChanged(double value);
-    void OnSpinEditingFinished();
+    void OnSpinEditingFinished() { readAllSoon(); }
     void OnSendGeometry(int top, int left, int width, int height);
     void OnUpdateGeometry(int top, int left, int width, int height);
     void OnRubberLabelClicked();
     void OnROIFull();
-    void OnROIHalf();
-    void OnROIQuarter();
+    void OnROIHalf() { applyCentredPreset(0.5); }
+    void OnROIQuarter() { applyCentredPreset(0.25); }
     void camIsStreaming(bool streaming);
     void onMultipleRegionsEnabled(bool multipleEnabled);
     void setBackgroundImage(std::shared_ptr<QPixmap> image);

@@ -2,7 +2,6 @@
 
 #include "features/FeatureNames.h"
 #include "regions/AutoROIConnections.h"
-#include "regions/automatic/AutoRegionCamera.h"
 #include "regions/automatic/AutoRegionForm.h"
 #include "regions/automatic/AutoRegionMessage.h"
 #include "regions/automatic/AutoRegionPicture.h"
@@ -76,9 +75,8 @@ void AutoROIWidget::createParts()
     m_camera->followImage(true);
     m_view = std::make_unique<AutoRegionView>(
         *m_camera,
-        AutoRegionView::Fields{NumberField(m_ui->spinTop), NumberField(m_ui->spinLeft),
-                               NumberField(m_ui->spinRight), NumberField(m_ui->spinBottom),
-                               NumberField(m_ui->spinWidth), NumberField(m_ui->spinHeight)});
+        AutoRegionView::Boxes{m_ui->spinTop, m_ui->spinLeft, m_ui->spinRight, m_ui->spinBottom,
+                              m_ui->spinWidth, m_ui->spinHeight});
     m_writer = std::make_unique<AutoRegionWriter>(*m_camera, *m_view);
     m_picture = std::make_unique<AutoRegionPicture>(*m_camera, *m_ui->gb_AutoROI->layout());
     m_message = std::make_unique<AutoRegionMessage>(*m_camera, m_ui->labelInvalidSettings);
@@ -87,36 +85,6 @@ void AutoROIWidget::createParts()
 }
 
 // Editing
-
-void AutoROIWidget::OnSpinTopValueChanged(double value)
-{
-    writeNumber(RegionNumber::Top, value);
-}
-
-void AutoROIWidget::OnSpinLeftValueChanged(double value)
-{
-    writeNumber(RegionNumber::Left, value);
-}
-
-void AutoROIWidget::OnSpinRightValueChanged(double value)
-{
-    writeNumber(RegionNumber::Right, value);
-}
-
-void AutoROIWidget::OnSpinBottomValueChanged(double value)
-{
-    writeNumber(RegionNumber::Bottom, value);
-}
-
-void AutoROIWidget::OnSpinWidthValueChanged(double value)
-{
-    writeNumber(RegionNumber::Width, value);
-}
-
-void AutoROIWidget::OnSpinHeightValueChanged(double value)
-{
-    writeNumber(RegionNumber::Height, value);
-}
 
 void AutoROIWidget::writeNumber(RegionNumber number, double value)
 {
@@ -228,11 +196,6 @@ void AutoROIWidget::OnSendGeometry(int top, int left, int width, int height)
     readAllSoon();
 }
 
-void AutoROIWidget::OnResetTrustedUpdate()
-{
-    m_isTrusted = false;
-}
-
 // Presets
 
 void AutoROIWidget::SetFullArea()
@@ -245,32 +208,24 @@ void AutoROIWidget::SetFullArea()
 
 void AutoROIWidget::OnROIFull()
 {
-    if (!m_ui)
-        return;
-    m_writer->presetFull();
-    finishPreset();
+    applyPreset([this] { m_writer->presetFull(); });
 }
 
 void AutoROIWidget::OnROIHalf()
 {
-    applyCentredPreset(0.5);
+    applyPreset([this] { m_writer->presetCentred(0.5); });
 }
 
 void AutoROIWidget::OnROIQuarter()
 {
-    applyCentredPreset(0.25);
+    applyPreset([this] { m_writer->presetCentred(0.25); });
 }
 
-void AutoROIWidget::applyCentredPreset(double factor)
+template <typename Preset> void AutoROIWidget::applyPreset(Preset&& preset)
 {
-    if (!m_ui)
+    if (!m_ui || isAtWork())
         return;
-    m_writer->presetCentred(factor);
-    finishPreset();
-}
-
-void AutoROIWidget::finishPreset()
-{
+    preset();
     if (m_camera->usesEdges())
         m_message->showEdges(m_view->shown());
     showRegion();
@@ -365,7 +320,7 @@ Changes AutoROIWidget::refresh(const Changes& changes)
         if (readsRegion || readsSwitches)
             refreshSwitches();
         // A region that is switched on is drawn where it is by now.
-        if ((readsRegion || readsSwitches) && !refreshRegion())
+        if ((readsRegion || readsSwitches) && !m_view->refresh())
             untold << Name::autoRegion;
         if (readsRegion)
             checkRegion();
@@ -374,10 +329,10 @@ Changes AutoROIWidget::refresh(const Changes& changes)
     m_picture->retryImage();
     if (changes.any(Name::exposureLimits + QStringList{Name::intensityControllerRegion}))
         untold += showEntries();
-    if (changes.any(Name::exposureLimits)) {
+    if (changes.any(Name::exposureLimits))
         untold += m_exposure->refresh();
+    if (!changes.isEmpty())
         fitColumns(*m_ui);
-    }
     enableControls(!isStreaming());
     return {false, untold + m_camera->takeUntold()};
 }
@@ -409,13 +364,6 @@ void AutoROIWidget::refreshSwitches()
     };
     show(Name::aoiEnable, m_ui->cbEnable);
     show(Name::aoiShowArea, m_ui->cbShowArea);
-}
-
-bool AutoROIWidget::refreshRegion()
-{
-    const bool isShown = m_view->refresh();
-    fitColumns(*m_ui);
-    return isShown;
 }
 
 QStringList AutoROIWidget::showEntries()

@@ -1,18 +1,17 @@
 #pragma once
 
 #include "page/InnerPage.h"
+#include "regions/automatic/AutoRegionCamera.h"
 
 #include <QPixmap>
 
 #include <memory>
 
-class AutoRegionCamera;
 class AutoRegionMessage;
 class AutoRegionView;
 class AutoRegionPicture;
 class AutoRegionWriter;
 class ExposureLimits;
-enum class RegionNumber;
 
 namespace Ui {
 class AutoROIWidget;
@@ -32,12 +31,12 @@ public:
     ~AutoROIWidget() override;
 
 public slots:
-    void OnSpinTopValueChanged(double value);
-    void OnSpinLeftValueChanged(double value);
-    void OnSpinRightValueChanged(double value);
-    void OnSpinBottomValueChanged(double value);
-    void OnSpinWidthValueChanged(double value);
-    void OnSpinHeightValueChanged(double value);
+    void OnSpinTopValueChanged(double value) { writeNumber(RegionNumber::Top, value); }
+    void OnSpinLeftValueChanged(double value) { writeNumber(RegionNumber::Left, value); }
+    void OnSpinRightValueChanged(double value) { writeNumber(RegionNumber::Right, value); }
+    void OnSpinBottomValueChanged(double value) { writeNumber(RegionNumber::Bottom, value); }
+    void OnSpinWidthValueChanged(double value) { writeNumber(RegionNumber::Width, value); }
+    void OnSpinHeightValueChanged(double value) { writeNumber(RegionNumber::Height, value); }
     void OnSpinEditingFinished();
     void OnEnableStateChanged(int state);
     void OnShowAreaStateChanged(int state);
@@ -49,7 +48,7 @@ public slots:
     void OnROIFull();
     void OnROIHalf();
     void OnROIQuarter();
-    void OnResetTrustedUpdate();
+    void OnResetTrustedUpdate() { m_isTrusted = false; }
     void OnSpinExpAutoMinChanged(double value);
     void OnSpinExpAutoMaxChanged(double value);
     void OnExpAutoTimebaseChanged(const QString& timebase);
@@ -73,14 +72,12 @@ private:
     void enableControls(bool enabled);
 
     void writeNumber(RegionNumber number, double value);
-    void applyCentredPreset(double factor);
-    void finishPreset();
+    template <typename Preset> void applyPreset(Preset&& preset);
     bool pumpEvents();
     void commitTyping();
     void onDragDropped();
 
     bool followImage(bool isSizeTold);
-    bool refreshRegion();
     void refreshSwitches();
     QStringList showEntries();
     void checkRegion();

@@ -42,8 +42,6 @@ private slots:
         QCOMPARE(p.writes().size(), writes);
     }
 
-    void leavesTypingAlone() { leaveTypingAlone(AOIPage("current"), "Width"); }
-
     /// The vertical increment becomes the step of the horizontal field.
     void refreshesByName()
     {
@@ -102,6 +100,46 @@ private slots:
         QCOMPARE(p.field("spinTop")->minimum(), 0.0);
         QCOMPARE(p.field("spinWidth")->minimum(), 16.0);
         QCOMPARE(p.label->sensorSize(), QSize(2592, 1944));
+    }
+
+    /// A colour camera's offsets have a range of their own.
+    void keepsARangeThatIsNotTold()
+    {
+        const AOIPage p("bayer");
+        const double largest = p.field("spinTop")->maximum();
+        p.camera->failures().add("OffsetY", sim::Operation::GetRange, sim::Failure::refuse());
+        p.refreshBy("OffsetY");
+        QCOMPARE(p.field("spinTop")->maximum(), largest);
+        p.camera->failures().clear();
+        p.camera->modify("OffsetY",
+                         [](auto& offset) { offset.between(sim::IntegerRange(0, 600, 2)); });
+        p.page->updateTimer(); // asks again without being told
+        QCOMPARE(p.field("spinTop")->maximum(), 600.0);
+    }
+
+    void takesTheSizesIncrement()
+    {
+        const AOIPage p("plain");
+        p.camera->modify("Width",
+                         [](auto& width) { width.between(sim::IntegerRange(32, 2592, 32)); });
+        p.refreshBy("Width");
+        QCOMPARE(p.field("spinWidth")->singleStep(), 32.0);
+    }
+
+    /// The fields cannot show such a region.
+    void tellsOfARegionBeyondTheSensor()
+    {
+        const AOIPage p("plain");
+        p.camera->force("OffsetX", 2048);
+        p.camera->force("Width", 1008);
+        p.camera->modify("OffsetX",
+                         [](auto& offset) { offset.between(sim::IntegerRange(0, 1024, 2)); });
+        p.settle();
+        QVERIFY(p.message()->isVisible());
+        QCOMPARE(text(p.label->region()), QString("0 2048 544 1944"));
+        p.camera->force("OffsetX", 512);
+        p.refreshBy("OffsetX");
+        QVERIFY(p.message()->isHidden());
     }
 
     void knowsItsFamily()

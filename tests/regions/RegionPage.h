@@ -146,23 +146,6 @@ inline std::shared_ptr<QPixmap> picture(Qt::GlobalColor color)
     return image;
 }
 
-/// Another client's write waits until the user has typed.
-template <typename Page> void leaveTypingAlone(const RegionPage<Page>& p, const char* feature)
-{
-    QVERIFY(QTest::qWaitForWindowActive(p.page.get()));
-    QDoubleSpinBox* const width = p.field("spinWidth");
-    width->setFocus();
-    width->selectAll();
-    QTest::keyClicks(width, "64");
-    p.camera->writeAsOtherClient(feature, std::int64_t{512});
-    p.settle();
-    QCOMPARE(width->cleanText(), QString("64"));
-    QCOMPARE(p.label->region().width, 512);
-    QVERIFY(p.writes().isEmpty());
-    QTest::keyClick(width, Qt::Key_Return);
-    QCOMPARE(p.value(feature), 64);
-}
-
 /// Calls every slot of a page's own, with default arguments, and shows it.
 inline void useAll(QWidget& page)
 {

@@ -14,9 +14,10 @@ constexpr std::size_t indexOf(RegionNumber number)
 
 } // namespace
 
-AutoRegionView::AutoRegionView(AutoRegionCamera& camera, const Fields& fields)
+AutoRegionView::AutoRegionView(AutoRegionCamera& camera, const Boxes& boxes)
     : m_camera(camera)
-    , m_fields(fields)
+    , m_fields{NumberField(boxes[0]), NumberField(boxes[1]), NumberField(boxes[2]),
+               NumberField(boxes[3]), NumberField(boxes[4]), NumberField(boxes[5])}
 {
 }
 

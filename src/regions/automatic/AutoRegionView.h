@@ -13,9 +13,9 @@ class AutoRegionView
 {
 public:
     /// In the order of RegionNumber.
-    using Fields = std::array<NumberField, regionNumbers.size()>;
+    using Boxes = std::array<QDoubleSpinBox*, regionNumbers.size()>;
 
-    AutoRegionView(AutoRegionCamera& camera, const Fields& fields);
+    AutoRegionView(AutoRegionCamera& camera, const Boxes& boxes);
 
     NumberField& field(RegionNumber number);
     const NumberField& field(RegionNumber number) const;
@@ -43,6 +43,6 @@ private:
     void refreshAxis(RegionNumber offset, RegionNumber size, RegionNumber farEdge, qint64 limit);
 
     AutoRegionCamera& m_camera;
-    Fields m_fields;
+    std::array<NumberField, regionNumbers.size()> m_fields;
     std::array<bool, regionNumbers.size()> m_isLocked{};
 };

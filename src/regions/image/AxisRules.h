@@ -1,7 +1,7 @@
 #pragma once
 
 #include "features/Reading.h"
-#include "page/FieldGrid.h"
+#include "page/NumberField.h"
 #include "sensor/Span.h"
 
 class QString;

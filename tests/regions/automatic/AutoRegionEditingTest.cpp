@@ -99,21 +99,6 @@ private slots:
     }
     void writesDrags() { runRow(); }
 
-    /// Being hidden ends a drag and confirms what was typed.
-    void isDeletedInMidAction()
-    {
-        AutoROIPage dragged("aoi");
-        press(dragged.label, dragged.at(1296, 972));
-        dragged.page.reset();
-        QVERIFY(dragged.writes().isEmpty());
-        AutoROIPage p("aoi");
-        QVERIFY(QTest::qWaitForWindowActive(p.page.get()));
-        p.field("spinWidth")->setFocus();
-        QTest::keyClicks(p.field("spinWidth"), "1");
-        p.page.reset();
-        QVERIFY(p.writes().isEmpty());
-    }
-
     void dropsDrags()
     {
         const AutoROIPage p("aoi");

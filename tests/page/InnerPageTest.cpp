@@ -1,0 +1,215 @@
+#include "page/InnerPage.h"
+
+#include "DataTable.h"
+#include "WheelEvent.h"
+#include "regions/RegionPage.h"
+
+namespace {
+
+/// Reads nothing, and tells what it was to read.
+class Probe : public InnerPage
+{
+public:
+    explicit Probe(const sim::Camera& camera)
+        : InnerPage(featureList(camera), nullptr)
+    {
+    }
+
+    using InnerPage::busy;
+    using InnerPage::readAllSoon;
+    using InnerPage::readNext;
+    using InnerPage::readSoon;
+
+    QList<Changes> refreshes;
+    Changes untold;
+    bool isDragging = false;
+
+protected:
+    bool isAtWork() const override { return isDragging; }
+    Changes refresh(const Changes& changes) override
+    {
+        refreshes << changes;
+        return untold;
+    }
+    void onPaletteChanged(QEvent*) override { }
+};
+
+struct ProbePage
+{
+    ProbePage()
+    {
+        page.show();
+        page.updateTimer();
+        page.refreshes.clear();
+    }
+
+    const MessageHandlerGuard guard;
+    std::unique_ptr<sim::Camera> camera = sim::createCamera("aoi");
+    Probe page{*camera};
+};
+
+/// Runs a check on each region page.
+template <typename Check> void forBothPages(const Check& check)
+{
+    AOIPage image("aoi");
+    check(image, QString());
+    AutoROIPage automatic("aoi");
+    check(automatic, QString("AutofunctionAOI"));
+}
+
+template <typename Page> void typeWidth(const RegionPage<Page>& p, const QString& keys)
+{
+    QVERIFY(QTest::qWaitForWindowActive(p.page.get()));
+    p.field("spinWidth")->setFocus();
+    p.field("spinWidth")->selectAll();
+    QTest::keyClicks(p.field("spinWidth"), keys);
+}
+
+} // namespace
+
+class InnerPageTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void keepsWhatIsUntold()
+    {
+        ProbePage p;
+        p.page.untold = {false, {"Width"}};
+        p.page.OnFeatureChanged("Height", {});
+        p.page.updateTimer();
+        p.page.untold = {};
+        p.page.updateTimer();
+        p.page.updateTimer();
+        QCOMPARE(p.page.refreshes.size(), 3);
+        QCOMPARE(p.page.refreshes[0].names, QStringList("Height"));
+        QVERIFY(!p.page.refreshes[0].all);
+        QCOMPARE(p.page.refreshes[1].names, QStringList("Width"));
+        QVERIFY(p.page.refreshes[2].isEmpty());
+    }
+
+    void waitsWhileAtWork()
+    {
+        ProbePage p;
+        p.page.isDragging = true;
+        p.page.OnFeatureChanged("Width", {});
+        p.page.updateTimer();
+        p.page.isDragging = false;
+        {
+            const auto outer = p.page.busy();
+            const auto inner = p.page.busy();
+            p.page.readNext({"Height"});
+            p.page.updateTimer();
+        }
+        QVERIFY(p.page.refreshes.isEmpty());
+        QTRY_COMPARE_WITH_TIMEOUT(p.page.refreshes.size(), 1, 100);
+        QCOMPARE(p.page.refreshes[0].names, (QStringList{"Width", "Height"}));
+    }
+
+    void readsSoon()
+    {
+        ProbePage p;
+        p.page.readSoon({"Width"});
+        p.page.readAllSoon();
+        QTRY_COMPARE_WITH_TIMEOUT(p.page.refreshes.size(), 1, 400);
+        QVERIFY(p.page.refreshes[0].all);
+    }
+
+    /// Another client's write waits until the user has typed.
+    void leavesTypingAlone()
+    {
+        forBothPages([](auto& p, const QString& family) {
+            typeWidth(p, "64");
+            p.camera->writeAsOtherClient((family + "Width").toStdString(), std::int64_t{512});
+            p.settle();
+            QCOMPARE(p.field("spinWidth")->cleanText(), QString("64"));
+            QCOMPARE(p.label->region().width, 512);
+            QVERIFY(p.writes().isEmpty());
+            QTest::keyClick(p.field("spinWidth"), Qt::Key_Return);
+            QCOMPARE(p.value(family + "Width"), 64);
+        });
+    }
+
+    /// Nothing is written from the press to the release, which counts with what was typed.
+    void writesTypingBeforeADrag()
+    {
+        forBothPages([](auto& p, const QString& family) {
+            p.click("btnHalf");
+            p.settle();
+            p.camera->journal().clear();
+            typeWidth(p, "640");
+            press(p.label, p.band().topLeft() + QPoint(10, 10));
+            QCOMPARE(p.writes(), QStringList(family + "Width 640"));
+            QVERIFY(p.label->isDragging());
+            p.page->OnSpinHeightValueChanged(64);
+            QCOMPARE(p.writes().size(), 1);
+            release(p.label, p.band().topLeft() + QPoint(10, 10));
+            QCOMPARE(p.value(family + "Width"), 640);
+        });
+    }
+
+    /// The camera tells of nothing, and the next tick is far.
+    void readsSoonAfterADrag()
+    {
+        forBothPages([](auto& p, const QString& family) {
+            p.click("btnQuarter");
+            QTest::qWait(250);
+            p.camera->setNotifications(sim::NotificationSettings::off());
+            p.comeBack();
+            const QPoint middle = p.band().center();
+            drag(p.label, middle, middle + QPoint(9, 9));
+            p.camera->force((family + "Width").toStdString(), std::int64_t{320});
+            QTRY_COMPARE_WITH_TIMEOUT(p.field("spinWidth")->value(), 320.0, 600);
+        });
+    }
+
+    void followsTheAccess()
+    {
+        forBothPages([](auto& p, const QString& family) {
+            for (const bool isLocked : {true, false}) {
+                p.camera->modify((family + "Width").toStdString(), [=](auto& width) {
+                    width.writableIf([=](const sim::State&) { return !isLocked; });
+                });
+                p.refreshBy(qPrintable(family + "Width"));
+                QCOMPARE(p.field("spinWidth")->isEnabled(), !isLocked);
+                QVERIFY(p.field("spinHeight")->isEnabled());
+                QCOMPARE(p.label->isEnabled(), !isLocked);
+                QCOMPARE(p.template find<QPushButton>("btnFull")->isEnabled(), !isLocked);
+            }
+        });
+    }
+
+    void guardsFieldsAgainstTheWheel()
+    {
+        forBothPages([](auto& p, const QString&) {
+            QVERIFY(QTest::qWaitForWindowActive(p.page.get()));
+            int fields = 0;
+            for (auto* const field :
+                 p.page->template findChildren<QWidget*>(QRegularExpression("spin|combo")))
+                if (field->isVisible() && ++fields) {
+                    sendWheel(field);
+                    QVERIFY2(!field->hasFocus(), qPrintable(field->objectName()));
+                }
+            QVERIFY(fields >= 4);
+            QVERIFY(p.writes().isEmpty());
+        });
+    }
+
+    /// Being hidden ends a drag and confirms what was typed.
+    void isDeletedInMidAction()
+    {
+        for (const bool isDragging : {true, false})
+            forBothPages([isDragging](auto& p, const QString&) {
+                if (isDragging)
+                    press(p.label, p.band().center());
+                else
+                    typeWidth(p, "1");
+                p.page.reset();
+                QVERIFY(p.writes().isEmpty());
+            });
+    }
+};
+
+QTEST_MAIN(InnerPageTest)
+
+#include "InnerPageTest.moc"

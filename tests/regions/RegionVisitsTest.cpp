@@ -1,0 +1,304 @@
+#include "DataTable.h"
+#include "regions/RegionPage.h"
+#include "regions/automatic/AutoRegionRules.h"
+
+#include "simulator/State.h"
+
+#include <random>
+
+using sim::NotificationSettings;
+using sim::Operation;
+
+namespace {
+
+/// Left or top, and so on, with the feature behind each.
+using Fields = QVector<QPair<QString, QString>>;
+
+bool tellsEdges(const sim::Camera& camera)
+{
+    return camera.has("DSPSubregionLeft");
+}
+
+Fields fieldsOf(const AOIPage&)
+{
+    return {{"spinLeft", "OffsetX"},
+            {"spinTop", "OffsetY"},
+            {"spinWidth", "Width"},
+            {"spinHeight", "Height"}};
+}
+
+Fields fieldsOf(const AutoROIPage& p)
+{
+    const QString dsp = "DSPSubregion";
+    if (tellsEdges(*p.camera))
+        return {{"spinLeft", dsp + "Left"},
+                {"spinTop", dsp + "Top"},
+                {"spinRight", dsp + "Right"},
+                {"spinBottom", dsp + "Bottom"}};
+    const QString family
+        = p.camera->has("AutofunctionAOIWidth") ? "AutofunctionAOI" : "AutoModeRegion";
+    return {{"spinLeft", family + "OffsetX"},
+            {"spinTop", family + "OffsetY"},
+            {"spinWidth", family + "Width"},
+            {"spinHeight", family + "Height"}};
+}
+
+/// What other clients change of the image, and the sensor area of the label for it.
+QString imageChange(const AOIPage& p, int which)
+{
+    return p.camera->has("BinningVertical") ? which ? "BinningHorizontal" : "BinningVertical"
+                                            : QString();
+}
+QString imageChange(const AutoROIPage&, int which)
+{
+    return which ? "Width" : "Height";
+}
+
+/// The region on the label, by what the camera has.
+SensorRegion drawn(const AOIPage& p)
+{
+    return p.onCamera();
+}
+
+SensorRegion drawn(const AutoROIPage& p)
+{
+    const QSize sensor = p.label->sensorSize();
+    const RegionLimits limits{sensor.width(), sensor.height()};
+    QVector<double> bound;
+    for (const auto& field : fieldsOf(p))
+        bound << p.value(field.second);
+    if (tellsEdges(*p.camera))
+        return drawnByEdges({spanBetween(bound[0], bound[2]), spanBetween(bound[1], bound[3])},
+                            limits);
+    const QPointF origin(p.value("AutoModeRegionOffsetX"), p.value("AutoModeRegionOffsetY"));
+    return drawnBySize({{bound[0], bound[2]}, {bound[1], bound[3]}}, origin, limits);
+}
+
+/// What a person or another client does next with a page, and what holds afterwards.
+template <typename Page> class Visitor
+{
+public:
+    Visitor(RegionPage<Page>& page, unsigned seed)
+        : m_page(page)
+        , m_fields(fieldsOf(page))
+        , m_random(seed)
+    {
+    }
+
+    /// Whether a strict camera has to take all that the page writes.
+    bool act()
+    {
+        static const char* const presets[]{"btnFull", "btnHalf", "btnQuarter"};
+        switch (below(12)) {
+        case 0:
+            m_page.click(presets[below(3)]);
+            break;
+        case 1:
+        case 2: {
+            QDoubleSpinBox* const field = m_page.field(m_fields[below(4)].first);
+            field->setValue(below(int(field->maximum()) + 1));
+            return !tellsEdges(*m_page.camera); // edges may be typed across each other
+        }
+        case 3:
+            writeAsOther(m_fields[below(4)].second, 4 * below(500));
+            break;
+        case 4: {
+            const QString feature = imageChange(m_page, below(2));
+            if (feature.startsWith("Binning"))
+                writeAsOther(feature, 1 + below(2));
+            else if (!feature.isEmpty())
+                writeAsOther(feature, 64 + below(200) * 8);
+            break;
+        }
+        case 5:
+            m_page.comeBack();
+            break;
+        case 6:
+            resize();
+            break;
+        default:
+            dragSomewhere();
+        }
+        return true;
+    }
+
+    void compare() const
+    {
+        for (const auto& [field, feature] : m_fields)
+            QCOMPARE(int(m_page.field(field)->value()), m_page.value(feature));
+        QCOMPARE(text(m_page.label->region()), text(drawn(m_page)));
+        const QSize picture = m_page.label->pixmap(Qt::ReturnByValue).size();
+        QCOMPARE(m_page.band(),
+                 bandForRegion(drawn(m_page),
+                               {m_page.label->size(), m_page.label->sensorSize(), picture}));
+        if (std::is_same_v<Page, AOIWidget>)
+            QCOMPARE(m_page.label->sensorSize(),
+                     QSize(m_page.value("WidthMax"), m_page.value("HeightMax")));
+    }
+
+private:
+    int below(int limit) { return std::uniform_int_distribution<int>(0, limit - 1)(m_random); }
+
+    /// Of a camera that tells nothing, the page shows changes when it comes back.
+    void writeAsOther(const QString& feature, std::int64_t value)
+    {
+        m_page.camera->writeAsOtherClient(feature.toStdString(), value);
+        if (m_page.isSilent())
+            m_page.comeBack();
+    }
+
+    QVector<double> shown() const
+    {
+        QVector<double> values;
+        for (const auto& field : m_fields)
+            values << m_page.field(field.first)->value();
+        return values;
+    }
+
+    void resize() { m_page.resize(460 + below(100), 400 + below(400)); }
+
+    /// By any edge, corner or the inside; while the page's size changes now and then. Nothing is
+    /// written before the end, and nothing moves by itself.
+    void dragSomewhere()
+    {
+        m_page.resize(m_page.page->width(), m_page.page->height()); // comes to rest
+        const QRect band = m_page.band();
+        const int xs[]{band.left() + 1, band.center().x(), band.right() - 2};
+        const int ys[]{band.top() + 1, band.center().y(), band.bottom() - 2};
+        press(m_page.label, {xs[below(3)], ys[below(3)]});
+        const QStringList writes = m_page.writes();
+        QPoint pointer;
+        for (int i = 0; i < 3; ++i) {
+            if (below(20) == 0)
+                resize();
+            const QSize size = m_page.label->size();
+            pointer = {below(size.width() + 60) - 30, below(size.height() + 60) - 30};
+            sendMouse(m_page.label, QEvent::MouseMove, pointer);
+            const QVector<double> before = shown();
+            m_page.settle();
+            QCOMPARE(shown(), before);
+            QCOMPARE(m_page.label->size(), size);
+        }
+        QCOMPARE(m_page.writes(), writes);
+        release(m_page.label, pointer);
+    }
+
+    RegionPage<Page>& m_page;
+    const Fields m_fields;
+    std::mt19937 m_random;
+};
+
+/// Lets a visitor act until something no longer holds.
+template <typename Page>
+void visit(const QByteArray& model, const NotificationSettings& notifications, int times,
+           const typename RegionPage<Page>::Preparation& prepare = {})
+{
+    RegionPage<Page> page(model, prepare);
+    page.camera->setNotifications(notifications);
+    Visitor<Page> visitor(page, 7);
+    for (int i = 0; i < times && !QTest::currentTestFailed(); ++i) {
+        page.camera->journal().clear();
+        const bool takesAll = visitor.act();
+        QVERIFY2(!takesAll || !page.anyRefused(), qPrintable(page.writes().join(", ")));
+        page.settle();
+        visitor.compare();
+    }
+}
+
+/// Now and then a read is refused; two ticks after the last refusal all is well.
+template <typename Page> void visitWithRefusals(const QByteArray& model, unsigned seed)
+{
+    RegionPage<Page> page(model);
+    Visitor<Page> visitor(page, seed);
+    const auto reads = sim::Operations(Operation::GetValue) | Operation::GetRange
+        | Operation::GetIncrement | Operation::IsReadable | Operation::IsWritable;
+    page.camera->failures().add("*", reads, sim::Failure::refuse(),
+                                sim::Occurrence::randomly(0.02, seed));
+    for (int i = 0; i < 8; ++i) {
+        visitor.act();
+        page.settle();
+    }
+    page.camera->failures().clear();
+    page.settle();
+    page.settle();
+    visitor.compare();
+}
+
+/// Offsets and sizes with ranges that do not follow each other, of which the camera still refuses
+/// what reaches beyond the sensor.
+void fixRanges(sim::Camera& camera)
+{
+    const auto fix = [&camera](const char* name, const char* other, const char* maximum,
+                               const sim::IntegerRange& range) {
+        camera.modify(name, [=](sim::FeatureDescription& feature) {
+            feature.between(range).accepting([=](const sim::State& state, const sim::Value& value) {
+                return value.toInteger() + state.integer(other) <= state.integer(maximum)
+                    ? ZebErrorSuccess
+                    : ZebErrorBadParameter;
+            });
+        });
+    };
+    fix("OffsetX", "Width", "WidthMax", {0, 2584, 4});
+    fix("Width", "OffsetX", "WidthMax", {8, 2592, 8});
+    fix("OffsetY", "Height", "HeightMax", {0, 1936, 2});
+    fix("Height", "OffsetY", "HeightMax", {8, 1944, 2});
+}
+
+} // namespace
+
+class RegionVisitsTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    /// Most cameras refuse what is off their grid, or reaches out of the image or the sensor with
+    /// what they have, at any step of the way.
+    void staysWithTheCamera_data()
+    {
+        const auto synchronous = NotificationSettings::synchronous();
+        const auto asynchronous = NotificationSettings::asynchronous(std::chrono::milliseconds(1));
+        const auto silent = NotificationSettings::off();
+        const DataTable row([](const std::function<void()>& visiting) { visiting(); });
+        const auto image = [&](const char* name, const char* model, const auto& notifications,
+                               const AOIPage::Preparation& prepare = {}) {
+            row(name, [=] { visit<AOIWidget>(model, notifications, 250, prepare); });
+        };
+        image("image, current, synchronous", "current", synchronous);
+        image("image, current, asynchronous", "current", asynchronous);
+        image("image, current, silent", "current", silent);
+        image("image, coarse", "coarse", synchronous);
+        image("image, bayer", "bayer", synchronous);
+        image("image, fixed ranges", "plain", synchronous, fixRanges);
+        const auto automatic = [&](const QByteArray& model, const auto& notifications) {
+            row("automatic, " + model, [=] { visit<AutoROIWidget>(model, notifications, 160); });
+        };
+        for (const char* model : {"aoi", "aoi-plain", "automode-fixed", "automode-dynamic", "dsp",
+                                  "mixed-aoi-automode"})
+            automatic(model, synchronous);
+        automatic("current", asynchronous);
+        for (const char* model : {"automode-dynamic", "dsp"})
+            automatic(model, silent);
+    }
+    void staysWithTheCamera() { runRow(); }
+
+    void outlivesRefusals_data()
+    {
+        const DataTable row([](const QByteArray& model, bool isAutomatic) {
+            for (unsigned seed = 1; seed <= 20 && !QTest::currentTestFailed(); ++seed) {
+                isAutomatic ? visitWithRefusals<AutoROIWidget>(model, seed)
+                            : visitWithRefusals<AOIWidget>(model, seed);
+                if (QTest::currentTestFailed())
+                    qWarning("seed %u", seed);
+            }
+        });
+        for (const char* model : {"current", "bayer"})
+            row(QByteArray("image, ") + model, model, false);
+        for (const char* model : {"aoi", "automode-fixed", "dsp"})
+            row(QByteArray("automatic, ") + model, model, true);
+    }
+    void outlivesRefusals() { runRow(); }
+};
+
+QTEST_MAIN(RegionVisitsTest)
+
+#include "RegionVisitsTest.moc"
