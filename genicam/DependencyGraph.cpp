@@ -22,8 +22,8 @@ void collect(ArvGcFeatureNode* node, const Selectors& selectors, Nodes& nodes)
         if (isDependency(type))
             collect(linked, selectors, nodes);
     }
-    for (ArvGcFeatureNode* entry : entriesOf(node))
-        collect(entry, selectors, nodes);
+    for (const Entry& entry : entriesOf(node))
+        collect(entry.node, selectors, nodes);
     if (const auto found = selectors.find(node); found != selectors.end()) {
         for (ArvGcFeatureNode* selector : found->second)
             collect(selector, selectors, nodes);

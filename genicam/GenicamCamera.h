@@ -14,6 +14,10 @@ typedef struct _ArvDevice ArvDevice;
 
 namespace genicam {
 
+/// Criticals and warnings of GLib so far: faults of the bridge, the library or a description. They
+/// are printed, and end nothing.
+int criticalCount();
+
 class ChangeWatch;
 class DeviceLink;
 class GenicamFeature;

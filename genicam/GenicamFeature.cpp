@@ -1,8 +1,10 @@
 #include "GenicamFeature.h"
 
+#include "NodeWriting.h"
+
 #include <algorithm>
-#include <cstring>
 #include <tuple>
+#include <utility>
 
 namespace genicam {
 
@@ -17,45 +19,6 @@ constexpr std::uint64_t largestRegister = 1 << 24;
 template <typename Number>
 constexpr ZebFeatureDataType typeFor
     = std::is_same_v<Number, double> ? ZebFeatureDataFloat : ZebFeatureDataInt;
-
-void setNumber(ArvGcFeatureNode* node, std::int64_t value, GError** error)
-{
-    arv_gc_integer_set_value(ARV_GC_INTEGER(node), value, error);
-}
-
-void setNumber(ArvGcFeatureNode* node, double value, GError** error)
-{
-    arv_gc_float_set_value(ARV_GC_FLOAT(node), value, error);
-}
-
-std::string text(const char* source)
-{
-    return source ? source : "";
-}
-
-ZebFeatureVisibilityType visibilityOf(ArvGcFeatureNode* node)
-{
-    switch (arv_gc_feature_node_get_visibility(node)) {
-    case ARV_GC_VISIBILITY_INVISIBLE:
-        return ZebFeatureVisibilityInvisible;
-    case ARV_GC_VISIBILITY_GURU:
-        return ZebFeatureVisibilityGuru;
-    case ARV_GC_VISIBILITY_EXPERT:
-        return ZebFeatureVisibilityExpert;
-    default:
-        return ZebFeatureVisibilityBeginner;
-    }
-}
-
-bool hasRegister(ArvGcFeatureNode* node)
-{
-    if (ARV_IS_GC_REGISTER_NODE(node))
-        return true;
-    const std::vector<Link> links = linksOf(node);
-    return std::any_of(links.begin(), links.end(), [](const Link& link) {
-        return link.first == ARV_GC_PROPERTY_NODE_TYPE_P_VALUE && hasRegister(link.second);
-    });
-}
 
 /// The second half of the two-call pattern; the first when there is no buffer.
 template <typename Item>
@@ -80,20 +43,18 @@ GenicamFeature::GenicamFeature(ArvGcFeatureNode* node, Place place,
     , m_link(std::move(link))
     , m_watch(std::move(watch))
     , m_type(typeOf(node))
-    , m_name(text(arv_gc_feature_node_get_name(node)))
-    , m_displayName(text(arv_gc_feature_node_get_display_name(node)))
+    , m_name(textOf(arv_gc_feature_node_get_name(node)))
+    , m_displayName(textOf(arv_gc_feature_node_get_display_name(node)))
     , m_unit(unitOf(node))
     , m_representation(representationOf(node))
-    , m_toolTip(text(arv_gc_feature_node_get_tooltip(node)))
-    , m_description(text(arv_gc_feature_node_get_description(node)))
+    , m_toolTip(textOf(arv_gc_feature_node_get_tooltip(node)))
+    , m_description(textOf(arv_gc_feature_node_get_description(node)))
     , m_visibility(visibilityOf(node))
     , m_isBackedByCamera(hasRegister(node))
     , m_entries(entriesOf(node))
 {
     if (m_displayName.empty())
         m_displayName = m_name;
-    for (ArvGcFeatureNode* entry : m_entries)
-        m_entryNames.push_back(text(arv_gc_feature_node_get_name(entry)));
 }
 
 // Reading
@@ -151,11 +112,11 @@ ZebErrorType GenicamFeature::GetValue(char* buffer, std::uint32_t& length)
     ZebErrorType result = readPlain(ZebFeatureDataEnum, number);
     if (result == ZebErrorSuccess) {
         result = read(OfEntries, [&](GError** error) {
-            for (std::size_t i = 0; i < m_entries.size() && !*error; ++i) {
-                if (arv_gc_enum_entry_get_value(ARV_GC_ENUM_ENTRY(m_entries[i]), error) == number)
-                    return value = m_entryNames[i], ZebErrorSuccess;
-            }
-            return ZebErrorInvalidValue; // the camera's own is none of them
+            const Entry* const entry = findEntry(m_entries, number, error);
+            if (!entry)
+                return ZebErrorInvalidValue; // the camera's own is none of them
+            value = entry->name;
+            return ZebErrorSuccess;
         });
     }
     return result == ZebErrorSuccess ? answer(value, buffer, length) : result;
@@ -185,10 +146,13 @@ bool GenicamFeature::look()
     if (m_type == ZebFeatureDataCommand || m_type == ZebFeatureDataRaw)
         return true;
     Value value;
+    bool isWritable = false;
     const ZebErrorType result = m_link->perform(
         true,
         [&](GError** error) {
-            if (accessOf(m_node, error).isReadable)
+            const Access access = accessOf(m_node, error);
+            isWritable = access.isWritable;
+            if (!*error && access.isReadable)
                 value = readValue(m_node, error);
             return ZebErrorSuccess;
         },
@@ -196,6 +160,8 @@ bool GenicamFeature::look()
     if (result == ZebErrorTimeout || result == ZebErrorBadHandle)
         return false;
     m_watch->seen(m_place.index, value);
+    if (std::exchange(m_wasWritable, isWritable).value_or(isWritable) != isWritable)
+        m_watch->written({m_place.index});
     return true;
 }
 
@@ -204,7 +170,7 @@ std::string GenicamFeature::readText()
     std::string value;
     m_link->perform(true, [&](GError** error) {
         if (m_type != ZebFeatureDataCommand && accessOf(m_node, error).isReadable)
-            value = text(arv_gc_feature_node_get_value_as_string(m_node, error));
+            value = textOf(arv_gc_feature_node_get_value_as_string(m_node, error));
         return ZebErrorSuccess;
     });
     return value;
@@ -217,8 +183,8 @@ ZebErrorType GenicamFeature::GetValues(const char** values, std::uint32_t& count
     if (m_type != ZebFeatureDataEnum)
         return ZebErrorBadParameter;
     std::vector<const char*> names;
-    for (const std::string& name : m_entryNames)
-        names.push_back(name.c_str());
+    for (const Entry& entry : m_entries)
+        names.push_back(entry.name.c_str());
     return answerList(names, values, count);
 }
 
@@ -228,9 +194,9 @@ ZebErrorType GenicamFeature::GetValues(std::int64_t* values, std::uint32_t& coun
         return ZebErrorBadParameter;
     return read(OfEntries, [&](GError** error) {
         std::vector<std::int64_t> numbers;
-        for (ArvGcFeatureNode* entry : m_entries) {
+        for (const Entry& entry : m_entries) {
             if (!*error)
-                numbers.push_back(arv_gc_enum_entry_get_value(ARV_GC_ENUM_ENTRY(entry), error));
+                numbers.push_back(entry.readNumber(error));
         }
         return answerList(numbers, values, count);
     });
@@ -240,7 +206,7 @@ ZebErrorType GenicamFeature::GetEntry(ZebCPP::EnumEntry& entry, const char* name
 {
     if (m_type != ZebFeatureDataEnum || !name)
         return ZebErrorBadParameter;
-    if (std::find(m_entryNames.begin(), m_entryNames.end(), name) == m_entryNames.end())
+    if (!findEntry(m_entries, name))
         return ZebErrorNotFound;
     entry = {};
     return ZebErrorSuccess;
@@ -258,11 +224,8 @@ ZebErrorType GenicamFeature::IsValueAvailable(std::int64_t value, bool& availabl
     if (m_type != ZebFeatureDataEnum)
         return ZebErrorBadParameter;
     return read(OfEntries, [&](GError** error) {
-        available = false;
-        for (ArvGcFeatureNode* entry : m_entries) {
-            if (!*error && arv_gc_enum_entry_get_value(ARV_GC_ENUM_ENTRY(entry), error) == value)
-                available = !*error && isEntryAvailable(entry, error);
-        }
+        const Entry* const entry = findEntry(m_entries, value, error);
+        available = entry && entry->isAvailable(error);
         return ZebErrorSuccess;
     });
 }
@@ -271,29 +234,22 @@ ZebErrorType GenicamFeature::IsValueAvailable(const char* value, bool& available
 {
     if (m_type != ZebFeatureDataEnum || !value)
         return ZebErrorBadParameter;
-    const auto found = std::find(m_entryNames.begin(), m_entryNames.end(), value);
+    const Entry* const entry = findEntry(m_entries, value);
     return read(OfEntries, [&](GError** error) {
-        available = found != m_entryNames.end()
-            && isEntryAvailable(m_entries[static_cast<std::size_t>(found - m_entryNames.begin())],
-                                error);
+        available = entry && entry->isAvailable(error);
         return ZebErrorSuccess;
     });
 }
 
-ZebErrorType GenicamFeature::GetValidValueSet(std::int64_t* values, std::uint32_t bufferSize,
+// The library knows of none.
+ZebErrorType GenicamFeature::GetValidValueSet(std::int64_t* values, std::uint32_t,
                                               std::uint32_t* setSize)
 {
     if (m_type != ZebFeatureDataInt || (!values && !setSize))
         return ZebErrorBadParameter;
-    static_cast<void>(bufferSize);
     if (setSize)
-        *setSize = 0; // the library knows of none
+        *setSize = 0;
     return ZebErrorSuccess;
-}
-
-void GenicamFeature::setSelected(std::vector<std::weak_ptr<GenicamFeature>> selected)
-{
-    m_selected = std::move(selected);
 }
 
 ZebErrorType GenicamFeature::GetSelectedFeatures(ZebCPP::FeaturePtr* features, std::uint32_t& count)
@@ -351,104 +307,35 @@ ZebErrorType GenicamFeature::HasIncrement(bool& hasIncrement)
 // Writing
 
 // A masked register is read and written as a whole, so it must not be an old one that is read.
-template <typename Work> ZebErrorType GenicamFeature::write(ZebFeatureDataType type, Work&& work)
+template <typename Work> ZebErrorType GenicamFeature::send(Work&& work)
 {
-    if (type != m_type)
-        return m_link->isClosed() ? ZebErrorBadHandle : ZebErrorBadParameter;
-    const ZebErrorType result = m_link->perform(true, [&](GError** error) {
+    return m_link->perform(true, [&](GError** error) {
         const bool isWritable = accessOf(m_node, error).isWritable;
-        if (*error || !isWritable)
-            return ZebErrorInvalidAccess;
-        return work(error);
+        return *error || !isWritable ? ZebErrorInvalidAccess : work(error);
     });
+}
+
+template <typename Work> ZebErrorType GenicamFeature::writeBy(Work&& work)
+{
+    const ZebErrorType result = send(work);
     m_watch->written(result == ZebErrorSuccess ? m_watch->graph().touchedBy(m_place.index)
                                                : DependencyGraph::Places());
     return result;
 }
 
-ZebErrorType GenicamFeature::SetValue(std::int64_t value)
+ZebErrorType GenicamFeature::write(const Value& value)
 {
-    if (m_type == ZebFeatureDataEnum) {
-        return write(ZebFeatureDataEnum, [&](GError** error) {
-            for (ArvGcFeatureNode* entry : m_entries) {
-                const auto number = arv_gc_enum_entry_get_value(ARV_GC_ENUM_ENTRY(entry), error);
-                if (*error || number == value) {
-                    if (*error || !isEntryAvailable(entry, error))
-                        break;
-                    arv_gc_enumeration_set_int_value(ARV_GC_ENUMERATION(m_node), value, error);
-                    return ZebErrorSuccess;
-                }
-            }
-            return ZebErrorBadParameter;
-        });
-    }
-    return writeNumber(value);
-}
-
-template <typename Number> ZebErrorType GenicamFeature::writeNumber(Number value)
-{
-    return write(typeFor<Number>, [&](GError** error) {
-        const auto range = readRange<Number>(m_node, error);
-        if (!*error && !range.holds(value))
-            return ZebErrorBadParameter;
-        if (!*error)
-            setNumber(m_node, value, error);
-        return ZebErrorSuccess;
-    });
-}
-
-ZebErrorType GenicamFeature::SetValue(bool value)
-{
-    return write(ZebFeatureDataBool, [&](GError** error) {
-        arv_gc_boolean_set_value(ARV_GC_BOOLEAN(m_node), value, error);
-        return ZebErrorSuccess;
-    });
-}
-
-ZebErrorType GenicamFeature::SetValue(const char* value)
-{
-    if (!value)
-        return ZebErrorBadParameter;
-    if (m_type == ZebFeatureDataEnum) {
-        const auto found = std::find(m_entryNames.begin(), m_entryNames.end(), value);
-        return write(ZebFeatureDataEnum, [&](GError** error) {
-            if (found == m_entryNames.end())
-                return ZebErrorBadParameter;
-            const auto place = static_cast<std::size_t>(found - m_entryNames.begin());
-            if (!isEntryAvailable(m_entries[place], error))
-                return ZebErrorBadParameter;
-            arv_gc_enumeration_set_string_value(ARV_GC_ENUMERATION(m_node), value, error);
-            return ZebErrorSuccess;
-        });
-    }
-    return write(ZebFeatureDataString, [&](GError** error) {
-        const auto longest = arv_gc_string_get_max_length(ARV_GC_STRING(m_node), error);
-        if (!*error && longest > 0 && std::strlen(value) > static_cast<std::size_t>(longest))
-            return ZebErrorBadParameter;
-        if (!*error)
-            arv_gc_string_set_value(ARV_GC_STRING(m_node), value, error);
-        return ZebErrorSuccess;
-    });
+    return writeBy([&](GError** error) { return writeValue(m_node, value, error); });
 }
 
 ZebErrorType GenicamFeature::SetValue(const std::uint8_t* data, std::uint32_t size)
 {
-    return write(ZebFeatureDataRaw, [&](GError** error) {
-        const auto length = arv_gc_register_get_length(ARV_GC_REGISTER(m_node), error);
-        if (!*error && (!data || size != length))
-            return ZebErrorBadParameter;
-        if (!*error)
-            arv_gc_register_set(ARV_GC_REGISTER(m_node), data, size, error);
-        return ZebErrorSuccess;
-    });
+    return writeBy([&](GError** error) { return writeBytes(m_node, data, size, error); });
 }
 
 ZebErrorType GenicamFeature::writeUnnoticed(const std::string& value)
 {
-    return m_link->perform(true, [&](GError** error) {
-        const bool isWritable = accessOf(m_node, error).isWritable;
-        if (*error || !isWritable)
-            return ZebErrorInvalidAccess;
+    return send([&](GError** error) {
         if (m_type == ZebFeatureDataCommand)
             arv_gc_command_execute(ARV_GC_COMMAND(m_node), error);
         else
@@ -459,7 +346,9 @@ ZebErrorType GenicamFeature::writeUnnoticed(const std::string& value)
 
 ZebErrorType GenicamFeature::RunCommand()
 {
-    return write(ZebFeatureDataCommand, [&](GError** error) {
+    if (m_type != ZebFeatureDataCommand)
+        return ZebErrorBadParameter;
+    return writeBy([&](GError** error) {
         arv_gc_command_execute(ARV_GC_COMMAND(m_node), error);
         return ZebErrorSuccess;
     });

@@ -3,6 +3,7 @@
 #include "ChangeWatch.h"
 
 #include <array>
+#include <optional>
 
 namespace genicam {
 
@@ -33,7 +34,10 @@ public:
     /// Writes a text, and leaves it to the watch to find out.
     ZebErrorType writeUnnoticed(const std::string& text);
     /// What this one selects, of the camera's list.
-    void setSelected(std::vector<std::weak_ptr<GenicamFeature>> selected);
+    void setSelected(std::vector<std::weak_ptr<GenicamFeature>> selected)
+    {
+        m_selected = std::move(selected);
+    }
 
     ZebErrorType GetValue(std::int64_t& value) override
     {
@@ -63,10 +67,13 @@ public:
                                   std::uint32_t* setSize) override;
     ZebErrorType IsValueAvailable(std::int64_t value, bool& available) override;
     ZebErrorType IsValueAvailable(const char* value, bool& available) override;
-    ZebErrorType SetValue(std::int64_t value) override;
-    ZebErrorType SetValue(double value) override { return writeNumber(value); }
-    ZebErrorType SetValue(bool value) override;
-    ZebErrorType SetValue(const char* value) override;
+    ZebErrorType SetValue(std::int64_t value) override { return write(value); }
+    ZebErrorType SetValue(double value) override { return write(value); }
+    ZebErrorType SetValue(bool value) override { return write(value); }
+    ZebErrorType SetValue(const char* value) override
+    {
+        return write(value ? Value(std::string(value)) : Value());
+    }
     ZebErrorType SetValue(const std::uint8_t* data, std::uint32_t size) override;
     ZebErrorType RunCommand() override;
     ZebErrorType IsCommandDone(bool& done) override;
@@ -143,13 +150,14 @@ private:
 
     bool isOutOfDate(Kind kind);
     template <typename Work> ZebErrorType read(Kind kind, Work&& work);
-    template <typename Work> ZebErrorType write(ZebFeatureDataType type, Work&& work);
+    template <typename Work> ZebErrorType send(Work&& work);
+    template <typename Work> ZebErrorType writeBy(Work&& work);
+    ZebErrorType write(const Value& value);
     template <typename Plain> ZebErrorType readPlain(ZebFeatureDataType type, Plain& plain);
     ZebErrorType readAccess(bool Access::*part, bool& output);
     template <typename Number> ZebErrorType readLimits(Range<Number>& range);
     template <typename Number> ZebErrorType readBounds(Number& minimum, Number& maximum);
     template <typename Number> ZebErrorType readIncrement(Number& increment);
-    template <typename Number> ZebErrorType writeNumber(Number value);
     template <typename Plain> ZebErrorType tell(const Plain& known, Plain& output) const
     {
         output = known;
@@ -170,9 +178,9 @@ private:
     std::string m_description;
     ZebFeatureVisibilityType m_visibility;
     bool m_isBackedByCamera = false;
-    std::vector<ArvGcFeatureNode*> m_entries;
-    std::vector<std::string> m_entryNames;
+    const Entries m_entries;
     std::vector<std::weak_ptr<GenicamFeature>> m_selected;
+    std::optional<bool> m_wasWritable; ///< when the watch looked last
     std::mutex m_mutex;
     std::array<Reading, KindCount> m_readings;
 };

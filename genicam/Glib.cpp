@@ -1,6 +1,6 @@
 #include "Glib.h"
 
-#include "Criticals.h"
+#include "GenicamCamera.h"
 
 #include <atomic>
 #include <cstdio>

@@ -15,11 +15,6 @@ template <typename Visit> void forEachChild(ArvGcFeatureNode* node, Visit&& visi
         visit(child);
 }
 
-std::string text(const char* source)
-{
-    return source ? source : "";
-}
-
 } // namespace
 
 template <> bool Range<std::int64_t>::holds(std::int64_t value) const
@@ -39,6 +34,11 @@ template <> bool Range<double>::holds(double value) const
     constexpr double tolerance = 1e-6;
     const double steps = increment > 0.0 ? (value - minimum) / increment : 0.0;
     return value >= minimum && value <= maximum && std::abs(steps - std::round(steps)) < tolerance;
+}
+
+std::string textOf(const char* source)
+{
+    return source ? source : "";
 }
 
 ZebFeatureDataType typeOf(ArvGcFeatureNode* node)
@@ -90,7 +90,7 @@ Value readValue(ArvGcFeatureNode* node, GError** error)
         value = std::int64_t{arv_gc_integer_get_value(ARV_GC_INTEGER(node), error)};
         break;
     case ZebFeatureDataString:
-        value = text(arv_gc_string_get_value(ARV_GC_STRING(node), error));
+        value = textOf(arv_gc_string_get_value(ARV_GC_STRING(node), error));
         break;
     default:
         break;
@@ -151,8 +151,8 @@ bool isCommandDone(ArvGcFeatureNode* node, GError** error)
 std::string unitOf(ArvGcFeatureNode* node)
 {
     if (typeOf(node) == ZebFeatureDataFloat)
-        return text(arv_gc_float_get_unit(ARV_GC_FLOAT(node)));
-    return typeOf(node) == ZebFeatureDataInt ? text(arv_gc_integer_get_unit(ARV_GC_INTEGER(node)))
+        return textOf(arv_gc_float_get_unit(ARV_GC_FLOAT(node)));
+    return typeOf(node) == ZebFeatureDataInt ? textOf(arv_gc_integer_get_unit(ARV_GC_INTEGER(node)))
                                              : std::string();
 }
 
@@ -185,20 +185,70 @@ std::vector<Link> linksOf(ArvGcFeatureNode* node)
     return links;
 }
 
-std::vector<ArvGcFeatureNode*> entriesOf(ArvGcFeatureNode* node)
+ZebFeatureVisibilityType visibilityOf(ArvGcFeatureNode* node)
 {
-    std::vector<ArvGcFeatureNode*> entries;
+    switch (arv_gc_feature_node_get_visibility(node)) {
+    case ARV_GC_VISIBILITY_INVISIBLE:
+        return ZebFeatureVisibilityInvisible;
+    case ARV_GC_VISIBILITY_GURU:
+        return ZebFeatureVisibilityGuru;
+    case ARV_GC_VISIBILITY_EXPERT:
+        return ZebFeatureVisibilityExpert;
+    default:
+        return ZebFeatureVisibilityBeginner;
+    }
+}
+
+bool hasRegister(ArvGcFeatureNode* node)
+{
+    if (ARV_IS_GC_REGISTER_NODE(node))
+        return true;
+    const std::vector<Link> links = linksOf(node);
+    return std::any_of(links.begin(), links.end(), [](const Link& link) {
+        return link.first == ARV_GC_PROPERTY_NODE_TYPE_P_VALUE && hasRegister(link.second);
+    });
+}
+
+std::int64_t Entry::readNumber(GError** error) const
+{
+    return arv_gc_enum_entry_get_value(ARV_GC_ENUM_ENTRY(node), error);
+}
+
+bool Entry::isAvailable(GError** error) const
+{
+    return arv_gc_feature_node_is_implemented(node, error) && !*error
+        && arv_gc_feature_node_is_available(node, error) && !*error;
+}
+
+Entries entriesOf(ArvGcFeatureNode* node)
+{
+    Entries entries;
     forEachChild(node, [&](ArvDomNode* child) {
-        if (ARV_IS_GC_ENUM_ENTRY(child))
-            entries.push_back(ARV_GC_FEATURE_NODE(child));
+        if (ARV_IS_GC_ENUM_ENTRY(child)) {
+            auto* const entry = ARV_GC_FEATURE_NODE(child);
+            entries.push_back({entry, textOf(arv_gc_feature_node_get_name(entry))});
+        }
     });
     return entries;
 }
 
-bool isEntryAvailable(ArvGcFeatureNode* entry, GError** error)
+const Entry* findEntry(const Entries& entries, std::string_view name)
 {
-    return arv_gc_feature_node_is_implemented(entry, error) && !*error
-        && arv_gc_feature_node_is_available(entry, error) && !*error;
+    const auto found = std::find_if(entries.begin(), entries.end(),
+                                    [&](const Entry& entry) { return entry.name == name; });
+    return found == entries.end() ? nullptr : &*found;
+}
+
+const Entry* findEntry(const Entries& entries, std::int64_t number, GError** error)
+{
+    for (const Entry& entry : entries) {
+        const bool isFound = entry.readNumber(error) == number;
+        if (*error)
+            return nullptr;
+        if (isFound)
+            return &entry;
+    }
+    return nullptr;
 }
 
 } // namespace genicam

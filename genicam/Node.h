@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <variant>
 #include <vector>
@@ -33,6 +34,9 @@ template <typename Number> struct Range
     bool holds(Number value) const;
 };
 
+/// Empty for null.
+std::string textOf(const char* source);
+
 ZebFeatureDataType typeOf(ArvGcFeatureNode* node);
 Access accessOf(ArvGcFeatureNode* node, GError** error);
 
@@ -41,6 +45,9 @@ Value readValue(ArvGcFeatureNode* node, GError** error);
 template <typename Number> Range<Number> readRange(ArvGcFeatureNode* node, GError** error);
 bool isCommandDone(ArvGcFeatureNode* node, GError** error);
 
+ZebFeatureVisibilityType visibilityOf(ArvGcFeatureNode* node);
+/// Whether the value stands in a register of the camera.
+bool hasRegister(ArvGcFeatureNode* node);
 std::string unitOf(ArvGcFeatureNode* node);
 std::string representationOf(ArvGcFeatureNode* node);
 
@@ -48,8 +55,20 @@ std::string representationOf(ArvGcFeatureNode* node);
 using Link = std::pair<ArvGcPropertyNodeType, ArvGcFeatureNode*>;
 std::vector<Link> linksOf(ArvGcFeatureNode* node);
 
+struct Entry
+{
+    ArvGcFeatureNode* node;
+    std::string name;
+
+    std::int64_t readNumber(GError** error) const;
+    bool isAvailable(GError** error) const;
+};
+
 /// An enumeration's entries, in the description's order.
-std::vector<ArvGcFeatureNode*> entriesOf(ArvGcFeatureNode* node);
-bool isEntryAvailable(ArvGcFeatureNode* entry, GError** error);
+using Entries = std::vector<Entry>;
+Entries entriesOf(ArvGcFeatureNode* node);
+/// Null when there is none.
+const Entry* findEntry(const Entries& entries, std::string_view name);
+const Entry* findEntry(const Entries& entries, std::int64_t number, GError** error);
 
 } // namespace genicam

@@ -1,7 +1,6 @@
 #include "genicam/GenicamCamera.h"
 #include "ByteArrayDevice.h"
 #include "DataTable.h"
-#include "genicam/Criticals.h"
 
 #include <QElapsedTimer>
 #include <QtTest>
@@ -17,6 +16,7 @@ enum Address : std::uint32_t {
     UserNumber = 0x44,
     TriggerSource = 0x4c,
     Masked = 0x54,
+    GainLock = 0x58,
     Width = 0x100,
     Height = 0x104,
     BinningHorizontal = 0x110,
@@ -293,6 +293,13 @@ private slots:
             true);
         row("of the camera's own reset", set("UserNumber", 2), {"UserNumber", "Width", "OffsetX"},
             false);
+        row(
+            "of a lock",
+            [](OpenCamera& c) {
+                QTest::qWait(1100);
+                c.device.write(GainLock, 1);
+            },
+            {"Gain"}, false);
         row(
             "of another client", [](OpenCamera& c) { c.device.write(Width, 1616); },
             {"Width", "OffsetX"}, false);

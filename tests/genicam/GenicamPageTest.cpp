@@ -3,7 +3,6 @@
 #include "FakeCamera.h"
 #include "MessageHandlerGuard.h"
 #include "TestEvents.h"
-#include "genicam/Criticals.h"
 #include "host/TabExtensionInterface.h"
 #include "imageformat/ImageFormatWidget.h"
 #include "page/TENotSupported.h"

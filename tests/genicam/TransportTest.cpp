@@ -1,5 +1,4 @@
 #include "FakeCamera.h"
-#include "genicam/Criticals.h"
 
 #include <QElapsedTimer>
 #include <QtTest>
