@@ -144,7 +144,12 @@ void Camera::setRounding(bool rounds)
 
 void Camera::lose(std::chrono::milliseconds delayPerCall, ZebErrorType code)
 {
-    m_device->lose(code, delayPerCall);
+    m_device->lose(code, delayPerCall, Operations::all());
+}
+
+void Camera::loseValues(std::chrono::milliseconds delayPerCall, ZebErrorType code)
+{
+    m_device->lose(code, delayPerCall, Operations::fromCamera());
 }
 
 void Camera::recover()

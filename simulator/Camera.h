@@ -62,6 +62,9 @@ public:
     void setRounding(bool rounds);
     /// Every call through the SDK fails from now on, each after the delay; observers are forgotten.
     void lose(std::chrono::milliseconds delayPerCall = {}, ZebErrorType code = ZebErrorBadHandle);
+    /// As with real cameras: names, types, texts, entries and observers are the SDK's own and go
+    /// on; what comes from the camera fails.
+    void loseValues(std::chrono::milliseconds delayPerCall, ZebErrorType code = ZebErrorTimeout);
     void recover(); ///< a lost camera answers again; observers stay forgotten
 
     // Notifications.

@@ -37,17 +37,18 @@ void Device::announce(const ChangeSet& changes)
     m_notifier->post(std::move(targets));
 }
 
-void Device::lose(ZebErrorType code, std::chrono::milliseconds delay)
+void Device::lose(ZebErrorType code, std::chrono::milliseconds delay, Operations operations)
 {
     m_lostCode = code;
     m_lostDelay = delay;
-    m_lost = true;
-    m_notifier->registry().clear();
+    m_lost = operations;
+    if (operations.contains(Operation::UnregisterObserver))
+        m_notifier->registry().clear();
 }
 
 void Device::close()
 {
-    lose(ZebErrorBadHandle, {});
+    lose(ZebErrorBadHandle, {}, Operations::all());
     m_notifier->stop();
 }
 

@@ -47,11 +47,10 @@ public:
     }
     void announce(const ChangeSet& changes);
 
-    /// From now on every call through the SDK waits for the delay and answers the code; observers
-    /// are forgotten.
-    void lose(ZebErrorType code, std::chrono::milliseconds delay);
-    void recover() { m_lost = false; }
-    bool isLost() const { return m_lost; }
+    /// From now on each of these calls through the SDK waits for the delay and answers the code.
+    void lose(ZebErrorType code, std::chrono::milliseconds delay, Operations operations);
+    void recover() { m_lost = Operations(); }
+    bool isLost(Operation operation) const { return m_lost.load().contains(operation); }
     ZebErrorType lostCode() const { return m_lostCode; }
     std::chrono::milliseconds lostDelay() const { return m_lostDelay; }
 
@@ -69,7 +68,7 @@ private:
     std::vector<std::shared_ptr<SimFeature>> m_features;
     std::atomic<ZebErrorType> m_lostCode{ZebErrorBadHandle};
     std::atomic<std::chrono::milliseconds> m_lostDelay{};
-    std::atomic<bool> m_lost{false};
+    std::atomic<Operations> m_lost{};
 };
 
 } // namespace sim

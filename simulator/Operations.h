@@ -32,6 +32,13 @@ public:
     {
         return Operations(Operation::SetValue) | Operation::RunCommand;
     }
+    /// What the SDK cannot answer from its memory.
+    static constexpr Operations fromCamera()
+    {
+        return writes() | Operation::GetValue | Operation::GetRange | Operation::HasIncrement
+            | Operation::GetIncrement | Operation::GetValidValueSet | Operation::IsValueAvailable
+            | Operation::IsCommandDone | Operation::IsReadable | Operation::IsWritable;
+    }
     static constexpr Operations texts()
     {
         return Operations(Operation::GetName) | Operation::GetDisplayName | Operation::GetCategory

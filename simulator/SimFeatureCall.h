@@ -63,14 +63,14 @@ template <typename Body> ZebErrorType SimFeature::perform(Operation operation, B
         return ZebErrorBadHandle;
 
     const Failure failure
-        = device->isLost() ? Failure() : device->failures().next(m_name, operation);
+        = device->isLost(operation) ? Failure() : device->failures().next(m_name, operation);
     if (failure.kind == Kind::Lose)
-        device->lose(failure.code, failure.delay);
-    const auto delay = device->isLost() ? device->lostDelay() : failure.delay;
+        device->lose(failure.code, failure.delay, Operations::all());
+    const auto delay = device->isLost(operation) ? device->lostDelay() : failure.delay;
     if (delay.count() > 0)
         std::this_thread::sleep_for(delay);
 
-    const bool isLost = device->isLost();
+    const bool isLost = device->isLost(operation);
     if (isLost || failure.kind == Kind::Refuse || failure.kind == Kind::Throw) {
         const ZebErrorType code = isLost ? device->lostCode() : failure.code;
         device->journal().add(operation, m_name, {}, code);

@@ -7,6 +7,10 @@
         <source>Vendor not supported for plugins, widget not created.</source>
         <translation>Der Hersteller wird von den Plug-ins nicht unterstützt, Seite nicht erstellt.</translation>
     </message>
+    <message>
+        <source>The camera does not answer. The page shows its last known settings.</source>
+        <translation>Die Kamera antwortet nicht. Die Seite zeigt ihre letzten bekannten Einstellungen.</translation>
+    </message>
 </context>
 <context>
     <name>CommandEditor</name>

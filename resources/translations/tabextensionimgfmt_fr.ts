@@ -7,6 +7,10 @@
         <source>Vendor not supported for plugins, widget not created.</source>
         <translation>Fabricant non pris en charge par les plug-ins, page non créée.</translation>
     </message>
+    <message>
+        <source>The camera does not answer. The page shows its last known settings.</source>
+        <translation>La caméra ne répond pas. La page affiche ses derniers réglages connus.</translation>
+    </message>
 </context>
 <context>
     <name>CommandEditor</name>

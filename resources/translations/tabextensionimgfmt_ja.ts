@@ -7,6 +7,10 @@
         <source>Vendor not supported for plugins, widget not created.</source>
         <translation>このメーカーはプラグインの対象外のため、ページは作成されませんでした。</translation>
     </message>
+    <message>
+        <source>The camera does not answer. The page shows its last known settings.</source>
+        <translation>カメラが応答しません。ページには最後に確認された設定が表示されています。</translation>
+    </message>
 </context>
 <context>
     <name>CommandEditor</name>

@@ -7,6 +7,10 @@
         <source>Vendor not supported for plugins, widget not created.</source>
         <translation>插件不支持该厂商，未创建页面。</translation>
     </message>
+    <message>
+        <source>The camera does not answer. The page shows its last known settings.</source>
+        <translation>相机没有响应。页面显示其最后已知的设置。</translation>
+    </message>
 </context>
 <context>
     <name>CommandEditor</name>

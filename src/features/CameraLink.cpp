@@ -48,7 +48,7 @@ bool CameraLink::takeLoss()
 
 bool CameraLink::mayPart() const
 {
-    return m_parting < pause || Clock::now() - m_firstParting > laterPause;
+    return m_parting < patience || Clock::now() - m_firstParting > laterPause;
 }
 
 void CameraLink::parted(ZebErrorType result, Milliseconds duration)

@@ -23,6 +23,9 @@ public:
 
     class ManyReads;
 
+    /// What may go into failing calls while observers are registered or let go.
+    static constexpr std::chrono::seconds patience{1};
+
     /// Two features in a row that failed after 100 ms or more make a loss; any answer ends it.
     void told(const QString& feature, ZebErrorType result, Milliseconds duration);
     /// Makes a call and takes its result.
@@ -45,7 +48,7 @@ public:
     /// The camera is lost and many reads are under way: the rest is left.
     bool isClosed() const { return m_isLost && m_manyReads > 0; }
 
-    /// One second of failing calls, for all pages that let go of their observers within five.
+    /// Failing calls up to the patience, for all pages that let go within five seconds.
     bool mayPart() const;
     void parted(ZebErrorType result, Milliseconds duration);
 

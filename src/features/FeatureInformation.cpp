@@ -1,12 +1,13 @@
 #include "features/FeatureInformation.h"
 
-#include "features/FeatureReading.h"
+#include "features/FeatureReader.h"
 #include "features/SdkValues.h"
 
-using FeatureReading::readDataType;
-using FeatureReading::readText;
+#include <array>
 
 namespace {
+
+constexpr int limits = FeatureReader::Range | FeatureReader::Increment;
 
 QString descriptionText(const QString& description)
 {
@@ -17,24 +18,23 @@ QString descriptionText(const QString& description)
     return QLatin1String("<br/>") + text;
 }
 
-QString visibilityText(ZebFeatureWrapper& feature)
+constexpr std::array visibilityNames{"UNKNOWN", "BEGINNER", "EXPERT", "GURU", "INVISIBLE"};
+constexpr std::array typeNames{"",       "Integer", "Float",   "Enumeration",
+                               "String", "Boolean", "Command", "Raw"};
+
+template <std::size_t count>
+QString nameOf(int number, const std::array<const char*, count>& names, const char* other)
+{
+    const bool isNamed = number >= 0 && number < static_cast<int>(count);
+    return QLatin1String(isNamed ? names[static_cast<std::size_t>(number)] : other);
+}
+
+QString visibilityText(FeatureReader& feature)
 {
     auto visibility = Sdk::unknownVisibility;
-    if (feature.GetVisibility(visibility) != Sdk::success)
+    if (feature->GetVisibility(visibility) != Sdk::success)
         visibility = Sdk::unknownVisibility;
-    switch (visibility) {
-    case Sdk::unknownVisibility:
-        return QStringLiteral("UNKNOWN<br/>");
-    case Sdk::beginner:
-        return QStringLiteral("BEGINNER<br/>");
-    case Sdk::expert:
-        return QStringLiteral("EXPERT<br/>");
-    case Sdk::guru:
-        return QStringLiteral("GURU<br/>");
-    case Sdk::invisible:
-        return QStringLiteral("INVISIBLE<br/>");
-    }
-    return QStringLiteral("N/A<br/>");
+    return nameOf(visibility, visibilityNames, "N/A") + QLatin1String("<br/>");
 }
 
 QString typeText(const QString& typeName)
@@ -53,74 +53,59 @@ QString intervalText(const QString& increment)
     return QLatin1String("<b>Interval:</b> ") + increment + QLatin1String("<br/>");
 }
 
-QString integerText(ZebFeatureWrapper& feature)
+QString integerText(FeatureReader& feature)
 {
+    const Reading<int64_t> reading = feature.integer(limits);
     QString text;
-    int64_t minimum = 0;
-    int64_t maximum = 0;
-    if (feature.GetRange(minimum, maximum) == Sdk::success)
-        text += rangeText(QStringLiteral("Integer"), QString::number(qlonglong{minimum}),
-                          QString::number(qlonglong{maximum}));
-    int64_t increment = 0;
-    if (feature.GetIncrement(increment) == Sdk::success && increment != 1)
-        text += intervalText(QString::number(qlonglong{increment}));
+    if (reading.minimum)
+        text += rangeText(QStringLiteral("Integer"), QString::number(qlonglong{*reading.minimum}),
+                          QString::number(qlonglong{*reading.maximum}));
+    if (reading.increment.value_or(1) != 1)
+        text += intervalText(QString::number(qlonglong{*reading.increment}));
     return text;
 }
 
 // The two precisions differ; users compare these texts with those of other tools.
-QString floatText(ZebFeatureWrapper& feature)
+QString floatText(FeatureReader& feature)
 {
+    const Reading<double> reading = feature.floating(limits);
     QString text;
-    double minimum = 0.0;
-    double maximum = 0.0;
-    if (feature.GetRange(minimum, maximum) == Sdk::success)
-        text += rangeText(QStringLiteral("Float"), QString::number(minimum, 'g', 9),
-                          QString::number(maximum, 'g', 12));
-    double increment = 0.0;
-    if (feature.GetIncrement(increment) == Sdk::success)
-        text += intervalText(QString::number(increment, 'f', 10));
+    if (reading.minimum)
+        text += rangeText(QStringLiteral("Float"), QString::number(*reading.minimum, 'g', 9),
+                          QString::number(*reading.maximum, 'g', 12));
+    if (reading.increment)
+        text += intervalText(QString::number(*reading.increment, 'f', 10));
     return text;
 }
 
 // Told of what is written or changes by itself, or is readable and nothing else.
-bool hasRangeAccess(ZebFeatureWrapper& feature)
+bool hasRangeAccess(FeatureReader& feature)
 {
     ZebFeatureFlagsType flags{};
-    return feature.GetFlags(flags) == Sdk::success
+    return feature->GetFlags(flags) == Sdk::success
         && ((flags & Sdk::writeOrVolatileFlags) != 0 || flags == Sdk::readFlag);
 }
 
-QString dataTypeText(ZebFeatureWrapper& feature)
+QString dataTypeText(FeatureReader& feature)
 {
-    switch (readDataType(feature)) {
-    case Sdk::integerType:
+    const ZebFeatureDataType type = feature.dataType();
+    if (type == Sdk::integerType)
         return hasRangeAccess(feature) ? integerText(feature) : QString();
-    case Sdk::floatType:
+    if (type == Sdk::floatType)
         return hasRangeAccess(feature) ? floatText(feature) : QString();
-    case Sdk::enumerationType:
-        return typeText(QStringLiteral("Enumeration"));
-    case Sdk::stringType:
-        return typeText(QStringLiteral("String"));
-    case Sdk::booleanType:
-        return typeText(QStringLiteral("Boolean"));
-    case Sdk::commandType:
-        return typeText(QStringLiteral("Command"));
-    case Sdk::rawType:
-        return typeText(QStringLiteral("Raw"));
-    default:
-        return {};
-    }
+    const QString name = nameOf(type, typeNames, "");
+    return name.isEmpty() ? QString() : typeText(name);
 }
 
 } // namespace
 
-QString featureInformation(ZebFeatureWrapper& feature)
+QString featureInformation(FeatureReader& feature)
 {
-    const QString description = readText(feature, &ZebFeatureWrapper::GetDescription);
+    const QString description = feature.text(&ZebFeatureWrapper::GetDescription);
     const QString information = QLatin1String("<b>Feature Name:</b> ")
-        + readText(feature, &ZebFeatureWrapper::GetName) + QLatin1String("<br/><b>Visibility:</b> ")
+        + feature.text(&ZebFeatureWrapper::GetName) + QLatin1String("<br/><b>Visibility:</b> ")
         + visibilityText(feature) + dataTypeText(feature) + QLatin1String("<b>Category:</b> ")
-        + readText(feature, &ZebFeatureWrapper::GetCategory) + QLatin1String("<br/>");
+        + feature.text(&ZebFeatureWrapper::GetCategory) + QLatin1String("<br/>");
     return QStringLiteral("<b>Feature Description:</b> %1<br/>%2")
         .arg(descriptionText(description), information);
 }

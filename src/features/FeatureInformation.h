@@ -2,7 +2,7 @@
 
 #include <QString>
 
-class ZebFeatureWrapper;
+class FeatureReader;
 
 /// The rich-text description of a feature, for tool tips.
-QString featureInformation(ZebFeatureWrapper& feature);
+QString featureInformation(FeatureReader& feature);

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "features/FeatureReader.h"
-#include "features/IntegerState.h"
 #include "features/ZebFeatureWrapper.h"
 
 #include <QSharedPointer>
@@ -23,6 +22,12 @@ class FeatureManager
 public:
     using Wrappers = QSharedPointer<QVector<ZebFeatureWrapperPtr>>;
 
+    struct Found
+    {
+        ZebFeatureWrapperPtr feature;
+        QString name;
+    };
+
     /// Managers of one camera share its link.
     explicit FeatureManager(const Wrappers& features,
                             std::shared_ptr<CameraLink> link = std::make_shared<CameraLink>());
@@ -32,24 +37,33 @@ public:
     FeatureManager& operator=(const FeatureManager&) = delete;
 
     /// The value as a number, by the feature's data type; booleans are 0 or 1.
-    virtual double GetValue(const QString& name);
-    virtual double GetValue(const QString& name, const QString& alternative);
+    virtual double GetValue(const QString& name) { return GetValue(name, {}); }
+    virtual double GetValue(const QString& name, const QString& alternative)
+    {
+        return GetValue(name, alternative, {});
+    }
     virtual double GetValue(const QString& name, const QString& alternative1,
                             const QString& alternative2);
-    virtual QString GetStringValue(const QString& name);
+    virtual QString GetStringValue(const QString& name) { return GetStringValue(name, {}); }
     virtual QString GetStringValue(const QString& name, const QString& alternative);
-    virtual bool IsWritable(const QString& name);
-    virtual bool IsWritable(const QString& name, const QString& alternative);
+    virtual bool IsWritable(const QString& name) { return IsWritable(name, {}); }
+    virtual bool IsWritable(const QString& name, const QString& alternative)
+    {
+        return IsWritable(name, alternative, {});
+    }
     virtual bool IsWritable(const QString& name, const QString& alternative1,
                             const QString& alternative2);
     virtual bool IsReadable(const QString& name);
     /// -1 for a feature that is no number.
-    virtual double GetIncrement(const QString& name);
+    virtual double GetIncrement(const QString& name) { return GetIncrement(name, {}); }
     virtual double GetIncrement(const QString& name, const QString& alternative);
     /// The camera's own name of the first candidate that exists.
     virtual QString GetExistingName(const QStringList& candidates);
-    virtual QString GetDisplayName(const QString& name);
-    virtual QString GetDisplayName(const QString& name, const QString& alternative);
+    virtual QString GetDisplayName(const QString& name) { return GetDisplayName(name, {}); }
+    virtual QString GetDisplayName(const QString& name, const QString& alternative)
+    {
+        return GetDisplayName(name, alternative, {});
+    }
     virtual QString GetDisplayName(const QString& name, const QString& alternative1,
                                    const QString& alternative2);
     virtual QString GetDisplayName(const QStringList& candidates);
@@ -57,9 +71,15 @@ public:
     /// Value, writability, range and increment as the camera reports them. A missing feature
     /// leaves the outputs untouched, one that is no number sets the numbers to -1.
     virtual double GetValueState(const QString& name, bool& writable, double& minimum,
-                                 double& maximum, double& increment);
+                                 double& maximum, double& increment)
+    {
+        return GetValueState(name, {}, writable, minimum, maximum, increment);
+    }
     virtual double GetValueState(const QString& name, const QString& alternative, bool& writable,
-                                 double& minimum, double& maximum, double& increment);
+                                 double& minimum, double& maximum, double& increment)
+    {
+        return GetValueState(name, alternative, {}, writable, minimum, maximum, increment);
+    }
     virtual double GetValueState(const QString& name, const QString& alternative1,
                                  const QString& alternative2, bool& writable, double& minimum,
                                  double& maximum, double& increment);
@@ -68,43 +88,70 @@ public:
     /// integer lies on a whole multiple of its increment (counted from 0, as SetValue() writes it),
     /// and a float without an increment gets 0.01.
     virtual double GetValueRange(const QString& name, double& minimum, double& maximum,
-                                 double& increment);
+                                 double& increment)
+    {
+        return GetValueRange(name, {}, minimum, maximum, increment);
+    }
     virtual double GetValueRange(const QString& name, const QString& alternative, double& minimum,
-                                 double& maximum, double& increment);
+                                 double& maximum, double& increment)
+    {
+        return GetValueRange(name, alternative, {}, minimum, maximum, increment);
+    }
     virtual double GetValueRange(const QString& name, const QString& alternative1,
                                  const QString& alternative2, double& minimum, double& maximum,
                                  double& increment);
 
     /// The range as the camera reports it, without the alignment of GetValueRange().
-    virtual double GetValueLimits(const QString& name, double& minimum, double& maximum);
+    virtual double GetValueLimits(const QString& name, double& minimum, double& maximum)
+    {
+        return GetValueLimits(name, {}, minimum, maximum);
+    }
     virtual double GetValueLimits(const QString& name, const QString& alternative, double& minimum,
-                                  double& maximum);
+                                  double& maximum)
+    {
+        return GetValueLimits(name, alternative, {}, minimum, maximum);
+    }
     virtual double GetValueLimits(const QString& name, const QString& alternative1,
                                   const QString& alternative2, double& minimum, double& maximum);
 
     /// The text of a feature that can be written; empty for any other.
     virtual QString GetWritableStringValue(const QString& name);
     /// All entries, those that the camera does not offer at present included.
-    virtual QStringList GetEnumEntries(const QString& name);
+    virtual QStringList GetEnumEntries(const QString& name) { return GetEnumEntries(name, {}); }
     virtual QStringList GetEnumEntries(const QString& name, const QString& alternative);
     virtual bool HasFeature(const QString& name, const QString& alternative1,
                             const QString& alternative2);
-    virtual bool HasFeature(const QString& name, const QString& alternative);
-    virtual bool HasFeature(const QString& name);
+    virtual bool HasFeature(const QString& name, const QString& alternative)
+    {
+        return HasFeature(name, alternative, {});
+    }
+    virtual bool HasFeature(const QString& name) { return HasFeature(name, {}); }
     virtual bool IsFeatureWritable(const QString& name, const QString& alternative1,
                                    const QString& alternative2);
-    virtual bool IsFeatureWritable(const QString& name, const QString& alternative);
-    virtual bool IsFeatureWritable(const QString& name);
-    virtual bool IsFloatFeature(const QString& name);
-    virtual bool IsFloatFeature(const QString& name, const QString& alternative);
+    virtual bool IsFeatureWritable(const QString& name, const QString& alternative)
+    {
+        return IsFeatureWritable(name, alternative, {});
+    }
+    virtual bool IsFeatureWritable(const QString& name) { return IsFeatureWritable(name, {}); }
+    virtual bool IsFloatFeature(const QString& name) { return IsFloatFeature(name, {}); }
+    virtual bool IsFloatFeature(const QString& name, const QString& alternative)
+    {
+        return IsFloatFeature(name, alternative, {});
+    }
     virtual bool IsFloatFeature(const QString& name, const QString& alternative1,
                                 const QString& alternative2);
 
     /// Writes a text or an enumeration entry and answers what the camera then reports under the
     /// primary name, also when an alternative was written. Empty when none exists.
-    virtual QString SetStringValue(const QString& name, const QString& value);
+    virtual QString SetStringValue(const QString& name, const QString& value)
+    {
+        return SetStringValue(name, {}, value);
+    }
     virtual QString SetStringValue(const QString& name, const QString& alternative,
-                                   const QString& value);
+                                   const QString& value)
+    {
+        return SetStringValue(name, alternative, {}, value);
+    }
     virtual QString SetStringValue(const QString& name, const QString& alternative1,
                                    const QString& alternative2, const QString& value);
 
@@ -112,8 +159,11 @@ public:
     /// and the integer's maximum are first aligned to the increment, counted from 0. A boolean is
     /// set by any value above 0. What is not writable is only read back; without the feature, or
     /// when it is no number, the answer is @p value.
-    virtual double SetValue(const QString& name, double value);
-    virtual double SetValue(const QString& name, const QString& alternative, double value);
+    virtual double SetValue(const QString& name, double value) { return SetValue(name, {}, value); }
+    virtual double SetValue(const QString& name, const QString& alternative, double value)
+    {
+        return SetValue(name, alternative, {}, value);
+    }
     virtual double SetValue(const QString& name, const QString& alternative1,
                             const QString& alternative2, double value);
 
@@ -132,14 +182,6 @@ public:
     /// the camera took the value.
     virtual bool SetVariantValue(const QString& name, const QVariant& value);
 
-    virtual QString GetUnit(const QString& name);
-    virtual QString GetToolTip(const QString& name);
-    virtual QString GetDescription(const QString& name);
-
-    /// An integer without the detour by way of double, which loses digits beyond 2^53. All numbers
-    /// are -1 for any other type; a missing feature leaves @p writable untouched.
-    virtual IntegerState GetIntegerState(const QString& name, bool& writable);
-
     /// Empty when no name matches.
     virtual ZebFeatureWrapperPtr Find(const QString& name, const QString& alternative1 = {},
                                       const QString& alternative2 = {});
@@ -147,16 +189,18 @@ public:
     virtual FeatureReader Read(const QString& name, const QString& alternative1 = {},
                                const QString& alternative2 = {});
 
+    /// All of those names, in the camera's order.
+    QVector<Found> FindAll(const QStringList& names) const;
+
     const Wrappers& features() const { return m_features; }
     const std::shared_ptr<CameraLink>& link() const { return m_link; }
 
 private:
-    /// @p isKnown becomes false when a camera that does not answer ended the look-up.
-    ZebFeatureWrapperPtr lookUp(const QString& name, bool& isKnown) const;
-    ZebFeatureWrapperPtr find(const QString& name) const;
-    ZebFeatureWrapperPtr find(const QString& name, const QString& alternative1,
-                              const QString& alternative2 = {}) const;
-    ZebFeatureWrapperPtr findFirst(const QStringList& candidates) const;
+    /// Goes over the features and their names until @p visit answers true. False when a camera that
+    /// does not answer ended it, of which the link hears as of a read of @p what.
+    template <typename Visit> bool walk(const QString& what, Visit&& visit) const;
+    FeatureReader read(const QString& name) const;
+    FeatureReader readFirst(const QStringList& candidates) const;
 
     Wrappers m_features;
     std::shared_ptr<CameraLink> m_link;

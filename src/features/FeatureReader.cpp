@@ -1,7 +1,5 @@
 #include "features/FeatureReader.h"
 
-#include "features/FeatureManager.h"
-
 #include <utility>
 
 FeatureReader::FeatureReader(ZebFeatureWrapperPtr feature, const QString& name,
@@ -30,7 +28,7 @@ ZebFeatureDataType FeatureReader::dataType()
     return type;
 }
 
-QString FeatureReader::text(TextGetter getter)
+QString FeatureReader::text(TextGetter getter) const
 {
     std::string text;
     return m_feature && (m_feature.get()->*getter)(text) == Sdk::success
@@ -38,7 +36,7 @@ QString FeatureReader::text(TextGetter getter)
         : QString();
 }
 
-QStringList FeatureReader::entries()
+QStringList FeatureReader::entries() const
 {
     std::vector<std::string> values;
     if (!m_feature || m_feature->GetValues(values) != Sdk::success)
@@ -49,9 +47,9 @@ QStringList FeatureReader::entries()
     return entries;
 }
 
-template <typename Value> std::optional<Value> FeatureReader::valueOf()
+template <typename Type> std::optional<Type> FeatureReader::valueOf()
 {
-    Value value{};
+    Type value{};
     if (!ask([&](ZebFeatureWrapper& feature) { return feature.GetValue(value); }))
         return std::nullopt;
     return value;
@@ -72,29 +70,37 @@ std::optional<bool> FeatureReader::flag(FlagGetter getter)
 }
 
 /// What no read can tell: that there is no such feature, or none of the type.
-template <typename Value> Reading<Value> FeatureReader::nothing() const
+template <typename Type> Reading<Type> FeatureReader::nothing() const
 {
-    Reading<Value> reading;
+    Reading<Type> reading;
     reading.exists = m_feature != nullptr;
     reading.isComplete = m_feature ? m_type.has_value() : m_isKnown;
     return reading;
 }
 
-template <typename Value>
-Reading<Value> FeatureReader::readingOf(std::optional<Value> value, int parts)
+template <typename Type>
+Reading<Type> FeatureReader::readingOf(std::optional<Type> value, int parts)
 {
-    Reading<Value> reading;
+    Reading<Type> reading;
     reading.exists = m_feature != nullptr;
     reading.value = std::move(value);
-    if (!reading.value && m_link->isDoubtful())
+    if (isGivenUp(reading, parts))
         return reading;
-    reading.isComplete = reading.value || !flag(&ZebFeatureWrapper::IsReadable).value_or(true);
+    reading.isComplete = (parts & Value) == 0 || reading.value
+        || !flag(&ZebFeatureWrapper::IsReadable).value_or(true);
     if ((parts & Access) != 0) {
         const auto isWritable = flag(&ZebFeatureWrapper::IsWritable);
         reading.isWritable = isWritable.value_or(false);
         reading.isComplete = reading.isComplete && isWritable;
     }
     return reading;
+}
+
+/// A camera that lets the value wait and then fails is not asked for the rest.
+template <typename Type>
+bool FeatureReader::isGivenUp(const Reading<Type>& reading, int parts) const
+{
+    return (parts & Value) != 0 && !reading.value && m_link->isDoubtful();
 }
 
 template <typename Number> bool FeatureReader::readLimits(Reading<Number>& reading, int parts)
@@ -119,10 +125,10 @@ template <typename Number> bool FeatureReader::readLimits(Reading<Number>& readi
 
 template <typename Number> Reading<Number> FeatureReader::typed(int parts)
 {
-    Reading<Number> reading = readingOf(valueOf<Number>(), parts);
-    if (!reading.value && m_link->isDoubtful())
-        return reading;
-    reading.isComplete = readLimits(reading, parts) && reading.isComplete;
+    auto reading
+        = readingOf((parts & Value) != 0 ? valueOf<Number>() : std::optional<Number>(), parts);
+    if (!isGivenUp(reading, parts))
+        reading.isComplete = readLimits(reading, parts) && reading.isComplete;
     return reading;
 }
 
@@ -185,64 +191,23 @@ Reading<double> FeatureReader::fieldNumber(int parts)
 Reading<bool> FeatureReader::boolean()
 {
     if (dataType() == Sdk::booleanType)
-        return readingOf(valueOf<bool>(), Access);
+        return readingOf(valueOf<bool>(), Value | Access);
     if (dataType() != Sdk::integerType)
         return nothing<bool>();
     const auto value = valueOf<std::int64_t>();
-    return readingOf(value ? std::make_optional(*value > 0) : std::nullopt, Access);
+    return readingOf(value ? std::make_optional(*value > 0) : std::nullopt, Value | Access);
 }
 
 Reading<QString> FeatureReader::textReading()
 {
-    return m_feature ? readingOf(textValue(), Access) : nothing<QString>();
+    return m_feature ? readingOf(textValue(), Value | Access) : nothing<QString>();
 }
 
 bool FeatureReader::askValue()
 {
-    switch (dataType()) {
-    case Sdk::integerType:
-    case Sdk::floatType:
-    case Sdk::booleanType:
-        number(ValueOnly);
-        return true;
-    case Sdk::enumerationType:
-    case Sdk::stringType:
-        textValue();
-        return true;
-    default:
-        return false;
-    }
-}
-
-Reading<double> readNumber(FeatureManager& manager, const QString& name,
-                           const QString& alternative1, const QString& alternative2)
-{
-    return manager.Read(name, alternative1, alternative2).number();
-}
-
-Reading<double> readFieldNumber(FeatureManager& manager, const QString& name,
-                                const QString& alternative1, const QString& alternative2)
-{
-    return manager.Read(name, alternative1, alternative2).fieldNumber();
-}
-
-std::optional<double> readValue(FeatureManager& manager, const QString& name,
-                                const QString& alternative1, const QString& alternative2)
-{
-    return manager.Read(name, alternative1, alternative2).value();
-}
-
-Reading<std::int64_t> readInteger(FeatureManager& manager, const QString& name)
-{
-    return manager.Read(name).integer();
-}
-
-Reading<bool> readBoolean(FeatureManager& manager, const QString& name)
-{
-    return manager.Read(name).boolean();
-}
-
-Reading<QString> readText(FeatureManager& manager, const QString& name, const QString& alternative)
-{
-    return manager.Read(name, alternative).textReading();
+    const ZebFeatureDataType type = dataType();
+    if (type == Sdk::enumerationType || type == Sdk::stringType)
+        return textValue() || true;
+    value();
+    return type == Sdk::integerType || type == Sdk::floatType || type == Sdk::booleanType;
 }

@@ -14,11 +14,11 @@ class FeatureReader
 {
 public:
     enum Part {
-        ValueOnly = 0,
-        Range = 1,
-        Increment = 2,
-        Access = 4,
-        Whole = Range | Increment | Access
+        Value = 1,
+        Range = 2,
+        Increment = 4,
+        Access = 8,
+        Whole = Value | Range | Increment | Access
     };
     using TextGetter = ZebErrorType (ZebFeatureWrapper::*)(std::string&);
     using FlagGetter = ZebErrorType (ZebFeatureWrapper::*)(bool&);
@@ -34,15 +34,16 @@ public:
 
     // From the SDK's memory; empty, or the unknown type, when it fails.
     ZebFeatureDataType dataType();
-    QString text(TextGetter getter);
-    QStringList entries();
+    QString text(TextGetter getter) const;
+    QStringList entries() const;
 
     // From the camera. Each is empty for a type that it does not fit.
-    std::optional<double> value() { return number(ValueOnly).value; }
+    /// Of an integer or a float, or of a boolean as 0 or 1.
+    std::optional<double> value() { return number(Value).value; }
     std::optional<QString> textValue();
     std::optional<bool> flag(FlagGetter getter);
     bool isWritable() { return flag(&ZebFeatureWrapper::IsWritable).value_or(false); }
-    /// @p parts is a set of Part. Booleans are 0 or 1, without range and increment.
+    // With a set of Part. Booleans are numbers by their value and access, 0 or 1.
     Reading<double> number(int parts = Whole);
     Reading<double> fieldNumber(int parts = Whole);
     Reading<std::int64_t> integer(int parts = Whole);
@@ -54,11 +55,12 @@ public:
 
 private:
     template <typename Call> bool ask(Call&& call);
-    template <typename Value> std::optional<Value> valueOf();
+    template <typename Type> std::optional<Type> valueOf();
     template <typename Number> Reading<Number> typed(int parts);
-    template <typename Value> Reading<Value> readingOf(std::optional<Value> value, int parts);
+    template <typename Type> Reading<Type> readingOf(std::optional<Type> value, int parts);
     template <typename Number> bool readLimits(Reading<Number>& reading, int parts);
-    template <typename Value> Reading<Value> nothing() const;
+    template <typename Type> bool isGivenUp(const Reading<Type>& reading, int parts) const;
+    template <typename Type> Reading<Type> nothing() const;
 
     ZebFeatureWrapperPtr m_feature;
     QString m_name;

@@ -1,6 +1,5 @@
 #include "features/FeatureWriting.h"
 
-#include "features/FeatureReading.h"
 #include "features/NumberConversion.h"
 #include "features/SdkValues.h"
 
@@ -12,86 +11,70 @@
 
 namespace FeatureWriting {
 
-using FeatureReading::isWritable;
-using FeatureReading::missingNumber;
-using FeatureReading::Range;
-using FeatureReading::readDataType;
-using FeatureReading::readIncrement;
-using FeatureReading::readRange;
-using FeatureReading::readValue;
-
 namespace {
 
-template <typename Number> Number clamped(Number value, const Range<Number>& range)
+constexpr int limits = FeatureReader::Range | FeatureReader::Increment;
+
+template <typename Number> Number clamped(Number value, Number minimum, Number maximum)
 {
-    if (value < range.minimum)
-        return range.minimum;
-    if (value > range.maximum)
-        return range.maximum;
-    return value;
+    if (value < minimum)
+        return minimum;
+    return value > maximum ? maximum : value;
 }
 
-void logWriteFailure(const char* where, const QString& name, ZebErrorType result)
+bool isTaken(ZebErrorType result, const char* where, const QString& name)
 {
-    qDebug() << where << name << " : " << static_cast<int>(result);
+    if (result != Sdk::success)
+        qDebug() << where << name << " : " << static_cast<int>(result);
+    return result == Sdk::success;
 }
 
-Result writeInteger(ZebFeatureWrapper& feature, const QString& name, int64_t value)
+Result writeInteger(FeatureReader& feature, const QString& name, int64_t value)
 {
-    Range<int64_t> range = readRange<int64_t>(feature);
-    const int64_t increment = readIncrement<int64_t>(feature);
-    if (increment > 0) {
-        range.maximum = range.maximum / increment * increment;
-        value = value / increment * increment;
-    }
-    value = clamped(value, range);
-
     bool taken = false;
-    if (isWritable(feature)) {
-        const ZebErrorType result = feature.SetValue(value);
-        taken = result == Sdk::success;
-        if (!taken)
-            logWriteFailure("Error: FeatureManager::SetValue:Int: ", name, result);
+    if (feature.isWritable()) {
+        const Reading<int64_t> reading = feature.integer(limits);
+        int64_t maximum = reading.maximum.value_or(-1);
+        const int64_t increment = reading.increment.value_or(-1);
+        if (increment > 0) {
+            maximum = maximum / increment * increment;
+            value = value / increment * increment;
+        }
+        value = clamped(value, reading.minimum.value_or(-1), maximum);
+        taken = isTaken(feature->SetValue(value), "Error: FeatureManager::SetValue:Int: ", name);
     }
-    return {static_cast<double>(readValue<int64_t>(feature, -1)), taken};
+    return {feature.value(), taken};
 }
 
 // A float that the camera refuses is written once more, as its present value on the increment.
-void writeAlignedPresentValue(ZebFeatureWrapper& feature, const QString& name, double present)
+void writeAlignedPresentValue(FeatureReader& feature, const QString& name)
 {
-    const double increment = readIncrement<double>(feature);
+    const double present = feature.value().value_or(-1.0);
+    const double increment = feature.floating(FeatureReader::Increment).increment.value_or(-1.0);
     if (!(increment > 0.0))
         return;
     const double aligned = static_cast<double>(toUInt64(present / increment)) * increment;
-    const ZebErrorType result = feature.SetValue(aligned);
-    if (result != Sdk::success)
-        logWriteFailure("Error: FeatureManager::SetValue:Double: ", name, result);
+    isTaken(feature->SetValue(aligned), "Error: FeatureManager::SetValue:Double: ", name);
 }
 
-Result writeFloat(ZebFeatureWrapper& feature, const QString& name, double value)
+Result writeFloat(FeatureReader& feature, const QString& name, double value)
 {
-    value = clamped(value, readRange<double>(feature));
-
     bool taken = false;
-    if (isWritable(feature)) {
-        taken = feature.SetValue(value) == Sdk::success;
-        const double present = readValue<double>(feature, missingNumber);
+    if (feature.isWritable()) {
+        const Reading<double> reading = feature.floating(FeatureReader::Range);
+        value = clamped(value, reading.minimum.value_or(-1.0), reading.maximum.value_or(-1.0));
+        taken = feature->SetValue(value) == Sdk::success;
         if (!taken)
-            writeAlignedPresentValue(feature, name, present);
+            writeAlignedPresentValue(feature, name);
     }
-    return {readValue<double>(feature, missingNumber), taken};
+    return {feature.value(), taken};
 }
 
-Result writeBoolean(ZebFeatureWrapper& feature, const QString& name, bool value)
+Result writeBoolean(FeatureReader& feature, const QString& name, bool value)
 {
-    bool taken = false;
-    if (isWritable(feature)) {
-        const ZebErrorType result = feature.SetValue(value);
-        taken = result == Sdk::success;
-        if (!taken)
-            logWriteFailure("Error: FeatureManager::SetValue:Bool: ", name, result);
-    }
-    return {readValue<bool>(feature, false) ? 1.0 : 0.0, taken};
+    const bool taken = feature.isWritable()
+        && isTaken(feature->SetValue(value), "Error: FeatureManager::SetValue:Bool: ", name);
+    return {feature.value(), taken};
 }
 
 bool writeBytes(ZebFeatureWrapper& feature, const QByteArray& bytes)
@@ -121,9 +104,9 @@ bool isTrue(const QVariant& value)
 
 } // namespace
 
-Result writeNumber(ZebFeatureWrapper& feature, const QString& name, double value)
+Result writeNumber(FeatureReader& feature, const QString& name, double value)
 {
-    switch (readDataType(feature)) {
+    switch (feature.dataType()) {
     case Sdk::integerType:
         return writeInteger(feature, name, toInt64(value));
     case Sdk::floatType:
@@ -140,10 +123,10 @@ bool writeText(ZebFeatureWrapper& feature, const QString& value)
     return feature.SetValue(value.toStdString().c_str()) == Sdk::success;
 }
 
-bool writeVariant(ZebFeatureWrapper& feature, const QString& name, const QVariant& value)
+bool writeVariant(FeatureReader& feature, const QString& name, const QVariant& value)
 {
-    const ZebFeatureDataType type = readDataType(feature);
-    if (!isWritable(feature) || (!value.isValid() && type != Sdk::commandType))
+    const ZebFeatureDataType type = feature.dataType();
+    if (!feature.isWritable() || (!value.isValid() && type != Sdk::commandType))
         return false;
 
     bool isNumber = true;
@@ -160,11 +143,11 @@ bool writeVariant(ZebFeatureWrapper& feature, const QString& name, const QVarian
         return writeBoolean(feature, name, isTrue(value)).taken;
     case Sdk::enumerationType:
     case Sdk::stringType:
-        return writeText(feature, value.toString());
+        return writeText(*feature.feature(), value.toString());
     case Sdk::commandType:
-        return feature.RunCommand() == Sdk::success;
+        return feature->RunCommand() == Sdk::success;
     case Sdk::rawType:
-        return writeBytes(feature, value.toByteArray());
+        return writeBytes(*feature.feature(), value.toByteArray());
     default:
         return false;
     }

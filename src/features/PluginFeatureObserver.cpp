@@ -23,7 +23,7 @@ QString stringValue(ZebCPP::Feature& feature)
 }
 
 QString valueText(ZebCPP::Feature& feature, ZebFeatureDataType type)
-{
+try {
     switch (type) {
     case Sdk::integerType:
         return formatValue<int64_t>(feature, [](int64_t value) {
@@ -46,6 +46,8 @@ QString valueText(ZebCPP::Feature& feature, ZebFeatureDataType type)
     default:
         return {};
     }
+} catch (...) {
+    return {}; // that it changed is told all the same
 }
 
 } // namespace

@@ -2,7 +2,6 @@
 
 #include <QString>
 
-#include <cstdint>
 #include <optional>
 
 class FeatureManager;
@@ -33,10 +32,11 @@ Reading<double> readFieldNumber(FeatureManager& manager, const QString& name,
 /// The value alone.
 std::optional<double> readValue(FeatureManager& manager, const QString& name,
                                 const QString& alternative1 = {}, const QString& alternative2 = {});
-/// An integer with all its 64 bits; another type is told as complete and empty.
-Reading<std::int64_t> readInteger(FeatureManager& manager, const QString& name);
 /// Value and access of a boolean; any number above 0 counts as true.
 Reading<bool> readBoolean(FeatureManager& manager, const QString& name);
 /// Value and access of a text or an enumeration.
 Reading<QString> readText(FeatureManager& manager, const QString& name,
                           const QString& alternative = {});
+
+/// As FeatureManager::SetValue(), and empty when the camera does not tell the value afterwards.
+std::optional<double> writeNumber(FeatureManager& manager, const QString& name, double value);

@@ -7,21 +7,7 @@
 #include <limits>
 #include <utility>
 
-ZebFeatureWrapper::ZebFeatureWrapper(const ZebCPP::FeaturePtr& feature)
-    : m_feature(feature)
-{
-}
-
 ZebFeatureWrapper::~ZebFeatureWrapper() = default;
-
-// The SDK is foreign code: neither an exception of its own nor a feature that was handed over as a
-// null pointer may leave these operations in any way but as a result code.
-template <typename Call> ZebErrorType ZebFeatureWrapper::forward(Call&& call) noexcept
-try {
-    return m_feature ? call(*m_feature) : Sdk::badHandle;
-} catch (...) {
-    return Sdk::resources;
-}
 
 ZebErrorType ZebFeatureWrapper::readText(TextGetter getter, std::string& text)
 {
@@ -30,11 +16,6 @@ ZebErrorType ZebFeatureWrapper::readText(TextGetter getter, std::string& text)
             return (feature.*getter)(buffer, length);
         });
     });
-}
-
-ZebCPP::FeaturePtr& ZebFeatureWrapper::GetFeature()
-{
-    return m_feature;
 }
 
 ZebErrorType ZebFeatureWrapper::GetValue(std::vector<uint8_t>& value, uint32_t& sizeFilled)
@@ -57,27 +38,12 @@ ZebErrorType ZebFeatureWrapper::GetValue(std::vector<uint8_t>& value)
     return GetValue(value, sizeFilled);
 }
 
-ZebErrorType ZebFeatureWrapper::GetValue(bool& value)
-{
-    return forward([&](auto& feature) { return feature.GetValue(value); });
-}
-
 ZebErrorType ZebFeatureWrapper::GetValue(std::string& value)
 {
     const ZebErrorType result = readText(&ZebCPP::Feature::GetValue, value);
     if (result != Sdk::success)
         value.clear();
     return result;
-}
-
-ZebErrorType ZebFeatureWrapper::GetValue(double& value)
-{
-    return forward([&](auto& feature) { return feature.GetValue(value); });
-}
-
-ZebErrorType ZebFeatureWrapper::GetValue(int64_t& value)
-{
-    return forward([&](auto& feature) { return feature.GetValue(value); });
 }
 
 ZebErrorType ZebFeatureWrapper::GetValues(std::vector<std::string>& values)
@@ -108,11 +74,6 @@ ZebErrorType ZebFeatureWrapper::GetValues(std::vector<int64_t>& values)
     });
 }
 
-ZebErrorType ZebFeatureWrapper::GetEntry(ZebCPP::EnumEntry& entry, const char* entryName)
-{
-    return forward([&](auto& feature) { return feature.GetEntry(entry, entryName); });
-}
-
 ZebErrorType ZebFeatureWrapper::GetEntries(std::vector<ZebCPP::EnumEntry>& entries)
 {
     return forward([&](ZebCPP::Feature& feature) {
@@ -122,16 +83,6 @@ ZebErrorType ZebFeatureWrapper::GetEntries(std::vector<ZebCPP::EnumEntry>& entri
     });
 }
 
-ZebErrorType ZebFeatureWrapper::GetRange(int64_t& minimum, int64_t& maximum)
-{
-    return forward([&](auto& feature) { return feature.GetRange(minimum, maximum); });
-}
-
-ZebErrorType ZebFeatureWrapper::GetRange(double& minimum, double& maximum)
-{
-    return forward([&](auto& feature) { return feature.GetRange(minimum, maximum); });
-}
-
 ZebErrorType ZebFeatureWrapper::SetValue(const std::vector<uint8_t>& value)
 {
     if (value.empty() || value.size() > std::numeric_limits<uint32_t>::max())
@@ -139,111 +90,6 @@ ZebErrorType ZebFeatureWrapper::SetValue(const std::vector<uint8_t>& value)
     return forward([&](auto& feature) {
         return feature.SetValue(value.data(), static_cast<uint32_t>(value.size()));
     });
-}
-
-ZebErrorType ZebFeatureWrapper::SetValue(const char* value)
-{
-    return forward([&](auto& feature) { return feature.SetValue(value); });
-}
-
-ZebErrorType ZebFeatureWrapper::SetValue(bool value)
-{
-    return forward([&](auto& feature) { return feature.SetValue(value); });
-}
-
-ZebErrorType ZebFeatureWrapper::SetValue(double value)
-{
-    return forward([&](auto& feature) { return feature.SetValue(value); });
-}
-
-ZebErrorType ZebFeatureWrapper::SetValue(int64_t value)
-{
-    return forward([&](auto& feature) { return feature.SetValue(value); });
-}
-
-ZebErrorType ZebFeatureWrapper::HasIncrement(bool& hasIncrement)
-{
-    return forward([&](auto& feature) { return feature.HasIncrement(hasIncrement); });
-}
-
-ZebErrorType ZebFeatureWrapper::GetIncrement(double& increment)
-{
-    return forward([&](auto& feature) { return feature.GetIncrement(increment); });
-}
-
-ZebErrorType ZebFeatureWrapper::GetIncrement(int64_t& increment)
-{
-    return forward([&](auto& feature) { return feature.GetIncrement(increment); });
-}
-
-ZebErrorType ZebFeatureWrapper::IsValueAvailable(int64_t value, bool& available)
-{
-    return forward([&](auto& feature) { return feature.IsValueAvailable(value, available); });
-}
-
-ZebErrorType ZebFeatureWrapper::IsValueAvailable(const char* value, bool& available)
-{
-    return forward([&](auto& feature) { return feature.IsValueAvailable(value, available); });
-}
-
-ZebErrorType ZebFeatureWrapper::RunCommand()
-{
-    return forward([](auto& feature) { return feature.RunCommand(); });
-}
-
-ZebErrorType ZebFeatureWrapper::IsCommandDone(bool& done)
-{
-    return forward([&](auto& feature) { return feature.IsCommandDone(done); });
-}
-
-ZebErrorType ZebFeatureWrapper::GetName(std::string& name)
-{
-    return readText(&ZebCPP::Feature::GetName, name);
-}
-
-ZebErrorType ZebFeatureWrapper::GetDisplayName(std::string& displayName)
-{
-    return readText(&ZebCPP::Feature::GetDisplayName, displayName);
-}
-
-ZebErrorType ZebFeatureWrapper::GetDataType(ZebFeatureDataType& dataType)
-{
-    return forward([&](auto& feature) { return feature.GetDataType(dataType); });
-}
-
-ZebErrorType ZebFeatureWrapper::GetFlags(ZebFeatureFlagsType& flags)
-{
-    return forward([&](auto& feature) { return feature.GetFlags(flags); });
-}
-
-ZebErrorType ZebFeatureWrapper::GetCategory(std::string& category)
-{
-    return readText(&ZebCPP::Feature::GetCategory, category);
-}
-
-ZebErrorType ZebFeatureWrapper::GetUnit(std::string& unit)
-{
-    return readText(&ZebCPP::Feature::GetUnit, unit);
-}
-
-ZebErrorType ZebFeatureWrapper::GetRepresentation(std::string& representation)
-{
-    return readText(&ZebCPP::Feature::GetRepresentation, representation);
-}
-
-ZebErrorType ZebFeatureWrapper::GetVisibility(ZebFeatureVisibilityType& visibility)
-{
-    return forward([&](auto& feature) { return feature.GetVisibility(visibility); });
-}
-
-ZebErrorType ZebFeatureWrapper::GetToolTip(std::string& toolTip)
-{
-    return readText(&ZebCPP::Feature::GetToolTip, toolTip);
-}
-
-ZebErrorType ZebFeatureWrapper::GetDescription(std::string& description)
-{
-    return readText(&ZebCPP::Feature::GetDescription, description);
 }
 
 ZebErrorType ZebFeatureWrapper::GetSelectedFeatures(std::vector<ZebCPP::FeaturePtr>& features)
@@ -263,24 +109,4 @@ ZebErrorType ZebFeatureWrapper::GetValidValueSet(std::vector<int64_t>& values)
         };
         return TwoCallPattern::readList(values, TwoCallPattern::maximumListItems<int64_t>, fetch);
     });
-}
-
-ZebErrorType ZebFeatureWrapper::IsReadable(bool& readable)
-{
-    return forward([&](auto& feature) { return feature.IsReadable(readable); });
-}
-
-ZebErrorType ZebFeatureWrapper::IsWritable(bool& writable)
-{
-    return forward([&](auto& feature) { return feature.IsWritable(writable); });
-}
-
-ZebErrorType ZebFeatureWrapper::RegisterObserver(const ZebCPP::IFeatureObserverPtr& observer)
-{
-    return forward([&](auto& feature) { return feature.RegisterObserver(observer); });
-}
-
-ZebErrorType ZebFeatureWrapper::UnregisterObserver(const ZebCPP::IFeatureObserverPtr& observer)
-{
-    return forward([&](auto& feature) { return feature.UnregisterObserver(observer); });
 }

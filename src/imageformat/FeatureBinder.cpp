@@ -84,7 +84,7 @@ bool FeatureBinder::write(QWidget* field, const QVariant& value)
     if (feature && qobject_cast<QComboBox*>(field))
         FeatureWriting::writeText(*feature.feature(), value.toString());
     else if (feature)
-        FeatureWriting::writeNumber(*feature.feature(), name, value.toDouble());
+        FeatureWriting::writeNumber(feature, name, value.toDouble());
     // The box is in the middle of telling what was chosen, so it keeps its entries.
     return showReading(field, feature, Entries::Kept);
 }
@@ -111,12 +111,13 @@ bool FeatureBinder::showReading(QWidget* field, FeatureReader& feature, Entries 
         else if (entries == Entries::Refilled)
             isComplete = false;
     } else if (auto* const spinBox = qobject_cast<QSpinBox*>(field)) {
-        const auto reading = feature.number(FeatureReader::Range | FeatureReader::Access);
+        const auto reading
+            = feature.number(FeatureReader::Value | FeatureReader::Range | FeatureReader::Access);
         if (reading.minimum && reading.maximum)
             spinBox->setRange(toInt(*reading.minimum), toInt(*reading.maximum));
         isComplete = take(reading);
     } else {
-        isComplete = take(feature.number(FeatureReader::Access));
+        isComplete = take(feature.number(FeatureReader::Value | FeatureReader::Access));
     }
     if (!told.isValid())
         return isComplete;

@@ -220,6 +220,7 @@ void ImageFormatWidget::write(QWidget* field, const QVariant& value)
 
 void ImageFormatWidget::resetImageSource()
 {
+    const CameraLink::ManyReads manyReads(*featureManager->link()); // by the region pages
     m_ui->imageReaderWidget->setCurrentIndex(ImageReaderWidget::NoImage);
     m_ui->imageReaderWidget->onComboBoxItemActivated(ImageReaderWidget::NoImage);
 }
@@ -263,6 +264,11 @@ void ImageFormatWidget::updateIcon()
 {
     m_ui->lblIcon->setPixmap(QPixmap(isDarkMode() ? QStringLiteral(":/images/image-darkmode.png")
                                                   : QStringLiteral(":/images/image.png")));
+}
+
+void ImageFormatWidget::reportLoss(const QString& message)
+{
+    emit loggingMessage(ZebViewerLogMultiRegion, message);
 }
 
 void ImageFormatWidget::onPaletteChanged(QEvent*)

@@ -44,6 +44,7 @@ public slots:
 protected:
     void refreshFeatures() override;
     void onPaletteChanged(QEvent* event) override;
+    void reportLoss(const QString& message) override;
 
 private:
     void connectImageSource();

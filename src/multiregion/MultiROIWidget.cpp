@@ -516,7 +516,7 @@ bool MultiROIWidget::testCompatibility()
 {
     bool isTold = true;
     const auto valueOf = [this, &isTold](const QString& name) {
-        const Reading<double> reading = featureManager->Read(name).number(FeatureReader::ValueOnly);
+        const Reading<double> reading = featureManager->Read(name).number(FeatureReader::Value);
         isTold = isTold && reading.isComplete;
         return reading.value.value_or(0.0);
     };

@@ -37,7 +37,7 @@ int wholePixels(std::optional<double> value, int missing)
 std::optional<double> readKnown(FeatureManager& manager, const QString& name,
                                 const QString& olderName = {})
 {
-    const Reading<double> reading = manager.Read(name, olderName).number(FeatureReader::ValueOnly);
+    const Reading<double> reading = manager.Read(name, olderName).number(FeatureReader::Value);
     return reading.isComplete ? std::optional<double>(reading.value.value_or(0.0)) : std::nullopt;
 }
 

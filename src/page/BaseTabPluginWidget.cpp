@@ -3,18 +3,17 @@
 #include "features/CameraLink.h"
 #include "features/FeatureNames.h"
 #include "features/FeatureWrapping.h"
+#include "page/ChangedNames.h"
+#include "page/FeatureObservation.h"
 #include "page/TENotSupported.h"
 #include "page/Translators.h"
 #include "widgets/SilentFields.h"
 
 #include <QApplication>
+#include <QDebug>
 #include <QEvent>
-#include <QMutex>
 #include <QPalette>
-#include <QPointer>
 #include <QTimer>
-
-#include <utility>
 
 #ifdef Q_OS_WIN
 #include <qt_windows.h>
@@ -22,6 +21,7 @@
 
 namespace {
 
+constexpr int refreshIntervalMs = 1000;
 constexpr int darkLightness = 128;
 
 void discardMessage(QtMsgType, const QMessageLogContext&, const QString&) { }
@@ -40,55 +40,22 @@ void silenceQt()
 
 } // namespace
 
-// Holds the list of changed names. Whatever is noted meanwhile on this thread (a camera that
-// notifies within a write or a registration) waits in a side list, so that it neither deadlocks nor
-// is lost when the list is cleared. The page may end while its list is held.
-class BaseTabPluginWidget::ListLock
-{
-public:
-    explicit ListLock(BaseTabPluginWidget* page)
-        : m_page(page)
-    {
-        m_page->mutex->lock();
-        m_page->m_locked = true;
-    }
-
-    ~ListLock()
-    {
-        if (!m_page)
-            return;
-        m_page->m_locked = false;
-        const QStringList names = std::exchange(m_page->m_namesDuringLock, {});
-        for (const QString& name : names)
-            m_page->noteChanged(name);
-        m_page->mutex->unlock();
-    }
-
-    bool isAlive() const { return m_page; }
-
-    ListLock(const ListLock&) = delete;
-    ListLock& operator=(const ListLock&) = delete;
-
-private:
-    QPointer<BaseTabPluginWidget> m_page;
-};
-
 BaseTabPluginWidget::BaseTabPluginWidget(const FeatureList& features, QWidget* parent)
     : QWidget(parent)
+    , m_outerPage(qobject_cast<BaseTabPluginWidget*>(parent))
+    , m_changes(std::make_shared<ChangedNames>())
 {
     silenceQt();
     cameraFeatures = features;
-    // A page within another page works on the same camera.
-    const auto* const outerPage = qobject_cast<BaseTabPluginWidget*>(parent);
-    if (outerPage && features && outerPage->cameraFeatures
-        && *outerPage->cameraFeatures == *features) {
-        featureManager = std::make_unique<FeatureManager>(outerPage->featureManager->features(),
-                                                          outerPage->featureManager->link());
+    if (m_outerPage && features && m_outerPage->cameraFeatures
+        && *m_outerPage->cameraFeatures == *features) {
+        const FeatureManager& shared = *m_outerPage->featureManager;
+        featureManager = std::make_unique<FeatureManager>(shared.features(), shared.link());
     } else {
         featureManager = std::make_unique<FeatureManager>(
             features ? wrapFeatures(*features) : FeatureManager::Wrappers::create());
     }
-    m_link = featureManager->link();
+    m_observation = std::make_unique<FeatureObservation>(*featureManager);
     if (!BaseTabPluginWidget::isVendorSupported(featureManager.get())) {
         throw TENotSupported(QStringLiteral("BaseTabPluginWidget::BaseTabPluginWidget"),
                              tr("Vendor not supported for plugins, widget not created."));
@@ -104,10 +71,10 @@ BaseTabPluginWidget::BaseTabPluginWidget(const FeatureList& features, QWidget* p
         " QSpinBox:disabled, QwtSlider:disabled, QGroupBox:disabled, QLabel:disabled"
         " { color: gray }"));
 
-    mutex = std::make_unique<QMutex>();
+    mutex = &m_changes->mutex();
     refreshTimer = new QTimer(this);
     connect(refreshTimer, SIGNAL(timeout()), this, SLOT(updateTimer()));
-    changedFeatures = std::make_unique<QStringList>();
+    changedFeatures = &m_changes->list();
 
     connect(qApp, &QGuiApplication::paletteChanged, this,
             &BaseTabPluginWidget::onApplicationPaletteChanged);
@@ -120,18 +87,6 @@ BaseTabPluginWidget::~BaseTabPluginWidget()
     disconnect(observer.get(), nullptr, this, nullptr);
     disconnect(qApp, nullptr, this, nullptr);
     stopUpdates();
-    if (m_locked)
-        mutex->unlock();
-}
-
-template <typename Work> void BaseTabPluginWidget::withList(Work&& work)
-{
-    if (m_locked) {
-        work(true);
-    } else {
-        const ListLock lock(this);
-        work(false);
-    }
 }
 
 bool BaseTabPluginWidget::isVendorSupported(FeatureManager* manager)
@@ -144,45 +99,62 @@ void BaseTabPluginWidget::OnFeatureChanged(const QString& name, const QString&)
 {
     // A notification from another thread may be under way when the page hides. While it observes,
     // sender() is not asked: it would wait for a lock that the notifying thread still holds.
-    if (!m_observing && sender() == observer.get())
-        return;
-    noteOrKeep(name);
+    if (m_observation->isRunning() || sender() != observer.get())
+        m_changes->note(name);
 }
 
-void BaseTabPluginWidget::noteOrKeep(const QString& name)
+void BaseTabPluginWidget::readAgain(const QStringList& names)
 {
-    if (m_locked) {
-        if (!m_namesDuringLock.contains(name))
-            m_namesDuringLock.append(name);
-        return;
-    }
-    const QMutexLocker locker(mutex.get());
-    noteChanged(name);
-}
-
-void BaseTabPluginWidget::noteChanged(const QString& name)
-{
-    if (!changedFeatures->contains(name))
-        changedFeatures->append(name);
+    for (const QString& name : names)
+        m_changes->note(name);
 }
 
 void BaseTabPluginWidget::updateTimer()
 {
     // Without an answer there is nothing to show: the page keeps what it shows, and the names.
-    if (m_locked || m_suspensions > 0 || isCameraLost())
+    if (m_changes->isHeld() || m_suspensions > 0 || isCameraLost())
         return;
-    if (m_wasLost && refreshTimer->isActive())
-        observeAgain();
-    const ListLock lock(this);
+    if (m_wasLost && refreshTimer->isActive()) {
+        // A camera that is back may have lost the observers, and anything may have changed.
+        m_wasLost = false;
+        unregisterObservers(false);
+        registerObservers(true);
+    }
+    ChangedNames::Hold hold(m_changes);
     refreshWhileAnswered();
-    if (lock.isAlive())
-        changedFeatures->clear();
+    hold.handled();
 }
 
+/// Asks a lost camera itself, now and then, each time another feature: it may be that one which
+/// does not answer.
+bool BaseTabPluginWidget::isCameraLost()
+{
+    CameraLink& link = *featureManager->link();
+    const QStringList names = observedFeatures + QStringList{FeatureNames::deviceVendorName};
+    const int first = link.questions();
+    for (int i = 0; link.isDue() && i < names.size(); ++i) {
+        if (featureManager->Read(names.at((first + i) % names.size())).askValue())
+            break;
+    }
+    if (!link.isLost())
+        return false;
+    m_wasLost = true;
+    if (link.takeLoss())
+        reportLoss(tr("The camera does not answer. The page shows its last known settings."));
+    return true;
+}
+
+void BaseTabPluginWidget::reportLoss(const QString& message)
+{
+    if (m_outerPage)
+        m_outerPage->reportLoss(message);
+}
+
+/// A refresh ends where the camera is lost.
 void BaseTabPluginWidget::refreshWhileAnswered()
 {
-    const std::shared_ptr<CameraLink> link = m_link;
     const QPointer<BaseTabPluginWidget> page = this;
+    const std::shared_ptr<CameraLink> link = featureManager->link();
     const CameraLink::ManyReads manyReads(*link);
     refreshFeatures();
     if (page && link->isLost())
@@ -192,24 +164,66 @@ void BaseTabPluginWidget::refreshWhileAnswered()
 void BaseTabPluginWidget::showEvent(QShowEvent* event)
 {
     QWidget::showEvent(event);
-    withList([this](bool isRefreshing) {
-        const QPointer<BaseTabPluginWidget> page = this;
-        if (!isRefreshing && !isCameraLost())
-            refreshWhileAnswered();
-        if (page && m_suspensions == 0)
-            startUpdates(true);
-    });
+    const QPointer<BaseTabPluginWidget> page = this;
+    const ChangedNames::Hold hold(m_changes);
+    if (hold.isOutermost() && !isCameraLost())
+        refreshWhileAnswered();
+    if (page && m_suspensions == 0)
+        startUpdates(true);
 }
 
 void BaseTabPluginWidget::hideEvent(QHideEvent* event)
 {
     m_suspensions = 0;
     stopUpdates();
-    withList([this](bool) {
-        changedFeatures->clear();
-        m_namesDuringLock.clear();
-    });
+    m_changes->clear();
     QWidget::hideEvent(event);
+}
+
+void BaseTabPluginWidget::startUpdates(bool markChanged)
+{
+    refreshTimer->start(refreshIntervalMs);
+    if (m_observation->isRunning()) {
+        if (markChanged)
+            readAgain(m_observation->names());
+    } else if (featureManager->link()->isLost()) {
+        m_wasLost = true;
+    } else {
+        registerObservers(markChanged);
+    }
+}
+
+void BaseTabPluginWidget::stopUpdates()
+{
+    refreshTimer->stop();
+    unregisterObservers(false);
+}
+
+ZebErrorType BaseTabPluginWidget::registerObservers(bool markChanged)
+{
+    if (!hasFeatures())
+        return Sdk::notFound;
+    const ZebErrorType result = m_observation->start(observedFeatures, observer);
+    if (markChanged)
+        readAgain(m_observation->names());
+    return result;
+}
+
+ZebErrorType BaseTabPluginWidget::unregisterObservers(bool markChanged)
+{
+    const QStringList names = m_observation->names();
+    const ZebErrorType result = m_observation->stop();
+    if (markChanged)
+        readAgain(names);
+    return hasFeatures() ? result : Sdk::notFound;
+}
+
+bool BaseTabPluginWidget::hasFeatures() const
+{
+    if (cameraFeatures && !cameraFeatures->isEmpty())
+        return true;
+    qDebug() << "Could not get features. Error code: " << static_cast<int>(Sdk::notFound);
+    return false;
 }
 
 void BaseTabPluginWidget::changeEvent(QEvent* event)
@@ -240,14 +254,16 @@ void BaseTabPluginWidget::resumeUpdates(bool markChanged)
 {
     if (m_suspensions == 0 || --m_suspensions > 0 || !isVisible())
         return;
-    withList([this, markChanged](bool) { startUpdates(markChanged); });
+    const ChangedNames::Hold hold(m_changes);
+    startUpdates(markChanged);
 }
 
 bool BaseTabPluginWidget::fillComboBox(const QString& featureName, QComboBox* comboBox,
                                        bool withItemData)
 {
-    const QString current = featureManager->GetStringValue(featureName);
-    showEntries(comboBox, featureManager->GetEnumEntries(featureName), withItemData);
+    FeatureReader reader = featureManager->Read(featureName);
+    const QString current = reader.textValue().value_or(QString());
+    showEntries(comboBox, reader.entries(), withItemData);
     return showEntry(comboBox, current);
 }
 

@@ -5,12 +5,14 @@
 #include "features/SdkValues.h"
 #include "host/TabExtensionInterface.h"
 
+#include <QPointer>
 #include <QStringList>
 #include <QWidget>
 
 #include <memory>
 
-class CameraLink;
+class ChangedNames;
+class FeatureObservation;
 class QComboBox;
 class QMutex;
 class QTimer;
@@ -21,8 +23,10 @@ class QTranslator;
 /// page is visible, not suspended, and the camera answers.
 ///
 /// The SDK may notify on any thread, also on the GUI thread in the middle of a write or of a
-/// registration. Names noted while the base works on its list go to a side list and are refreshed
-/// next time.
+/// registration. Names noted while the base works on its list are refreshed next time.
+///
+/// A page within another page of the same camera shares its wrappers and its link. While the camera
+/// does not answer, pages show what they showed, and the outermost says so once.
 ///
 /// Constructing a page silences Qt's log output for the whole process.
 class BaseTabPluginWidget : public QWidget
@@ -37,9 +41,7 @@ public:
     ~BaseTabPluginWidget() override;
 
     /// Both answer the SDK's code of the last feature handled, or Sdk::notFound for a camera
-    /// without features. With @p markChanged the features handled count as changed. What was
-    /// registered is remembered, so that a camera which has forgotten its names, or does not answer
-    /// any more, is left without questions.
+    /// without features. With @p markChanged the features handled count as changed.
     ZebErrorType registerObservers(bool markChanged);
     ZebErrorType unregisterObservers(bool markChanged);
 
@@ -67,6 +69,8 @@ protected:
     /// The palette of the page or of the application changed. This may come while a derived
     /// constructor runs.
     virtual void onPaletteChanged(QEvent* event) = 0;
+    /// The camera does not answer any more. Tells the outer page; the outermost tells the viewer.
+    virtual void reportLoss(const QString& message);
 
     void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;
@@ -77,6 +81,9 @@ protected:
     void suspendUpdates();
     void resumeUpdates(bool markChanged);
 
+    /// What could not be read stays pending until the next tick.
+    void readAgain(const QStringList& names);
+
     /// Whether the application's windows are dark. The page's own palette does not tell, for its
     /// style sheet cuts it off from the application's.
     static bool isDarkMode();
@@ -85,43 +92,24 @@ protected:
     static bool installTranslator(const QString& baseName);
 
     std::unique_ptr<FeatureManager> featureManager;
-    std::unique_ptr<QStringList> changedFeatures;
+    QStringList* changedFeatures = nullptr; ///< guarded by mutex
     QStringList observedFeatures;
     FeatureList cameraFeatures;
     QTimer* refreshTimer = nullptr;
-    std::unique_ptr<QMutex> mutex;
+    QMutex* mutex = nullptr;
     std::shared_ptr<PluginFeatureObserver> observer;
 
 private:
-    class ListLock;
-
-    struct Registration
-    {
-        ZebCPP::FeaturePtr feature;
-        QString name;
-    };
-
-    /// Runs @p work with the list held, once; its argument tells whether it was held already, as it
-    /// is when the page is shown or hidden from within a refresh.
-    template <typename Work> void withList(Work&& work);
-    /// The features of the camera that the page observes, as the camera names them now.
-    QVector<Registration> findObserved();
     bool hasFeatures() const;
     bool isCameraLost();
     void refreshWhileAnswered();
-    void observeAgain();
-    void markRegistered();
     void startUpdates(bool markChanged);
     void stopUpdates();
-    void noteChanged(const QString& name);
-    void noteOrKeep(const QString& name);
     void onApplicationPaletteChanged();
 
-    std::shared_ptr<CameraLink> m_link;
-    QVector<Registration> m_registrations;
-    QStringList m_namesDuringLock;
-    bool m_locked = false;
-    bool m_observing = false;
+    QPointer<BaseTabPluginWidget> m_outerPage;
+    std::shared_ptr<ChangedNames> m_changes;
+    std::unique_ptr<FeatureObservation> m_observation;
     bool m_wasLost = false; ///< the camera did not answer when the page was to be refreshed
     bool m_built = false;
     int m_suspensions = 0;

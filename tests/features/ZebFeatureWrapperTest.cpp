@@ -116,6 +116,8 @@ private slots:
                                 sim::commandFeature("F6"), sim::rawFeature("F7", {1}),
                                 sim::integerFeature("F8", 3)});
             camera.failures().add("F8", Operation::GetValue, Failure::refuse());
+            if (text.isEmpty() && index < 6)
+                camera.failures().add("*", Operation::GetValue, Failure::of(Failure::Kind::Throw));
             PluginFeatureObserver observer;
             QSignalSpy changed(&observer, &PluginFeatureObserver::setChangedFeature);
 
@@ -134,6 +136,8 @@ private slots:
         row("command", 6, "[COMMAND]");
         row("raw", 7, "Click here to open");
         row("unreadable integer", 8, "");
+        for (const int index : {0, 1, 3, 4, 5})
+            row("read that throws " + QByteArray::number(index), index, "");
     }
     void sendsValuesAsText() { runRow(); }
 

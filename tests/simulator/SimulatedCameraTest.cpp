@@ -156,18 +156,6 @@ private slots:
     }
     void featuresFollowOneAnother() { runRow(); }
 
-    void streamingLocks()
-    {
-        const auto camera = createCamera("current");
-        QCOMPARE(camera->runAsOtherClient("AcquisitionStart"), ZebErrorSuccess);
-        for (const auto expected : {ZebErrorInvalidAccess, ZebErrorSuccess}) {
-            QCOMPARE(write(*camera, "Width 640"), expected);
-            QCOMPARE(camera->feature("DeviceSelfTest").pointer()->RunCommand(), expected);
-            QCOMPARE(write(*camera, "OffsetX 0"), ZebErrorSuccess);
-            camera->setStreaming(false);
-        }
-    }
-
     void regionStatus_data()
     {
         // An empty rectangle is switched off; a digit of "valid" stands for each region.

@@ -127,21 +127,6 @@ private slots:
         QCOMPARE(int(observer->calls), 3);
     }
 
-    void closingDropsWhatWaits()
-    {
-        auto camera = createCamera("current");
-        NotificationSettings settings = NotificationSettings::asynchronous(50ms);
-        settings.lateAfterUnregistration = true;
-        camera->setNotifications(settings);
-        const auto observer = observe(*camera, {"Width"});
-        camera->feature("Width").pointer()->SetValue(std::int64_t{640});
-        camera->feature("Width").pointer()->UnregisterObserver(observer);
-        camera.reset();
-        QCOMPARE(observer.use_count(), 1l);
-        QTest::qSleep(80);
-        QCOMPARE(int(observer->calls), 0);
-    }
-
     void manyThreads()
     {
         const auto camera = createCamera("current");

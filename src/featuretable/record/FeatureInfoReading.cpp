@@ -111,7 +111,7 @@ bool readFeatureInfo(FeatureManager& manager, FeatureInfo& info)
     if (feature && !manager.link()->isDoubtful()) {
         readTexts(feature, info);
         if (info.information.empty() || toldOf(info) != toldBefore)
-            info.information = featureInformation(*feature.feature()).toStdString();
+            info.information = featureInformation(feature).toStdString();
     }
     if (info.displayName.empty())
         info.displayName = info.name;
