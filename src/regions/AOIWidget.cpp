@@ -275,6 +275,8 @@ void AOIWidget::showRegion()
         if (m_background)
             showBackgroundAgain();
     }
+    if (!m_horizontal->isTold() || !m_vertical->isTold())
+        return;
     const Span<double> vertical = onSensor(m_vertical->onCamera(), height);
     const Span<double> horizontal = onSensor(m_horizontal->onCamera(), width);
     m_label->setRegion(toInt(vertical.start), toInt(horizontal.start), toInt(horizontal.length),

@@ -3,7 +3,6 @@
 #include "features/FeatureNames.h"
 #include "regions/AutoROIConnections.h"
 #include "regions/automatic/AutoRegionForm.h"
-#include "regions/automatic/AutoRegionMessage.h"
 #include "regions/automatic/AutoRegionPicture.h"
 #include "regions/automatic/AutoRegionView.h"
 #include "regions/automatic/AutoRegionWriter.h"
@@ -56,7 +55,7 @@ AutoROIWidget::AutoROIWidget(const FeatureList& camera, QWidget* parent)
     loadRegion();
     showRegion();
 
-    if (m_camera->has(Name::dspLeft) && m_camera->usesEdges()
+    if (m_camera->has(Name::dspLeft) && m_camera->usesEdges() && m_camera->isRegionTold()
         && !hasValidEdges(m_camera->region(), m_camera->limits()))
         m_ui->btnFull->click();
 }
@@ -79,7 +78,6 @@ void AutoROIWidget::createParts()
                               m_ui->spinWidth, m_ui->spinHeight});
     m_writer = std::make_unique<AutoRegionWriter>(*m_camera, *m_view);
     m_picture = std::make_unique<AutoRegionPicture>(*m_camera, *m_ui->gb_AutoROI->layout());
-    m_message = std::make_unique<AutoRegionMessage>(*m_camera, m_ui->labelInvalidSettings);
     m_exposure = std::make_unique<ExposureLimits>(*featureManager, m_ui->spinExpAutoMin,
                                                   m_ui->spinExpAutoMax);
 }
@@ -97,7 +95,7 @@ void AutoROIWidget::writeNumber(RegionNumber number, double value)
     m_writer->write(number, value);
     readAllNext();
     if (m_camera->usesEdges())
-        m_message->showEdges(wanted);
+        showEdgeProblems(*m_ui, *m_camera, wanted);
     showRegion();
 }
 
@@ -125,15 +123,23 @@ void AutoROIWidget::OnEnableStateChanged(int state)
 void AutoROIWidget::OnShowAreaStateChanged(int state)
 {
     const double shown = featureManager->SetValue(Name::aoiShowArea, state > 0 ? 1.0 : 0.0);
-    if (m_ui)
-        showChecked(m_ui->cbShowArea, shown > 0.0);
+    if (!m_ui)
+        return;
+    showChecked(m_ui->cbShowArea, shown > 0.0);
+    readNext({Name::aoiShowArea});
 }
 
 void AutoROIWidget::OnIntensityControllerRegionChanged(const QString& region)
 {
     if (m_ui && m_camera->has(Name::intensityControllerRegion))
-        showEntry(m_ui->comboIntensityControllerRegion,
-                  featureManager->SetStringValue(Name::intensityControllerRegion, region));
+        writeEntry(m_ui->comboIntensityControllerRegion, Name::intensityControllerRegion, region);
+}
+
+// A camera that does not tell what it took is asked again.
+void AutoROIWidget::writeEntry(QComboBox* comboBox, const QString& name, const QString& entry)
+{
+    if (!showEntry(comboBox, featureManager->SetStringValue(name, entry)))
+        readNext({name});
 }
 
 // False when the page was deleted meanwhile.
@@ -186,7 +192,7 @@ void AutoROIWidget::OnSendGeometry(int top, int left, int width, int height)
     // Also while the region is off: the band lies where it was dropped.
     m_picture->showRegion();
     if (m_camera->usesEdges()) {
-        m_message->showEdges(m_view->shown());
+        showEdgeProblems(*m_ui, *m_camera, m_view->shown());
     } else if (m_camera->usesSizes()) {
         if (!pumpEvents())
             return;
@@ -227,7 +233,7 @@ template <typename Preset> void AutoROIWidget::applyPreset(Preset&& preset)
         return;
     preset();
     if (m_camera->usesEdges())
-        m_message->showEdges(m_view->shown());
+        showEdgeProblems(*m_ui, *m_camera, m_view->shown());
     showRegion();
     readAllSoon();
 }
@@ -262,8 +268,7 @@ void AutoROIWidget::OnExpAutoTimebaseChanged(const QString& timebase)
 {
     if (!m_ui || !m_camera->has(Name::exposureAutoTimebase))
         return;
-    showEntry(m_ui->comboExpAutoTimeBase,
-              featureManager->SetStringValue(Name::exposureAutoTimebase, timebase));
+    writeEntry(m_ui->comboExpAutoTimeBase, Name::exposureAutoTimebase, timebase);
     readNext(m_exposure->refresh());
 }
 
@@ -314,15 +319,19 @@ Changes AutoROIWidget::refresh(const Changes& changes)
         const bool isSizeTold
             = changes.names.contains(Name::height) || changes.names.contains(Name::width);
         const bool isNewSize = isSizeTold && !std::exchange(m_isJustShown, false);
-        const bool isResized = followImage(isNewSize);
+        const bool isResized = m_camera->followImage(isNewSize);
+        if (isResized) {
+            m_picture->followLimits();
+            loadRegion();
+        }
         const bool readsRegion = isResized || changes.any(Name::autoRegion);
         const bool readsSwitches = changes.any({Name::aoiEnable, Name::aoiShowArea});
         if (readsRegion || readsSwitches)
             refreshSwitches();
         // A region that is switched on is drawn where it is by now.
-        if ((readsRegion || readsSwitches) && !m_view->refresh())
-            untold << Name::autoRegion;
-        if (readsRegion)
+        if (readsRegion || readsSwitches)
+            m_view->refresh();
+        if (readsRegion && m_camera->isRegionTold())
             checkRegion();
         showRegion();
     }
@@ -335,15 +344,6 @@ Changes AutoROIWidget::refresh(const Changes& changes)
         fitColumns(*m_ui);
     enableControls(!isStreaming());
     return {false, untold + m_camera->takeUntold()};
-}
-
-bool AutoROIWidget::followImage(bool isSizeTold)
-{
-    if (!m_camera->followImage(isSizeTold))
-        return false;
-    m_picture->followLimits();
-    loadRegion();
-    return true;
 }
 
 void AutoROIWidget::loadRegion()
@@ -388,10 +388,10 @@ void AutoROIWidget::showRegion()
 void AutoROIWidget::checkRegion()
 {
     if (m_camera->usesEdges())
-        m_message->showEdges(m_view->shown());
+        showEdgeProblems(*m_ui, *m_camera, m_view->shown());
     else if (m_isTrusted)
-        m_message->hide();
-    else if (m_camera->usesSizes() && !m_message->showSizes() && isVisible())
+        m_ui->labelInvalidSettings->hide();
+    else if (m_camera->usesSizes() && !showSizeProblem(*m_ui, *m_camera) && isVisible())
         OnEnableStateChanged(0);
 }
 

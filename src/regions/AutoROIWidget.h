@@ -7,11 +7,11 @@
 
 #include <memory>
 
-class AutoRegionMessage;
 class AutoRegionView;
 class AutoRegionPicture;
 class AutoRegionWriter;
 class ExposureLimits;
+class QComboBox;
 
 namespace Ui {
 class AutoROIWidget;
@@ -73,11 +73,11 @@ private:
 
     void writeNumber(RegionNumber number, double value);
     template <typename Preset> void applyPreset(Preset&& preset);
+    void writeEntry(QComboBox* comboBox, const QString& name, const QString& entry);
     bool pumpEvents();
     void commitTyping();
     void onDragDropped();
 
-    bool followImage(bool isSizeTold);
     void refreshSwitches();
     QStringList showEntries();
     void checkRegion();
@@ -88,7 +88,6 @@ private:
     std::unique_ptr<AutoRegionView> m_view;
     std::unique_ptr<AutoRegionWriter> m_writer;
     std::unique_ptr<AutoRegionPicture> m_picture;
-    std::unique_ptr<AutoRegionMessage> m_message;
     std::unique_ptr<ExposureLimits> m_exposure;
     bool m_isTrusted = false;   ///< a drag was just written; what it passes through is no error
     bool m_isJustShown = false; ///< which counts every feature as changed

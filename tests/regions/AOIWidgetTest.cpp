@@ -83,25 +83,6 @@ private slots:
     }
     void findsTheMaximum() { runRow(); }
 
-    /// -1 is neither a region nor a minimum of a field.
-    void keepsWhatCannotBeRead()
-    {
-        const AOIPage p("current");
-        p.click("btnHalf");
-        p.settle();
-        const QString before = text(p.onCamera());
-        p.camera->failures().add("*", sim::Operation::GetValue, sim::Failure::refuse());
-        p.camera->failures().add("*", sim::Operation::GetRange, sim::Failure::refuse());
-        p.page->OnSpinTopValueChanged(8);
-        p.refreshBy("OffsetY");
-        p.refreshBy("Width");
-        QCOMPARE(text(p.label->region()), before);
-        QCOMPARE(text(inFields(p)), before);
-        QCOMPARE(p.field("spinTop")->minimum(), 0.0);
-        QCOMPARE(p.field("spinWidth")->minimum(), 16.0);
-        QCOMPARE(p.label->sensorSize(), QSize(2592, 1944));
-    }
-
     /// A colour camera's offsets have a range of their own.
     void keepsARangeThatIsNotTold()
     {

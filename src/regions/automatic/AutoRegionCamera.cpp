@@ -103,6 +103,14 @@ AutoRegion AutoRegionCamera::region() const
     return {{left, value(RegionNumber::Width)}, {top, value(RegionNumber::Height)}};
 }
 
+bool AutoRegionCamera::isRegionTold() const
+{
+    const auto four = numbers();
+    return m_limits.width > 0 && std::all_of(four.begin(), four.end(), [this](RegionNumber number) {
+               return !has(number) || m_values.contains(nameOf(number));
+           });
+}
+
 QPointF AutoRegionCamera::origin() const
 {
     return {m_values.value(Name::autoModeOffsetX), m_values.value(Name::autoModeOffsetY)};
@@ -141,25 +149,31 @@ bool AutoRegionCamera::followImage(bool isSizeTold)
 
 std::optional<RegionLimits> AutoRegionCamera::readLimits()
 {
-    const auto minimum = [this](const QString& name) { return read(name).minimum.value_or(0.0); };
-    const auto maximum = [this](const QString& name) { return read(name).maximum.value_or(0.0); };
-    const int untoldBefore = untoldCount();
-    RegionLimits limits;
-    const Reading<double> aoiHeight = read(Name::aoiHeight);
+    using Number = Reading<double>;
+    bool isTold = true;
+    const auto part = [&isTold](const Number& reading, std::optional<double> Number::*which) {
+        isTold = isTold && (reading.*which || reading.isComplete);
+        return (reading.*which).value_or(0.0);
+    };
+    const Number width = read(Name::width);
+    const Number height = read(Name::height);
+    const Number aoiWidth = read(Name::aoiWidth);
+    const Number aoiHeight = read(Name::aoiHeight);
+    RegionLimits limits{toInt64(part(width, &Number::value)),
+                        toInt64(part(height, &Number::value))};
     if (aoiHeight.exists)
-        limits.height = aoiHeightLimit(readValue(Name::height), aoiHeight.increment.value_or(0.0),
-                                       minimum(Name::height), minimum(Name::aoiOffsetX));
-    else
-        limits.height = toInt64(has(Name::autoModeHeight) ? maximum(Name::autoModeHeight)
-                                                          : readValue(Name::height));
-    const Reading<double> aoiWidth = read(Name::aoiWidth);
+        limits.height = aoiHeightLimit(
+            part(height, &Number::value), part(aoiHeight, &Number::increment),
+            part(height, &Number::minimum), part(read(Name::aoiOffsetX), &Number::minimum));
+    else if (has(Name::autoModeHeight))
+        limits.height = toInt64(part(read(Name::autoModeHeight), &Number::maximum));
     if (aoiWidth.exists)
-        limits.width = aoiWidthLimit(readValue(Name::width), aoiWidth.increment.value_or(0.0),
-                                     minimum(Name::aoiOffsetY));
-    else
-        limits.width = toInt64(has(Name::autoModeWidth) ? maximum(Name::autoModeWidth)
-                                                        : readValue(Name::width));
-    return untoldCount() == untoldBefore ? std::optional(limits) : std::nullopt;
+        limits.width
+            = aoiWidthLimit(part(width, &Number::value), part(aoiWidth, &Number::increment),
+                            part(read(Name::aoiOffsetY), &Number::minimum));
+    else if (has(Name::autoModeWidth))
+        limits.width = toInt64(part(read(Name::autoModeWidth), &Number::maximum));
+    return isTold ? std::optional(limits) : std::nullopt;
 }
 
 QSize AutoRegionCamera::readSensorSize()

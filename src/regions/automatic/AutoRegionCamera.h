@@ -59,6 +59,8 @@ public:
     /// As read last.
     double value(RegionNumber number) const { return m_values.value(nameOf(number)); }
     AutoRegion region() const;
+    /// Whether all four numbers and their limits were told some time.
+    bool isRegionTold() const;
     /// The offset from which the camera counts the region that the label shows.
     QPointF origin() const;
     const RegionLimits& limits() const { return m_limits; }

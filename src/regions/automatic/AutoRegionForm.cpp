@@ -167,3 +167,22 @@ void enableRegion(const Ui::AutoROIWidget& form, const AutoRegionView& view, boo
     form.gb_AutoROI->setEnabled(enabled);
     form.gb_Region->setEnabled(enabled);
 }
+
+void showEdgeProblems(const Ui::AutoROIWidget& form, const AutoRegionCamera& camera,
+                      const AutoRegion& edges)
+{
+    const QString problems = edgeProblems(edges, camera.limits());
+    form.labelInvalidSettings->setText(Text::tr("Invalid settings: ") + problems);
+    form.labelInvalidSettings->setVisible(!problems.isEmpty());
+}
+
+bool showSizeProblem(const Ui::AutoROIWidget& form, const AutoRegionCamera& camera)
+{
+    const QString name
+        = camera.has(Name::aoiHeight) ? QStringLiteral("AOI") : QStringLiteral("ROI");
+    const QString problem = sizeProblem(camera.region(), camera.origin(), camera.limits(), name);
+    if (!problem.isEmpty())
+        form.labelInvalidSettings->setText(problem);
+    form.labelInvalidSettings->setVisible(!problem.isEmpty());
+    return problem.isEmpty();
+}

@@ -2,6 +2,7 @@
 
 class AutoRegionCamera;
 class AutoRegionView;
+struct AutoRegion;
 
 namespace Ui {
 class AutoROIWidget;
@@ -13,6 +14,12 @@ void adaptForm(const Ui::AutoROIWidget& form, const AutoRegionCamera& camera);
 
 /// Gives the fields the room that their ranges need, before messages and gaps get any.
 void fitColumns(const Ui::AutoROIWidget& form);
+
+// What is wrong with edges, and with offset and size that the camera has; the latter answers
+// whether they keep to the limits.
+void showEdgeProblems(const Ui::AutoROIWidget& form, const AutoRegionCamera& camera,
+                      const AutoRegion& edges);
+bool showSizeProblem(const Ui::AutoROIWidget& form, const AutoRegionCamera& camera);
 
 /// Lets the user edit the region, as far as the camera does.
 void enableRegion(const Ui::AutoROIWidget& form, const AutoRegionView& view, bool enabled);

@@ -74,7 +74,7 @@ void AutoRegionPicture::showImage()
 
 void AutoRegionPicture::showRegion()
 {
-    if (!m_camera.usesEdges() && !m_camera.usesSizes())
+    if (!(m_camera.usesEdges() || m_camera.usesSizes()) || !m_camera.isRegionTold())
         return;
     const SensorRegion region = m_camera.drawn();
     const QSignalBlocker blocker(m_label);

@@ -88,12 +88,11 @@ void AutoRegionView::load()
     }
 }
 
-bool AutoRegionView::show(RegionNumber number, const Reading<double>& reading)
+void AutoRegionView::show(RegionNumber number, const Reading<double>& reading)
 {
     if (reading.isComplete || reading.isWritable)
         m_isLocked[indexOf(number)] = !reading.isWritable;
     field(number).showWhole(reading);
-    return !field(number).isBeingTyped();
 }
 
 void AutoRegionView::loadExtent(RegionNumber size, RegionNumber nearEdge, RegionNumber farEdge)
@@ -116,17 +115,17 @@ void AutoRegionView::loadFarEdge(RegionNumber farEdge, RegionNumber offset, Regi
     field(farEdge).showWhole(edge);
 }
 
-bool AutoRegionView::refreshField(RegionNumber number)
+void AutoRegionView::refreshField(RegionNumber number)
 {
-    return !m_camera.has(number) || show(number, m_camera.read(number));
+    if (m_camera.has(number))
+        show(number, m_camera.read(number));
 }
 
-bool AutoRegionView::refresh()
+void AutoRegionView::refresh()
 {
     const RegionLimits& limits = m_camera.limits();
-    bool isShown = true;
     for (const RegionNumber number : m_camera.numbers())
-        isShown = refreshField(number) && isShown;
+        refreshField(number);
     m_camera.readOrigin();
     if (m_camera.usesEdges()) {
         Reading<double> extent;
@@ -140,7 +139,6 @@ bool AutoRegionView::refresh()
         refreshAxis(RegionNumber::Top, RegionNumber::Height, RegionNumber::Bottom, limits.height);
         refreshAxis(RegionNumber::Left, RegionNumber::Width, RegionNumber::Right, limits.width);
     }
-    return isShown;
 }
 
 void AutoRegionView::refreshAxis(RegionNumber offset, RegionNumber size, RegionNumber farEdge,

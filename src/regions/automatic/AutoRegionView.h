@@ -26,18 +26,18 @@ public:
 
     /// Ranges, steps and values from the camera.
     void load();
-    /// Ranges and values from the camera. A size whose field is held stays within the limits. False
-    /// when a field is left as it was, for it is being typed in.
-    bool refresh();
+    /// Ranges and values from the camera; a field that is being typed in is left as it is. A size
+    /// whose field is held stays within the limits.
+    void refresh();
     /// One field's range and value from the camera.
-    bool refreshField(RegionNumber number);
+    void refreshField(RegionNumber number);
     /// The ranges stay, and clamp the values: drawn regions pass over what the camera takes.
     void showProvisional(const AutoRegion& region);
     /// Writes what is being typed.
     void commit();
 
 private:
-    bool show(RegionNumber number, const Reading<double>& reading);
+    void show(RegionNumber number, const Reading<double>& reading);
     void loadExtent(RegionNumber size, RegionNumber nearEdge, RegionNumber farEdge);
     void loadFarEdge(RegionNumber farEdge, RegionNumber offset, RegionNumber size);
     void refreshAxis(RegionNumber offset, RegionNumber size, RegionNumber farEdge, qint64 limit);

@@ -58,6 +58,8 @@ void ExposureLimits::show(Limit& limit, QStringList& untold)
 {
     const Reading<double> reading = limit.isLoaded ? readNumber(m_manager, limit.featureName)
                                                    : readFieldNumber(m_manager, limit.featureName);
+    if (reading.exists && (reading.isComplete || reading.isWritable))
+        limit.field.box()->setEnabled(reading.isWritable);
     if (!limit.field.showWhole(reading))
         untold << limit.featureName;
     if (!limit.isLoaded && reading.isComplete) {

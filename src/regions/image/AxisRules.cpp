@@ -42,7 +42,7 @@ Reading<double> evenOffsets(const Reading<double>& offset)
 
 double cutToMaximum(double value, double otherValue, double maximum)
 {
-    return otherValue + value > maximum ? maximum - otherValue : value;
+    return maximum > 0.0 && otherValue + value > maximum ? maximum - otherValue : value;
 }
 
 Span<double> onSensor(const Span<double>& span, double maximum)

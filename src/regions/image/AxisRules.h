@@ -20,7 +20,7 @@ double raisedToEven(double value);
 Reading<double> evenOffsets(const Reading<double>& offset);
 
 /// @p value, cut so that together with the other value of its axis (the offset of a size, the size
-/// of an offset) it stays within the maximum size.
+/// of an offset) it stays within the maximum size, if that is known.
 double cutToMaximum(double value, double otherValue, double maximum);
 
 /// The part of the span that lies on the sensor.

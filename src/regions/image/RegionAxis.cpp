@@ -153,6 +153,7 @@ Reading<double> RegionAxis::readOffset()
 {
     const Reading<double> offset = readNumber(m_manager, m_names.offset);
     m_hasOffset = offset.exists;
+    m_isOffsetTold = m_isOffsetTold || offset.value || !offset.exists;
     m_onCamera.start = offset.value.value_or(m_onCamera.start);
     return offset;
 }
@@ -160,6 +161,7 @@ Reading<double> RegionAxis::readOffset()
 Reading<double> RegionAxis::readSize()
 {
     const Reading<double> size = readNumber(m_manager, m_names.size);
+    m_isSizeTold = m_isSizeTold || size.value;
     m_onCamera.length = size.value.value_or(m_onCamera.length);
     return size;
 }
@@ -176,7 +178,7 @@ bool RegionAxis::isWritable() const
 
 bool RegionAxis::isBeyondMaximum() const
 {
-    return inFields().end() > m_maximum || m_onCamera.end() > m_maximum;
+    return isTold() && std::max(inFields().end(), m_onCamera.end()) > m_maximum;
 }
 
 void RegionAxis::showProvisional(const Span<double>& span)

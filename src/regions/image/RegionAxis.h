@@ -53,6 +53,8 @@ public:
     /// As the camera told last.
     const Span<double>& onCamera() const { return m_onCamera; }
     Span<double> inFields() const;
+    /// Whether the camera has told it all.
+    bool isTold() const { return m_isOffsetTold && m_isSizeTold && m_maximum > 0.0; }
     bool isWritable() const;
     /// Whether camera or fields reach beyond the maximum size.
     bool isBeyondMaximum() const;
@@ -93,6 +95,8 @@ private:
     bool m_isMaximumFresh = false;
     bool m_hasOffsetStep = false;
     bool m_hasOffset = false;
+    bool m_isOffsetTold = false;
+    bool m_isSizeTold = false;
     bool m_isOffsetWritable = false;
     bool m_isSizeWritable = false;
     QHash<QString, QString> m_categories; ///< they do not change
