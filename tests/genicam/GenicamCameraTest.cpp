@@ -251,6 +251,24 @@ private slots:
         QCOMPARE(c.device.read(Masked), 0xaa11ccddU);
     }
 
+    void readsWhatTheCameraHolds()
+    {
+        OpenCamera c;
+        c.device.afterWrite([&c](std::uint32_t address) {
+            if (address == UserNumber)
+                c.device.write(Width, 640);
+        });
+        QCOMPARE(c.integer("Width"), 2592);
+        QCOMPARE(c.maximum("OffsetX"), 0);
+        c["UserNumber"].SetValue(std::int64_t{1});
+        QCOMPARE(c.integer("Width"), 640);
+        QCOMPARE(c.maximum("OffsetX"), 1952);
+        c.device.write(Width, 1296); // by another client, and nobody observes
+        QCOMPARE(c.maximum("OffsetX"), 1952);
+        QTest::qWait(1100);
+        QCOMPARE(c.maximum("OffsetX"), 1296);
+    }
+
     void notifies_data()
     {
         using Change = std::function<void(OpenCamera&)>;
@@ -264,6 +282,8 @@ private slots:
             QStringList told;
             observer->reaction = [&](const ZebCPP::FeaturePtr& feature) {
                 told << text(*feature, &ZebCPP::Feature::GetName);
+                std::int64_t value = 0; // what is read is no news of its own
+                feature->GetValue(value);
             };
             for (const ZebCPP::FeaturePtr& feature : c.camera->features())
                 feature->RegisterObserver(observer);
