@@ -73,6 +73,8 @@ Reading<double> AutoRegionCamera::noted(const QString& name, const Reading<doubl
 
 double AutoRegionCamera::readValue(const QString& name, const QString& alternative)
 {
+    if (const auto value = ::readValue(m_manager, name, alternative))
+        return m_values[name] = *value;
     const Reading<double> reading = readNumber(m_manager, name, alternative);
     return noted(name, reading).exists ? m_values.value(name) : 0.0;
 }

@@ -104,12 +104,12 @@ bool RegionAxis::readLargest()
 {
     bool isTold = true;
     for (const QString& name : {m_names.maximum, m_names.sensor}) {
-        const Reading<double> extent = readNumber(m_manager, name);
-        isTold = isTold && extent.isComplete;
-        if (extent.value.value_or(0.0) >= 1.0) {
-            m_maximum = std::trunc(*extent.value);
+        const auto extent = readValue(m_manager, name);
+        if (extent.value_or(0.0) >= 1.0) {
+            m_maximum = std::trunc(*extent);
             return isTold;
         }
+        isTold = isTold && (extent || readNumber(m_manager, name).isComplete);
         if (!isTold && m_maximum > 0.0)
             return false;
     }
