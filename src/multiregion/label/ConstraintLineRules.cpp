@@ -5,66 +5,36 @@
 
 namespace {
 
-constexpr int grabZone = 4;           ///< pixels to either side
 constexpr int alignmentTolerance = 1; ///< pixels, for rounding
 
 /// The edge itself: the first pixel of the span, or the one behind its last.
-int markedEdge(LineEdge edge, int position)
+int markedEdge(BandEdge edge, int position)
 {
-    return edge == LineEdge::Leading ? position : position + constraintLineThickness;
+    return edge == BandEdge::Leading ? position : position + constraintLineThickness;
 }
 
 } // namespace
 
-int linePosition(LineEdge edge, const RegionSpan& master)
+int linePosition(BandEdge edge, const Span<int>& master)
 {
-    return edge == LineEdge::Leading ? master.start : master.end() - constraintLineThickness;
+    return edge == BandEdge::Leading ? master.start : master.end() - constraintLineThickness;
 }
 
-RegionSpan spanForLine(LineEdge edge, int position, const RegionSpan& span)
+Span<int> spanForLine(BandEdge edge, int position, const Span<int>& span)
 {
     const int marked = markedEdge(edge, position);
-    return edge == LineEdge::Leading ? RegionSpan{marked, span.end() - marked}
-                                     : RegionSpan{span.start, marked - span.start};
-}
-
-LineBounds lineBounds(LineEdge edge, const LineSurroundings& surroundings)
-{
-    const RegionSpan& group = surroundings.group;
-    LineBounds bounds;
-    if (edge == LineEdge::Leading) {
-        int lowest = std::max(0, group.end() - surroundings.maximum);
-        for (const RegionSpan& other : surroundings.others) {
-            if (other.end() <= group.start)
-                lowest = std::max(lowest, other.end());
-        }
-        bounds = {lowest, group.end() - surroundings.minimum};
-    } else {
-        int highest = std::min(surroundings.image, group.start + surroundings.maximum);
-        for (const RegionSpan& other : surroundings.others) {
-            if (other.start >= group.end())
-                highest = std::min(highest, other.start);
-        }
-        bounds = {group.start + surroundings.minimum - constraintLineThickness,
-                  highest - constraintLineThickness};
-    }
-    bounds.upper = std::max(bounds.lower, bounds.upper);
-    return bounds;
+    return edge == BandEdge::Leading ? Span<int>{marked, span.end() - marked}
+                                     : Span<int>{span.start, marked - span.start};
 }
 
 std::optional<int> grabDistance(int position, int point)
 {
     const int distance
         = std::max({position - point, point - (position + constraintLineThickness - 1), 0});
-    return distance <= grabZone ? std::optional(distance) : std::nullopt;
+    return distance <= lineGrabZone ? std::optional(distance) : std::nullopt;
 }
 
-bool isAlongLine(int length, int point)
-{
-    return point >= -grabZone && point < length + grabZone;
-}
-
-bool isForLines(const RegionSpan& band, int point, const QVector<int>& positions)
+bool isForLines(const Span<int>& band, int point, const QVector<int>& positions)
 {
     const int third = band.length / 3;
     if (point < band.start + third || point >= band.end() - third)
@@ -80,19 +50,19 @@ bool isForLines(const RegionSpan& band, int point, const QVector<int>& positions
     return false;
 }
 
-MoveConstraints constraintsFromLine(const ConstraintGroup& group, LineEdge edge, int position,
+MoveConstraints constraintsFromLine(const ConstraintGroup& group, BandEdge edge, int position,
                                     int region, const QRect& band)
 {
     MoveConstraints constraints;
     const bool isRow = group.kind == ConstraintGroup::Row;
-    const RegionSpan span = spanOf(band, group.axis());
+    const Span<int> span = spanOf(band, group.axis());
     const int marked = markedEdge(edge, position);
     if (group.members.contains(region)) {
-        const int own = edge == LineEdge::Leading ? span.start : span.end();
+        const int own = edge == BandEdge::Leading ? span.start : span.end();
         if (group.master() != region && std::abs(own - marked) <= alignmentTolerance)
             constraints.blocked = isRow ? std::set{MoveDirection::Up, MoveDirection::Down}
                                         : std::set{MoveDirection::Left, MoveDirection::Right};
-    } else if (edge == LineEdge::Trailing && marked <= span.start) {
+    } else if (edge == BandEdge::Trailing && marked <= span.start) {
         constraints.lowerBound = isRow ? QPoint(-1, marked) : QPoint(marked, -1);
     }
     return constraints;

@@ -19,25 +19,25 @@ void connectLine(LineRubberBand* line, RectangleRubberBand* band)
 
 } // namespace
 
-ConstraintLineSet::ConstraintLineSet(SensorLabel* label)
+ConstraintLineSet::ConstraintLineSet(SensorLabel* label, const RegionStore* regions)
     : m_label(label)
+    , m_regions(regions)
 {
 }
 
-void ConstraintLineSet::update(const RegionStore& regions, const Bands& bands)
+void ConstraintLineSet::update()
 {
     QVector<LineRubberBand*> former = std::exchange(m_lines, {});
-    for (const ConstraintGroup& group : regions.groups()) {
-        for (const LineEdge edge : {LineEdge::Leading, LineEdge::Trailing}) {
+    for (const ConstraintGroup& group : m_regions->groups()) {
+        for (const BandEdge edge : {BandEdge::Leading, BandEdge::Trailing}) {
             const auto it = std::find_if(former.begin(), former.end(), [&](LineRubberBand* line) {
                 return line->group().kind == group.kind && line->edge() == edge
                     && line->group().master() == group.master();
             });
-            LineRubberBand* line = it == former.end() ? create(group, bands) : *it;
+            LineRubberBand* line = it == former.end() ? create(group) : *it;
             former.removeOne(line);
             line->setEdge(group, edge);
-            line->setColor(bands[group.master()]->shownColor());
-            place(line, regions);
+            place(line);
             m_lines << line;
         }
     }
@@ -51,11 +51,11 @@ void ConstraintLineSet::update(const RegionStore& regions, const Bands& bands)
         line->announce();
 }
 
-void ConstraintLineSet::follow(int region, const RegionStore& regions)
+void ConstraintLineSet::follow(int region)
 {
     for (LineRubberBand* line : qAsConst(m_lines)) {
         if (line->group().master() == region)
-            place(line, regions);
+            place(line);
     }
 }
 
@@ -103,22 +103,23 @@ LineRubberBand* ConstraintLineSet::lineAt(const QPoint& point, const QRect& band
     return isForLines(spanOf(band, axis), place, positions) ? nearest : nullptr;
 }
 
-LineRubberBand* ConstraintLineSet::create(const ConstraintGroup& group, const Bands& bands)
+LineRubberBand* ConstraintLineSet::create(const ConstraintGroup& group)
 {
     const int orientation = group.kind == ConstraintGroup::Row ? LineRubberBand::horizontal
                                                                : LineRubberBand::vertical;
-    auto* line = new LineRubberBand(orientation, 0, m_label, 1, bands[group.master()]->shownColor(),
-                                    m_label);
-    for (RectangleRubberBand* band : bands)
+    const QColor color = m_regions->at(group.master()).band->shownColor();
+    auto* line = new LineRubberBand(orientation, 0, m_label, 1, color, m_label);
+    for (RectangleRubberBand* band : m_regions->bands())
         connectLine(line, band);
     line->show();
     return line;
 }
 
-void ConstraintLineSet::place(LineRubberBand* line, const RegionStore& regions)
+void ConstraintLineSet::place(LineRubberBand* line)
 {
     const ConstraintGroup& group = line->group();
-    const QSize image = regions.mapping().shown;
-    line->place(linePosition(line->edge(), spanOf(regions.band(group.master()), group.axis())),
+    const QRect master = m_regions->at(group.master()).band->geometry();
+    const QSize image = m_regions->mapping().shown;
+    line->place(linePosition(line->edge(), spanOf(master, group.axis())),
                 group.kind == ConstraintGroup::Row ? image.width() : image.height());
 }

@@ -1,10 +1,6 @@
 #pragma once
 
 #include "multiregion/label/ConstraintLineRules.h"
-#include "multiregion/rules/ConstraintGroups.h"
-
-#include <QMap>
-#include <QVector>
 
 class LineRubberBand;
 class QColor;
@@ -16,14 +12,12 @@ class SensorLabel;
 class ConstraintLineSet
 {
 public:
-    using Bands = QMap<int, RectangleRubberBand*>;
-
-    explicit ConstraintLineSet(SensorLabel* label);
+    ConstraintLineSet(SensorLabel* label, const RegionStore* regions);
 
     /// Has exactly the lines of the groups, placed along their masters' bands, and tells the bands.
-    void update(const RegionStore& regions, const Bands& bands);
+    void update();
     /// Places the lines of which @p region is the master.
-    void follow(int region, const RegionStore& regions);
+    void follow(int region);
     void setColor(int master, const QColor& color);
     void raise();
     /// Lets the lines tell the band where they are, from now on.
@@ -33,9 +27,10 @@ public:
     LineRubberBand* lineAt(const QPoint& point, const QRect& band) const;
 
 private:
-    LineRubberBand* create(const ConstraintGroup& group, const Bands& bands);
-    void place(LineRubberBand* line, const RegionStore& regions);
+    LineRubberBand* create(const ConstraintGroup& group);
+    void place(LineRubberBand* line);
 
     SensorLabel* const m_label;
+    const RegionStore* const m_regions;
     QVector<LineRubberBand*> m_lines;
 };

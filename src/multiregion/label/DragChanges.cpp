@@ -31,8 +31,8 @@ bool overlapsAnew(const Regions& regions, const Changes& changes, const ShownReg
 }
 
 /// Keeps the shared span apart from regions outside the group, so that all members can take it.
-RegionSpan keptOffOutsiders(RegionSpan span, const ShownRegion& dragged, const Regions& regions,
-                            const ConstraintGroup& group, const SensorMapping& mapping)
+Span<int> keptOffOutsiders(Span<int> span, const ShownRegion& dragged, const Regions& regions,
+                           const ConstraintGroup& group, const SensorMapping& mapping)
 {
     for (const ShownRegion& other : regions) {
         if (!group.members.contains(other.number))
@@ -42,7 +42,7 @@ RegionSpan keptOffOutsiders(RegionSpan span, const ShownRegion& dragged, const R
 }
 
 /// Gives the members the span, where none comes to overlap another region by it.
-void alignMembers(const Regions& regions, const ConstraintGroup& group, const RegionSpan& span,
+void alignMembers(const Regions& regions, const ConstraintGroup& group, const Span<int>& span,
                   Changes& changes)
 {
     for (const int member : group.members) {
@@ -69,8 +69,8 @@ QVector<RegionChange> changesAfterBandDrag(const Regions& regions,
     for (const ConstraintGroup& group : groups) {
         if (!group.members.contains(region))
             continue;
-        const RegionSpan own = spanOf(changes[region], group.axis());
-        const RegionSpan shared = inLine(regions, group, region, group.master())
+        const Span<int> own = spanOf(changes[region], group.axis());
+        const Span<int> shared = inLine(regions, group, region, group.master())
             ? keptOffOutsiders(own, dragged, regions, group, mapping)
             : spanOf(regionIn(regions, group.master()).rectangle, group.axis());
         const QRect aligned = withSpan(changes[region], group.axis(), shared);
@@ -93,8 +93,8 @@ QVector<RegionChange> changesAfterLineDrag(const Regions& regions, const Constra
     if (spanOf(master.band, group.axis())
         == spanOf(labelRect(master.rectangle, mapping), group.axis()))
         return {};
-    const RegionSpan shared = keptOffOutsiders(convertedSpan(master, group.axis(), mapping), master,
-                                               regions, group, mapping);
+    const Span<int> shared = keptOffOutsiders(convertedSpan(master, group.axis(), mapping), master,
+                                              regions, group, mapping);
 
     Changes changes;
     alignMembers(regions, group, shared, changes);

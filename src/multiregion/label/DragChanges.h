@@ -6,7 +6,7 @@
 /// A region's new rectangle, in sensor pixels.
 struct RegionChange
 {
-    int region = -1;
+    int region = 0;
     QRect rectangle;
 };
 

@@ -1,6 +1,51 @@
 #include "multiregion/label/HandleDrag.h"
 
+#include "sensor/Span.h"
+
 #include <algorithm>
+
+namespace {
+
+constexpr int zone = 4; ///< pixels
+
+bool isLeading(const Span<int>& span, int place)
+{
+    return place >= span.start && place < span.start + zone;
+}
+
+bool isTrailing(const Span<int>& span, int place)
+{
+    const int last = span.end() - 1;
+    return place >= last - zone && place < last;
+}
+
+} // namespace
+
+/// On a band thinner than both zones the right edge wins over the left, the top over the bottom.
+HandleGrab handleGrabAt(const QRect& band, const QPoint& point)
+{
+    const Span<int> columns = spanOf(band, Qt::Horizontal);
+    const Span<int> rows = spanOf(band, Qt::Vertical);
+    HandleGrab grab;
+    if (isTrailing(columns, point.x()))
+        grab.horizontal = BandEdge::Trailing;
+    else if (isLeading(columns, point.x()))
+        grab.horizontal = BandEdge::Leading;
+    if (isLeading(rows, point.y()))
+        grab.vertical = BandEdge::Leading;
+    else if (isTrailing(rows, point.y()))
+        grab.vertical = BandEdge::Trailing;
+    return grab;
+}
+
+Qt::CursorShape cursorForGrab(const HandleGrab& grab)
+{
+    if (!grab.horizontal)
+        return grab.vertical ? Qt::SizeVerCursor : Qt::SizeAllCursor;
+    if (!grab.vertical)
+        return Qt::SizeHorCursor;
+    return grab.horizontal == grab.vertical ? Qt::SizeFDiagCursor : Qt::SizeBDiagCursor;
+}
 
 QRect movedRegionBand(const QRect& band, const QPoint& delta, const QSize& image,
                       const MoveConstraints& constraints)
@@ -21,7 +66,7 @@ QRect movedRegionBand(const QRect& band, const QPoint& delta, const QSize& image
     return {x, y, band.width(), band.height()};
 }
 
-QRect resizedRegionBand(const QRect& band, HandleGrab grab, const QPoint& point,
+QRect resizedRegionBand(const QRect& band, const HandleGrab& grab, const QPoint& point,
                         const BandSizeLimits& limits)
 {
     const QSize& least = limits.minimum;
@@ -31,17 +76,17 @@ QRect resizedRegionBand(const QRect& band, HandleGrab grab, const QPoint& point,
     int right = band.x() + band.width() - 1;
     int bottom = band.y() + band.height() - 1;
 
-    const GrabbedEdges edges = grabbedEdges(grab);
-    const bool isTopRight = grab == HandleGrab::TopRight;
-    if (edges.horizontal < 0)
+    const bool isTopRight
+        = grab.horizontal == BandEdge::Trailing && grab.vertical == BandEdge::Leading;
+    if (grab.horizontal == BandEdge::Leading)
         left = std::max(0, std::min(right - least.width(), point.x()));
-    else if (edges.horizontal > 0)
+    else if (grab.horizontal == BandEdge::Trailing)
         right = std::max(isTopRight ? 0 : left + least.width(),
                          std::min(left + most.width(), point.x()));
-    if (edges.vertical < 0)
+    if (grab.vertical == BandEdge::Leading)
         top = std::max(isTopRight ? bottom - most.height() : 0,
                        std::min(bottom - least.height(), point.y()));
-    else if (edges.vertical > 0)
+    else if (grab.vertical == BandEdge::Trailing)
         bottom = std::max(top + least.height(), std::min(top + most.height(), point.y()));
     return {left, top, right - left + 1, bottom - top + 1};
 }

@@ -1,10 +1,34 @@
 #pragma once
 
-#include "multiregion/label/HandleGrab.h"
-
+#include <QPoint>
+#include <QRect>
 #include <QSize>
+#include <Qt>
 
+#include <optional>
 #include <set>
+
+// The drag of a region's band, label pixels.
+
+enum class BandEdge {
+    Leading,  ///< left or top
+    Trailing, ///< right or bottom
+};
+
+/// The edges of which a press takes hold; with none it takes all of the band.
+struct HandleGrab
+{
+    std::optional<BandEdge> horizontal;
+    std::optional<BandEdge> vertical;
+
+    bool isMove() const { return !horizontal && !vertical; }
+};
+
+/// The zones are four pixels wide inside the band; its last column and row do not belong to them.
+/// The caller knows the point on the band.
+HandleGrab handleGrabAt(const QRect& band, const QPoint& point);
+
+Qt::CursorShape cursorForGrab(const HandleGrab& grab);
 
 /// Directions in which constraint lines keep a band from moving.
 enum class MoveDirection {
@@ -19,11 +43,11 @@ enum class MoveDirection {
 struct MoveConstraints
 {
     std::set<MoveDirection> blocked;
-    QPoint lowerBound{-1, -1}; ///< of the band's position, label pixels
+    QPoint lowerBound{-1, -1}; ///< of the band's position
 };
 
 /// The band after the pointer has moved by @p delta; all of it stays on the image of size
-/// @p image at right and bottom. Label pixels.
+/// @p image at right and bottom.
 QRect movedRegionBand(const QRect& band, const QPoint& delta, const QSize& image,
                       const MoveConstraints& constraints);
 
@@ -34,11 +58,10 @@ struct BandSizeLimits
     QSize maximum{-1, -1};
 };
 
-/// The band after the grabbed edges have gone to @p point, label pixels.
+/// The band after the grabbed edges have gone to @p point.
 ///
 /// Left and top are bounded by the image and the minimum, not by the maximum. The top right corner
 /// bounds its right edge by the image alone: the band may collapse to less than the minimum, also
 /// to a negative width.
-/// @param grab everything but Move
-QRect resizedRegionBand(const QRect& band, HandleGrab grab, const QPoint& point,
+QRect resizedRegionBand(const QRect& band, const HandleGrab& grab, const QPoint& point,
                         const BandSizeLimits& limits);

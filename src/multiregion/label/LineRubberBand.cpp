@@ -20,7 +20,7 @@ LineRubberBand::LineRubberBand(int orientation, int position, QWidget* parent, i
     setColor(color);
 }
 
-void LineRubberBand::setEdge(const ConstraintGroup& group, LineEdge edge)
+void LineRubberBand::setEdge(const ConstraintGroup& group, BandEdge edge)
 {
     m_group = group;
     m_edge = edge;
@@ -28,8 +28,8 @@ void LineRubberBand::setEdge(const ConstraintGroup& group, LineEdge edge)
 
 std::optional<int> LineRubberBand::distanceTo(const QPoint& point) const
 {
-    const int length = isVertical() ? height() : width();
-    if (!isAlongLine(length, isVertical() ? point.y() : point.x()))
+    constexpr int zone = lineGrabZone;
+    if (!geometry().adjusted(-zone, -zone, zone, zone).contains(point))
         return std::nullopt;
     return grabDistance(m_position, isVertical() ? point.x() : point.y());
 }

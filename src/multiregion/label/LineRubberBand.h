@@ -25,9 +25,9 @@ public:
                    SensorLabel* label);
 
     /// Which edge of which regions the line marks.
-    void setEdge(const ConstraintGroup& group, LineEdge edge);
+    void setEdge(const ConstraintGroup& group, BandEdge edge);
     const ConstraintGroup& group() const { return m_group; }
-    LineEdge edge() const { return m_edge; }
+    BandEdge edge() const { return m_edge; }
 
     int position() const { return m_position; }
     /// Of a point that is near enough to grab the line.
@@ -62,6 +62,6 @@ private:
     bool m_dragging = false;
     LineBounds m_bounds;
     ConstraintGroup m_group;
-    LineEdge m_edge = LineEdge::Leading;
+    BandEdge m_edge = BandEdge::Leading;
     QPixmap m_picture; ///< as the style draws the line, null until it is painted
 };

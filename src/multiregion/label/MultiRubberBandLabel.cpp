@@ -24,11 +24,13 @@ MultiRubberBandLabel::MultiRubberBandLabel(int sensorWidth, int sensorHeight, co
     : BandSurroundings({sensorWidth, sensorHeight}, color, parent)
     , m_regions(color)
     , m_drag(&m_regions)
-    , m_lines(this)
+    , m_lines(this, &m_regions)
 {
     // The first resize tells its factors from the sensor's size, however large a pixmap it found.
     m_regions.setMapping({sensorSize(), sensorSize()});
     m_regions.setMode(::arrangementMode(mode));
+    m_announceSoon.setSingleShot(true);
+    connect(&m_announceSoon, &QTimer::timeout, this, &MultiRubberBandLabel::announceRegions);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 }
 
@@ -54,9 +56,10 @@ void MultiRubberBandLabel::setArrangementMode(const QString& mode)
 
 void MultiRubberBandLabel::setRegionLimits(int regionNo, const RegionSizeLimits& limits)
 {
-    m_regions.setLimits(regionNo, limits);
-    if (auto* band = m_bands.value(regionNo))
-        band->setSizeLimits(m_regions.bandLimits(regionNo));
+    KnownRegion& region = m_regions[regionNo];
+    region.limits = limits;
+    if (region.band)
+        region.band->setSizeLimits(m_regions.limitsOfBand(regionNo));
 }
 
 void MultiRubberBandLabel::selectRegion(int regionNo)
@@ -64,7 +67,7 @@ void MultiRubberBandLabel::selectRegion(int regionNo)
     if (m_pressedRegion == regionNo)
         return;
     m_selectedRegion = regionNo;
-    for (RectangleRubberBand* band : qAsConst(m_bands))
+    for (RectangleRubberBand* band : m_regions.bands())
         band->highlightIfSelected(regionNo);
     restack();
     emit highlightSelectedRegion(regionNo);
@@ -72,20 +75,19 @@ void MultiRubberBandLabel::selectRegion(int regionNo)
 
 QColor MultiRubberBandLabel::shownColor(int regionNo) const
 {
-    const RectangleRubberBand* band = m_bands.value(regionNo);
-    return band ? band->shownColor() : regionColor(regionNo);
+    const KnownRegion& region = m_regions.at(regionNo);
+    return region.band ? region.band->shownColor() : region.color;
 }
 
 void MultiRubberBandLabel::announceRegions()
 {
-    m_announcePending = false;
+    m_announceSoon.stop();
     if (signalsBlocked())
         return;
     if (m_arrangePending)
         arrangeSilently();
     const QPointer<MultiRubberBandLabel> guard(this);
-    const QVector<int> regions = m_regions.numbers();
-    for (const int region : regions) {
+    for (const int region : m_regions.numbers()) {
         if (guard)
             announce(region);
     }
@@ -103,8 +105,7 @@ void MultiRubberBandLabel::removeRectangle(int index)
         return;
     if (m_drag.holds(index))
         dropDrag();
-    RectangleRubberBand* band = m_bands.take(index);
-    m_regions.hide(index);
+    RectangleRubberBand* const band = std::exchange(m_regions[index].band, nullptr);
     // It may be on the stack, in the midst of its own report.
     band->hide();
     band->disconnect();
@@ -119,8 +120,7 @@ void MultiRubberBandLabel::removeRectangle(int index)
 void MultiRubberBandLabel::updateRegionRangeRect()
 {
     const QPointer<MultiRubberBandLabel> guard(this);
-    const QList<int> regions = m_bands.keys();
-    for (const int region : regions) {
+    for (const int region : m_regions.numbers()) {
         if (guard && !signalsBlocked())
             announceRange(region);
     }
@@ -138,14 +138,15 @@ void MultiRubberBandLabel::setBackgroundImage(std::shared_ptr<QPixmap> image, QS
 
 void MultiRubberBandLabel::onRegionColorChanged(int regionNo, QColor newColor)
 {
-    m_regions.setColor(regionNo, newColor);
-    if (auto* band = m_bands.value(regionNo))
-        band->setOwnColor(newColor);
+    KnownRegion& region = m_regions[regionNo];
+    region.color = newColor;
+    if (region.band)
+        region.band->setOwnColor(newColor);
 }
 
 void MultiRubberBandLabel::onRegionGeometryChanged(int regionNo, QRect geometry)
 {
-    m_regions.tell(regionNo, geometry);
+    m_regions[regionNo].waiting = geometry;
     if (!m_drag.isRunning() && m_regions.applyWaiting())
         arrange();
 }
@@ -181,10 +182,8 @@ void MultiRubberBandLabel::drag(const QPoint& point)
     if (!guard)
         return;
     const QVector<int> held = m_drag.held();
-    for (const int region : held) {
-        m_bands[region]->setGeometry(m_regions.band(region));
-        m_lines.follow(region, m_regions);
-    }
+    for (const int region : held)
+        m_lines.follow(region);
     emit mouseMoved(point);
 }
 
@@ -202,7 +201,7 @@ void MultiRubberBandLabel::drop()
     m_drag.drop();
     m_regions.applyWaiting();
     arrangeSilently();
-    announceSoon();
+    m_announceSoon.start();
 }
 
 /// A line leaves the cursor as it is.
@@ -225,7 +224,7 @@ void MultiRubberBandLabel::resizeEvent(QResizeEvent* event)
     BandSurroundings::resizeEvent(event);
     rescale();
     arrangeSilently();
-    announceSoon();
+    m_announceSoon.start();
     const QSize& shown = m_regions.mapping().shown;
     const double factorX = static_cast<double>(shown.width()) / std::max(1, before.width());
     const double factorY = static_cast<double>(shown.height()) / std::max(1, before.height());
@@ -236,7 +235,7 @@ void MultiRubberBandLabel::resizeEvent(QResizeEvent* event)
 void MultiRubberBandLabel::showRectangle(int regionNo)
 {
     auto* band = new RectangleRubberBand(regionNo, m_regions.placed(regionNo),
-                                         m_regions.bandLimits(regionNo).minimum,
+                                         m_regions.limitsOfBand(regionNo).minimum,
                                          regionColor(regionNo), this);
     connect(band, &RectangleRubberBand::regionBandSelected, this,
             &MultiRubberBandLabel::onBandPressed);
@@ -247,8 +246,7 @@ void MultiRubberBandLabel::showRectangle(int regionNo)
     connect(this, &MultiRubberBandLabel::regionActivated, band,
             &RectangleRubberBand::onNeighbourRegionActivated);
     m_lines.connectTo(band);
-    m_bands.insert(regionNo, band);
-    placeBand(band);
+    m_regions[regionNo].band = band;
     band->highlightIfSelected(m_selectedRegion);
     band->show();
     restack();
@@ -261,7 +259,7 @@ void MultiRubberBandLabel::showRectangle(int regionNo)
 RectangleRubberBand* MultiRubberBandLabel::bandAt(const QPoint& point) const
 {
     const std::optional<int> region = regionUnder(point);
-    return region ? m_bands.value(*region) : nullptr;
+    return region ? m_regions.at(*region).band : nullptr;
 }
 
 LineRubberBand* MultiRubberBandLabel::lineAt(const QPoint& point) const
@@ -285,7 +283,7 @@ void MultiRubberBandLabel::arrange()
 {
     m_arrangePending = true;
     if (signalsBlocked())
-        announceSoon();
+        m_announceSoon.start();
     else
         announceRegions();
 }
@@ -299,10 +297,10 @@ void MultiRubberBandLabel::arrangeSilently()
         return;
     }
     const QSignalBlocker blocker(this);
-    for (RectangleRubberBand* band : qAsConst(m_bands))
+    for (RectangleRubberBand* band : m_regions.bands())
         placeBand(band);
-    m_lines.update(m_regions, m_bands);
-    for (RectangleRubberBand* band : qAsConst(m_bands))
+    m_lines.update();
+    for (RectangleRubberBand* band : m_regions.bands())
         band->onIntersectionFound(
             m_regions.intersecting(band->regionNo(), band->geometry()).value_or(-1));
 }
@@ -310,31 +308,19 @@ void MultiRubberBandLabel::arrangeSilently()
 void MultiRubberBandLabel::placeBand(RectangleRubberBand* band)
 {
     const int region = band->regionNo();
-    if (!m_drag.holds(region) && !m_regions.mapping().isEmpty())
-        m_regions.setBand(region, m_regions.placed(region));
-    band->setGeometry(m_regions.band(region));
-    band->setSizeLimits(m_regions.bandLimits(region));
+    if (!m_drag.holds(region))
+        band->setGeometry(m_regions.placed(region));
+    band->setSizeLimits(m_regions.limitsOfBand(region));
 }
 
 /// As a press finds them: lines, the selected band, the others by number.
 void MultiRubberBandLabel::restack()
 {
-    for (RectangleRubberBand* band : qAsConst(m_bands))
+    for (RectangleRubberBand* band : m_regions.bands())
         band->raise();
-    if (auto* band = m_bands.value(m_selectedRegion))
+    if (auto* band = m_regions.at(m_selectedRegion).band)
         band->raise();
     m_lines.raise();
-}
-
-void MultiRubberBandLabel::announceSoon()
-{
-    if (std::exchange(m_announcePending, true))
-        return;
-    const auto announceIfPending = [this] {
-        if (m_announcePending)
-            announceRegions();
-    };
-    QMetaObject::invokeMethod(this, announceIfPending, Qt::QueuedConnection);
 }
 
 void MultiRubberBandLabel::announce(int regionNo)
@@ -389,7 +375,7 @@ void MultiRubberBandLabel::onBandColorChanged(int regionNo, const QColor& color)
 void MultiRubberBandLabel::report(const QVector<RegionChange>& changes)
 {
     for (const RegionChange& change : changes)
-        m_regions.setRectangle(change.region, change.rectangle);
+        m_regions[change.region].waiting = change.rectangle;
     m_regions.applyWaiting();
     const QPointer<MultiRubberBandLabel> guard(this);
     arrange();

@@ -6,7 +6,7 @@
 #include "multiregion/label/RegionDrag.h"
 #include "multiregion/label/RegionStore.h"
 
-#include <QStringList>
+#include <QTimer>
 
 /// The sensor area with a band for each active region, which the user selects, moves and resizes
 /// with the mouse, and with the lines that regions of one row or column share.
@@ -31,10 +31,10 @@ public:
     void selectRegion(int regionNo);
 
     /// A region's own colour, and the one that its band shows: red in a conflict.
-    QColor regionColor(int regionNo) const { return m_regions.color(regionNo); }
+    QColor regionColor(int regionNo) const { return m_regions.at(regionNo).color; }
     QColor shownColor(int regionNo) const;
-    QRect regionRectangle(int regionNo) const { return m_regions.rectangle(regionNo); }
-    bool isRegionShown(int regionNo) const { return m_bands.contains(regionNo); }
+    QRect regionRectangle(int regionNo) const { return m_regions.at(regionNo).rectangle; }
+    bool isRegionShown(int regionNo) const { return m_regions.at(regionNo).band; }
 
     /// The shown region under a point.
     std::optional<int> regionUnder(const QPoint& point) const
@@ -107,7 +107,6 @@ private:
     void placeBand(RectangleRubberBand* band);
     void restack();
 
-    void announceSoon();
     void announce(int regionNo);
     void announceRange(int regionNo);
 
@@ -119,9 +118,8 @@ private:
     RegionStore m_regions;
     RegionDrag m_drag;
     ConstraintLineSet m_lines;
-    QMap<int, RectangleRubberBand*> m_bands; ///< of the shown regions
     int m_selectedRegion = -1;
     std::optional<int> m_pressedRegion; ///< while regionSelected() tells it
     bool m_arrangePending = false;
-    bool m_announcePending = false;
+    QTimer m_announceSoon;
 };

@@ -70,24 +70,27 @@ void RectangleRubberBand::press(const QPoint& point)
     emit regionBandSelected(m_regionNo);
 }
 
-void RectangleRubberBand::rescaleDrag(const QPoint& pressPoint, const QRect& atPress)
+void RectangleRubberBand::rescaleDrag(const QSize& from, const QSize& to, const QRect& atPress)
 {
-    m_pressPoint = pressPoint;
+    if (m_pressPoint && !from.isEmpty())
+        m_pressPoint
+            = QPoint(qRound(static_cast<double>(m_pressPoint->x()) * to.width() / from.width()),
+                     qRound(static_cast<double>(m_pressPoint->y()) * to.height() / from.height()));
     m_atPress = atPress;
 }
 
 void RectangleRubberBand::dropDrag()
 {
-    m_pressPoint = noPoint;
-    m_grab = HandleGrab::Move;
+    m_pressPoint.reset();
+    m_grab = {};
 }
 
 void RectangleRubberBand::onResizeFinished(QPoint point)
 {
     // The press point follows the pointer, and a release mostly comes where the last move ended:
     // then the geometry tells whether the drag led anywhere.
-    const bool isMoved = isPressed() && (point != m_pressPoint || geometry() != m_atPress);
-    const bool report = m_grab != HandleGrab::Move || isMoved;
+    const bool isMoved = m_pressPoint && (point != m_pressPoint || geometry() != m_atPress);
+    const bool report = !m_grab.isMove() || isMoved;
     dropDrag();
     if (report)
         emit geometryChanged(m_regionNo, geometry());
@@ -97,23 +100,25 @@ void RectangleRubberBand::resizeMoveToPoint(QPoint point)
 {
     if (!m_label)
         return;
-    if (m_grab != HandleGrab::Move) {
+    if (!m_grab.isMove()) {
         showIfAllowed(resizedRegionBand(geometry(), m_grab, point, m_limits));
         return;
     }
-    if (!isPressed() || point == m_pressPoint)
+    if (!m_pressPoint || point == m_pressPoint)
         return;
     MoveConstraints constraints;
     for (const MoveConstraints& line : qAsConst(m_lineConstraints))
         constraints = combined(constraints, line);
-    const QPoint delta = point - std::exchange(m_pressPoint, point);
+    const QPoint delta = point - *m_pressPoint;
+    m_pressPoint = point;
     showIfAllowed(movedRegionBand(geometry(), delta, m_label->shownSize(), constraints));
 }
 
 void RectangleRubberBand::onIntersectionFound(int conflictRegion)
 {
-    m_inConflict = conflictRegion >= 0 && conflictRegion < m_regionNo;
-    applyColor();
+    const bool inConflict = conflictRegion >= 0 && conflictRegion < m_regionNo;
+    if (inConflict != std::exchange(m_inConflict, inConflict))
+        applyColor();
     emit colorChanged(m_regionNo, shownColor());
 }
 
@@ -203,12 +208,8 @@ void RectangleRubberBand::showIfAllowed(const QRect& band)
 
 void RectangleRubberBand::applyColor()
 {
-    const QColor color = shownColor();
-    if (color == m_appliedColor)
-        return;
-    m_appliedColor = color;
-    setStyleSheet(QStringLiteral("QLabel { color: %1; border-color: %1 }").arg(color.name()));
-    QColor highlight = color;
+    QColor highlight = shownColor();
+    setStyleSheet(QStringLiteral("QLabel { color: %1; border-color: %1 }").arg(highlight.name()));
     highlight.setAlpha(bandAlpha);
     QPalette colors = palette();
     colors.setBrush(QPalette::Highlight, highlight);

@@ -38,10 +38,9 @@ public:
 
     /// Takes hold of the band.
     void press(const QPoint& point);
-    /// Carries a drag over to a new scale of the label.
-    /// @param pressPoint and @p atPress as they would have been at that scale
-    void rescaleDrag(const QPoint& pressPoint, const QRect& atPress);
-    QPoint pressPoint() const { return m_pressPoint; }
+    /// Carries a drag over to another size of the picture.
+    /// @param atPress the band as it would have been there at the press
+    void rescaleDrag(const QSize& from, const QSize& to, const QRect& atPress);
     /// Lets go without a report.
     void dropDrag();
 
@@ -65,7 +64,6 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    bool isPressed() const { return m_pressPoint != noPoint; }
     void showIfAllowed(const QRect& band);
     void applyColor();
     void paintPlain(QPaintEvent* event);
@@ -73,15 +71,12 @@ private:
     void prepareNumber();
     void drawNumber();
 
-    static constexpr QPoint noPoint{-1, -1};
-
     const int m_regionNo;
     QColor m_color;
-    QColor m_appliedColor;
     bool m_inConflict = false;
     bool m_selected = true;
-    HandleGrab m_grab = HandleGrab::Move;
-    QPoint m_pressPoint = noPoint;
+    HandleGrab m_grab;
+    std::optional<QPoint> m_pressPoint;
     QRect m_atPress;
     BandSizeLimits m_limits;
     QHash<const LineRubberBand*, MoveConstraints> m_lineConstraints;

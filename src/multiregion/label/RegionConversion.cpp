@@ -29,36 +29,35 @@ struct SpanDrag
     bool endMoved() const { return band.end() != placed.end(); }
     bool movedAsWhole() const { return startMoved() && band.length == placed.length; }
 
-    RegionSpan stored;
-    RegionSpan placed;
-    RegionSpan band;
+    Span<int> stored;
+    Span<int> placed;
+    Span<int> band;
     const AxisLimits& limits;
 };
 
-RegionSpan movedSpan(const SpanDrag& drag, int shown, int sensor)
+Span<int> movedSpan(const SpanDrag& drag, Qt::Orientation axis, const SensorMapping& mapping)
 {
-    const int length = drag.stored.length;
-    const int farthest = std::max(0, sensor - length);
-    const int start = drag.band.start > 0 && drag.band.end() >= shown
-        ? farthest
-        : std::min(farthest, sensorEdge(drag.band.start, shown, sensor));
-    return {roundedDown(start, drag.limits.offsetIncrement), length};
+    const int farthest = std::max(0, lengthOf(mapping.sensor, axis) - drag.stored.length);
+    const bool isAtBorder = drag.band.start > 0 && drag.band.end() >= lengthOf(mapping.shown, axis);
+    const int start
+        = isAtBorder ? farthest : std::min(farthest, sensorEdge(drag.band.start, axis, mapping));
+    return {roundedDown(start, drag.limits.offsetIncrement), drag.stored.length};
 }
 
-RegionSpan resizedSpan(const SpanDrag& drag, int shown, int sensor)
+Span<int> resizedSpan(const SpanDrag& drag, Qt::Orientation axis, const SensorMapping& mapping)
 {
     const int minimum = std::max(1, drag.limits.minimum);
     int start = drag.stored.start;
     int end = drag.stored.end();
     if (drag.endMoved())
-        end = std::min(sensor,
-                       std::max(start + minimum, sensorEdge(drag.band.end(), shown, sensor)));
+        end = std::min(lengthOf(mapping.sensor, axis),
+                       std::max(start + minimum, sensorEdge(drag.band.end(), axis, mapping)));
     if (drag.startMoved()) {
         const int last = std::max(0, end - minimum);
-        start = roundedDown(std::min(last, sensorEdge(drag.band.start, shown, sensor)),
+        start = roundedDown(std::min(last, sensorEdge(drag.band.start, axis, mapping)),
                             drag.limits.offsetIncrement);
     }
-    return end > start ? RegionSpan{start, end - start} : drag.stored;
+    return end > start ? Span<int>{start, end - start} : drag.stored;
 }
 
 bool touchesOnlyOnSensor(const QRect& region, const ShownRegion& dragged, const ShownRegion& other)
@@ -76,28 +75,25 @@ const ShownRegion& regionIn(const QVector<ShownRegion>& regions, int number)
         [](const ShownRegion& region, int wanted) { return region.number < wanted; });
 }
 
-RegionSpan convertedSpan(const ShownRegion& dragged, Qt::Orientation axis,
-                         const SensorMapping& mapping)
+Span<int> convertedSpan(const ShownRegion& dragged, Qt::Orientation axis,
+                        const SensorMapping& mapping)
 {
     const SpanDrag drag(dragged, axis, mapping);
-    if (mapping.isEmpty() || (!drag.startMoved() && !drag.endMoved()))
+    if (mapping.sensor.isEmpty() || (!drag.startMoved() && !drag.endMoved()))
         return drag.stored;
-    const int shown = lengthOf(mapping.shown, axis);
-    const int sensor = lengthOf(mapping.sensor, axis);
-    return drag.movedAsWhole() ? movedSpan(drag, shown, sensor) : resizedSpan(drag, shown, sensor);
+    return drag.movedAsWhole() ? movedSpan(drag, axis, mapping) : resizedSpan(drag, axis, mapping);
 }
 
-RegionSpan keptOffNeighbour(const RegionSpan& span, const ShownRegion& dragged,
-                            Qt::Orientation axis, const ShownRegion& neighbour,
-                            const SensorMapping& mapping)
+Span<int> keptOffNeighbour(const Span<int>& span, const ShownRegion& dragged, Qt::Orientation axis,
+                           const ShownRegion& neighbour, const SensorMapping& mapping)
 {
     const SpanDrag drag(dragged, axis, mapping);
-    const RegionSpan other = spanOf(neighbour.rectangle, axis);
-    const RegionSpan otherBand = spanOf(neighbour.band, axis);
+    const Span<int> other = spanOf(neighbour.rectangle, axis);
+    const Span<int> otherBand = spanOf(neighbour.band, axis);
     if (!overlap(span, other) || overlap(drag.band, otherBand))
         return span;
 
-    RegionSpan result = span;
+    Span<int> result = span;
     if (otherBand.end() <= drag.band.start && drag.startMoved()) {
         result.start = roundedUp(other.end(), drag.limits.offsetIncrement);
         if (!drag.movedAsWhole())

@@ -28,10 +28,10 @@ struct RegionSizeLimits
     }
 };
 
-/// A region with a band. Its band stands for its rectangle until a drag moves it.
+/// A region on the label. Its band stands for its rectangle until a drag moves it.
 struct ShownRegion
 {
-    int number = -1;
+    int number = 0;
     QRect rectangle; ///< sensor pixels
     QRect band;      ///< label pixels
     RegionSizeLimits limits;
@@ -44,14 +44,13 @@ const ShownRegion& regionIn(const QVector<ShownRegion>& regions, int number);
 ///
 /// Only edges that the drag moved are converted, to where the camera would round them; a span that
 /// moved as a whole keeps its stored length.
-RegionSpan convertedSpan(const ShownRegion& dragged, Qt::Orientation axis,
-                         const SensorMapping& mapping);
+Span<int> convertedSpan(const ShownRegion& dragged, Qt::Orientation axis,
+                        const SensorMapping& mapping);
 
 /// Takes a converted span back to the edge of a neighbour that it overlaps on the sensor though not
 /// on the label, rounded away from it. Edges that the drag did not move stay.
-RegionSpan keptOffNeighbour(const RegionSpan& span, const ShownRegion& dragged,
-                            Qt::Orientation axis, const ShownRegion& neighbour,
-                            const SensorMapping& mapping);
+Span<int> keptOffNeighbour(const Span<int>& span, const ShownRegion& dragged, Qt::Orientation axis,
+                           const ShownRegion& neighbour, const SensorMapping& mapping);
 
 /// The region in sensor pixels. A region that would still overlap another one of @p shown from
 /// which the label shows it apart keeps its rectangle.

@@ -4,23 +4,9 @@
 #include "multiregion/label/RectangleRubberBand.h"
 #include "multiregion/label/RegionStore.h"
 
-#include <QPointer>
-
 #include <utility>
 
-namespace {
-
-QPoint rescaled(const QPoint& point, const QSize& from, const QSize& to)
-{
-    if (from.isEmpty())
-        return point;
-    return {qRound(static_cast<double>(point.x()) * to.width() / from.width()),
-            qRound(static_cast<double>(point.y()) * to.height() / from.height())};
-}
-
-} // namespace
-
-RegionDrag::RegionDrag(RegionStore* regions)
+RegionDrag::RegionDrag(const RegionStore* regions)
     : m_regions(regions)
 {
 }
@@ -52,35 +38,35 @@ void RegionDrag::begin(RectangleRubberBand* band, const QPoint& point)
 
 void RegionDrag::moveTo(const QPoint& point)
 {
-    if (m_line) {
-        m_line->moveToPoint(point);
-        const ConstraintGroup& group = m_line->group();
-        const RegionSpan span = spanForLine(m_line->edge(), m_line->position(),
-                                            spanOf(m_regions->band(group.master()), group.axis()));
-        for (const int member : group.members)
-            m_regions->setBand(member, withSpan(m_regions->band(member), group.axis(), span));
-    } else if (const QPointer<RectangleRubberBand> band = m_band) {
-        band->resizeMoveToPoint(point);
-        if (band && band == m_band)
-            m_regions->setBand(band->regionNo(), band->geometry());
+    if (m_band)
+        m_band->resizeMoveToPoint(point);
+    if (!m_line)
+        return;
+    m_line->moveToPoint(point);
+    const ConstraintGroup& group = m_line->group();
+    const QRect master = m_regions->at(group.master()).band->geometry();
+    const Span<int> span
+        = spanForLine(m_line->edge(), m_line->position(), spanOf(master, group.axis()));
+    for (const int member : group.members) {
+        QWidget* const band = m_regions->at(member).band;
+        band->setGeometry(withSpan(band->geometry(), group.axis(), span));
     }
 }
 
 void RegionDrag::rescaleFrom(const SensorMapping& before)
 {
+    const SensorMapping& mapping = m_regions->mapping();
     const QVector<RegionChange> left = changes(before);
     for (const int region : held())
-        m_regions->setBand(region, m_regions->placed(region));
+        m_regions->at(region).band->setGeometry(m_regions->placed(region));
     for (const RegionChange& change : left) {
         if (holds(change.region))
-            m_regions->setBand(change.region, labelRect(change.rectangle, m_regions->mapping()));
+            m_regions->at(change.region).band->setGeometry(labelRect(change.rectangle, mapping));
     }
     if (m_line)
         boundLine();
     else if (m_band)
-        m_band->rescaleDrag(
-            rescaled(m_band->pressPoint(), before.shown, m_regions->mapping().shown),
-            m_regions->placed(m_band->regionNo()));
+        m_band->rescaleDrag(before.shown, mapping.shown, m_regions->placed(m_band->regionNo()));
 }
 
 QVector<RegionChange> RegionDrag::end(const QPoint& point)
@@ -92,7 +78,7 @@ QVector<RegionChange> RegionDrag::end(const QPoint& point)
         last = changes(m_regions->mapping());
     QVector<RegionChange> result;
     for (const int region : qAsConst(m_noted))
-        result << RegionChange{region, m_regions->rectangle(region)};
+        result << RegionChange{region, m_regions->at(region).rectangle};
     drop();
     return result + last;
 }
@@ -116,21 +102,8 @@ QVector<RegionChange> RegionDrag::changes(const SensorMapping& mapping) const
     return {};
 }
 
-/// As the regions were at the press.
 void RegionDrag::boundLine()
 {
-    const ConstraintGroup& group = m_line->group();
-    const Qt::Orientation axis = group.axis();
-    const BandSizeLimits limits = m_regions->bandLimits(group.members);
-    LineSurroundings surroundings{spanOf(m_regions->placed(group.master()), axis),
-                                  {},
-                                  lengthOf(m_regions->mapping().shown, axis),
-                                  lengthOf(limits.minimum, axis),
-                                  lengthOf(limits.maximum, axis)};
-    const QVector<ShownRegion> shown = m_regions->shown();
-    for (const ShownRegion& region : shown) {
-        if (!group.members.contains(region.number))
-            surroundings.others << spanOf(m_regions->placed(region.number), axis);
-    }
-    m_line->setBounds(lineBounds(m_line->edge(), surroundings));
+    m_line->setBounds(
+        lineBounds(m_regions->shown(), m_line->group(), m_line->edge(), m_regions->mapping()));
 }

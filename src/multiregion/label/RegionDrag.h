@@ -9,11 +9,11 @@ class RectangleRubberBand;
 class RegionStore;
 
 /// The drag of a band or of a line on the region label, from the press to what is to be reported.
-/// It moves bands in the store only; the regions change at its end.
+/// It moves bands only; the regions change at its end.
 class RegionDrag
 {
 public:
-    explicit RegionDrag(RegionStore* regions);
+    explicit RegionDrag(const RegionStore* regions);
 
     bool isRunning() const { return m_band || m_line; }
     /// The regions whose bands go with it.
@@ -39,7 +39,7 @@ private:
     QVector<RegionChange> changes(const SensorMapping& mapping) const;
     void boundLine();
 
-    RegionStore* const m_regions;
+    const RegionStore* const m_regions;
     LineRubberBand* m_line = nullptr;
     RectangleRubberBand* m_band = nullptr;
     QSet<int> m_noted;

@@ -1,64 +1,59 @@
 #pragma once
 
-#include "multiregion/label/HandleDrag.h"
-#include "multiregion/label/RegionConversion.h"
-#include "multiregion/rules/ConstraintGroups.h"
+#include "multiregion/label/RegionRanges.h"
 
 #include <QColor>
 
 #include <map>
-#include <optional>
+#include <vector>
 
-/// What the region label knows of the camera's regions, by region number, and where it shows them.
-/// Regions never mentioned are empty, not shown and of the default colour.
+class RectangleRubberBand;
+
+/// What the region label knows of one of the camera's regions.
+struct KnownRegion
+{
+    QRect rectangle;              ///< sensor pixels, as the camera reported it or a drag left it
+    std::optional<QRect> waiting; ///< what was told since
+    RegionSizeLimits limits;
+    QColor color;                        ///< its own, which a conflict does not change
+    RectangleRubberBand* band = nullptr; ///< null while it is not shown
+    QRect toldRange;
+    QStringList toldConstraints;
+};
+
+/// The regions of the label by their numbers, and how they are shown.
 class RegionStore
 {
 public:
-    explicit RegionStore(const QColor& defaultColor);
+    explicit RegionStore(const QColor& defaultColor) { m_unknown.color = defaultColor; }
+
+    /// A region never mentioned is empty, not shown and of the default colour.
+    const KnownRegion& at(int region) const;
+    KnownRegion& operator[](int region)
+    {
+        return m_regions.try_emplace(region, m_unknown).first->second;
+    }
 
     const SensorMapping& mapping() const { return m_mapping; }
     void setMapping(const SensorMapping& mapping) { m_mapping = mapping; }
-
     ArrangementMode mode() const { return m_mode; }
     void setMode(ArrangementMode mode) { m_mode = mode; }
     /// Of the shown regions when they were last grouped.
     const QVector<ConstraintGroup>& groups() const { return m_groups; }
     void group();
 
-    /// In sensor pixels, as the camera reported it or a drag left it.
-    QRect rectangle(int region) const { return find(region).rectangle; }
-    /// What was told of the region before does not count any more.
-    void setRectangle(int region, const QRect& rectangle);
-    /// The rectangle waits until it is applied.
-    void tell(int region, const QRect& rectangle) { m_regions[region].waiting = rectangle; }
-    /// Whether a shown region has changed by it.
+    /// Whether a shown region has changed by what was told of it.
     bool applyWaiting();
 
-    void setLimits(int region, const RegionSizeLimits& limits)
-    {
-        m_regions[region].limits = limits;
-    }
-    /// The sizes that the region's band may have. A camera reports the greatest size for the
-    /// present offset; with the offset given up the region could be so much larger.
-    BandSizeLimits bandLimits(int region) const;
-    /// What all of them allow.
-    BandSizeLimits bandLimits(const QVector<int>& regions) const;
-
-    /// The region's own colour, which a conflict does not change.
-    QColor color(int region) const { return find(region).color.value_or(m_defaultColor); }
-    void setColor(int region, const QColor& color) { m_regions[region].color = color; }
-
-    /// Where the region's band is, label pixels; null for a region that is not shown.
-    QRect band(int region) const { return find(region).band.value_or(QRect()); }
-    void setBand(int region, const QRect& band) { m_regions[region].band = band; }
-    /// Its rectangle on the label.
-    QRect placed(int region) const { return labelRect(rectangle(region), m_mapping); }
-    void hide(int region) { m_regions[region].band.reset(); }
-    /// Ascending.
-    QVector<ShownRegion> shown() const;
+    /// The region's rectangle on the label.
+    QRect placed(int region) const { return labelRect(at(region).rectangle, m_mapping); }
+    BandSizeLimits limitsOfBand(int region) const;
 
     /// All that were ever mentioned.
-    QVector<int> numbers() const;
+    std::vector<int> numbers() const;
+    /// The shown ones, ascending.
+    std::vector<RectangleRubberBand*> bands() const;
+    QVector<ShownRegion> shown() const;
 
     /// The shown region with the lowest number, other than @p asker, whose band overlaps @p band.
     std::optional<int> intersecting(int asker, const QRect& band) const;
@@ -72,22 +67,9 @@ public:
     QVector<QStringList> newConstraints(int region);
 
 private:
-    struct Region
-    {
-        QRect rectangle;
-        std::optional<QRect> waiting;
-        std::optional<QRect> band;
-        std::optional<QColor> color;
-        RegionSizeLimits limits;
-        QRect range;
-        QStringList constraints;
-    };
-
-    const Region& find(int region) const;
-
-    const QColor m_defaultColor;
+    KnownRegion m_unknown;
     SensorMapping m_mapping;
     ArrangementMode m_mode = ArrangementMode::Free;
     QVector<ConstraintGroup> m_groups;
-    std::map<int, Region> m_regions;
+    std::map<int, KnownRegion> m_regions;
 };

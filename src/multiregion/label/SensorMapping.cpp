@@ -8,15 +8,13 @@
 
 namespace {
 
-int rounded(double value)
-{
-    return std::clamp(toInt(value < 0.0 ? value - 0.5 : value + 0.5), -largestCoordinate,
-                      largestCoordinate);
-}
-
 int scaled(double value, int to, int from)
 {
-    return from > 0 ? rounded(value * to / from) : 0;
+    if (from <= 0)
+        return 0;
+    const double exact = value * to / from;
+    return std::clamp(toInt(exact < 0.0 ? exact - 0.5 : exact + 0.5), -largestCoordinate,
+                      largestCoordinate);
 }
 
 } // namespace
@@ -35,17 +33,11 @@ QRect labelRect(const QRect& region, const SensorMapping& mapping)
     return result;
 }
 
-QSize labelSize(const QSize& size, const SensorMapping& mapping)
+int sensorEdge(int edge, Qt::Orientation axis, const SensorMapping& mapping)
 {
-    return {std::max(1, scaled(size.width(), mapping.shown.width(), mapping.sensor.width())),
-            std::max(1, scaled(size.height(), mapping.shown.height(), mapping.sensor.height()))};
-}
-
-int sensorEdge(int edge, int shown, int sensor)
-{
+    const int shown = lengthOf(mapping.shown, axis);
+    const int sensor = lengthOf(mapping.sensor, axis);
     if (edge <= 0)
         return 0;
-    if (edge >= shown)
-        return sensor;
-    return scaled(edge, sensor, shown);
+    return edge >= shown ? sensor : scaled(edge, sensor, shown);
 }

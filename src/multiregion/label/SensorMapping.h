@@ -2,6 +2,7 @@
 
 #include <QRect>
 #include <QSize>
+#include <Qt>
 
 /// Where the label shows the sensor area: in its top left corner, with a factor of its own for each
 /// axis, for the shown pixmap rounds its sides separately.
@@ -9,16 +10,11 @@ struct SensorMapping
 {
     QSize sensor; ///< sensor pixels
     QSize shown;  ///< label pixels
-
-    bool isEmpty() const { return sensor.isEmpty() || shown.isEmpty(); }
 };
 
 /// Converts edges, not sizes, so that regions that touch do not overlap on the label; at least one
 /// pixel wide and high.
 QRect labelRect(const QRect& region, const SensorMapping& mapping);
 
-/// A size in label pixels, at least 1 x 1.
-QSize labelSize(const QSize& size, const SensorMapping& mapping);
-
 /// The sensor pixel of an edge on the label. The image's border is the sensor's border.
-int sensorEdge(int edge, int shown, int sensor);
+int sensorEdge(int edge, Qt::Orientation axis, const SensorMapping& mapping);

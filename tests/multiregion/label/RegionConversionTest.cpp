@@ -175,6 +175,7 @@ private slots:
 
     void membersNeedRoomToFollow()
     {
+        QVERIFY(constraintGroups(ArrangementMode::Tile, {1, 2}).isEmpty());
         const auto row = constraintGroups(ArrangementMode::Tile, {0, 1, 3});
         QVector<ShownRegion> regions
             = regionsAt({{0, 0, 1296, 640}, {1296, 0, 1296, 640}, {}, {1296, 700, 1296, 640}});
