@@ -53,10 +53,12 @@ bool CameraLink::mayPart() const
 
 void CameraLink::parted(ZebErrorType result, Milliseconds duration)
 {
-    if (result == Sdk::success || Clock::now() - m_firstParting > laterPause) {
+    const Clock::time_point now = Clock::now();
+    if (result == Sdk::success || now - m_firstParting > laterPause)
         m_parting = Milliseconds{0};
-        m_firstParting = Clock::now();
-    }
-    if (result != Sdk::success)
-        m_parting += duration;
+    if (result == Sdk::success)
+        return;
+    if (m_parting == Milliseconds{0})
+        m_firstParting = now;
+    m_parting += duration;
 }

@@ -21,11 +21,6 @@ std::optional<double> readValue(FeatureManager& manager, const QString& name,
     return manager.Read(name, alternative1, alternative2).value();
 }
 
-Reading<bool> readBoolean(FeatureManager& manager, const QString& name)
-{
-    return manager.Read(name).boolean();
-}
-
 Reading<QString> readText(FeatureManager& manager, const QString& name, const QString& alternative)
 {
     return manager.Read(name, alternative).textReading();

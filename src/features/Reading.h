@@ -32,8 +32,6 @@ Reading<double> readFieldNumber(FeatureManager& manager, const QString& name,
 /// The value alone.
 std::optional<double> readValue(FeatureManager& manager, const QString& name,
                                 const QString& alternative1 = {}, const QString& alternative2 = {});
-/// Value and access of a boolean; any number above 0 counts as true.
-Reading<bool> readBoolean(FeatureManager& manager, const QString& name);
 /// Value and access of a text or an enumeration.
 Reading<QString> readText(FeatureManager& manager, const QString& name,
                           const QString& alternative = {});

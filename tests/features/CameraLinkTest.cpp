@@ -63,6 +63,20 @@ private slots:
         QCOMPARE(link.questions(), 1);
     }
 
+    /// The time that goes into failing calls is counted from the first of them.
+    void partsForOneSecond()
+    {
+        CameraLink link;
+        link.parted(Sdk::success, slow);
+        for (int i = 0; i < 4; ++i) {
+            QVERIFY(link.mayPart());
+            link.parted(Sdk::notFound, std::chrono::milliseconds(300));
+        }
+        QVERIFY(!link.mayPart());
+        link.parted(Sdk::success, slow);
+        QVERIFY(link.mayPart());
+    }
+
     /// Many reads end at the loss, an edit reaches the camera all the same.
     void endsManyReads_data()
     {

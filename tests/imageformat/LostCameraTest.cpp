@@ -5,9 +5,11 @@
 
 #include "simulator/Model.h"
 
+#include <QDoubleSpinBox>
 #include <QSpinBox>
 #include <QTabWidget>
 
+#include <algorithm>
 #include <functional>
 
 using sim::Operation;
@@ -33,17 +35,19 @@ struct LostPage
         tabs->setCurrentIndex(tab);
         QCoreApplication::processEvents();
         isWhole ? camera->lose(wait) : camera->loseValues(wait);
+        camera->journal().record(sim::Operations::all());
         camera->journal().clear();
     }
 
-    /// Calls that make their caller wait; with observers let go within the time allowed for it.
+    /// Calls that made their caller wait, but for observers that are let go: these have a time of
+    /// their own.
     int slowCalls() const
     {
-        const auto& journal = camera->journal();
-        int count = 0;
-        for (const sim::JournalEntry& entry : journal.entries())
-            count += entry.result == ZebErrorBadHandle || entry.result == ZebErrorTimeout ? 1 : 0;
-        return count - int(journal.entries({Operation::UnregisterObserver}).size());
+        const auto entries = camera->journal().entries();
+        return int(std::count_if(entries.begin(), entries.end(), [](const sim::JournalEntry& each) {
+            return each.operation != Operation::UnregisterObserver
+                && (each.result == ZebErrorBadHandle || each.result == ZebErrorTimeout);
+        }));
     }
 
     std::unique_ptr<sim::Camera> camera;
@@ -65,12 +69,10 @@ private slots:
     {
         using Action = std::function<void(LostPage&)>;
         const DataTable row([](bool isWhole, int tab, const Action& action) {
-            LostPage f("multi-region", isWhole, tab);
-            f.camera->journal().record(sim::Operations::all());
+            LostPage f("current", isWhole, tab);
             action(f);
             QVERIFY2(f.slowCalls() <= 4, qPrintable(QString::number(f.slowCalls())));
         });
-        const Action hide = [](LostPage& f) { f.page->hide(); };
         const Action showAgain = [](LostPage& f) {
             f.page->hide();
             f.camera->journal().clear();
@@ -81,20 +83,39 @@ private slots:
         const Action edit = [](LostPage& f) {
             f.page->findChild<QSpinBox*>("spbBinningHorizontal")->setValue(2);
         };
+        const auto type = [](const char* field) {
+            return Action([field](LostPage& f) {
+                auto* const box = f.tabs->currentWidget()->findChild<QDoubleSpinBox*>(field);
+                box->setValue(box->minimum());
+            });
+        };
         for (const bool isWhole : {false, true}) {
             const QString kind = isWhole ? "%1, nothing is told" : "%1, names are told";
             const auto name = [&](const char* text) { return kind.arg(text).toUtf8(); };
-            row(name("hide"), isWhole, 0, hide);
             row(name("show"), isWhole, 0, showAgain);
             row(name("close"), isWhole, 0, close);
             row(name("tick"), isWhole, 0, tick);
             row(name("edit"), isWhole, 0, edit);
+            row(name("type a width"), isWhole, 0, type("spinWidth"));
+            row(name("type a limit"), isWhole, 1, type("spinExpAutoMin"));
             for (int tab = 0; tab < 3; ++tab)
                 row(name(qPrintable(QString("turn to %1").arg(tab))), isWhole, (tab + 1) % 3,
                     Action([tab](LostPage& f) { f.tabs->setCurrentIndex(tab); }));
         }
     }
     void actionsAreShort() { runRow(); }
+
+    /// A known loss costs one question a second, whatever is shown, and is told once.
+    void asksOnceASecond()
+    {
+        LostPage f("current", false, 1);
+        f.page->updateTimer();
+        QCOMPARE(f.slowCalls(), 2);
+        QTest::qWait(2400);
+        QVERIFY(f.slowCalls() > 2 && f.slowCalls() <= 4);
+        QCOMPARE(f.log.size(), 1);
+        QCOMPARE(f.log.first().first, int(ZebViewerLogMultiRegion));
+    }
 
 private:
     MessageHandlerGuard m_guard;
