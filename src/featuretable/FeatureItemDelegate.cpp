@@ -1,13 +1,15 @@
 #include "featuretable/FeatureItemDelegate.h"
 
-#include "featuretable/CellEditing.h"
-#include "featuretable/editors/DelegateWidget.h"
-#include "featuretable/editors/DelegateWidgetFactory.h"
-#include "featuretable/record/CellText.h"
+#include "featuretable/editors/BooleanEditor.h"
+#include "featuretable/editors/CommandEditor.h"
+#include "featuretable/editors/EnumerationEditor.h"
+#include "featuretable/editors/FloatEditor.h"
+#include "featuretable/editors/IntegerEditor.h"
+#include "featuretable/editors/TextEditor.h"
+#include "featuretable/record/ValueText.h"
 
 #include <QComboBox>
 #include <QDebug>
-#include <QPointer>
 #include <QPushButton>
 #include <QSpinBox>
 
@@ -21,6 +23,26 @@ int heightOfEditors()
                      QSpinBox().sizeHint().height()});
 }
 
+/// By the kind of value and its representation; null when it is not writable or has none.
+DelegateWidget* createDelegateWidget(const FeatureInfo& info, QWidget* parent)
+{
+    if (!info.writable || info.isRaw)
+        return nullptr;
+    if (info.isCommand)
+        return new CommandEditor(info, parent);
+    if (!info.enumEntries.empty())
+        return new EnumerationEditor(info, parent);
+    if (std::holds_alternative<bool>(info.value))
+        return new BooleanEditor(info, parent);
+    if (std::holds_alternative<double>(info.value))
+        return new FloatEditor(info, parent);
+    if (std::holds_alternative<std::string>(info.value))
+        return new TextEditor(info, nullptr, parent);
+    if (const IntegerNotation* notation = notationFor(info))
+        return new TextEditor(info, notation, parent);
+    return createIntegerEditor(info, parent);
+}
+
 DelegateWidget* delegateWidget(QWidget* editor)
 {
     auto* widget = qobject_cast<DelegateWidget*>(editor);
@@ -29,44 +51,38 @@ DelegateWidget* delegateWidget(QWidget* editor)
     return widget;
 }
 
-// The view would not get the focus back by itself, for it is a control inside the editor that has
-// it.
-void returnFocus(const QWidget& editor)
-{
-    const QWidget* focused = editor.window()->focusWidget();
-    if (editor.isAncestorOf(focused) && editor.parentWidget())
-        editor.parentWidget()->setFocus();
-}
-
 } // namespace
 
-FeatureItemDelegate::FeatureItemDelegate(QWidget* table, CellEditing& editing)
+FeatureItemDelegate::FeatureItemDelegate(QWidget* table)
     : QStyledItemDelegate(table)
-    , m_editing(editing)
     , m_editorHeight(heightOfEditors())
 {
+}
+
+DelegateWidget* FeatureItemDelegate::editor() const
+{
+    return m_editor && !m_editor->hasEnded() ? m_editor.data() : nullptr;
 }
 
 QWidget* FeatureItemDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem&,
                                            const QModelIndex& index) const
 {
-    const QVariant data = index.data(Qt::UserRole);
-    const auto info = data.value<FeatureInfo>();
-    DelegateWidget* editor
-        = data.canConvert<FeatureInfo>() ? createDelegateWidget(info, parent) : nullptr;
-    if (!editor) {
-        qDebug() << "Cannot create delegate widget for " << QString::fromStdString(info.name);
+    const QVariant record = index.data(Qt::UserRole);
+    const FeatureInfo* info = recordIn(record);
+    m_editor = info ? createDelegateWidget(*info, parent) : nullptr;
+    if (!m_editor) {
+        qDebug() << "Cannot create delegate widget for "
+                 << (info ? QString::fromStdString(info->name) : QString());
         return nullptr;
     }
     using Self = FeatureItemDelegate;
-    connect(editor, &DelegateWidget::editingFinished, this, &Self::commitAndCloseEditor);
-    connect(editor, &DelegateWidget::newBoolValueToSet, this, &Self::commitAndCloseEditor);
-    connect(editor, &DelegateWidget::newStringValueToSet, this, &Self::commitAndCloseEditor);
-    connect(editor, &DelegateWidget::newIntValueToSet, this, &Self::commitAndCloseEditor);
-    connect(editor, &DelegateWidget::sliderValueChanged, this, &Self::commitEditor);
-    connect(editor, &DelegateWidget::editingCancelled, this, &Self::onClose);
-    m_editing.opened(editor);
-    return editor;
+    connect(m_editor, &DelegateWidget::editingFinished, this, &Self::commitAndCloseEditor);
+    connect(m_editor, &DelegateWidget::newBoolValueToSet, this, &Self::commitAndCloseEditor);
+    connect(m_editor, &DelegateWidget::newStringValueToSet, this, &Self::commitAndCloseEditor);
+    connect(m_editor, &DelegateWidget::newIntValueToSet, this, &Self::commitAndCloseEditor);
+    connect(m_editor, &DelegateWidget::sliderValueChanged, this, &Self::commitEditor);
+    connect(m_editor, &DelegateWidget::editingCancelled, this, &Self::onClose);
+    return m_editor;
 }
 
 void FeatureItemDelegate::setEditorData(QWidget* editor, const QModelIndex& index) const
@@ -106,33 +122,29 @@ void FeatureItemDelegate::commitEditor()
 
 void FeatureItemDelegate::commitAndCloseEditor()
 {
-    const QPointer<DelegateWidget> editor = qobject_cast<DelegateWidget*>(sender());
-    if (!editor) {
-        qDebug() << "Cannot get sender widget.";
-        return;
-    }
     // Whoever hears of the new value may close the editor.
     const QPointer<FeatureItemDelegate> self(this);
-    emit commitData(editor);
+    const QPointer<DelegateWidget> editor = qobject_cast<DelegateWidget*>(sender());
+    commitEditor();
     if (self && editor)
         closeEnded(editor);
 }
 
 void FeatureItemDelegate::onClose()
 {
-    DelegateWidget* editor = m_editing.editor();
-    if (!editor)
-        return;
-    editor->end();
-    closeEnded(editor);
+    DelegateWidget* open = editor();
+    if (open && open->end())
+        closeEnded(open);
 }
 
 void FeatureItemDelegate::closeEnded(DelegateWidget* editor)
 {
-    // The change of focus is heard outside, too.
     const QPointer<FeatureItemDelegate> self(this);
     const QPointer<DelegateWidget> watched(editor);
-    returnFocus(*editor);
+    // The view would not get the focus back by itself, for a control inside the editor has it. The
+    // change is heard outside, too.
+    if (editor->isAncestorOf(editor->window()->focusWidget()) && editor->parentWidget())
+        editor->parentWidget()->setFocus();
     if (self && watched)
         emit closeEditor(editor, NoHint);
 }
@@ -141,8 +153,8 @@ void FeatureItemDelegate::initStyleOption(QStyleOptionViewItem* option,
                                           const QModelIndex& index) const
 {
     QStyledItemDelegate::initStyleOption(option, index);
-    const QVariant data = index.data(Qt::UserRole);
-    if (const FeatureInfo* info = recordIn(data))
+    const QVariant record = index.data(Qt::UserRole);
+    if (const FeatureInfo* info = recordIn(record))
         option->text = cellText(*info, index.data(Qt::DisplayRole));
 }
 

@@ -1,9 +1,8 @@
 #pragma once
 
-#include <QSize>
+#include <QPointer>
 #include <QStyledItemDelegate>
 
-class CellEditing;
 class DelegateWidget;
 
 /// Draws the value cells and edits them in place, by the FeatureInfo that each carries under
@@ -13,8 +12,10 @@ class FeatureItemDelegate : public QStyledItemDelegate
     Q_OBJECT
 
 public:
-    /// @p editing, which must outlive every editor, is told of those that open.
-    FeatureItemDelegate(QWidget* table, CellEditing& editing);
+    explicit FeatureItemDelegate(QWidget* table);
+
+    /// Null when none is open: one that has ended only awaits its deletion.
+    DelegateWidget* editor() const;
 
     QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option,
                           const QModelIndex& index) const override;
@@ -40,6 +41,6 @@ protected:
 private:
     void closeEnded(DelegateWidget* editor);
 
-    CellEditing& m_editing;
+    mutable QPointer<DelegateWidget> m_editor;
     int m_editorHeight;
 };

@@ -1,7 +1,5 @@
 #include "featuretable/FeatureNameDelegate.h"
 
-#include <algorithm>
-
 namespace {
 
 constexpr int darkLightness = 128;
@@ -12,22 +10,13 @@ constexpr int readableLightness = 150;
 QSize FeatureNameDelegate::sizeHint(const QStyleOptionViewItem& option,
                                     const QModelIndex& index) const
 {
-    if (m_heights.size() != index.model()->rowCount() || m_measuredFont != option.font)
-        measure(option, index);
-    return {m_widestName, m_heights.at(index.row())};
-}
-
-void FeatureNameDelegate::measure(const QStyleOptionViewItem& option,
-                                  const QModelIndex& index) const
-{
+    if (m_size.isValid() && m_measuredFont == option.font)
+        return m_size;
     m_measuredFont = option.font;
-    m_widestName = 0;
-    m_heights.clear();
-    for (int row = 0; row < index.model()->rowCount(); ++row) {
-        const QSize size = QStyledItemDelegate::sizeHint(option, index.siblingAtRow(row));
-        m_widestName = std::max(m_widestName, size.width());
-        m_heights.append(size.height());
-    }
+    m_size = {};
+    for (int row = 0; row < index.model()->rowCount(); ++row)
+        m_size = m_size.expandedTo(QStyledItemDelegate::sizeHint(option, index.siblingAtRow(row)));
+    return m_size;
 }
 
 void FeatureNameDelegate::initStyleOption(QStyleOptionViewItem* option,

@@ -1,14 +1,13 @@
 #pragma once
 
+#include <QFont>
 #include <QStyledItemDelegate>
-#include <QVector>
 
 /// Draws the feature names. Their dark green is meant for light backgrounds and is lightened on a
 /// dark one. Every name asks for the width of the longest, so that the column keeps its width while
 /// rows are scrolled or filtered, and the view has to measure visible rows only.
 ///
-/// To be installed when the names are in the model; they are measured once for each font. The view
-/// asks for the sizes of all visible names whenever a cell has changed.
+/// To be installed when the names are in the model; they are measured once for each font.
 class FeatureNameDelegate : public QStyledItemDelegate
 {
     Q_OBJECT
@@ -22,9 +21,6 @@ protected:
     void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override;
 
 private:
-    void measure(const QStyleOptionViewItem& option, const QModelIndex& index) const;
-
     mutable QFont m_measuredFont;
-    mutable int m_widestName = 0;
-    mutable QVector<int> m_heights; ///< by row
+    mutable QSize m_size; ///< of the largest name
 };

@@ -1,6 +1,6 @@
 #include "featuretable/FeatureValueItem.h"
 
-#include "featuretable/record/CellText.h"
+#include "featuretable/record/ValueText.h"
 
 #include <QSignalBlocker>
 #include <QTableWidget>

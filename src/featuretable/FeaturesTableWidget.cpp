@@ -5,6 +5,7 @@
 #include "featuretable/FeatureNameDelegate.h"
 #include "featuretable/FeatureValueItem.h"
 #include "featuretable/MyTableWidget.h"
+#include "featuretable/editors/DelegateWidget.h"
 #include "featuretable/record/FeatureInfoReading.h"
 
 #include <QBrush>
@@ -22,15 +23,10 @@ QBrush nameBrush(bool writable)
     return QColor(writable ? QStringLiteral("#006400") : QStringLiteral("grey"));
 }
 
-bool isEditable(const QTableWidgetItem& item)
-{
-    return item.flags().testFlag(Qt::ItemIsEditable);
-}
-
 /// Flags that are set count as changed, whatever they were.
 void setEditable(QTableWidgetItem& item, bool editable)
 {
-    if (isEditable(item) != editable)
+    if (item.flags().testFlag(Qt::ItemIsEditable) != editable)
         item.setFlags(item.flags().setFlag(Qt::ItemIsEditable, editable));
 }
 
@@ -41,7 +37,7 @@ FeaturesTableWidget::FeaturesTableWidget(const QStringList& features, FeatureMan
     : QWidget(parent)
     , m_manager(manager)
     , m_table(new MyTableWidget(this))
-    , m_delegate(new FeatureItemDelegate(m_table, m_editing))
+    , m_delegate(new FeatureItemDelegate(m_table))
 {
     qRegisterMetaType<FeatureInfo>("FeatureInfo");
     // Else every record that is stored counts as changed.
@@ -63,14 +59,13 @@ FeaturesTableWidget::FeaturesTableWidget(const QStringList& features, FeatureMan
     // The row becomes the flag: owners rely on the first row ending with false.
     connect(m_table, &QTableWidget::cellDoubleClicked, this, &Self::cellEditorActive);
     // Nor does every double click open an editor.
-    const auto endAnnouncement = [this] { m_editing.closed(); };
+    const auto endAnnouncement = [this] { m_announced.clear(); };
     connect(m_table, &QTableWidget::cellDoubleClicked, this, endAnnouncement, Qt::QueuedConnection);
 
     setUpTable(features.size());
     const CameraLink::ManyReads reads(*m_manager->link());
-    const QScopedValueRollback refreshing(m_refreshing, true);
     for (int row = 0; row < features.size(); ++row)
-        addRow(row, FeaturesTableWidget::readFeature(features.at(row)), features);
+        addRow(row, features.at(row), features);
     m_table->setItemDelegateForColumn(NameColumn, new FeatureNameDelegate(m_table));
     m_table->resizeColumnsToContents();
     m_table->resizeRowsToContents();
@@ -81,6 +76,22 @@ FeaturesTableWidget::~FeaturesTableWidget()
     // The owner may be half gone.
     const QSignalBlocker blocker(this);
     m_delegate->onClose();
+}
+
+bool FeaturesTableWidget::isEditing() const
+{
+    return m_delegate->editor() != nullptr;
+}
+
+QString FeaturesTableWidget::editedFeature() const
+{
+    return isEditing() && m_announced.isEmpty() ? m_delegate->editor()->featureName() : m_announced;
+}
+
+void FeaturesTableWidget::finishEditing()
+{
+    if (DelegateWidget* editor = m_delegate->editor())
+        editor->finish();
 }
 
 void FeaturesTableWidget::setFilter(const QString& filter)
@@ -117,7 +128,8 @@ void FeaturesTableWidget::updateFeatures(const QStringList& features)
 void FeaturesTableWidget::updateRow(int row, const QString& name)
 {
     m_pending.removeAll(name);
-    const bool isEdited = m_editing.covers(name);
+    const bool isEdited
+        = m_announced == name || (isEditing() && m_delegate->editor()->featureName() == name);
     if (isEdited)
         setPending(name);
     if (isEdited && name != m_saved)
@@ -144,18 +156,11 @@ void FeaturesTableWidget::onDataChanged(const QModelIndex& topLeft, const QModel
     }
     const QPointer<FeaturesTableWidget> self(this);
     m_saved = QString::fromStdString(info->name);
-    const bool isTaken = save(*info, cell.data(Qt::DisplayRole));
+    save(*info, cell.data(Qt::DisplayRole));
     if (!self)
         return;
     m_saved.clear();
-    if (isTaken) {
-        // As the owner may have refreshed it.
-        FeatureInfo saved = featureInfo(cell.row());
-        saved.value = toFeatureValue(cell.data(Qt::DisplayRole));
-        storeFeatureInfo(cell.row(), saved);
-    }
-    m_editing.closed();
-    emit cellEditorActive(false);
+    onClosingEditor();
 }
 
 void FeaturesTableWidget::onCellEdit(int row, int column)
@@ -164,14 +169,13 @@ void FeaturesTableWidget::onCellEdit(int row, int column)
     const FeatureInfo* info = recordIn(record);
     if (!info)
         return;
-    if (isEditable(*m_table->item(row, column)) && !info->isRaw)
-        m_editing.announce(QString::fromStdString(info->name));
+    m_announced = QString::fromStdString(info->name);
     emit cellEditorActive(true);
 }
 
 void FeaturesTableWidget::onClosingEditor()
 {
-    m_editing.closed();
+    m_announced.clear();
     emit cellEditorActive(false);
 }
 
@@ -184,15 +188,22 @@ FeatureInfo FeaturesTableWidget::readFeature(const QString& name)
     return info;
 }
 
-bool FeaturesTableWidget::save(const FeatureInfo& info, const QVariant& value)
+void FeaturesTableWidget::save(const FeatureInfo& info, const QVariant& value)
 {
     const QString name = QString::fromStdString(info.name);
     setPending(name);
-    if (m_manager->SetVariantValue(name, value))
-        return !info.isCommand;
-    emit loggingMessage(ZebViewerLogMultiRegion,
-                        tr("Saving feature '%1' to value=%2 failed.").arg(name, value.toString()));
-    return false;
+    if (!m_manager->SetVariantValue(name, value)) {
+        emit loggingMessage(
+            ZebViewerLogMultiRegion,
+            tr("Saving feature '%1' to value=%2 failed.").arg(name, value.toString()));
+        return;
+    }
+    if (info.isCommand)
+        return;
+    // As the owner may have refreshed it.
+    FeatureInfo saved = featureInfo(rowOf(name));
+    saved.value = toFeatureValue(value);
+    storeFeatureInfo(rowOf(name), saved);
 }
 
 bool FeaturesTableWidget::isEdit(const QVector<int>& roles) const
@@ -233,9 +244,8 @@ void FeaturesTableWidget::setUpTable(int rowCount)
     m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
 }
 
-void FeaturesTableWidget::addRow(int row, const FeatureInfo& info, const QStringList& features)
+void FeaturesTableWidget::addRow(int row, const QString& name, const QStringList& features)
 {
-    const QString name = QString::fromStdString(info.name);
     auto* nameItem = new QTableWidgetItem;
     setEditable(*nameItem, false);
     nameItem->setToolTip(nameToolTip(name, features));
@@ -243,7 +253,7 @@ void FeaturesTableWidget::addRow(int row, const FeatureInfo& info, const QString
     m_table->setItem(row, ValueColumn, new FeatureValueItem);
     if (!m_rows.contains(name))
         m_rows.insert(name, row);
-    refreshRow(row, info);
+    refreshRow(row, FeaturesTableWidget::readFeature(name));
 }
 
 void FeaturesTableWidget::refreshRow(int row, const FeatureInfo& info)

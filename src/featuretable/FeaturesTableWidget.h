@@ -1,6 +1,5 @@
 #pragma once
 
-#include "featuretable/CellEditing.h"
 #include "featuretable/record/FeatureInfo.h"
 
 #include "host/TabExtensionInterface.h"
@@ -37,11 +36,11 @@ public:
 
     /// Whether an editor is open. A double click on a cell that cannot be edited emits
     /// cellEditorActive(true) without one.
-    bool isEditing() const { return m_editing.isOpen(); }
+    bool isEditing() const;
     /// The feature whose value is edited, from the double click on; empty when there is none.
-    QString editedFeature() const { return m_editing.feature(); }
+    QString editedFeature() const;
     /// Commits what an open editor holds, as far as it is acceptable, and closes it.
-    void finishEditing() { m_editing.finish(); }
+    void finishEditing();
 
     /// The rows to be read again.
     QStringList pendingFeatures() const { return m_pending; }
@@ -73,10 +72,9 @@ protected:
     /// Reads one feature. While the base is constructed its own version fills the rows.
     virtual FeatureInfo readFeature(const QString& name);
 
-    /// Passes an edited value on; true when the record is to take it for the camera's.
-    virtual bool save(const FeatureInfo& info, const QVariant& value);
+    /// Passes an edited value on.
+    virtual void save(const FeatureInfo& info, const QVariant& value);
 
-    MyTableWidget* table() const { return m_table; }
     FeatureManager* manager() const { return m_manager; }
 
     /// Whether a dataChanged() with these roles comes from an editor: changes that the table makes
@@ -92,16 +90,16 @@ protected:
 
 private:
     void setUpTable(int rowCount);
-    void addRow(int row, const FeatureInfo& info, const QStringList& features);
-    void refreshRow(int row, const FeatureInfo& info);
+    void addRow(int row, const QString& name, const QStringList& features);
     QString nameToolTip(const QString& name, const QStringList& features);
     void updateRow(int row, const QString& name);
+    void refreshRow(int row, const FeatureInfo& info);
     void setPending(const QString& name);
 
     FeatureManager* m_manager;
     MyTableWidget* m_table;
-    CellEditing m_editing;
     FeatureItemDelegate* m_delegate;
+    QString m_announced; ///< by a double click, until an editor is open or none will be
     QHash<QString, int> m_rows;
     QStringList m_pending;
     QString m_saved; ///< the feature whose value is being passed on

@@ -69,12 +69,11 @@ FeatureInfo RegionTableWidget::readFeature(const QString& name)
     return info;
 }
 
-bool RegionTableWidget::save(const FeatureInfo& info, const QVariant& value)
+void RegionTableWidget::save(const FeatureInfo& info, const QVariant& value)
 {
     const QString name = QString::fromStdString(info.name);
     emit saveSubRegionFeatureToCamera(
         m_regionNo, masterRegion(m_regionNo, name, m_constrainedFeatures), name, value);
-    return false;
 }
 
 /// Gives the record the bounds of its range, or those of the camera where it has none.

@@ -38,7 +38,7 @@ public slots:
 protected:
     FeatureInfo readFeature(const QString& name) override;
     /// Leaves the writing to the page, which reads back what came of it.
-    bool save(const FeatureInfo& info, const QVariant& value) override;
+    void save(const FeatureInfo& info, const QVariant& value) override;
 
 private:
     void applyRange(FeatureInfo& info) const;

@@ -190,6 +190,8 @@ private slots:
         QVERIFY(!refreshed("Count", 20));
         f.features->onClosingEditor();
         QVERIFY(refreshed("Count", 20));
+        f.features->onCellEdit(f.names.indexOf("Model"), valueColumn); // read-only
+        QCOMPARE(f.features->editedFeature(), QString("Model"));
         // Another button announces an editor as well, but opens none.
         const QPoint center = f.table->visualItemRect(f.item("Count")).center();
         QTest::mouseDClick(f.table->viewport(), Qt::RightButton, {}, center);

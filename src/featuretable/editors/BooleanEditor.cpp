@@ -12,7 +12,11 @@ BooleanEditor::BooleanEditor(const FeatureInfo& info, QWidget* parent)
     QPalette outlined = palette();
     outlined.setColor(QPalette::Window, outlined.color(QPalette::Disabled, QPalette::Text));
     m_box->setPalette(outlined);
-    connect(m_box, &QCheckBox::clicked, this, &BooleanEditor::onClicked);
+    connect(m_box, &QCheckBox::clicked, this, [this](bool checked) {
+        touch();
+        if (end())
+            emit newBoolValueToSet(checked);
+    });
 }
 
 bool BooleanEditor::showValue(const QVariant& value)
@@ -24,11 +28,4 @@ bool BooleanEditor::showValue(const QVariant& value)
 QVariant BooleanEditor::enteredValue()
 {
     return m_box->isChecked();
-}
-
-void BooleanEditor::onClicked(bool checked)
-{
-    touch();
-    if (end())
-        emit newBoolValueToSet(checked);
 }

@@ -16,7 +16,5 @@ protected:
     QVariant enteredValue() override;
 
 private:
-    void onClicked(bool checked);
-
     QCheckBox* m_box;
 };

@@ -9,7 +9,7 @@ CommandEditor::CommandEditor(const FeatureInfo& info, QWidget* parent)
     button->setAutoDefault(false);
     addControl(button, "editorButton", 1);
     button->setAccessibleName(tr("Execute %1").arg(accessibleName()));
-    connect(button, &QPushButton::clicked, this, &CommandEditor::onClicked);
+    connect(button, &QPushButton::clicked, this, &CommandEditor::confirm);
 }
 
 bool CommandEditor::showValue(const QVariant& value)
@@ -20,19 +20,13 @@ bool CommandEditor::showValue(const QVariant& value)
 
 QVariant CommandEditor::enteredValue()
 {
-    return m_clicked ? m_value : QVariant();
+    return m_value;
 }
 
 void CommandEditor::confirm()
 {
-    onClicked();
-}
-
-void CommandEditor::onClicked()
-{
-    if (!end())
-        return;
-    m_clicked = true;
+    touch();
     forgetKnownValue();
-    emit newIntValueToSet(m_value.toLongLong());
+    if (end())
+        emit newIntValueToSet(m_value.toLongLong());
 }

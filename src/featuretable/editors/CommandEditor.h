@@ -16,8 +16,5 @@ protected:
     void confirm() override;
 
 private:
-    void onClicked();
-
     QVariant m_value;
-    bool m_clicked = false;
 };

@@ -43,18 +43,15 @@ void DelegateWidget::fill(const QVariant& value, const QVariant& cameraValue)
     if (!showValue(value))
         qDebug() << "Cannot set value for type [ " << value.typeName() << "]";
     m_knownValue = isSameValue(value, cameraValue) ? value : QVariant();
-    m_shownValue = enteredValue();
     m_touched = false;
 }
 
 QVariant DelegateWidget::takeNewValue()
 {
     QVariant value = enteredValue();
-    const bool isEntered = m_touched || !isSameValue(value, m_shownValue);
-    if (!value.isValid() || !isEntered || isSameValue(value, m_knownValue))
+    if (!m_touched || !value.isValid() || isSameValue(value, m_knownValue))
         return {};
     m_knownValue = value;
-    m_shownValue = value;
     m_touched = false;
     return value;
 }
@@ -66,7 +63,7 @@ bool DelegateWidget::end()
 
 void DelegateWidget::confirm()
 {
-    if (!isAcceptable())
+    if (!enteredValue().isValid())
         return;
     touch();
     finish();
@@ -77,9 +74,7 @@ void DelegateWidget::addControl(QWidget* control, const char* objectName, int st
     control->setObjectName(QLatin1String(objectName));
     control->setAccessibleName(accessibleName());
     auto* field = qobject_cast<QLineEdit*>(control);
-    if (!field)
-        field = control->findChild<QLineEdit*>();
-    if (field)
+    if (field || (field = control->findChild<QLineEdit*>()))
         connect(field, &QLineEdit::textEdited, this, &DelegateWidget::touch);
     control->installEventFilter(this);
     layout()->addWidget(control);
@@ -121,7 +116,7 @@ bool DelegateWidget::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::FocusOut) {
         // A spin box goes back to its last value, which nobody entered.
-        m_touched = m_touched && isAcceptable();
+        m_touched = m_touched && enteredValue().isValid();
         onFocusLeft(static_cast<QFocusEvent*>(event)->reason());
     }
     // Scrolling the table must not change a value that the pointer happens to pass.
@@ -177,34 +172,22 @@ void DelegateWidget::keyPressEvent(QKeyEvent* event)
 // The editor keeps the mouse to itself, but the wheel scrolls the table.
 void DelegateWidget::wheelEvent(QWheelEvent* event)
 {
-    event->accept();
-    QWidget* viewport = parentWidget();
-    if (!viewport)
-        return;
-    QWheelEvent forwarded(QPointF(mapToParent(event->position().toPoint())),
-                          event->globalPosition(), event->pixelDelta(), event->angleDelta(),
-                          event->buttons(), event->modifiers(), event->phase(), event->inverted(),
-                          event->source());
-    QApplication::sendEvent(viewport, &forwarded);
+    if (QWidget* viewport = parentWidget())
+        QCoreApplication::sendEvent(viewport, event);
 }
 
 void DelegateWidget::onFocusLeft(Qt::FocusReason reason)
 {
-    if (reason == Qt::PopupFocusReason || containsFocus())
+    // Not isAncestorOf(), which leaves out the windows of controls, as the list of a combo box.
+    const QWidget* focused = QApplication::focusWidget();
+    while (focused && focused != this)
+        focused = focused->parentWidget();
+    if (focused || reason == Qt::PopupFocusReason)
         return;
     if (reason == Qt::ActiveWindowFocusReason || !isVisible() || !isVisibleTo(window()))
         finishLater();
     else
         finish();
-}
-
-// Counts the windows of controls too, as the list of a combo box.
-bool DelegateWidget::containsFocus() const
-{
-    const QWidget* widget = QApplication::focusWidget();
-    while (widget && widget != this)
-        widget = widget->parentWidget();
-    return widget == this;
 }
 
 // Windows lose the focus and hide their children while they are destroyed, when it is too late to

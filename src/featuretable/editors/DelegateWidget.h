@@ -2,16 +2,15 @@
 
 #include "featuretable/record/FeatureInfo.h"
 
-#include <QVariant>
 #include <QVector>
 #include <QWidget>
 
 /// The editor in a value cell; one derived class for each kind. It knows the cell's record and
 /// nothing of the camera: it asks to be committed through its signals, each of the first four once.
 ///
-/// A value is new when it differs from the cell's and either was entered, or Return confirmed what
-/// is shown. So a value outside its range, which is shown clamped, is corrected by Return but not
-/// by looking at it, and one that the camera refused can be tried again.
+/// A value is new when the user acted on a control, or confirmed what is shown with Return, and it
+/// differs from the camera's. So a value outside its range, which is shown clamped, is corrected by
+/// Return but not by looking at it, and one that the camera refused can be tried again.
 ///
 /// Return, leaving the editor (by Tab from the last control too) and hiding it finish the editing,
 /// Escape cancels it. Where the value is final with one act (an entry, a toggle, a click), that act
@@ -53,20 +52,18 @@ protected:
     virtual bool showValue(const QVariant& value) = 0;
     /// Invalid while what was entered is not acceptable.
     virtual QVariant enteredValue() = 0;
-    /// Whether what is shown may be confirmed with Return.
-    virtual bool isAcceptable() const { return true; }
     /// Return was pressed; finishes what is acceptable.
     virtual void confirm();
 
     /// Puts a control into the row; the first one gets the keyboard. Scripts find it under its
     /// name.
     void addControl(QWidget* control, const char* objectName, int stretch);
+    /// Shows the unit behind controls that have no suffix of their own.
+    void addUnit(const FeatureInfo& info);
     /// The user acted on a control: its value is meant, even if it looks as before.
     void touch() { m_touched = true; }
     /// The value is new whatever it is.
     void forgetKnownValue() { m_knownValue.clear(); }
-    /// Shows the unit behind controls that have no suffix of their own.
-    void addUnit(const FeatureInfo& info);
 
     bool event(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -78,13 +75,11 @@ protected:
 
 private:
     void onFocusLeft(Qt::FocusReason reason);
-    bool containsFocus() const;
     void finishLater();
 
     const QString m_featureName;
     QVector<QWidget*> m_controls;
     QVariant m_knownValue; ///< invalid when cell and camera disagree
-    QVariant m_shownValue;
     bool m_filled = false;
     bool m_touched = false;
     bool m_ended = false;

@@ -41,9 +41,7 @@ bool EnumerationEditor::eventFilter(QObject* watched, QEvent* event)
 
 void EnumerationEditor::onActivated()
 {
-    if (m_isStepping)
-        return;
     touch();
-    if (end())
+    if (!m_isStepping && end())
         emit newStringValueToSet(m_box->currentText());
 }

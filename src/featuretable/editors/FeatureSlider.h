@@ -1,6 +1,6 @@
 #pragma once
 
-#include "featuretable/editors/SliderRange.h"
+#include "featuretable/record/ValueRange.h"
 
 #include <qwt_slider.h>
 

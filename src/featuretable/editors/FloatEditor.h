@@ -15,11 +15,8 @@ public:
 protected:
     bool showValue(const QVariant& value) override;
     QVariant enteredValue() override;
-    bool isAcceptable() const override;
     void showNumber(double value) override;
 
 private:
-    void onTextEdited();
-
     QLineEdit* m_field;
 };

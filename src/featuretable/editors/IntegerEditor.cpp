@@ -2,16 +2,14 @@
 
 #include "featuretable/editors/SliderEditor.h"
 #include "featuretable/editors/TextEditor.h"
-#include "featuretable/record/IntegerNotation.h"
-#include "featuretable/record/IntegerRange.h"
+#include "featuretable/record/ValueRange.h"
+#include "featuretable/record/ValueText.h"
 
 #include <QDoubleSpinBox>
 #include <QRegularExpression>
 #include <QSignalBlocker>
-#include <QSpinBox>
 
 #include <algorithm>
-#include <type_traits>
 
 namespace {
 
@@ -24,23 +22,13 @@ public:
 
     QValidator::State validate(QString& input, int& position) const override
     {
+        static const QRegularExpression digits(QStringLiteral("^-?[0-9]{0,19}$"));
         const QValidator::State state = Box::validate(input, position);
-        if (state != QValidator::Invalid)
-            return state;
-        const bool isOpen = withoutUnit(input).size() <= mostDigits
-            && QRegularExpression(QStringLiteral("^-?[0-9]*$"))
-                   .match(withoutUnit(input))
-                   .hasMatch();
-        return isOpen ? QValidator::Intermediate : QValidator::Invalid;
-    }
-
-private:
-    static constexpr int mostDigits = 19;
-
-    QString withoutUnit(const QString& input) const
-    {
         const QString unit = Box::suffix();
-        return input.endsWith(unit) ? input.chopped(unit.size()) : input;
+        const QString text = input.endsWith(unit) ? input.chopped(unit.size()) : input;
+        return state == QValidator::Invalid && digits.match(text).hasMatch()
+            ? QValidator::Intermediate
+            : state;
     }
 };
 
@@ -58,12 +46,17 @@ public:
         m_field->setLocale(QLocale::c());
         m_field->setRange(static_cast<Number>(m_range.minimum),
                           static_cast<Number>(m_range.maximum));
-        m_field->setSingleStep(static_cast<Number>(singleStep(info)));
+        const std::int64_t largestStep = std::max<std::int64_t>(1, m_range.maximum);
+        m_field->setSingleStep(static_cast<Number>(
+            std::clamp<std::int64_t>(toInteger(info.increment).value_or(1), 1, largestStep)));
         if (!info.unit.empty())
             m_field->setSuffix(QLatin1Char(' ') + QString::fromStdString(info.unit));
         addControl(m_field, "editorField", 1);
-        addSlider(sliderRange(info));
-        connect(m_field, qOverload<Number>(&Box::valueChanged), this, &IntegerEditor::onChanged);
+        addSlider(info);
+        connect(m_field, qOverload<Number>(&Box::valueChanged), this, [this](Number value) {
+            touch();
+            moveSlider(static_cast<double>(value));
+        });
     }
 
 protected:
@@ -81,13 +74,11 @@ protected:
 
     QVariant enteredValue() override
     {
-        if (!isAcceptable())
+        if (!m_field->hasAcceptableInput())
             return {};
         m_field->interpretText();
         return QVariant::fromValue<qint64>(static_cast<qint64>(m_field->value()));
     }
-
-    bool isAcceptable() const override { return m_field->hasAcceptableInput(); }
 
     void showNumber(double value) override
     {
@@ -96,15 +87,7 @@ protected:
     }
 
 private:
-    std::int64_t singleStep(const FeatureInfo& info) const
-    {
-        const std::int64_t increment = toInteger(info.increment).value_or(1);
-        return std::clamp<std::int64_t>(increment, 1, std::max<std::int64_t>(1, m_range.maximum));
-    }
-
-    void onChanged(Number value) { moveSlider(static_cast<double>(value)); }
-
-    IntegerRange m_range;
+    const ValueRange<std::int64_t> m_range;
     Box* m_field;
 };
 
@@ -112,8 +95,7 @@ private:
 
 DelegateWidget* createIntegerEditor(const FeatureInfo& info, QWidget* parent)
 {
-    const std::int64_t value = toInteger(info.value).value_or(0);
-    switch (integerFieldFor(integerRange(info), value)) {
+    switch (integerField(info)) {
     case IntegerField::Spin32:
         return new IntegerEditor<QSpinBox, int>(info, parent);
     case IntegerField::Spin53:
@@ -121,5 +103,5 @@ DelegateWidget* createIntegerEditor(const FeatureInfo& info, QWidget* parent)
     case IntegerField::Text:
         break;
     }
-    return new TextEditor(info, &decimalNotation(), parent);
+    return new TextEditor(info, &decimalNotation, parent);
 }

@@ -19,8 +19,9 @@ SliderEditor::SliderEditor(const FeatureInfo& info, QWidget* parent)
     connect(&m_pause, &QTimer::timeout, this, &SliderEditor::announce);
 }
 
-void SliderEditor::addSlider(const std::optional<SliderRange>& range)
+void SliderEditor::addSlider(const FeatureInfo& info)
 {
+    const auto range = sliderRange(info);
     if (!range)
         return;
     m_slider = new FeatureSlider(*range, this);

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "featuretable/editors/DelegateWidget.h"
-#include "featuretable/editors/SliderRange.h"
 
 #include <QTimer>
 
@@ -23,7 +22,8 @@ protected:
     /// Shows a value of the slider in the field.
     virtual void showNumber(double value) = 0;
 
-    void addSlider(const std::optional<SliderRange>& range);
+    /// If the feature has one.
+    void addSlider(const FeatureInfo& info);
     /// The field's value changed.
     void moveSlider(double value);
 

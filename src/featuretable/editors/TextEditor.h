@@ -18,7 +18,6 @@ public:
 protected:
     bool showValue(const QVariant& value) override;
     QVariant enteredValue() override;
-    bool isAcceptable() const override;
 
 private:
     const IntegerNotation* m_notation;

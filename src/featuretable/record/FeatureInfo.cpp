@@ -40,13 +40,13 @@ const FeatureInfo* recordIn(const QVariant& data)
 
 QVariant toVariant(const FeatureValue& value)
 {
+    if (const auto* text = std::get_if<std::string>(&value))
+        return QString::fromStdString(*text);
     if (const auto* integer = std::get_if<std::int64_t>(&value))
         return QVariant::fromValue<qint64>(*integer);
     if (const auto* number = std::get_if<double>(&value))
         return *number;
-    if (const auto* flag = std::get_if<bool>(&value))
-        return *flag;
-    return toText(value);
+    return std::get<bool>(value);
 }
 
 FeatureValue toFeatureValue(const QVariant& value)
@@ -73,30 +73,16 @@ bool isSameValue(const QVariant& left, const QVariant& right)
 
 std::optional<double> toNumber(const std::optional<FeatureValue>& value)
 {
-    if (!value)
+    if (!value || std::holds_alternative<std::string>(*value))
         return {};
-    if (const auto* number = std::get_if<double>(&*value))
-        return std::isnan(*number) ? std::optional<double>() : *number;
-    if (const auto* integer = std::get_if<std::int64_t>(&*value))
-        return static_cast<double>(*integer);
-    if (const auto* flag = std::get_if<bool>(&*value))
-        return *flag ? 1.0 : 0.0;
-    return {};
+    const double number = toVariant(*value).toDouble();
+    return std::isnan(number) ? std::optional<double>() : number;
 }
 
 std::optional<std::int64_t> toInteger(const std::optional<FeatureValue>& value)
 {
-    if (!value)
-        return {};
-    if (const auto* integer = std::get_if<std::int64_t>(&*value))
-        return *integer;
-    if (const auto number = toNumber(value))
-        return toInt64(*number);
-    return {};
-}
-
-QString toText(const FeatureValue& value)
-{
-    const auto* text = std::get_if<std::string>(&value);
-    return text ? QString::fromStdString(*text) : QString();
+    if (value && std::holds_alternative<std::int64_t>(*value))
+        return std::get<std::int64_t>(*value);
+    const auto number = toNumber(value);
+    return number ? toInt64(*number) : std::optional<std::int64_t>();
 }

@@ -60,5 +60,3 @@ bool isSameValue(const QVariant& left, const QVariant& right);
 /// Conversions that never throw: a number of either kind, or a boolean; empty for texts and NaN.
 std::optional<double> toNumber(const std::optional<FeatureValue>& value);
 std::optional<std::int64_t> toInteger(const std::optional<FeatureValue>& value);
-/// Empty when no text is held.
-QString toText(const FeatureValue& value);

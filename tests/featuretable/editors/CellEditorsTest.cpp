@@ -258,6 +258,16 @@ private slots:
         }
     }
 
+    /// The field goes back to a number on the way to the one that was meant.
+    void writesNothingUnacceptableForAnotherWindow()
+    {
+        FeaturesTable f;
+        type("7000", Qt::Key_unknown)(f, f.open("Count"));
+        QApplication::setActiveWindow(nullptr);
+        QTRY_VERIFY(!f.editor());
+        QCOMPARE(f.writes(), 0);
+    }
+
     void limitsTheRateOfASlider()
     {
         FeaturesTable f;

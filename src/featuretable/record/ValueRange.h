@@ -2,7 +2,30 @@
 
 #include "featuretable/record/FeatureInfo.h"
 
-#include <optional>
+/// Whole numbers up to this size are exact as double (2^53).
+constexpr std::int64_t largestExactInteger = std::int64_t{1} << 53;
+
+/// What may be entered for a feature.
+template <typename Number> struct ValueRange
+{
+    Number minimum;
+    Number maximum;
+
+    bool contains(Number value) const { return value >= minimum && value <= maximum; }
+};
+
+/// The record's bounds; a missing one is as wide as exact numbers go. Bounds that hold nothing
+/// leave the present value alone.
+ValueRange<std::int64_t> integerRange(const FeatureInfo& info);
+ValueRange<double> numberRange(const FeatureInfo& info);
+
+/// What an integer needs to be edited without loss.
+enum class IntegerField {
+    Spin32, ///< a spin box of int
+    Spin53, ///< a spin box of double without decimals
+    Text,   ///< digits
+};
+IntegerField integerField(const FeatureInfo& info);
 
 /// The values that a slider offers.
 struct SliderRange
