@@ -11,6 +11,13 @@ constexpr int mostVainLooks = 8;
 
 } // namespace
 
+void ModeWatch::selecting(bool isOther)
+{
+    m_isSelecting = true;
+    m_hasEcho = false;
+    m_selections += isOther ? 1 : 0;
+}
+
 void ModeWatch::reported()
 {
     if (m_isSelecting && !std::exchange(m_hasEcho, true))

@@ -9,25 +9,10 @@
 class ModeWatch
 {
 public:
-    /// While it lives, the page is selecting a region.
-    class Selecting
-    {
-    public:
-        /// @param isOther another one than before
-        Selecting(ModeWatch& watch, bool isOther)
-            : m_watch(watch)
-        {
-            m_watch.m_hasEcho = false;
-            m_watch.m_isSelecting = true;
-            m_watch.m_selections += isOther ? 1 : 0;
-        }
-        ~Selecting() { m_watch.m_isSelecting = false; }
-        Selecting(const Selecting&) = delete;
-        Selecting& operator=(const Selecting&) = delete;
-
-    private:
-        ModeWatch& m_watch;
-    };
+    // Around each selecting of a region by the page.
+    /// @param isOther another region than before
+    void selecting(bool isOther);
+    void selected() { m_isSelecting = false; }
 
     /// The camera has notified of a region's mode.
     void reported();

@@ -2,16 +2,14 @@
 
 #include "features/FeatureNames.h"
 #include "features/NumberConversion.h"
-#include "features/Reading.h"
 #include "multiregion/RegionActivation.h"
-#include "multiregion/RegionLabelWidget.h"
+#include "multiregion/RegionSettings.h"
 #include "multiregion/RegionTableWidget.h"
 #include "multiregion/RegionTabs.h"
 #include "multiregion/RegionWriter.h"
 #include "multiregion/label/MultiRubberBandLabel.h"
 #include "ui_MultiROIWidget.h"
 #include "widgets/RoundButton.h"
-#include "widgets/SilentFields.h"
 #include "widgets/Theme.h"
 
 #include <QTimer>
@@ -21,88 +19,33 @@
 
 namespace Name = FeatureNames;
 
-namespace {
-
-constexpr int mostRegions = 256;
-
-} // namespace
-
-/// Writing or reading of many regions, which no refresh interrupts.
-class MultiROIWidget::Work
-{
-public:
-    explicit Work(MultiROIWidget* page)
-        : m_page(page)
-    {
-        m_page->setCursor(Qt::WaitCursor);
-        m_page->suspendUpdates();
-    }
-    ~Work()
-    {
-        if (!m_page)
-            return;
-        m_page->resumeUpdates(false);
-        m_page->unsetCursor();
-    }
-    Q_DISABLE_COPY_MOVE(Work)
-
-private:
-    const QPointer<MultiROIWidget> m_page;
-};
-
-/// While a child's signal is handled. Qt still works on the child afterwards: it outlives a page
-/// that a receiver deletes.
-class MultiROIWidget::Sending
-{
-public:
-    explicit Sending(MultiROIWidget* page)
-        : m_page(page)
-    {
-        m_page->m_senders << qobject_cast<QWidget*>(m_page->sender());
-    }
-    ~Sending()
-    {
-        if (m_page)
-            m_page->m_senders.removeLast();
-    }
-    Q_DISABLE_COPY_MOVE(Sending)
-
-private:
-    const QPointer<MultiROIWidget> m_page;
-};
-
 MultiROIWidget::MultiROIWidget(const FeatureList& camera, QWidget* parent)
     : InnerPage(camera, parent)
     , m_regions(featureManager.get())
 {
-    if (!isSupported())
+    if (!featureManager->HasFeature(Name::multipleRegionEnable, Name::multipleRegionsEnable)
+        || m_regions.count() < 1.0)
         return;
-    setTitle();
-    auto form = std::make_unique<Ui::MultiROIWidget>();
-    form->setupUi(this);
-    if (installTranslator(QStringLiteral("tabextensionimgfmt"))) {
-        setTitle();
-        form->retranslateUi(this);
-    }
-    form->lblWarning->setStyleSheet(regionTextStyle(isDarkMode()));
-    m_ui = std::move(form);
+    installTranslator(QStringLiteral("tabextensionimgfmt"));
+    // The host of the pages takes the accessible name for the tab's title.
+    setAccessibleName(tr("Multi ROI"));
+    m_ui = std::make_unique<Ui::MultiROIWidget>();
+    m_ui->setupUi(this);
+    m_ui->lblWarning->setStyleSheet(regionTextStyle(isDarkMode()));
 
     observedFeatures = Name::multipleRegionSwitches + QStringList{Name::multipleRegionArrangement}
         + Name::pictureGeometry + QStringList{Name::subRegionMode, Name::subRegionStatus}
         + Name::sizeLimits + QStringList{Name::subRegionSelector} + Name::subRegion.mid(2);
-    if (featureManager->HasFeature(Name::multipleRegionArrangement)) {
-        fillComboBox(Name::multipleRegionArrangement, m_ui->cmbMultipleRegionArrangement, false);
-    } else {
-        m_ui->cmbMultipleRegionArrangement->addItem(QStringLiteral("Vertical"));
-        m_ui->cmbMultipleRegionArrangement->setEnabled(false);
-    }
+    m_settings = std::make_unique<RegionSettings>(*m_ui, *featureManager);
+    m_settings->refreshArrangement();
     createLabel();
     createRegions();
+    connectRegions();
     refreshSwitch();
     refreshArrangement();
-    testCompatibility();
+    m_settings->testCompatibility();
     connectForm();
-    onDragAreaResized();
+    m_tabs->fitLabels();
 }
 
 MultiROIWidget::~MultiROIWidget()
@@ -114,32 +57,14 @@ MultiROIWidget::~MultiROIWidget()
     for (QWidget* child : children)
         child->disconnect(this);
     observer->disconnect(this);
-    for (const QPointer<QWidget>& sender : qAsConst(m_senders)) {
-        if (!sender)
-            continue;
-        sender->setParent(nullptr);
-        sender->deleteLater();
-    }
-}
-
-bool MultiROIWidget::isSupported() const
-{
-    return featureManager->HasFeature(Name::multipleRegionEnable, Name::multipleRegionsEnable)
-        && m_regions.count() >= 1.0;
-}
-
-void MultiROIWidget::setTitle()
-{
-    // The host of the pages takes the accessible name for the tab's title.
-    setAccessibleName(tr("Multi ROI"));
 }
 
 void MultiROIWidget::createLabel()
 {
-    m_sensorSize = m_regions.readSensorSize().value_or(QSize(0, 0));
-    m_label = new MultiRubberBandLabel(
-        m_sensorSize.width(), m_sensorSize.height(), regionDefaultColor(),
-        m_ui->cmbMultipleRegionArrangement->currentText(), m_ui->grpROI);
+    const QSize sensor = m_regions.readSensorSize().value_or(QSize(0, 0));
+    m_label
+        = new MultiRubberBandLabel(sensor.width(), sensor.height(), regionDefaultColor(),
+                                   m_ui->cmbMultipleRegionArrangement->currentText(), m_ui->grpROI);
     m_ui->horizontalLayout->insertWidget(0, m_label, 1);
 
     using Label = MultiRubberBandLabel;
@@ -149,10 +74,7 @@ void MultiROIWidget::createLabel()
     connect(m_label, &Label::labelGeometryChanged, this, &MultiROIWidget::onDragAreaResized);
     connect(m_label, &Label::loggingMessage, this, &MultiROIWidget::loggingMessage);
     // What an open editor holds is written and read back before a drag begins.
-    connect(m_label, &Label::aboutToDrag, this, [this] {
-        if (RegionTableWidget* const table = m_tabs->currentTable())
-            table->finishEditing();
-    });
+    connect(m_label, &Label::aboutToDrag, this, [this] { m_tabs->finishEditing(); });
     const auto readSoon = [this] { InnerPage::readSoon({}); };
     connect(m_label, &Label::rubberChangeFinished, this, readSoon);
     connect(m_label, &Label::dragDropped, this, readSoon);
@@ -162,7 +84,7 @@ void MultiROIWidget::createRegions()
 {
     m_tabs = std::make_unique<RegionTabs>(*m_ui, m_label);
     m_writer = std::make_unique<RegionWriter>(m_regions, *m_tabs, *featureManager->link(),
-                                              [this] { return std::make_shared<Work>(this); });
+                                              [this] { return hold(); });
     m_activation = std::make_unique<RegionActivation>(
         m_regions, *m_tabs, *m_writer, [this](Question question) { return ask(question); });
     connect(m_writer.get(), &RegionWriter::loggingMessage, this, &MultiROIWidget::loggingMessage);
@@ -172,25 +94,23 @@ void MultiROIWidget::createRegions()
             &MultiROIWidget::currentRegionChanged);
     connect(m_writer.get(), &RegionWriter::regionActivated, this, &MultiROIWidget::regionActivated);
 
-    if (m_regions.count() > mostRegions) {
-        const QString text
-            = tr("The camera names %1 regions; the first %2 are shown.")
-                  .arg(QString::number(m_regions.count(), 'f', 0), QString::number(mostRegions));
-        // Nobody listens before the page is built.
-        QTimer::singleShot(0, this, [this, text] { m_writer->log(text); });
-    }
     const int count = std::min(toInt(m_regions.count()), mostRegions);
-    const QStringList features = findTableFeatures();
+    const QStringList features = RegionTableWidget::findFeatures(*featureManager, m_tableManager);
     // Reading a region means selecting it on the camera, which is written for a page that is seen
     // only: the first refresh reads them all. These are those of the region that is selected.
     const auto state = m_regions.read();
-    m_tabs->reserve(count);
     for (int region = 0; region < count; ++region) {
         m_tabs->add(new RegionTableWidget(region, this, features, m_ui->tabRegions),
-                    tr("Region%1").arg(region), regionDefaultColor());
-        connectRegion(region);
+                    regionDefaultColor());
         if (state)
             m_label->setRegionLimits(region, state->limits);
+    }
+    if (count < m_regions.count()) {
+        const QString text
+            = tr("The camera names %1 regions; the first %2 are shown.")
+                  .arg(QString::number(m_regions.count(), 'f', 0), QString::number(count));
+        // Nobody listens before the page is built.
+        QTimer::singleShot(0, this, [this, text] { m_writer->log(text); });
     }
     m_ui->tabRegions->setMode(ExtendedTabWidget::TabMenu);
     const int selected = m_regions.readSelected().value_or(0);
@@ -198,49 +118,18 @@ void MultiROIWidget::createRegions()
     m_label->selectRegion(m_tabs->current());
 }
 
-void MultiROIWidget::connectRegion(int region)
+void MultiROIWidget::connectRegions()
 {
-    const RegionTabs::Tab& tab = m_tabs->tab(region);
     using Table = RegionTableWidget;
-    connect(tab.button, &RoundButton::toggled, this, &MultiROIWidget::onRegionButtonToggled);
-    connect(tab.table, &Table::saveSubRegionFeatureToCamera, this,
-            &MultiROIWidget::setFeatureValue);
-    connect(tab.table, &Table::loggingMessage, this, &MultiROIWidget::loggingMessage);
-    connect(tab.table, &Table::cellEditorActive, this, &MultiROIWidget::onFeatureEditorActivated);
-    connect(m_label, &MultiRubberBandLabel::constraintsActivated, tab.table,
-            &Table::addConstraints);
-    connect(m_label, &MultiRubberBandLabel::regionRangeChanged, tab.table,
-            &Table::onRegionRangeChanged);
-    connect(m_label, &MultiRubberBandLabel::highlightSelectedRegion, tab.label,
-            &RegionLabelWidget::highlightIfSelected);
-}
-
-/// What the camera tells of its regions; cameras of older generations keep some of it elsewhere.
-///
-/// A feature is looked up by walking a list, by each table for each of its rows: the tables get a
-/// short one.
-QStringList MultiROIWidget::findTableFeatures()
-{
-    const QString category = QStringLiteral("/ImageFormatControl/MultipleRegion");
-    const auto wrappers = FeatureManager::Wrappers::create();
-    QStringList features;
-    for (const ZebFeatureWrapperPtr& wrapper : *featureManager->features()) {
-        FeatureReader reader(wrapper, {}, featureManager->link(), true);
-        const QString name = reader.text(&ZebFeatureWrapper::GetName);
-        const bool isListed = !name.contains(QLatin1String("Selector"))
-            && reader.text(&ZebFeatureWrapper::GetCategory) == category;
-        if (isListed)
-            features << name;
-        if (isListed || Name::subRegion.contains(name))
-            wrappers->append(wrapper);
+    for (int region = 0; region < m_tabs->count(); ++region) {
+        const RegionTabs::Tab& tab = m_tabs->tab(region);
+        connect(tab.button, &RoundButton::toggled, this, &MultiROIWidget::onRegionButtonToggled);
+        connect(tab.table, &Table::saveSubRegionFeatureToCamera, this,
+                &MultiROIWidget::setFeatureValue);
+        connect(tab.table, &Table::loggingMessage, this, &MultiROIWidget::loggingMessage);
+        connect(tab.table, &Table::cellEditorActive, this,
+                &MultiROIWidget::onFeatureEditorActivated);
     }
-    m_tableManager = std::make_unique<FeatureManager>(wrappers, featureManager->link());
-    for (const QString& older : {Name::offsetX, Name::width}) {
-        if (!featureManager->HasFeature(QStringLiteral("SubRegion") + older)
-            && featureManager->HasFeature(older) && !features.contains(older))
-            features << older;
-    }
-    return features;
 }
 
 void MultiROIWidget::connectForm()
@@ -256,15 +145,10 @@ void MultiROIWidget::connectForm()
             &MultiROIWidget::loadDefaultConfiguration);
     connect(m_ui->tabRegions, &QTabWidget::currentChanged, this,
             &MultiROIWidget::setSubRegionSelector);
-    if (featureManager->HasFeature(Name::multipleRegionArrangement))
+    if (m_settings->hasArrangement())
         connect(m_ui->cmbMultipleRegionArrangement,
                 QOverload<int>::of(&QComboBox::currentIndexChanged), this,
                 &MultiROIWidget::onArrangementModeChanged);
-}
-
-bool MultiROIWidget::isReady() const
-{
-    return m_ui && m_label;
 }
 
 bool MultiROIWidget::isRegion(int region) const
@@ -286,7 +170,7 @@ void MultiROIWidget::onRegionButtonToggled()
     const int region = button->id();
     const bool activate = button->isChecked();
     const QPointer<MultiROIWidget> page(this);
-    const Sending sending(this);
+    const SenderShelter::Handling handling(m_senders, this, sender());
     m_tabs->open(region);
     if (page)
         m_writer->tellCurrent(region);
@@ -300,10 +184,11 @@ void MultiROIWidget::onArrangementModeChanged(int index)
 {
     if (!isReady() || index < 0)
         return;
-    const Sending sending(this);
-    featureManager->SetStringValue(Name::multipleRegionArrangement,
-                                   m_ui->cmbMultipleRegionArrangement->itemText(index));
-    refreshArrangement();
+    const SenderShelter::Handling handling(m_senders, this, sender());
+    const RegionWriter::Call call(*m_writer);
+    m_settings->writeArrangement(index);
+    if (!refreshArrangement())
+        readNext({Name::multipleRegionArrangement});
     // The camera may have moved regions to fit.
     m_writer->readAll();
 }
@@ -326,7 +211,7 @@ void MultiROIWidget::selectRegionTab(int regionNo)
 
 void MultiROIWidget::camIsStreaming(bool streaming)
 {
-    m_streaming = streaming;
+    setStreaming(streaming);
     if (isReady())
         m_tabs->setStreaming(streaming);
 }
@@ -335,27 +220,31 @@ void MultiROIWidget::setSubRegionSelector(int regionNo)
 {
     if (!isReady() || regionNo < 0) // no tab is left
         return;
-    const Sending sending(this);
-    const SignalQueue::Call call(m_writer->queue());
+    const QPointer<MultiROIWidget> page(this);
+    const SenderShelter::Handling handling(m_senders, this, sender());
     if (!isRegion(regionNo)) {
         m_writer->select(regionNo); // whether there is such a region is for the camera to say
         return;
     }
+    m_tabs->fitLabels();
     m_label->selectRegion(regionNo);
-    m_writer->open(regionNo);
-    onDragAreaResized();
+    if (page)
+        m_writer->open(regionNo);
 }
 
 void MultiROIWidget::setBackgroundImage(std::shared_ptr<QPixmap> image)
 {
     if (isReady())
-        m_label->setBackgroundImage(std::move(image), m_sensorSize, {});
+        m_label->setBackgroundImage(std::move(image), m_label->sensorSize(), {});
 }
 
 void MultiROIWidget::updateDragArea()
 {
-    if (isReady() && readNewSensor().value_or(false))
-        m_label->setSensorSize(m_sensorSize);
+    if (!isReady())
+        return;
+    const RegionWriter::Call call(*m_writer);
+    if (const std::optional<QSize> sensor = m_regions.readSensorSize())
+        m_label->setSensorSize(*sensor);
 }
 
 void MultiROIWidget::onDragAreaResized()
@@ -374,7 +263,7 @@ void MultiROIWidget::setFeatureValue(int regionNo, int, QString featureName, QVa
 {
     if (!isRegion(regionNo))
         return;
-    const Sending sending(this);
+    const SenderShelter::Handling handling(m_senders, this, sender());
     m_writer->setFeature(sharingRegions(m_tabs->groups(), regionNo, featureName), featureName,
                          value);
 }
@@ -385,12 +274,25 @@ void MultiROIWidget::onFeatureEditorActivated(bool status)
         readSoon({});
 }
 
+/// Many regions are written or read: no refresh interrupts that.
+std::shared_ptr<void> MultiROIWidget::hold()
+{
+    setCursor(Qt::WaitCursor);
+    suspendUpdates();
+    return {nullptr, [page = QPointer<MultiROIWidget>(this)](void*) {
+                if (!page)
+                    return;
+                page->resumeUpdates(false);
+                page->unsetCursor();
+            }};
+}
+
 /// Asks a question while the page keeps still.
 std::optional<Answer> MultiROIWidget::ask(Question question)
 {
     const QPointer<MultiROIWidget> page(this);
     const QString modeBefore = m_tabs->mode();
-    const bool wasStreaming = m_streaming;
+    const bool wasStreaming = isStreaming();
     const bool wasVisible = isVisible();
     Answer answer;
     {
@@ -401,15 +303,16 @@ std::optional<Answer> MultiROIWidget::ask(Question question)
         return std::nullopt;
     // Another client may have arranged the regions anew, which the page has not followed yet.
     refreshArrangement();
-    const bool isUnchanged = m_streaming == wasStreaming && m_tabs->mode() == modeBefore;
+    if (!page)
+        return std::nullopt;
+    const bool isUnchanged = isStreaming() == wasStreaming && m_tabs->mode() == modeBefore;
     return isUnchanged ? std::optional<Answer>(answer) : std::nullopt;
 }
 
 void MultiROIWidget::onEnableToggled(bool enabled)
 {
-    const Sending sending(this);
-    featureManager->SetValue(Name::multipleRegionEnable, Name::multipleRegionsEnable,
-                             enabled ? 1.0 : 0.0);
+    const SenderShelter::Handling handling(m_senders, this, sender());
+    m_settings->writeSwitch(enabled);
     m_enabled.reset(); // a refused switch is told too
     if (!refreshSwitch())
         readNext(Name::multipleRegionSwitches);
@@ -417,17 +320,14 @@ void MultiROIWidget::onEnableToggled(bool enabled)
 
 bool MultiROIWidget::isAtWork() const
 {
-    if (!isReady())
-        return false;
-    const RegionTableWidget* const table = m_tabs->currentTable();
-    return m_label->isDragging() || (table && table->isEditing());
+    return isReady() && (m_label->isDragging() || m_tabs->isEditing());
 }
 
 Changes MultiROIWidget::refresh(const Changes& changes)
 {
     if (!isReady())
         return {};
-    const SignalQueue::Call call(m_writer->queue());
+    const RegionWriter::Call call(*m_writer);
     Changes untold;
     const auto readAgainUnless = [&untold](bool isTold, const QStringList& names) {
         if (!isTold)
@@ -438,19 +338,20 @@ Changes MultiROIWidget::refresh(const Changes& changes)
     if (changes.any({Name::multipleRegionArrangement}))
         readAgainUnless(refreshArrangement(), {Name::multipleRegionArrangement});
     if (changes.any(Name::pictureGeometry))
-        readAgainUnless(testCompatibility(), Name::pictureGeometry);
+        readAgainUnless(m_settings->testCompatibility(), Name::pictureGeometry);
     if (changes.any({Name::subRegionSelector}))
         followSelector();
-    std::optional<bool> isSensorNew = false;
+    std::optional<QSize> sensor = m_label->sensorSize();
     if (changes.any(Name::sizeLimits))
-        isSensorNew = readNewSensor();
-    readAgainUnless(isSensorNew.has_value(), Name::sizeLimits);
-    if (isSensorNew.value_or(false))
-        m_label->setSensorSize(m_sensorSize);
+        sensor = m_regions.readSensorSize();
+    readAgainUnless(sensor.has_value(), Name::sizeLimits);
+    const bool isSensorNew = sensor && *sensor != m_label->sensorSize();
+    if (isSensorNew)
+        m_label->setSensorSize(*sensor);
     // A page that nobody sees leaves the camera's selector alone.
     untold.all = changes.all && !isVisible();
     // The camera may notify of what did not change, also because all regions are read.
-    if ((changes.all && isVisible()) || isSensorNew.value_or(false))
+    if ((changes.all && isVisible()) || isSensorNew)
         m_writer->readAll();
     else
         refreshRegions(changes.names);
@@ -459,16 +360,8 @@ Changes MultiROIWidget::refresh(const Changes& changes)
 
 void MultiROIWidget::refreshRegions(const QStringList& names)
 {
-    const Changes changes{false, names};
-    QStringList common;
-    for (const QString& name :
-         Name::multipleRegionSwitches + QStringList{Name::multipleRegionArrangement}) {
-        if (names.contains(name))
-            common << name;
-    }
-    if (RegionTableWidget* const table = m_tabs->currentTable())
-        table->updateFeatures(common); // what it shows beside its region's own features
-    if (changes.any(Name::subRegion))
+    m_tabs->refreshSettings(names);
+    if (Changes{false, names}.any(Name::subRegion))
         m_writer->readSelected(names.contains(Name::subRegionMode));
     m_writer->readUntold();
     m_writer->lookIfDue();
@@ -483,63 +376,21 @@ void MultiROIWidget::followSelector()
     m_tabs->setChecked(*region, m_regions.readOn().value_or(m_tabs->isActive(*region)));
 }
 
-// Each of the following answers whether the camera has told all of it. What it does not tell stays
-// as it is shown.
+// Each of the following answers whether the camera has told it.
 
 bool MultiROIWidget::refreshSwitch()
 {
-    const Reading<double> enabled
-        = readNumber(*featureManager, Name::multipleRegionEnable, Name::multipleRegionsEnable);
-    if (!enabled.isComplete)
-        return false;
-    const bool isEnabled = enabled.value.value_or(0.0) > 0.0;
-    showChecked(m_ui->chkMultipleRegionEnable, isEnabled);
-    m_ui->chkMultipleRegionEnable->setEnabled(enabled.isWritable);
-    if (std::exchange(m_enabled, isEnabled) != isEnabled)
-        m_writer->queue().add([this, isEnabled] { emit multipleRegionsEnabled(isEnabled); });
-    return true;
+    const std::optional<bool> isEnabled = m_settings->refreshSwitch();
+    if (isEnabled && std::exchange(m_enabled, isEnabled) != isEnabled)
+        m_writer->queue().add(this, &MultiROIWidget::multipleRegionsEnabled, *isEnabled);
+    return isEnabled.has_value();
 }
 
 bool MultiROIWidget::refreshArrangement()
 {
-    const Reading<QString> entry = readText(*featureManager, Name::multipleRegionArrangement);
-    if (!entry.isComplete)
-        return false;
-    QComboBox* const box = m_ui->cmbMultipleRegionArrangement;
-    if (entry.exists && !showEntry(box, entry.value.value_or(QString())))
-        fillComboBox(Name::multipleRegionArrangement, box, false);
-    m_tabs->setMode(box->currentText());
-    return true;
-}
-
-bool MultiROIWidget::testCompatibility()
-{
-    bool isTold = true;
-    const auto valueOf = [this, &isTold](const QString& name) {
-        const Reading<double> reading = featureManager->Read(name).number(FeatureReader::Value);
-        isTold = isTold && reading.isComplete;
-        return reading.value.value_or(0.0);
-    };
-    const bool isIncompatible = valueOf(Name::binningHorizontal) > 1.0
-        || valueOf(Name::binningVertical) > 1.0 || valueOf(Name::reverseX) != 0.0
-        || valueOf(Name::reverseY) != 0.0;
-    if (!isTold && !isIncompatible)
-        return false;
-    m_ui->lblWarning->setText(isIncompatible
-                                  ? tr("Multi ROI widget cannot be used in combination with "
-                                       "Binning or ReverseX/Y.")
-                                  : QString());
-    m_ui->frameWarning->setVisible(isIncompatible);
-    m_ui->frame->setVisible(!isIncompatible);
-    m_ui->grpROI->setVisible(!isIncompatible);
-    m_ui->tabRegions->setVisible(!isIncompatible);
-    return true;
-}
-
-std::optional<bool> MultiROIWidget::readNewSensor()
-{
-    const std::optional<QSize> size = m_regions.readSensorSize();
-    if (!size)
-        return std::nullopt;
-    return std::exchange(m_sensorSize, *size) != *size;
+    const RegionWriter::Call call(*m_writer);
+    const std::optional<QString> mode = m_settings->refreshArrangement();
+    if (mode)
+        m_tabs->setMode(*mode);
+    return mode.has_value();
 }

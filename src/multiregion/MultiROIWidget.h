@@ -3,6 +3,7 @@
 #include "multiregion/RegionCamera.h"
 #include "multiregion/RegionQuestions.h"
 #include "page/InnerPage.h"
+#include "page/SenderShelter.h"
 
 #include <QColor>
 
@@ -11,6 +12,7 @@
 
 class MultiRubberBandLabel;
 class RegionActivation;
+class RegionSettings;
 class RegionTabs;
 class RegionWriter;
 
@@ -66,28 +68,22 @@ protected:
     void onPaletteChanged(QEvent*) override { }
 
 private:
-    class Work;
-    class Sending;
-
+    static constexpr int mostRegions = 256;
     static QColor regionDefaultColor() { return {0, 100, 255}; }
 
-    bool isSupported() const;
-    void setTitle();
     void createLabel();
     void createRegions();
-    QStringList findTableFeatures();
-    void connectRegion(int region);
+    void connectRegions();
     void connectForm();
-    /// Neither a camera without regions nor a label that somebody has deleted.
-    bool isReady() const;
+    /// The camera has regions, and nobody has deleted the label.
+    bool isReady() const { return m_ui && !m_label.isNull(); }
     bool isRegion(int region) const;
 
+    std::shared_ptr<void> hold();
     std::optional<Answer> ask(Question question);
     void onEnableToggled(bool enabled);
     bool refreshSwitch();
     bool refreshArrangement();
-    bool testCompatibility();
-    std::optional<bool> readNewSensor();
     void followSelector();
     void refreshRegions(const QStringList& names);
 
@@ -98,8 +94,7 @@ private:
     std::unique_ptr<RegionTabs> m_tabs;
     std::unique_ptr<RegionWriter> m_writer;
     std::unique_ptr<RegionActivation> m_activation;
-    QVector<QPointer<QWidget>> m_senders; ///< whose signals are being handled
-    bool m_streaming = false;
+    std::unique_ptr<RegionSettings> m_settings;
+    SenderShelter m_senders;
     std::optional<bool> m_enabled = false; ///< as it was last told
-    QSize m_sensorSize;                    ///< as the label has it
 };

@@ -5,6 +5,7 @@
 #include "multiregion/RegionWriter.h"
 #include "multiregion/rules/DefaultLayouts.h"
 #include "multiregion/rules/RegionPlacement.h"
+#include "sensor/Span.h"
 #include "widgets/OverrideCursor.h"
 
 #include <QCoreApplication>
@@ -18,18 +19,6 @@ struct Text
 {
     Q_DECLARE_TR_FUNCTIONS(MultiROIWidget)
 };
-
-Qt::Orientation across(Qt::Orientation axis)
-{
-    return axis == Qt::Horizontal ? Qt::Vertical : Qt::Horizontal;
-}
-
-RegionExtent extentOf(const QRect& rect, Qt::Orientation axis)
-{
-    return axis == Qt::Horizontal
-        ? RegionExtent{static_cast<double>(rect.x()), static_cast<double>(rect.width())}
-        : RegionExtent{static_cast<double>(rect.y()), static_cast<double>(rect.height())};
-}
 
 } // namespace
 
@@ -69,7 +58,7 @@ void RegionActivation::switchOff(int region, const Toggle& toggle)
         if (answer == Answer::Column)
             off = toggle.offColumn;
     }
-    const SignalQueue::Call call(m_writer.queue());
+    const RegionWriter::Call call(m_writer);
     for (const int each : qAsConst(off))
         m_writer.setActive(each, false);
 }
@@ -80,7 +69,7 @@ void RegionActivation::place(int region, Qt::Orientation axis)
     const QPointer<RegionActivation> self(this);
     std::optional<QRect> placed;
     {
-        const SignalQueue::Call call(m_writer.queue());
+        const RegionWriter::Call call(m_writer);
         placed = placement(region, axis);
         if (!placed)
             m_display.setChecked(region, m_display.isActive(region));
@@ -103,7 +92,7 @@ void RegionActivation::completeTile(int region, const QRect& placed)
     const std::optional<Answer> answer = m_ask(question);
     if (!self || answer != Answer::Accepted)
         return;
-    const SignalQueue::Call call(m_writer.queue());
+    const RegionWriter::Call call(m_writer);
     const bool isColumn = question == Question::ColumnOn;
     // Either may have been switched off by another client meanwhile.
     const bool areOn = isOn(isColumn ? 2 : 1) && isOn(region);
@@ -132,11 +121,8 @@ std::optional<QRect> RegionActivation::placement(int region, Qt::Orientation axi
     const std::optional<SizeRange> size = current ? m_camera.readSizeRange(axis) : std::nullopt;
     if (!sensor || !size)
         return std::nullopt;
-    const bool isRow = axis == Qt::Horizontal;
-    const PlacementRequest request{static_cast<double>(isRow ? sensor->width() : sensor->height()),
-                                   extentOf(*before, axis), extentOf(*current, axis),
-                                   extentOf(*first, across(axis)), *size};
-    const QRect placed = isRow ? placedInRow(request) : placedInColumn(request);
+    const QRect placed = placedRegion(
+        axis, {static_cast<double>(lengthOf(*sensor, axis)), *first, *before, *current, *size});
     if (placed.isNull())
         m_writer.log(Text::tr("Region%1 cannot be activated into a valid configuration due to the "
                               "minimum size.")
@@ -167,7 +153,7 @@ void RegionActivation::loadDefaults(const QColor& color)
     if (!self || answer != Answer::Accepted)
         return;
     const OverrideCursor cursor(Qt::WaitCursor);
-    const SignalQueue::Call call(m_writer.queue());
+    const RegionWriter::Call call(m_writer);
     {
         const RegionWriter::Loading loading(m_writer);
         applyDefaults(color);
@@ -197,7 +183,8 @@ void RegionActivation::applyDefaults(const QColor& color)
                                                {static_cast<double>(sensor->width()),
                                                 static_cast<double>(sensor->height()), *width,
                                                 *height, m_display.count()});
-    m_writer.log(layout.message);
+    if (!layout.message.isEmpty())
+        m_writer.log(layout.message);
     for (auto it = layout.regions.cbegin(); it != layout.regions.cend(); ++it) {
         m_writer.save(it.key(), it.value());
         m_display.setColor(it.key(), color);

@@ -176,8 +176,9 @@ std::optional<SizeRange> RegionCamera::readSizeRange(Qt::Orientation axis) const
         = readFieldNumber(m_manager, namesOf(axis).size, namesOf(axis).olderSize);
     if (!size.isComplete)
         return std::nullopt;
-    return SizeRange{size.minimum.value_or(0.0), size.maximum.value_or(0.0),
-                     size.increment.value_or(0.0)};
+    const auto known
+        = [](std::optional<double> bound) { return std::max(0.0, bound.value_or(0.0)); };
+    return SizeRange{known(size.minimum), known(size.maximum), known(size.increment)};
 }
 
 std::optional<bool> RegionCamera::writeOn(bool on)

@@ -32,9 +32,9 @@ public:
     virtual bool show(int region, const RegionState& state) = 0;
     virtual bool refreshTable(int region) = 0;
 
-    // All regions are read between these.
-    virtual void beginAll() = 0;
-    virtual void endAll() = 0;
+    /// The sensor area keeps its signals to itself until announce().
+    virtual void silence(bool silent) = 0;
+    virtual void announce() = 0;
 
     QVector<bool> active() const
     {

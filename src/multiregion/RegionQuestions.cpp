@@ -42,15 +42,17 @@ Answer askForPart(QWidget* parent)
     return clicked == column ? Answer::Column : Answer::Rejected;
 }
 
-Answer confirm(QMessageBox* box)
+Answer confirm(const QString& title, const QString& text, QMessageBox::StandardButtons buttons,
+               QWidget* parent)
 {
-    const QAbstractButton* const clicked = run(box);
+    const bool isQuestion = buttons.testFlag(QMessageBox::No);
+    auto* box = new QMessageBox(isQuestion ? QMessageBox::Question : QMessageBox::Information,
+                                title, text, buttons, parent);
+    QAbstractButton* const accepting = box->button(isQuestion ? QMessageBox::Yes : QMessageBox::Ok);
+    QAbstractButton* const clicked = run(box);
     if (!clicked)
         return Answer::None;
-    const QMessageBox::StandardButton button
-        = box->standardButton(const_cast<QAbstractButton*>(clicked));
-    return button == QMessageBox::Yes || button == QMessageBox::Ok ? Answer::Accepted
-                                                                   : Answer::Rejected;
+    return clicked == accepting ? Answer::Accepted : Answer::Rejected;
 }
 
 QString textOf(Question question, const QString& mode)
@@ -87,15 +89,13 @@ Answer askUser(Question question, const QString& mode, QWidget* parent)
     case Question::RowOrColumnOff:
         return askForPart(parent);
     case Question::LoadDefaults:
-        return confirm(new QMessageBox(QMessageBox::Question,
-                                       Text::tr("Load Default Configuration"), text,
-                                       QMessageBox::Yes | QMessageBox::No, parent));
+        return confirm(Text::tr("Load Default Configuration"), text,
+                       QMessageBox::Yes | QMessageBox::No, parent);
     case Question::ColumnOn:
     case Question::RowOn:
-        return confirm(new QMessageBox(QMessageBox::Information, Text::tr("Activate Region"), text,
-                                       QMessageBox::Ok, parent));
+        return confirm(Text::tr("Activate Region"), text, QMessageBox::Ok, parent);
     default:
-        return confirm(new QMessageBox(QMessageBox::Information, Text::tr("Deactivate Region"),
-                                       text, QMessageBox::Ok | QMessageBox::Cancel, parent));
+        return confirm(Text::tr("Deactivate Region"), text, QMessageBox::Ok | QMessageBox::Cancel,
+                       parent);
     }
 }

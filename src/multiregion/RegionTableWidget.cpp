@@ -15,6 +15,31 @@ RegionTableWidget::RegionTableWidget(int regionNo, MultiROIWidget* page,
 {
 }
 
+QStringList RegionTableWidget::findFeatures(FeatureManager& camera,
+                                            std::unique_ptr<FeatureManager>& manager)
+{
+    const QString category = QStringLiteral("/ImageFormatControl/MultipleRegion");
+    const auto wrappers = FeatureManager::Wrappers::create();
+    QStringList features;
+    for (const ZebFeatureWrapperPtr& wrapper : qAsConst(*camera.features())) {
+        FeatureReader reader(wrapper, {}, camera.link(), true);
+        const QString name = reader.text(&ZebFeatureWrapper::GetName);
+        const bool isListed = !name.contains(QLatin1String("Selector"))
+            && reader.text(&ZebFeatureWrapper::GetCategory) == category;
+        if (isListed)
+            features << name;
+        if (isListed || Name::subRegion.contains(name))
+            wrappers->append(wrapper);
+    }
+    manager = std::make_unique<FeatureManager>(wrappers, camera.link());
+    for (const QString& older : {Name::offsetX, Name::width}) {
+        if (!camera.HasFeature(QStringLiteral("SubRegion") + older) && camera.HasFeature(older)
+            && !features.contains(older))
+            features << older;
+    }
+    return features;
+}
+
 void RegionTableWidget::refresh()
 {
     updateFeatures(m_features);

@@ -4,6 +4,7 @@
 
 #include <QRect>
 
+#include <memory>
 #include <optional>
 
 class MultiROIWidget;
@@ -18,6 +19,12 @@ class RegionTableWidget : public FeaturesTableWidget
 public:
     RegionTableWidget(int regionNo, MultiROIWidget* page, const QStringList& features,
                       QWidget* parent);
+
+    /// What the camera tells of its regions; cameras of older generations keep some of it
+    /// elsewhere.
+    /// @param manager of no other features: a table looks each of its rows up by walking its list
+    static QStringList findFeatures(FeatureManager& camera,
+                                    std::unique_ptr<FeatureManager>& manager);
 
     /// Reads all rows from the camera, which has the region selected.
     void refresh();

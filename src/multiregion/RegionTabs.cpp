@@ -1,5 +1,6 @@
 #include "multiregion/RegionTabs.h"
 
+#include "features/FeatureNames.h"
 #include "multiregion/RegionLabelWidget.h"
 #include "multiregion/RegionTableWidget.h"
 #include "multiregion/label/MultiRubberBandLabel.h"
@@ -7,8 +8,18 @@
 #include "ui_MultiROIWidget.h"
 #include "widgets/RoundButton.h"
 
+#include <QCoreApplication>
 #include <QSignalBlocker>
 #include <QTabBar>
+
+namespace {
+
+struct Text
+{
+    Q_DECLARE_TR_FUNCTIONS(MultiROIWidget)
+};
+
+} // namespace
 
 RegionTabs::RegionTabs(const Ui::MultiROIWidget& form, MultiRubberBandLabel* label)
     : m_form(form)
@@ -20,10 +31,10 @@ RegionTabs::RegionTabs(const Ui::MultiROIWidget& form, MultiRubberBandLabel* lab
     m_form.tabRegions->clear();
 }
 
-const RegionTabs::Tab& RegionTabs::add(RegionTableWidget* table, const QString& title,
-                                       const QColor& color)
+const RegionTabs::Tab& RegionTabs::add(RegionTableWidget* table, const QColor& color)
 {
     const int region = count();
+    const QString title = Text::tr("Region%1").arg(region);
     QTabBar* const bar = m_form.tabRegions->tabBar();
     Tab tab{new RoundButton(region, false, bar), table,
             new RegionLabelWidget(region, QRect(), color, m_form.scrollRegionLabelsContents)};
@@ -35,12 +46,35 @@ const RegionTabs::Tab& RegionTabs::add(RegionTableWidget* table, const QString& 
     m_form.tabRegions->addTab(table, title);
     bar->setTabButton(region, QTabBar::LeftSide, tab.button);
     m_tabs.push_back(tab);
+
+    using Label = MultiRubberBandLabel;
+    QObject::connect(m_label, &Label::constraintsActivated, table,
+                     &RegionTableWidget::addConstraints);
+    QObject::connect(m_label, &Label::regionRangeChanged, table,
+                     &RegionTableWidget::onRegionRangeChanged);
+    QObject::connect(m_label, &Label::highlightSelectedRegion, tab.label,
+                     &RegionLabelWidget::highlightIfSelected);
     return m_tabs.back();
 }
 
-RegionTableWidget* RegionTabs::currentTable() const
+bool RegionTabs::isEditing() const
 {
-    return has(current()) ? tab(current()).table : nullptr;
+    return has(current()) && tab(current()).table->isEditing();
+}
+
+void RegionTabs::finishEditing()
+{
+    if (has(current()))
+        tab(current()).table->finishEditing();
+}
+
+void RegionTabs::refreshSettings(const QStringList& names)
+{
+    for (const QString& name : FeatureNames::multipleRegionSwitches
+             + QStringList{FeatureNames::multipleRegionArrangement}) {
+        if (has(current()) && names.contains(name))
+            tab(current()).table->updateFeatures({name});
+    }
 }
 
 void RegionTabs::setMode(const QString& mode)
@@ -160,17 +194,18 @@ bool RegionTabs::refreshTable(int region)
     return table->isEditing() || table->pendingFeatures().isEmpty();
 }
 
-void RegionTabs::beginAll()
+void RegionTabs::silence(bool silent)
 {
     if (m_label)
-        m_label->blockSignals(true);
+        m_label->blockSignals(silent);
 }
 
-void RegionTabs::endAll()
+void RegionTabs::announce()
 {
-    if (!m_label)
-        return;
-    m_label->blockSignals(false);
-    // What changed meanwhile, and the colours of conflicts.
-    m_label->announceRegions();
+    for (int region = 0; region < count(); ++region) {
+        if (isActive(region))
+            tab(region).label->highlightIfSelected(current());
+    }
+    if (m_label)
+        m_label->announceRegions();
 }

@@ -30,10 +30,15 @@ public:
         RegionLabelWidget* label = nullptr;
     };
 
-    void reserve(int count) { m_tabs.reserve(static_cast<std::size_t>(count)); }
-    const Tab& add(RegionTableWidget* table, const QString& title, const QColor& color);
+    /// Tables and labels follow the sensor area from now on.
+    const Tab& add(RegionTableWidget* table, const QColor& color);
     const Tab& tab(int region) const { return m_tabs[static_cast<std::size_t>(region)]; }
-    RegionTableWidget* currentTable() const;
+
+    // Of the open tab's table:
+    bool isEditing() const;
+    void finishEditing();
+    /// What it shows beside its region's own features.
+    void refreshSettings(const QStringList& names);
 
     void setMode(const QString& mode);
     void setStreaming(bool streaming);
@@ -56,8 +61,8 @@ public:
     void setColor(int region, const QColor& color) override;
     bool show(int region, const RegionState& state) override;
     bool refreshTable(int region) override;
-    void beginAll() override;
-    void endAll() override;
+    void silence(bool silent) override;
+    void announce() override;
 
 private:
     const Ui::MultiROIWidget& m_form;

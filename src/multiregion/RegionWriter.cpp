@@ -1,6 +1,5 @@
 #include "multiregion/RegionWriter.h"
 
-#include "features/CameraLink.h"
 #include "multiregion/RegionCamera.h"
 #include "multiregion/RegionDisplay.h"
 
@@ -26,6 +25,22 @@ RegionWriter::RegionWriter(RegionCamera& camera, RegionDisplay& display, CameraL
 {
 }
 
+RegionWriter::Call::Call(RegionWriter& writer)
+    : m_writer(&writer)
+    , m_call(writer.m_queue)
+{
+    if (writer.m_calls++ == 0)
+        writer.m_display.silence(true);
+}
+
+RegionWriter::Call::~Call()
+{
+    if (!m_writer || --m_writer->m_calls > 0)
+        return;
+    m_writer->m_display.silence(false);
+    m_writer->m_display.announce(); // whose receivers may let the page go
+}
+
 RegionWriter::Loading::Loading(RegionWriter& writer)
     : m_writer(&writer)
     , m_hold(writer.m_hold())
@@ -39,18 +54,11 @@ RegionWriter::Loading::~Loading()
         m_writer->m_isLoading = false;
 }
 
-bool RegionWriter::isCameraLost() const
-{
-    return m_link.isLost();
-}
-
 bool RegionWriter::select(int region)
 {
-    RegionCamera::Selection selection;
-    {
-        const ModeWatch::Selecting selecting(m_watch, m_camera.lastSelected() != region);
-        selection = m_camera.select(region);
-    }
+    m_watch.selecting(m_camera.lastSelected() != region);
+    const RegionCamera::Selection selection = m_camera.select(region);
+    m_watch.selected();
     if (selection == RegionCamera::Selection::Done)
         return true;
     if (selection == RegionCamera::Selection::Unknown) {
@@ -64,14 +72,14 @@ bool RegionWriter::select(int region)
 
 void RegionWriter::open(int region)
 {
-    const SignalQueue::Call call(m_queue);
+    const Call call(*this);
     if (select(region) && !m_isLoading)
         refreshTable(region);
 }
 
 void RegionWriter::save(int region, const QRect& rect)
 {
-    const SignalQueue::Call call(m_queue);
+    const Call call(*this);
     // Of the region selected until now: the camera is written in the order it gives.
     const std::optional<QSize> former = m_camera.readSize();
     if (select(region)) {
@@ -94,7 +102,7 @@ void RegionWriter::save(int region, const QRect& rect)
 
 void RegionWriter::setActive(int region, bool on)
 {
-    const SignalQueue::Call call(m_queue);
+    const Call call(*this);
     const bool wasShown = m_display.isActive(region);
     if (!select(region)) {
         m_display.setChecked(region, wasShown);
@@ -113,7 +121,7 @@ void RegionWriter::setActive(int region, bool on)
 void RegionWriter::setFeature(const QVector<int>& regions, const QString& name,
                               const QVariant& value)
 {
-    const SignalQueue::Call call(m_queue);
+    const Call call(*this);
     bool isLost = false;
     for (const int region : regions) {
         if (isLost || !select(region) || !m_camera.writeFeature(name, value)) {
@@ -129,17 +137,15 @@ void RegionWriter::readAll()
 {
     if (m_isLoading)
         return;
-    const SignalQueue::Call call(m_queue);
+    const Call call(*this);
     const Loading loading(*this);
     m_untold.clear();
     m_watch.lookBegins();
-    m_display.beginAll();
     for (int region = 0; region < m_display.count(); ++region) {
         readRegion(region);
         tellColor(region, m_display.color(region));
     }
     returnToCurrent();
-    m_display.endAll();
     m_watch.looked(true);
 }
 
@@ -147,7 +153,7 @@ void RegionWriter::readUntold()
 {
     if (m_untold.isEmpty())
         return;
-    const SignalQueue::Call call(m_queue);
+    const Call call(*this);
     const QSet<int> regions = std::exchange(m_untold, {});
     for (const int region : regions)
         readRegion(region);
@@ -180,7 +186,7 @@ void RegionWriter::returnToCurrent()
 
 void RegionWriter::readSelected(bool withMode)
 {
-    const SignalQueue::Call call(m_queue);
+    const Call call(*this);
     const std::optional<int> region = m_camera.readSelected();
     if (!region || !m_display.has(*region) || (withMode && follow(*region)))
         return;
@@ -194,7 +200,7 @@ void RegionWriter::lookIfDue()
 {
     if (!m_watch.isLookDue())
         return;
-    const SignalQueue::Call call(m_queue);
+    const Call call(*this);
     bool found = false;
     m_watch.lookBegins();
     for (int region = 0; region < m_display.count(); ++region)
@@ -232,21 +238,5 @@ void RegionWriter::refreshTable(int region)
 void RegionWriter::tellActive(int region, bool active)
 {
     m_display.setActive(region, active);
-    m_queue.add([this, region, active] { emit regionActivated(region, active); });
-}
-
-void RegionWriter::tellCurrent(int region)
-{
-    m_queue.add([this, region] { emit currentRegionChanged(region); });
-}
-
-void RegionWriter::tellColor(int region, const QColor& color)
-{
-    m_queue.add([this, region, color] { emit regionColorChanged(region, color); });
-}
-
-void RegionWriter::log(const QString& text)
-{
-    if (!text.isEmpty())
-        m_queue.add([this, text] { emit loggingMessage(ZebViewerLogMultiRegion, text); });
+    m_queue.add(this, &RegionWriter::regionActivated, region, active);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "features/CameraLink.h"
 #include "host/TabExtensionInterface.h"
 #include "multiregion/ModeWatch.h"
 #include "page/SignalQueue.h"
@@ -12,7 +13,6 @@
 #include <functional>
 #include <memory>
 
-class CameraLink;
 class RegionCamera;
 class RegionDisplay;
 
@@ -42,10 +42,24 @@ public:
         std::shared_ptr<void> m_hold;
     };
 
+    /// A call of the page's, within others perhaps: what it changes on the display is announced
+    /// when the outermost is done, and then the signals come.
+    class Call
+    {
+    public:
+        explicit Call(RegionWriter& writer);
+        ~Call();
+        Q_DISABLE_COPY_MOVE(Call)
+
+    private:
+        const QPointer<RegionWriter> m_writer;
+        const SignalQueue::Call m_call;
+    };
+
     SignalQueue& queue() { return m_queue; }
     ModeWatch& watch() { return m_watch; }
 
-    bool isCameraLost() const;
+    bool isCameraLost() const { return m_link.isLost(); }
 
     /// Logs when the camera refuses: it still reads and writes another region then.
     bool select(int region);
@@ -66,9 +80,15 @@ public:
     /// Looks for regions that another client has switched, when that is due; asked once a second.
     void lookIfDue();
 
-    void tellCurrent(int region);
-    void tellColor(int region, const QColor& color);
-    void log(const QString& text);
+    void tellCurrent(int region) { m_queue.add(this, &RegionWriter::currentRegionChanged, region); }
+    void tellColor(int region, const QColor& color)
+    {
+        m_queue.add(this, &RegionWriter::regionColorChanged, region, color);
+    }
+    void log(const QString& text)
+    {
+        m_queue.add(this, &RegionWriter::loggingMessage, ZebViewerLogMultiRegion, text);
+    }
 
 signals:
     void loggingMessage(ZebViewerLogCategory category, const QString& text);
@@ -91,6 +111,7 @@ private:
     const Hold m_hold;
     SignalQueue m_queue{this};
     ModeWatch m_watch;
+    int m_calls = 0;
     bool m_isLoading = false;
     QSet<int> m_untold;
 };

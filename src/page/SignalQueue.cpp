@@ -11,21 +11,16 @@ SignalQueue::Call::Call(SignalQueue& queue)
 
 SignalQueue::Call::~Call()
 {
-    if (m_owner && --m_queue.m_calls == 0)
-        m_queue.deliver();
+    if (!m_owner)
+        return;
+    --m_queue.m_calls;
+    m_queue.deliverUnlessCalled();
 }
 
-void SignalQueue::add(std::function<void()> emission)
-{
-    m_waiting.push_back(std::move(emission));
-    if (m_calls == 0)
-        deliver();
-}
-
-void SignalQueue::deliver()
+void SignalQueue::deliverUnlessCalled()
 {
     const QPointer<QObject> owner = m_owner;
-    while (owner && !m_waiting.empty()) {
+    while (owner && m_calls == 0 && !m_waiting.empty()) {
         const std::function<void()> emission = std::move(m_waiting.front());
         m_waiting.pop_front();
         emission();

@@ -30,10 +30,15 @@ public:
     };
 
     /// Emits now when no call is under way.
-    void add(std::function<void()> emission);
+    template <typename Sender, typename Signal, typename... Arguments>
+    void add(Sender* sender, Signal signal, const Arguments&... arguments)
+    {
+        m_waiting.push_back([=] { (sender->*signal)(arguments...); });
+        deliverUnlessCalled();
+    }
 
 private:
-    void deliver();
+    void deliverUnlessCalled();
 
     const QPointer<QObject> m_owner;
     std::deque<std::function<void()>> m_waiting;

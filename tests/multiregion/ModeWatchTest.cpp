@@ -38,7 +38,8 @@ private slots:
                         continue;
                     watch.lookBegins();
                     for (int region = 0; region < 5; ++region) {
-                        const ModeWatch::Selecting selecting(watch, region > 0);
+                        watch.selecting(region > 0);
+                        watch.selected();
                         report(time, region > 0 ? echoes : 0);
                     }
                     const bool isFound = time >= switchAt && seenAt == 0;
@@ -65,11 +66,10 @@ private slots:
     {
         ModeWatch watch;
         for (const int reports : {1, 2}) {
-            {
-                const ModeWatch::Selecting selecting(watch, true);
-                for (int i = 0; i < reports; ++i)
-                    watch.reported();
-            }
+            watch.selecting(true);
+            for (int i = 0; i < reports; ++i)
+                watch.reported();
+            watch.selected();
             QCOMPARE(watch.isLookDue(), reports == 2);
         }
     }

@@ -365,7 +365,7 @@ private slots:
         using Action = std::function<void(const MultiROIPage&)>;
         const DataTable row([](const Action& action) {
             for (const bool isLabel : {false, true}) {
-                for (int signal = 0; signal < 5; ++signal) {
+                for (int signal = 0; signal < 8; ++signal) {
                     MultiROIPage open("multi-region", "Horizontal");
                     open.loadDefaults();
                     MultiROIWidget* const page = open.page.get();
@@ -386,8 +386,15 @@ private slots:
                         connect(page, &Page::regionColorChanged, qApp, end);
                     else if (signal == 3)
                         connect(page, &Page::currentRegionChanged, qApp, end);
-                    else
+                    else if (signal == 4)
                         connect(page, &Page::regionActivated, qApp, end);
+                    else if (signal == 5)
+                        connect(open.label, &MultiRubberBandLabel::regionColorChanged, qApp, end);
+                    else if (signal == 6)
+                        connect(open.label, &MultiRubberBandLabel::regionRangeChanged, qApp, end);
+                    else
+                        connect(open.label, &MultiRubberBandLabel::highlightSelectedRegion, qApp,
+                                end);
                     Answers answers({"OK", "OK"});
                     action(open);
                     if (isLabel)

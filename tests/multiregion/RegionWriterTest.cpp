@@ -28,13 +28,14 @@ public:
         return true;
     }
     bool refreshTable(int) override { return true; }
-    void beginAll() override { ++m_readings; }
-    void endAll() override { }
+    void silence(bool silent) override { m_isSilent = silent; }
+    void announce() override { ++m_announced; }
 
     bool m_active[4] = {};
     bool m_checked[4] = {};
     QRect m_shown[4];
-    int m_readings = 0;
+    bool m_isSilent = false;
+    int m_announced = 0;
 };
 
 struct Regions
@@ -50,7 +51,7 @@ struct Regions
         QObject::connect(writer.get(), &RegionWriter::loggingMessage, writer.get(),
                          [this](ZebViewerLogCategory, const QString& text) { log << text; });
         writer->readAll();
-        display.m_readings = 0;
+        display.m_announced = 0;
         camera->journal().clear();
     }
 
@@ -110,7 +111,8 @@ private slots:
         const auto note = [&](const QString& what) {
             told << what;
             QVERIFY(test.isOn(2));
-            QCOMPARE(test.display.m_readings, 1);
+            QVERIFY(!test.display.m_isSilent);
+            QCOMPARE(test.display.m_announced, 1);
             test.camera->writeAsOtherClient("SubRegionSelector", "Region3");
         };
         connect(test.writer.get(), &RegionWriter::regionActivated, this,

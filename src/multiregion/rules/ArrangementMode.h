@@ -1,6 +1,6 @@
 #pragma once
 
-class QString;
+#include <QStringList>
 
 /// How the camera wants its regions arranged; the values are the codes of the region label. Every
 /// entry that is not known leaves the regions free.
@@ -12,4 +12,10 @@ enum class ArrangementMode {
 };
 
 /// @param entry of the camera's "MultipleRegionArrangement"
-ArrangementMode arrangementMode(const QString& entry);
+inline ArrangementMode arrangementMode(const QString& entry)
+{
+    const int code = QStringList{QStringLiteral("Tile"), QStringLiteral("Horizontal"),
+                                 QStringLiteral("Vertical")}
+                         .indexOf(entry);
+    return static_cast<ArrangementMode>(code);
+}

@@ -16,6 +16,14 @@ using Regions = QMap<int, QRect>;
 constexpr int mostRegions = 4;
 constexpr double marginSteps = 5.0; ///< increments between a region and the sensor's border
 
+/// The minimum wins over the maximum.
+double withinRange(double size, const SizeRange& range)
+{
+    if (range.maximum > 0.0)
+        size = std::min(size, range.maximum);
+    return std::max(size, range.minimum);
+}
+
 /// Whether @p count regions of minimum size fit side by side.
 bool fits(int count, double sensorSize, double minimum)
 {
@@ -59,10 +67,10 @@ Regions stripLayout(const LayoutRequest& request, int count, Qt::Orientation axi
     if (count < 1)
         return {};
 
-    const double margin = marginSteps * incrementOf(acrossRange);
+    const double margin = marginSteps * acrossRange.increment;
     const double thickness = withinRange(across - 2.0 * margin, acrossRange);
     const double share = withinRange(along / count, alongRange);
-    const double gap = std::max(share / 5.0, incrementOf(alongRange));
+    const double gap = std::max(share / 5.0, alongRange.increment);
     const double length = withinRange(share - gap, alongRange);
     const double spacing = (along - count * length) / (count + 1);
 
@@ -86,10 +94,10 @@ Regions tileLayout(const LayoutRequest& request, int count)
     if (rows < 1)
         return {};
 
-    const double marginX = std::min(marginSteps * incrementOf(request.width),
-                                    (w - 2.0 * std::max(0.0, request.width.minimum)) / 2.0);
-    const double marginY = std::min(marginSteps * incrementOf(request.height),
-                                    (h - rows * std::max(0.0, request.height.minimum)) / rows);
+    const double marginX
+        = std::min(marginSteps * request.width.increment, (w - 2.0 * request.width.minimum) / 2.0);
+    const double marginY = std::min(marginSteps * request.height.increment,
+                                    (h - rows * request.height.minimum) / rows);
     const double width = w / 2.0 - 2.0 * marginX;
     const double height = h / rows - 2.0 * marginY;
 
@@ -106,10 +114,10 @@ Regions tileLayout(const LayoutRequest& request, int count)
     return regions;
 }
 
-QString text(const char* source)
+struct Text
 {
-    return QCoreApplication::translate("MultiROIWidget", source);
-}
+    Q_DECLARE_TR_FUNCTIONS(MultiROIWidget)
+};
 
 } // namespace
 
@@ -126,9 +134,8 @@ DefaultLayout defaultLayout(const QString& mode, const LayoutRequest& request)
         if (request.regionCount % 2 == 0)
             return {tileLayout(request, count), {}};
         return {{},
-                text(QT_TRANSLATE_NOOP("MultiROIWidget",
-                                       "Unknown Arrangement Mode '%1', no default settings for %2 "
-                                       "regions available."))
+                Text::tr("Unknown Arrangement Mode '%1', no default settings for %2 regions "
+                         "available.")
                     .arg(mode, QString::number(request.regionCount))};
     case ArrangementMode::Free:
         break;
@@ -136,7 +143,5 @@ DefaultLayout defaultLayout(const QString& mode, const LayoutRequest& request)
     if (mode == QLatin1String("Free"))
         return {freeLayout(request, count), {}};
     return {{},
-            text(QT_TRANSLATE_NOOP("MultiROIWidget",
-                                   "Unknown Arrangement Mode '%1', no default settings available."))
-                .arg(mode)};
+            Text::tr("Unknown Arrangement Mode '%1', no default settings available.").arg(mode)};
 }

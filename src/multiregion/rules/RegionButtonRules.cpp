@@ -6,10 +6,10 @@
 
 namespace {
 
-QString text(const char* source)
+struct Text
 {
-    return QCoreApplication::translate("MultiROIWidget", source);
-}
+    Q_DECLARE_TR_FUNCTIONS(MultiROIWidget)
+};
 
 /// Why the inactive region cannot be activated; empty when it can.
 QString obstacle(ArrangementMode mode, const QVector<bool>& checked, int region)
@@ -18,18 +18,15 @@ QString obstacle(ArrangementMode mode, const QVector<bool>& checked, int region)
     case ArrangementMode::Horizontal:
     case ArrangementMode::Vertical:
         if (!checked[region - 1])
-            return text(QT_TRANSLATE_NOOP(
-                "MultiROIWidget",
-                "Regions must be activated continuously, ascending from Region0."));
+            return Text::tr("Regions must be activated continuously, ascending from Region0.");
         break;
     case ArrangementMode::Tile:
         // Regions 1 and 2 start a column and a row, in any order.
         if (region >= 3 && !std::all_of(checked.begin() + 1, checked.begin() + region, [](bool on) {
                 return on;
             }))
-            return text(QT_TRANSLATE_NOOP("MultiROIWidget",
-                                          "Regions must share a common line space (activate all "
-                                          "preceding regions first)."));
+            return Text::tr("Regions must share a common line space (activate all preceding "
+                            "regions first).");
         break;
     case ArrangementMode::Free:
         break;

@@ -3,32 +3,20 @@
 #include "multiregion/rules/SizeRange.h"
 
 #include <QRect>
+#include <Qt>
 
-/// Offset and size of a region along one axis, in sensor pixels as read from the camera.
-struct RegionExtent
-{
-    double offset = 0.0;
-    double size = 0.0;
-};
-
-/// What the place of a newly activated region depends on. "Along" is the axis on which the regions
-/// follow one another.
+/// What the place of a newly activated region depends on, in sensor pixels. Regions follow one
+/// another along an axis.
 struct PlacementRequest
 {
-    double sensorSize = 0.0;  ///< along
-    RegionExtent predecessor; ///< the region before it, along
-    RegionExtent current;     ///< the region itself, along
-    RegionExtent first;       ///< region 0, across: the new region takes it over
-    SizeRange size;           ///< the region's own, along
+    double sensorSize = 0.0; ///< along the axis
+    QRect first;             ///< region 0, whose place across the axis is taken over
+    QRect predecessor;
+    QRect current; ///< the region itself
+    SizeRange size;
 };
 
-// A region is placed one increment behind its predecessor, so that the two never touch; one that
-// lies behind it already stays. Where less than the minimum size is left, the result is the null
-// rectangle.
-
-/// In a row, from left to right.
-QRect placedInRow(const PlacementRequest& request);
-
-/// In a column, from top to bottom. The camera bounds rows by the sensor alone: the maximum of the
-/// range does not count.
-QRect placedInColumn(const PlacementRequest& request);
+/// One increment behind its predecessor, so that the two never touch; a region that lies behind it
+/// already stays. Null where less than the minimum size is left. Rows are bounded by the sensor
+/// alone: for Qt::Vertical the maximum of the range does not count.
+QRect placedRegion(Qt::Orientation axis, const PlacementRequest& request);

@@ -3,6 +3,7 @@
 #include "multiregion/rules/RegionButtonRules.h"
 #include "multiregion/rules/RegionPlacement.h"
 #include "sensor/PixelRect.h"
+#include "sensor/Span.h"
 
 #include <cmath>
 #include <limits>
@@ -18,14 +19,18 @@ private slots:
     /// to lie in a row; mirrored in a column.
     void places_data()
     {
-        const DataTable row([](const RegionExtent& current, const SizeRange& size,
-                               const RegionExtent& inRow, double columnSize) {
-            const PlacementRequest request{1000, {100, 200}, current, {40, 60}, size};
-            const bool isPlaced = inRow.size > 0;
-            const QRect across(int(inRow.offset), 40, int(inRow.size), 60);
-            const QRect column(40, int(inRow.offset), 60, int(columnSize));
-            QCOMPARE(placedInRow(request), isPlaced ? across : QRect());
-            QCOMPARE(placedInColumn(request), isPlaced ? column : QRect());
+        const DataTable row([](const RegionSpan& current, const SizeRange& size,
+                               const RegionSpan& inRow, int columnSize) {
+            const auto placed = [&](Qt::Orientation axis) {
+                return placedRegion(axis,
+                                    {1000, QRect(40, 40, 60, 60), withSpan({}, axis, {100, 200}),
+                                     withSpan({}, axis, current), size});
+            };
+            const bool isPlaced = inRow.length > 0;
+            const QRect across(inRow.start, 40, inRow.length, 60);
+            const QRect column(40, inRow.start, 60, columnSize);
+            QCOMPARE(placed(Qt::Horizontal), isPlaced ? across : QRect());
+            QCOMPARE(placed(Qt::Vertical), isPlaced ? column : QRect());
         });
         row("one increment behind", {0, 160}, {16, 640, 8}, {308, 160}, 160);
         row("behind already", {400, 160}, {16, 640, 8}, {400, 160}, 160);
@@ -35,7 +40,7 @@ private slots:
         row("raised to the minimum", {0, 8}, {16, 640, 8}, {308, 16}, 16);
         row("too little is left", {0, 160}, {693, 2000, 8}, {}, 0);
         row("just enough is left", {0, 160}, {692, 2000, 8}, {308, 692}, 692);
-        row("fractions are dropped", {0, 160.9}, {16, 640, 0.5}, {300, 160}, 160);
+        row("fractions are dropped", {0, 160}, {16, 640, 0.5}, {300, 160}, 160);
         row("no range", {0, 160}, {}, {300, 160}, 160);
     }
     void places() { runRow(); }
@@ -43,10 +48,11 @@ private slots:
     void survivesAbsurdNumbers()
     {
         const double huge = std::numeric_limits<double>::infinity();
-        PlacementRequest request{huge, {huge, huge}, {huge, huge}, {-huge, huge}, {0, huge, huge}};
-        placedInRow(request);
-        request.sensorSize = std::nan("");
-        placedInColumn(request);
+        const QRect far(1 << 29, 1 << 29, 1 << 29, 1 << 29);
+        for (const double sensor : {huge, std::nan("")}) {
+            placedRegion(Qt::Horizontal, {sensor, far, far, far, {0, huge, huge}});
+            placedRegion(Qt::Vertical, {sensor, far, far, far, {0, huge, huge}});
+        }
         for (const char* mode : {"Vertical", "Horizontal", "Tile", "Free"})
             defaultLayout(mode, {huge, -huge, {0, huge, huge}, {huge, 0, 0}, 256});
         const QRect rect = truncatedRect(huge, -huge, std::nan(""), -huge);
