@@ -13,7 +13,7 @@ BUILD_PACKAGES=(
     fonts-dejavu-core
 )
 
-# What real cameras in the viewer take besides.
+# What real cameras, in the viewer and in the tests, take besides.
 GENICAM_PACKAGES=(
     libaravis-dev
     pkg-config
