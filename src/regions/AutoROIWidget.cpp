@@ -179,14 +179,14 @@ void AutoROIWidget::OnUpdateGeometry(int top, int left, int width, int height)
     // During a drag, whose begin has read the origin, this comes with every move of the mouse.
     if (!isAtWork())
         m_camera->readOrigin();
-    m_view->showProvisional(fromLabel({top, left, width, height}, m_camera->origin()));
+    m_view->showProvisional(fromLabel({left, top, width, height}, m_camera->origin()));
 }
 
 void AutoROIWidget::OnSendGeometry(int top, int left, int width, int height)
 {
     if (!m_ui)
         return;
-    if (m_writer->writeDrawn({top, left, width, height}))
+    if (m_writer->writeDrawn({left, top, width, height}))
         m_isTrusted = true;
     m_picture->showWaitingImage();
     // Also while the region is off: the band lies where it was dropped.

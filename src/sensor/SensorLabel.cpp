@@ -1,5 +1,7 @@
 #include "sensor/SensorLabel.h"
 
+#include "sensor/PixelRect.h"
+
 #include <QApplication>
 #include <QMouseEvent>
 #include <QPointer>
@@ -10,6 +12,7 @@
 namespace {
 
 constexpr int minimumSide = 100; ///< label pixels
+constexpr QSize largestSensor(largestCoordinate, largestCoordinate);
 
 /// Whether an event of the application ends a drag on @p label: a menu or a dialog takes the mouse
 /// away without a word to whom it takes it from. A window that takes the focus does not.
@@ -33,7 +36,7 @@ bool takesMouse(const SensorLabel& label, QObject* object, const QEvent& event)
 SensorLabel::SensorLabel(const QSize& sensor, const QColor& color, QWidget* parent)
     : QLabel(parent)
     , m_color(color)
-    , m_sensor(sensor)
+    , m_sensor(sensor.boundedTo(largestSensor))
 {
     setMouseTracking(true);
     setMinimumSize(minimumSide, minimumSide);
@@ -46,7 +49,7 @@ SensorLabel::SensorLabel(const QSize& sensor, const QColor& color, QWidget* pare
 
 void SensorLabel::setSensor(const QSize& sensor)
 {
-    m_sensor = sensor;
+    m_sensor = sensor.boundedTo(largestSensor);
     m_background.showPlaceholder(placeholderColor(), m_sensor);
     fitBackground(size());
     if (m_sensor.isEmpty())
@@ -105,18 +108,12 @@ void SensorLabel::mousePressEvent(QMouseEvent* event)
     const QPointer<SensorLabel> guard(this);
     emit aboutToDrag();
     // A receiver may have asked in a dialog, which has had the release.
-    if (guard && isEnabled() && isVisible() == wasVisible
-        && held == QGuiApplication::mouseButtons())
-        beginDrag(event->button(), event->pos());
-}
-
-void SensorLabel::beginDrag(Qt::MouseButton button, const QPoint& point)
-{
-    if (isDragging() || !grabs(point))
+    if (!guard || !isEnabled() || isVisible() != wasVisible
+        || held != QGuiApplication::mouseButtons() || isDragging() || !grabs(event->pos()))
         return;
-    m_button = button;
+    m_button = event->button();
     qApp->installEventFilter(this);
-    press(point);
+    press(event->pos());
 }
 
 void SensorLabel::mouseMoveEvent(QMouseEvent* event)

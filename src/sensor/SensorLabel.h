@@ -32,6 +32,7 @@ signals:
     void dragDropped();
 
 protected:
+    QColor color() const { return m_color; }
     /// For Windows 7 and its predecessors, which show no translucent placeholder.
     void setOpaqueColor(const QColor& color) { m_opaqueColor = color; }
     /// Shows the placeholder. Without a sensor there is nothing to drag.
@@ -71,7 +72,6 @@ protected:
 
 private:
     QColor placeholderColor() const;
-    void beginDrag(Qt::MouseButton button, const QPoint& point);
     void endDrag();
     void fitBackground(const QSize& bounds);
     void showBackground();

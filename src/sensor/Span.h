@@ -16,8 +16,6 @@ template <typename Number> struct Span
     constexpr Number end() const { return start + length; }
 };
 
-using RegionSpan = Span<int>;
-
 template <typename Number> constexpr Span<Number> spanBetween(Number start, Number end)
 {
     return {start, end - start};

@@ -123,7 +123,7 @@ private slots:
             p.camera->writeAsOtherClient((family + "Width").toStdString(), std::int64_t{512});
             p.settle();
             QCOMPARE(p.field("spinWidth")->cleanText(), QString("64"));
-            QCOMPARE(p.label->region().width, 512);
+            QCOMPARE(p.label->region().width(), 512);
             QVERIFY(p.writes().isEmpty());
             QTest::keyClick(p.field("spinWidth"), Qt::Key_Return);
             QCOMPARE(p.value(family + "Width"), 64);

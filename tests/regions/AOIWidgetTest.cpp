@@ -29,7 +29,7 @@ private slots:
     {
         const AOIPage p("current");
         p.click("btnHalf");
-        const SensorRegion once = p.onCamera();
+        const QRect once = p.onCamera();
         QVERIFY(!p.label->isEnabled());
         p.click("btnHalf");
         QCOMPARE(text(p.onCamera()), text(once));

@@ -113,9 +113,9 @@ template <typename Page> struct RegionPage
         });
     }
 
-    SensorRegion onCamera() const
+    QRect onCamera() const
     {
-        return {value("OffsetY"), value("OffsetX"), value("Width"), value("Height")};
+        return {value("OffsetX"), value("OffsetY"), value("Width"), value("Height")};
     }
 
     const MessageHandlerGuard guard;
@@ -128,15 +128,15 @@ template <typename Page> struct RegionPage
 using AOIPage = RegionPage<AOIWidget>;
 using AutoROIPage = RegionPage<AutoROIWidget>;
 
-inline SensorRegion inFields(const AOIPage& p)
+inline QRect inFields(const AOIPage& p)
 {
-    return {int(p.field("spinTop")->value()), int(p.field("spinLeft")->value()),
+    return {int(p.field("spinLeft")->value()), int(p.field("spinTop")->value()),
             int(p.field("spinWidth")->value()), int(p.field("spinHeight")->value())};
 }
 
-inline QString text(const SensorRegion& r)
+inline QString text(const QRect& r)
 {
-    return QString("%1 %2 %3 %4").arg(r.top).arg(r.left).arg(r.width).arg(r.height);
+    return QString("%1 %2 %3 %4").arg(r.y()).arg(r.x()).arg(r.width()).arg(r.height());
 }
 
 inline std::shared_ptr<QPixmap> picture(Qt::GlobalColor color)

@@ -55,12 +55,12 @@ QString imageChange(const AutoROIPage&, int which)
 }
 
 /// The region on the label, by what the camera has.
-SensorRegion drawn(const AOIPage& p)
+QRect drawn(const AOIPage& p)
 {
     return p.onCamera();
 }
 
-SensorRegion drawn(const AutoROIPage& p)
+QRect drawn(const AutoROIPage& p)
 {
     const QSize sensor = p.label->sensorSize();
     const RegionLimits limits{sensor.width(), sensor.height()};

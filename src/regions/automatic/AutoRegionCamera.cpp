@@ -129,7 +129,7 @@ bool AutoRegionCamera::isAutoMode() const
     return nameOf(RegionNumber::Left) == Name::autoModeOffsetX;
 }
 
-SensorRegion AutoRegionCamera::drawn() const
+QRect AutoRegionCamera::drawn() const
 {
     return m_usesEdges ? drawnByEdges(region(), m_limits)
                        : drawnBySize(region(), origin(), m_limits);

@@ -65,7 +65,7 @@ public:
     QPointF origin() const;
     const RegionLimits& limits() const { return m_limits; }
     /// The region on the label.
-    SensorRegion drawn() const;
+    QRect drawn() const;
 
     /// Takes the limits for a new image size only, or when one is told: some cameras bound size and
     /// offset by each other, and the limits would shrink with each move of the region. Answers

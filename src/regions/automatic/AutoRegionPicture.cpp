@@ -76,7 +76,7 @@ void AutoRegionPicture::showRegion()
 {
     if (!(m_camera.usesEdges() || m_camera.usesSizes()) || !m_camera.isRegionTold())
         return;
-    const SensorRegion region = m_camera.drawn();
+    const QRect region = m_camera.drawn();
     const QSignalBlocker blocker(m_label);
-    m_label->setRegion(region.top, region.left, region.width, region.height);
+    m_label->setRegion(region.y(), region.x(), region.width(), region.height());
 }

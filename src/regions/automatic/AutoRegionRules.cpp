@@ -1,6 +1,7 @@
 #include "regions/automatic/AutoRegionRules.h"
 
 #include "features/NumberConversion.h"
+#include "sensor/PixelRect.h"
 
 #include <QCoreApplication>
 
@@ -44,10 +45,9 @@ Span<double> cutByEdges(const Span<double>& span, qint64 limit)
     return spanBetween(std::min(span.start, end), end);
 }
 
-SensorRegion truncated(const Span<double>& horizontal, const Span<double>& vertical)
+QRect truncated(const Span<double>& horizontal, const Span<double>& vertical)
 {
-    return {toInt(vertical.start), toInt(horizontal.start), toInt(horizontal.length),
-            toInt(vertical.length)};
+    return truncatedRect(horizontal.start, vertical.start, horizontal.length, vertical.length);
 }
 
 } // namespace
@@ -66,20 +66,19 @@ qint64 aoiWidthLimit(double width, double increment, double minimumOffsetY)
     return toInt64(scaledThroughIncrement(width, increment) + minimumOffsetY);
 }
 
-AutoRegion fromLabel(const SensorRegion& drawn, const QPointF& origin)
+AutoRegion fromLabel(const QRect& drawn, const QPointF& origin)
 {
-    return {{origin.x() + drawn.left, double(drawn.width)},
-            {origin.y() + drawn.top, double(drawn.height)}};
+    return {{origin.x() + drawn.x(), double(drawn.width())},
+            {origin.y() + drawn.y(), double(drawn.height())}};
 }
 
-SensorRegion drawnBySize(const AutoRegion& region, const QPointF& origin,
-                         const RegionLimits& limits)
+QRect drawnBySize(const AutoRegion& region, const QPointF& origin, const RegionLimits& limits)
 {
     return truncated(cutBySize(region.horizontal, origin.x(), limits.width),
                      cutBySize(region.vertical, origin.y(), limits.height));
 }
 
-SensorRegion drawnByEdges(const AutoRegion& region, const RegionLimits& limits)
+QRect drawnByEdges(const AutoRegion& region, const RegionLimits& limits)
 {
     return truncated(cutByEdges(region.horizontal, limits.width),
                      cutByEdges(region.vertical, limits.height));

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "regions/label/SensorRegion.h"
 #include "sensor/Span.h"
 
 #include <QPointF>
+#include <QRect>
 #include <QString>
 
 // The region that the automatic functions evaluate, in image pixels. Some cameras count it from an
@@ -46,13 +46,12 @@ qint64 aoiHeightLimit(double height, double increment, double minimumHeight, dou
 qint64 aoiWidthLimit(double width, double increment, double minimumOffsetY);
 
 /// The camera's region for one drawn on the label.
-AutoRegion fromLabel(const SensorRegion& drawn, const QPointF& origin);
+AutoRegion fromLabel(const QRect& drawn, const QPointF& origin);
 
 /// The region to draw for offset and size, cut to the limits.
-SensorRegion drawnBySize(const AutoRegion& region, const QPointF& origin,
-                         const RegionLimits& limits);
+QRect drawnBySize(const AutoRegion& region, const QPointF& origin, const RegionLimits& limits);
 /// The region to draw for edges: cut to the limits, never negative.
-SensorRegion drawnByEdges(const AutoRegion& region, const RegionLimits& limits);
+QRect drawnByEdges(const AutoRegion& region, const RegionLimits& limits);
 
 /// The whole multiple of @p step, both truncated, at or next below @p value, as it is written.
 double onGrid(double value, double step);

@@ -23,7 +23,7 @@ void AutoRegionWriter::write(RegionNumber number, double value)
 
 // Drawn regions
 
-bool AutoRegionWriter::writeDrawn(const SensorRegion& region)
+bool AutoRegionWriter::writeDrawn(const QRect& region)
 {
     m_camera.readOrigin();
     m_view.showProvisional(fromLabel(region, m_camera.origin()));
@@ -33,7 +33,7 @@ bool AutoRegionWriter::writeDrawn(const SensorRegion& region)
     return false;
 }
 
-void AutoRegionWriter::writeEdges(const SensorRegion& region)
+void AutoRegionWriter::writeEdges(const QRect& region)
 {
     const AutoRegion drawn = fromLabel(region, {});
     writeAxis(RegionNumber::Left, RegionNumber::Right, drawn.horizontal, m_camera.limits().width);
@@ -55,14 +55,14 @@ void AutoRegionWriter::writeAxis(RegionNumber nearEdge, RegionNumber farEdge,
     }
 }
 
-bool AutoRegionWriter::writeSizes(const SensorRegion& region)
+bool AutoRegionWriter::writeSizes(const QRect& region)
 {
     const QPointF origin = m_camera.origin();
     const auto snapped = [this](RegionNumber offset, int value) {
         return snappedUp(value, m_view.field(offset).grid());
     };
-    const double left = snapped(RegionNumber::Left, region.left);
-    const double top = snapped(RegionNumber::Top, region.top);
+    const double left = snapped(RegionNumber::Left, region.x());
+    const double top = snapped(RegionNumber::Top, region.y());
     const double roomRight = static_cast<double>(m_camera.limits().width) - left;
     const double roomBelow = static_cast<double>(m_camera.limits().height) - top;
     m_view.field(RegionNumber::Height).limitTo(roomBelow);
@@ -70,8 +70,8 @@ bool AutoRegionWriter::writeSizes(const SensorRegion& region)
 
     write(RegionNumber::Left, origin.x() + left);
     write(RegionNumber::Top, origin.y() + top);
-    write(RegionNumber::Height, std::min<double>(region.height, roomBelow));
-    write(RegionNumber::Width, std::min<double>(region.width, roomRight));
+    write(RegionNumber::Height, std::min<double>(region.height(), roomBelow));
+    write(RegionNumber::Width, std::min<double>(region.width(), roomRight));
     settleOffset(RegionNumber::Left, origin.x() + left);
     settleOffset(RegionNumber::Top, origin.y() + top);
     return roomRight > 0.0 && roomBelow > 0.0;

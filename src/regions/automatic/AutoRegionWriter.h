@@ -16,7 +16,7 @@ public:
     /// Writes a region drawn on the label: edges in an order that leaves the camera an area at
     /// every write, or offsets and then sizes. True when it lies within the limits, so that
     /// whatever the camera passes through meanwhile is no error.
-    bool writeDrawn(const SensorRegion& region);
+    bool writeDrawn(const QRect& region);
 
     /// Lets the image and the size fields grow to what the camera allows now.
     void setFullArea();
@@ -26,8 +26,8 @@ public:
     void presetCentred(double factor);
 
 private:
-    void writeEdges(const SensorRegion& region);
-    bool writeSizes(const SensorRegion& region);
+    void writeEdges(const QRect& region);
+    bool writeSizes(const QRect& region);
     void writeAxis(RegionNumber nearEdge, RegionNumber farEdge, const Span<double>& drawn,
                    qint64 limit);
     void makeRoom(const AutoRegion& wanted);

@@ -1,72 +1,77 @@
 #include "regions/label/EdgeDrag.h"
 
+#include "features/NumberConversion.h"
+#include "sensor/PixelRect.h"
+#include "sensor/Span.h"
+
 #include <algorithm>
 
 namespace {
 
 /// The region that a band stands for. Across a flat sensor the band tells nothing.
-SensorRegion readRegion(const EdgeDrag& drag, const QRect& band, const LabelGeometry& geometry)
+QRect readRegion(const EdgeDrag& drag, const QRect& band, const LabelGeometry& geometry)
 {
     const double scale = sensorPerLabel(geometry);
-    const bool flat = isFlat(geometry);
-    return {flat ? drag.region.top : roundHalfUp(band.y() * scale), roundHalfUp(band.x() * scale),
-            roundHalfUp(band.width() * scale),
-            flat ? drag.region.height : roundHalfUp(band.height() * scale)};
+    const QRect read = truncatedRect(band.x() * scale + 0.5, band.y() * scale + 0.5,
+                                     band.width() * scale + 0.5, band.height() * scale + 0.5);
+    return isFlat(geometry) ? withSpan(read, Qt::Vertical, spanOf(drag.region, Qt::Vertical))
+                            : read;
 }
 
-/// Saturates: an offset may be any number.
-int difference(int from, int amount)
+Span<int> clamped(Span<int> span, bool clampsStart, bool clampsLength, int sensor)
 {
-    return toInt(static_cast<double>(from) - amount);
-}
-
-void clampOffset(int& offset, int size, int sensorSize)
-{
-    offset = std::max(0, std::min(difference(sensorSize, size), offset));
-}
-
-void clampSize(int& size, int offset, int sensorSize)
-{
-    size = std::max(0, std::min(difference(sensorSize, offset), size));
+    if (clampsStart)
+        span.start = std::max(0, std::min(sensor - span.length, span.start));
+    if (clampsLength)
+        span.length = std::max(0, std::min(sensor - span.start, span.length));
+    return span;
 }
 
 /// A move too: a displayed border is rounded, so that a band within it may still stand for a region
 /// beyond it.
-void clampHeld(SensorRegion& region, const EdgeGrab& held, const QSize& sensor)
+QRect clampedWhereHeld(const QRect& region, const EdgeGrab& held, const QSize& sensor)
 {
-    if (held.left || held.moving)
-        clampOffset(region.left, region.width, sensor.width());
-    if (held.right)
-        clampSize(region.width, region.left, sensor.width());
-    if (held.top || held.moving)
-        clampOffset(region.top, region.height, sensor.height());
-    if (held.bottom)
-        clampSize(region.height, region.top, sensor.height());
+    const auto x = clamped(spanOf(region, Qt::Horizontal), held.left || held.moving, held.right,
+                           sensor.width());
+    const auto y = clamped(spanOf(region, Qt::Vertical), held.top || held.moving, held.bottom,
+                           sensor.height());
+    return {x.start, y.start, x.length, y.length};
 }
 
-QRect movedBand(const EdgeDrag& drag, const QRect& band, const QPoint& pointer,
-                const LabelGeometry& geometry)
+QRect movedBand(const EdgeDrag& drag, const QPoint& pointer, const LabelGeometry& geometry)
 {
-    const QSize room = displayedSize(geometry) - band.size();
-    const int x = difference(pointer.x(), drag.grabOffset.x());
-    const int y = difference(pointer.y(), drag.grabOffset.y());
-    return {QPoint(std::max(0, std::min(room.width(), x)), std::max(0, std::min(room.height(), y))),
-            band.size()};
+    const QSize room = displayedSize(geometry) - drag.band.size();
+    const QPoint position = pointer - drag.grabOffset;
+    return {QPoint(std::max(0, std::min(room.width(), position.x())),
+                   std::max(0, std::min(room.height(), position.y()))),
+            drag.band.size()};
 }
 
-QRect pulledBand(const EdgeGrab& follows, const QRect& band, const QPoint& pointer,
-                 const LabelGeometry& geometry)
+} // namespace
+
+EdgeDrag dragFromPress(const QPoint& point, const QRect& band, Qt::CursorShape shown,
+                       const QRect& region, const LabelGeometry& geometry)
 {
-    QPoint first = band.topLeft();
-    QPoint last = band.bottomRight();
+    const EdgeGrab held = grabForPress(bandForMouse(band, geometry), point);
+    return {held, followingEdges(held, isFlat(geometry) ? Qt::SizeHorCursor : shown),
+            point - band.topLeft(), band, region};
+}
+
+QRect draggedBand(const EdgeDrag& drag, const QPoint& pointer, const LabelGeometry& geometry)
+{
+    const EdgeGrab& follows = drag.follows;
+    if (follows.moving)
+        return movedBand(drag, pointer, geometry);
+    QPoint first = drag.band.topLeft();
+    QPoint last = drag.band.bottomRight();
     if (follows.left)
         first.setX(std::min(pointer.x(), last.x()));
     if (follows.top)
         first.setY(std::min(pointer.y(), last.y()));
     if (follows.right)
-        last.setX(std::max(pointer.x(), band.x()));
+        last.setX(std::max(pointer.x(), first.x()));
     if (follows.bottom)
-        last.setY(pointer.y());
+        last.setY(std::max(pointer.y(), first.y()));
     if (follows.right && follows.bottom) {
         last.setX(std::min(last.x(), displayedSize(geometry).width()));
         last.setY(std::min(last.y(), heightForWidth(geometry.label.width(), geometry.sensor)));
@@ -74,65 +79,43 @@ QRect pulledBand(const EdgeGrab& follows, const QRect& band, const QPoint& point
     return atLeastOnePixel(QRect(first, last));
 }
 
-} // namespace
-
-EdgeDrag dragFromPress(const QPoint& point, const QRect& band, Qt::CursorShape shown,
-                       const SensorRegion& region, const LabelGeometry& geometry)
-{
-    const EdgeGrab held = flagsForPress(bandForMouse(band, geometry), point);
-    SensorRegion start = region;
-    start.top = std::max(0, start.top);
-    return {held, followingEdges(held, isFlat(geometry) ? Qt::SizeHorCursor : shown),
-            point - band.topLeft(), start};
-}
-
-EdgeDragStep dragBand(const EdgeDrag& drag, const QRect& band, const QPoint& pointer,
-                      const LabelGeometry& geometry)
+QRect provisionalRegion(const EdgeDrag& drag, const QRect& band, const LabelGeometry& geometry)
 {
     const EdgeGrab& follows = drag.follows;
-    EdgeDragStep step{follows.moving ? movedBand(drag, band, pointer, geometry)
-                                     : pulledBand(follows, band, pointer, geometry),
-                      drag.region};
-    const SensorRegion read = readRegion(drag, step.band, geometry);
+    const QRect read = readRegion(drag, band, geometry);
+    QRect region = drag.region;
     if (follows.moving || follows.left)
-        step.region.left = read.left;
+        region.moveLeft(read.x());
     if (follows.left || follows.right)
-        step.region.width = read.width;
+        region.setWidth(read.width());
     if (follows.moving || follows.top)
-        step.region.top = read.top;
+        region.moveTop(read.y());
     // Rounded down, unlike all others: the region never begins below the pointer.
     if (follows.top && follows.right)
-        step.region.top = toInt(step.band.y() * sensorPerLabel(geometry) - 0.5);
+        region.moveTop(toInt(band.y() * sensorPerLabel(geometry) - 0.5));
     // The top edge alone moves the offset; the height waits for the release.
     if (follows.bottom || (follows.top && follows.left))
-        step.region.height = read.height;
-    clampHeld(step.region, drag.held, geometry.sensor);
-    return step;
+        region.setHeight(read.height());
+    return clampedWhereHeld(region, drag.held, geometry.sensor);
 }
 
-SensorRegion regionForRelease(const EdgeDrag& drag, const QRect& band, const QPoint& pointer,
-                              const LabelGeometry& geometry)
+QRect releasedRegion(const EdgeDrag& drag, const QRect& band, const QPoint& pointer,
+                     const LabelGeometry& geometry)
 {
     const EdgeGrab& held = drag.held;
     const QSize& sensor = geometry.sensor;
-    const SensorRegion read = readRegion(drag, band, geometry);
-    SensorRegion region = drag.region;
-
+    const QRect read = readRegion(drag, band, geometry);
+    QRect region = drag.region;
     if (held.top || held.moving)
-        region.top = read.top;
+        region.moveTop(read.y());
     if (held.left || held.moving)
-        region.left = read.left;
+        region.moveLeft(read.x());
     if (held.left || held.right)
-        region.width = pointer.x() >= geometry.label.width()
-            ? difference(sensor.width(), region.left)
-            : read.width;
+        region.setWidth(pointer.x() >= geometry.label.width() ? sensor.width() - region.x()
+                                                              : read.width());
     if (held.top || held.bottom)
-        region.height = pointer.y() >= geometry.label.height()
-            ? difference(sensor.height(), region.top)
-            : read.height;
-
-    clampHeld(region, held, sensor);
-    region.width = std::max(0, region.width);
-    region.height = std::max(0, region.height);
-    return region;
+        region.setHeight(pointer.y() >= geometry.label.height() ? sensor.height() - region.y()
+                                                                : read.height());
+    region = clampedWhereHeld(region, held, sensor);
+    return {region.topLeft(), region.size().expandedTo({0, 0})};
 }

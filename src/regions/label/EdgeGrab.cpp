@@ -5,53 +5,43 @@
 namespace {
 
 /// The last four pixels before a right or bottom edge.
-bool isBeforeEdge(qint64 distance)
+bool isBeforeEdge(int distance)
 {
     return 0 < distance && distance < 5;
 }
 
 /// A left or top edge and the three pixels after it.
-bool isFromEdge(qint64 distance)
+bool isFromEdge(int distance)
 {
     return -4 < distance && distance < 1;
 }
 
-/// From the pointer, which may be anywhere, to an edge.
-qint64 distance(int edge, int pointer)
-{
-    return qint64{edge} - pointer;
-}
-
 } // namespace
 
-EdgeGrab flagsForPress(const QRect& band, const QPoint& pointer)
+EdgeGrab grabForPress(const QRect& band, const QPoint& pointer)
 {
-    EdgeGrab flags;
-    flags.right = std::abs(distance(band.right(), pointer.x())) <= 4;
-    flags.left = !flags.right && std::abs(distance(band.left(), pointer.x())) < 5;
-    flags.top = std::abs(distance(band.top(), pointer.y())) <= 4;
-    flags.bottom = !flags.top && std::abs(distance(band.bottom(), pointer.y())) < 5;
-    flags.moving = !flags.any() && band.contains(pointer);
-    return flags;
+    const auto isNear = [](int edge, int at) { return std::abs(edge - at) < 5; };
+    EdgeGrab grab;
+    grab.right = isNear(band.right(), pointer.x());
+    grab.left = !grab.right && isNear(band.left(), pointer.x());
+    grab.top = isNear(band.top(), pointer.y());
+    grab.bottom = !grab.top && isNear(band.bottom(), pointer.y());
+    grab.moving = !grab.any() && band.contains(pointer);
+    return grab;
 }
 
 Qt::CursorShape cursorForHover(const QRect& band, const QPoint& clampedPointer,
                                const QPoint& rawPointer)
 {
-    const qint64 toTop = distance(band.top(), clampedPointer.y());
-    const qint64 toBottom = distance(band.bottom(), clampedPointer.y());
-
-    if (isBeforeEdge(distance(band.right(), clampedPointer.x()))) {
-        if (isFromEdge(toTop))
-            return Qt::SizeBDiagCursor;
-        return toBottom > 0 ? Qt::SizeHorCursor : Qt::SizeFDiagCursor;
+    const int toBottom = band.bottom() - clampedPointer.y();
+    const bool top = isFromEdge(band.top() - clampedPointer.y());
+    const bool right = isBeforeEdge(band.right() - clampedPointer.x());
+    if (right || isFromEdge(band.left() - clampedPointer.x())) {
+        if (!top && toBottom > 0)
+            return Qt::SizeHorCursor;
+        return top == right ? Qt::SizeBDiagCursor : Qt::SizeFDiagCursor;
     }
-    if (isFromEdge(distance(band.left(), clampedPointer.x()))) {
-        if (isFromEdge(toTop))
-            return Qt::SizeFDiagCursor;
-        return toBottom > 0 ? Qt::SizeHorCursor : Qt::SizeBDiagCursor;
-    }
-    if (isFromEdge(toTop) || isBeforeEdge(toBottom))
+    if (top || isBeforeEdge(toBottom))
         return Qt::SizeVerCursor;
     return band.contains(rawPointer) ? Qt::SizeAllCursor : Qt::ArrowCursor;
 }

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QPoint>
 #include <QRect>
 #include <Qt>
 
@@ -17,17 +16,13 @@ struct EdgeGrab
     constexpr bool any() const { return moving || left || right || top || bottom; }
 };
 
-// The zones in which a press takes an edge reach up to four pixels to either side of it; those in
-// which hovering shows an edge's cursor lie inside the band. A user is told less than a press
-// forgives, and the two must not be merged. Edges are the band's last pixels. Label pixels
-// throughout.
+// A press takes an edge up to four pixels to either side of it, and on its extension beyond the
+// corners; hovering shows the edge's cursor inside the band only. A user is told less than a press
+// forgives, and the two must not be merged. Edges are the band's last pixels.
 
-/// What a press at the pointer takes hold of. An edge is also taken on its extension beyond the
-/// band's corners.
-EdgeGrab flagsForPress(const QRect& band, const QPoint& pointer);
+EdgeGrab grabForPress(const QRect& band, const QPoint& pointer);
 
-/// The cursor over a band that is not being dragged. The edges look at the pointer clamped to the
-/// picture, the inside at where it really is.
+/// The edges look at the pointer clamped to the picture, the inside at where it really is.
 Qt::CursorShape cursorForHover(const QRect& band, const QPoint& clampedPointer,
                                const QPoint& rawPointer);
 

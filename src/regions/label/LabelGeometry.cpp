@@ -1,5 +1,7 @@
 #include "regions/label/LabelGeometry.h"
 
+#include "features/NumberConversion.h"
+
 #include <algorithm>
 #include <cstdlib>
 
@@ -7,6 +9,15 @@ namespace {
 
 /// The largest size that Qt gives a widget.
 constexpr int largestExtent = (1 << 24) - 1;
+
+/// Label pixels per sensor pixel.
+constexpr double smallestScale = 0.00001;
+
+/// Unlike lround() it takes -0.7 to 0.
+int roundHalfUp(double value)
+{
+    return toInt(value + 0.5);
+}
 
 /// Whether a band filled the picture before a change that altered it by up to @p slack.
 bool wasFull(int bandSize, int slack, int displayedSize)
@@ -41,26 +52,29 @@ bool isFlat(const LabelGeometry& geometry)
 
 double sensorPerLabel(const LabelGeometry& geometry)
 {
-    const int displayed = displayedSize(geometry).width();
-    return displayed > 0 ? static_cast<double>(geometry.sensor.width()) / displayed : 0.0;
+    return static_cast<double>(geometry.sensor.width()) / displayedSize(geometry).width();
 }
 
 double labelPerSensor(const LabelGeometry& geometry)
 {
-    const int displayed = displayedSize(geometry).width();
-    return displayed > 0 ? static_cast<double>(displayed) / geometry.sensor.width() : 0.0;
+    const double displayed = displayedSize(geometry).width();
+    return displayed > 0.0 ? displayed / geometry.sensor.width() : 0.0;
 }
 
-QRect bandForRegion(const SensorRegion& region, const LabelGeometry& geometry)
+bool canPlaceBand(const LabelGeometry& geometry)
 {
-    const double scale = labelPerSensor(geometry);
-    const auto scaled
-        = [scale](int value) { return std::clamp(roundHalfUp(value * scale), 0, largestExtent); };
-    const int x = scaled(region.left);
-    const int y = scaled(region.top);
-    const int leastHeight = isFlat(geometry) ? 1 : 0;
-    return {x, y, std::max(0, std::min(geometry.shown.width() - x, scaled(region.width))),
-            std::max(leastHeight, std::min(geometry.shown.height() - y, scaled(region.height)))};
+    return labelPerSensor(geometry) >= smallestScale;
+}
+
+QRect bandForRegion(const QRect& region, const LabelGeometry& geometry)
+{
+    const auto scaled = [scale = labelPerSensor(geometry)](int value) {
+        return std::clamp(roundHalfUp(value * scale), -largestExtent, largestExtent);
+    };
+    const QPoint position(scaled(region.x()), scaled(region.y()));
+    const QSize rest(geometry.shown.width() - position.x(), geometry.shown.height() - position.y());
+    const QSize size(scaled(region.width()), scaled(region.height()));
+    return {position, size.boundedTo(rest).expandedTo({0, isFlat(geometry) ? 1 : 0})};
 }
 
 QRect bandWithoutRegion(const LabelGeometry& geometry)
@@ -71,7 +85,7 @@ QRect bandWithoutRegion(const LabelGeometry& geometry)
 
 QRect atLeastOnePixel(const QRect& band)
 {
-    return {band.x(), band.y(), std::max(1, band.width()), std::max(1, band.height())};
+    return {band.topLeft(), band.size().expandedTo({1, 1})};
 }
 
 QRect bandForMouse(const QRect& band, const LabelGeometry& geometry)

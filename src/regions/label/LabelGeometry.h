@@ -1,9 +1,5 @@
 #pragma once
 
-#include "features/NumberConversion.h"
-#include "regions/label/SensorRegion.h"
-
-#include <QPoint>
 #include <QRect>
 
 /// Where a label shows the sensor area: in its top left corner, scaled to fit, aspect ratio kept.
@@ -13,20 +9,12 @@
 /// that of the pixmap on the label; the pointer and a placed band stay within it.
 struct LabelGeometry
 {
-    QSize label;  ///< label pixels
-    QSize sensor; ///< sensor pixels
-    QSize shown;  ///< label pixels
+    QSize label;
+    QSize sensor; ///< sensor pixels; all else are label pixels
+    QSize shown;
 };
 
-/// The rounding of all region arithmetic: add a half and truncate. Unlike lround() it takes -0.7 to
-/// 0.
-constexpr int roundHalfUp(double value)
-{
-    return toInt(value + 0.5);
-}
-
-/// Size of the sensor area on the label, in label pixels; empty when label or sensor are. No less
-/// than a line.
+/// Empty when label or sensor are, else no less than a line.
 QSize displayedSize(const LabelGeometry& geometry);
 
 /// The height that shows a sensor in its aspect ratio at this width; 0 without a sensor.
@@ -36,19 +24,16 @@ int heightForWidth(int width, const QSize& sensor);
 /// across it.
 bool isFlat(const LabelGeometry& geometry);
 
-/// Sensor pixels per label pixel, by the widths and one factor for both axes; 0 when nothing is
-/// displayed.
+/// Sensor pixels per label pixel, by the widths and one factor for both axes.
 double sensorPerLabel(const LabelGeometry& geometry);
-
-/// Label pixels per sensor pixel; 0 when nothing is displayed.
+/// The inverse; 0 when nothing is displayed.
 double labelPerSensor(const LabelGeometry& geometry);
+/// False where the sensor shrinks to nothing.
+bool canPlaceBand(const LabelGeometry& geometry);
 
-/// Below this many label pixels per sensor pixel no band can be placed.
-constexpr double smallestScale = 0.00001;
-
-/// The band that stands for a region, in label pixels, cut to the shown picture at right and
-/// bottom. Negative values count as 0, and a region far away stays within Qt's coordinates.
-QRect bandForRegion(const SensorRegion& region, const LabelGeometry& geometry);
+/// The band that stands for a region, cut to the shown picture at right and bottom. A region far
+/// away stays within Qt's coordinates.
+QRect bandForRegion(const QRect& region, const LabelGeometry& geometry);
 
 /// The band of a label that has no region yet: all of its width.
 QRect bandWithoutRegion(const LabelGeometry& geometry);
@@ -61,5 +46,5 @@ QRect bandForMouse(const QRect& band, const LabelGeometry& geometry);
 
 /// Where a band goes while its label is being resized. An estimate that keeps a full band full; the
 /// exact place follows from the region once the size has settled.
-/// @param formerSize the label's size before, at least 1 x 1 as the one now
+/// @param formerSize of the label, at least 1 x 1 as the one now
 QRect bandForResize(const QRect& band, const QSize& formerSize, const LabelGeometry& geometry);

@@ -2,15 +2,13 @@
 
 #include "regions/label/LabelBand.h"
 
+#include "sensor/PixelRect.h"
+
 #include <QApplication>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPointer>
 #include <QResizeEvent>
-#include <QTimer>
-
-#include <algorithm>
-#include <utility>
 
 namespace {
 
@@ -22,25 +20,19 @@ constexpr int bandAlpha = 80;
 RubberBandLabel::RubberBandLabel(int sensorWidth, int sensorHeight, const QColor& color,
                                  QWidget* parent)
     : SensorLabel({sensorWidth, sensorHeight}, color, parent)
-    , m_color(color)
-    , m_settleTimer(new QTimer(this))
     , m_band(new LabelBand(this))
 {
     setOpaqueColor(Qt::black); // from now on: the first placeholder is grey
-    m_settleTimer->setSingleShot(true);
-    m_settleTimer->setInterval(settleTimeMs);
-    connect(m_settleTimer, &QTimer::timeout, this, &RubberBandLabel::UpdateGeometryAfterResize);
+    m_settleTimer.setSingleShot(true);
+    m_settleTimer.setInterval(settleTimeMs);
+    connect(&m_settleTimer, &QTimer::timeout, this, &RubberBandLabel::UpdateGeometryAfterResize);
 }
 
 void RubberBandLabel::setRegion(int top, int left, int width, int height)
 {
-    const SensorRegion region{top, std::max(0, left), std::max(0, width), std::max(0, height)};
-    if (isDragging()) {
-        m_waitingRegion = region;
-    } else {
-        m_region = region;
+    m_region = truncatedRect(left, top, width, height);
+    if (!isDragging())
         placeBand();
-    }
 }
 
 void RubberBandLabel::setSensorSize(int width, int height)
@@ -67,7 +59,7 @@ int RubberBandLabel::heightForWidth(int width) const
 void RubberBandLabel::UpdateGeometryAfterResize()
 {
     if (isDragging())
-        m_settleTimer->start();
+        m_settleTimer.start();
     else
         placeBand();
 }
@@ -75,41 +67,38 @@ void RubberBandLabel::UpdateGeometryAfterResize()
 bool RubberBandLabel::grabs(const QPoint& point) const
 {
     const LabelGeometry current = labelGeometry();
-    return labelPerSensor(current) >= smallestScale
-        && flagsForPress(bandForMouse(m_band->geometry(), current), point).any();
+    return canPlaceBand(current)
+        && grabForPress(bandForMouse(m_band->geometry(), current), point).any();
 }
 
 void RubberBandLabel::press(const QPoint& point)
 {
-    const SensorRegion region = m_region.value_or(SensorRegion::whole(sensorSize()));
-    m_drag = dragFromPress(point, m_band->geometry(), m_shownCursor, region, labelGeometry());
-    m_heldRegion = m_drag->region;
+    m_heldRegion = m_region.value_or(QRect(QPoint(0, 0), sensorSize()));
+    m_drag = dragFromPress(point, m_band->geometry(), m_shownCursor, m_heldRegion, labelGeometry());
     emit GeometryChangeStarted();
 }
 
 void RubberBandLabel::drag(const QPoint& point)
 {
-    const EdgeDragStep step = dragBand(*m_drag, m_band->geometry(), point, labelGeometry());
-    m_band->setGeometry(step.band);
-    m_heldRegion = regionForRelease(*m_drag, step.band, {0, 0}, labelGeometry());
-    emit UpdateGeometry(step.region.top, step.region.left, step.region.width, step.region.height);
+    const LabelGeometry current = labelGeometry();
+    const QRect band = draggedBand(*m_drag, point, current);
+    m_band->setGeometry(band);
+    m_heldRegion = releasedRegion(*m_drag, band, {0, 0}, current);
+    const QRect region = provisionalRegion(*m_drag, band, current);
+    emit UpdateGeometry(region.y(), region.x(), region.width(), region.height());
 }
 
 void RubberBandLabel::release(const QPoint& point)
 {
-    const SensorRegion region
-        = regionForRelease(*m_drag, m_band->geometry(), point, labelGeometry());
+    const QRect region = releasedRegion(*m_drag, m_band->geometry(), point, labelGeometry());
     m_drag.reset();
-    m_waitingRegion.reset();
     m_region = region;
-    emit SendGeometry(region.top, region.left, region.width, region.height);
+    emit SendGeometry(region.y(), region.x(), region.width(), region.height());
 }
 
 void RubberBandLabel::drop()
 {
     m_drag.reset();
-    if (const auto waiting = std::exchange(m_waitingRegion, std::nullopt))
-        m_region = waiting;
     placeBand();
 }
 
@@ -132,38 +121,33 @@ void RubberBandLabel::mousePressEvent(QMouseEvent* event)
 
 void RubberBandLabel::resizeEvent(QResizeEvent* event)
 {
-    const LabelGeometry former{event->oldSize(), sensorSize(), shownSize()};
+    const double formerScale = labelPerSensor({event->oldSize(), sensorSize(), {}});
     SensorLabel::resizeEvent(event);
-    if (labelPerSensor(labelGeometry()) < smallestScale)
+    const LabelGeometry current = labelGeometry();
+    if (!canPlaceBand(current)) {
         dropDrag();
-    else if (!former.label.isEmpty()) // the first resize has no size before it
-        resizeBand(former);
-    m_settleTimer->start();
+    } else if (m_drag) {
+        // The release reads the region off the band, for which an estimate would not do.
+        m_drag->grabOffset *= labelPerSensor(current) / formerScale;
+        m_drag->band = atLeastOnePixel(bandForRegion(m_heldRegion, current));
+        m_band->setGeometry(m_drag->band);
+    } else if (!event->oldSize().isEmpty()) { // the first resize has no size before it
+        m_band->setGeometry(bandForResize(m_band->geometry(), event->oldSize(), current));
+    }
+    m_settleTimer.start();
     if (event->size().width() != event->oldSize().width())
         updateGeometry();
-}
-
-void RubberBandLabel::resizeBand(const LabelGeometry& former)
-{
-    const LabelGeometry current = labelGeometry();
-    if (!m_drag) {
-        m_band->setGeometry(bandForResize(m_band->geometry(), former.label, current));
-        return;
-    }
-    // The release reads the region off the band, for which an estimate would not do.
-    m_drag->grabOffset *= labelPerSensor(current) / labelPerSensor(former);
-    m_band->setGeometry(atLeastOnePixel(bandForRegion(m_heldRegion, current)));
 }
 
 void RubberBandLabel::showEvent(QShowEvent* event)
 {
     SensorLabel::showEvent(event);
-    if (!m_region || m_region->top < 0)
+    if (!m_region || m_region->y() < 0)
         m_band->setGeometry(bandWithoutRegion(labelGeometry()));
     else
-        UpdateGeometryAfterResize();
+        placeBand();
 
-    QColor highlight = m_color;
+    QColor highlight = color();
     highlight.setAlpha(bandAlpha);
     QPalette palette;
     palette.setBrush(QPalette::Highlight, highlight);
@@ -200,7 +184,7 @@ LabelGeometry RubberBandLabel::labelGeometry() const
 void RubberBandLabel::placeBand()
 {
     const LabelGeometry current = labelGeometry();
-    if (labelPerSensor(current) < smallestScale)
-        return;
-    m_band->setGeometry(m_region ? bandForRegion(*m_region, current) : bandWithoutRegion(current));
+    if (canPlaceBand(current))
+        m_band->setGeometry(m_region ? bandForRegion(*m_region, current)
+                                     : bandWithoutRegion(current));
 }

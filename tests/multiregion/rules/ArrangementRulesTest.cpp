@@ -19,8 +19,8 @@ private slots:
     /// to lie in a row; mirrored in a column.
     void places_data()
     {
-        const DataTable row([](const RegionSpan& current, const SizeRange& size,
-                               const RegionSpan& inRow, int columnSize) {
+        const DataTable row([](const Span<int>& current, const SizeRange& size,
+                               const Span<int>& inRow, int columnSize) {
             const auto placed = [&](Qt::Orientation axis) {
                 return placedRegion(axis,
                                     {1000, QRect(40, 40, 60, 60), withSpan({}, axis, {100, 200}),

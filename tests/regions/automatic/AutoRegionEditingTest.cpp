@@ -109,7 +109,7 @@ private slots:
     void keepsNoDropThatTheCameraRefuses()
     {
         const AutoROIPage p("aoi-gated");
-        const SensorRegion before = p.label->region();
+        const QRect before = p.label->region();
         p.click("cbEnable");
         drag(p.label, p.at(1296, 972), p.at(1500, 1100));
         QCOMPARE(text(p.label->region()), text(before));
@@ -245,10 +245,10 @@ private slots:
                 camera.failures().add(name, sim::Operation::GetValue, sim::Failure::refuse());
             });
             QCOMPARE(p.constructionWrites.join(", "), QString());
-            QVERIFY(p.label->region() == SensorRegion());
+            QVERIFY(p.label->region() == QRect());
             p.camera->failures().clear();
             p.page->updateTimer();
-            QVERIFY(p.label->region().width > 0);
+            QVERIFY(p.label->region().width() > 0);
         }
     }
 
@@ -276,8 +276,8 @@ private slots:
         const DataTable row([](const QString& feature, const QString& text) {
             const AutoROIPage p("aoi");
             const auto isOn = [&] { return p.camera->feature("AutofunctionAOIEnable").isOn(); };
-            const SensorRegion r = p.label->region();
-            p.page->OnSendGeometry(r.top, r.left, r.width, r.height);
+            const QRect r = p.label->region();
+            p.page->OnSendGeometry(r.y(), r.x(), r.width(), r.height());
             p.camera->force(feature.toStdString(), 2400);
             p.settle();
             QVERIFY(isOn()); // still counts as part of the drag

@@ -46,9 +46,9 @@ private slots:
             [](double top, double bottom, bool valid, int drawnTop, int drawnHeight) {
                 const AutoRegion region{{0.0, 10.0}, spanBetween(top, bottom)};
                 QCOMPARE(hasValidEdges(region, {10, 20}), valid);
-                const SensorRegion drawn = drawnByEdges(region, {10, 20});
-                QCOMPARE(drawn.top, drawnTop);
-                QCOMPARE(drawn.height, drawnHeight);
+                const QRect drawn = drawnByEdges(region, {10, 20});
+                QCOMPARE(drawn.y(), drawnTop);
+                QCOMPARE(drawn.height(), drawnHeight);
             });
         row("whole", 0, 20, true, 0, 20);
         row("empty", 5, 5, false, 5, 0);
@@ -75,11 +75,11 @@ private slots:
     void drawsWithoutTheOrigin()
     {
         const QPointF origin(8.0, 4.0);
-        const AutoRegion region = fromLabel({10, 20, 70, 50}, origin);
+        const AutoRegion region = fromLabel({20, 10, 70, 50}, origin);
         QCOMPARE(region.horizontal.end(), 98.0);
         QCOMPARE(region.vertical.end(), 64.0);
-        QVERIFY((drawnBySize(region, origin, {60, 100}) == SensorRegion{10, 20, 60, 50}));
-        QVERIFY((drawnBySize(region, origin, {15, 100}) == SensorRegion{10, 15, 15, 50}));
+        QVERIFY((drawnBySize(region, origin, {60, 100}) == QRect(20, 10, 60, 50)));
+        QVERIFY((drawnBySize(region, origin, {15, 100}) == QRect(15, 10, 15, 50)));
     }
 };
 

@@ -15,7 +15,7 @@ class AutoRegionWriterTest : public QObject
 private slots:
     void writesDrawnRegions_data()
     {
-        const DataTable row([](const QByteArray& model, const SensorRegion& region,
+        const DataTable row([](const QByteArray& model, const QRect& region,
                                const QString& expected) {
             const auto camera = sim::createCamera(model.toStdString());
             for (const auto& [edge, value] : {std::pair("Left", 648), std::pair("Top", 486),
@@ -40,15 +40,15 @@ private slots:
             }
             QCOMPARE(writes.join(", "), expected);
         });
-        row("offsets, then sizes", "aoi", SensorRegion{101, 201, 640, 480},
+        row("offsets, then sizes", "aoi", QRect(201, 101, 640, 480),
             "OffsetX 204, OffsetY 102, Height 480, Width 640");
-        row("taken only beside the new size", "aoi", SensorRegion{1900, 2500, 640, 480},
+        row("taken only beside the new size", "aoi", QRect(2500, 1900, 640, 480),
             "OffsetX 1296, OffsetY 972, Height 44, Width 88, OffsetX 2500, OffsetY 1900");
-        row("down and right", "dsp", SensorRegion{600, 800, 1296, 972},
+        row("down and right", "dsp", QRect(800, 600, 1296, 972),
             "Right 2096, Left 800, Bottom 1572, Top 600");
-        row("up and left", "dsp", SensorRegion{100, 200, 1296, 972},
+        row("up and left", "dsp", QRect(200, 100, 1296, 972),
             "Left 200, Right 1496, Top 100, Bottom 1072");
-        row("without extent", "dsp", SensorRegion{100, 200, 0, 0},
+        row("without extent", "dsp", QRect(200, 100, 0, 0),
             "Left 200, Right 201, Top 100, Bottom 101");
     }
     void writesDrawnRegions() { runRow(); }
