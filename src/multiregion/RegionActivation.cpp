@@ -49,9 +49,10 @@ void RegionActivation::switchOff(int region, const Toggle& toggle)
     if (toggle.question != Question::None) {
         const QPointer<RegionActivation> self(this);
         const std::optional<Answer> answer = m_ask(toggle.question);
-        if (!self || answer == Answer::None)
+        const bool isChoice = toggle.question == Question::RowOrColumnOff;
+        if (!self || (isChoice && answer == Answer::None))
             return;
-        if (!answer || answer == Answer::Rejected) {
+        if (!answer || answer == Answer::Rejected || answer == Answer::None) {
             m_display.setChecked(region, true);
             return;
         }
@@ -166,6 +167,8 @@ void RegionActivation::loadDefaults(const QColor& color)
 void RegionActivation::applyDefaults(const QColor& color)
 {
     const std::optional<QSize> sensor = m_camera.readSensorSize();
+    if (!sensor)
+        return;
     for (int region = m_display.count() - 1; region >= 0; --region) {
         m_writer.save(region, {});
         m_writer.setActive(region, false);
@@ -173,7 +176,7 @@ void RegionActivation::applyDefaults(const QColor& color)
             return;
     }
     m_display.open(0);
-    if (!sensor || !m_writer.select(0))
+    if (!m_writer.select(0))
         return;
     const auto width = m_camera.readSizeRange(Qt::Horizontal);
     const auto height = m_camera.readSizeRange(Qt::Vertical);
