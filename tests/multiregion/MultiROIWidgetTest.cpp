@@ -275,22 +275,11 @@ private slots:
     void refusals()
     {
         MultiROIPage open("multi-region", "Free");
-        open.camera->failures().add("SubRegionMode", sim::Operation::SetValue,
-                                    sim::Failure::refuse());
+        for (const char* feature : {"SubRegionMode", "MultipleRegionEnable"})
+            open.camera->failures().add(feature, sim::Operation::SetValue, sim::Failure::refuse());
         open.button(1)->click();
         QCOMPARE(open.contradiction(), QString());
-        open.camera->failures().clear();
-        open.loadDefaults();
-        open.camera->failures().add("SubRegionSelector", sim::Operation::SetValue,
-                                    sim::Failure::refuse());
-        open.button(2)->click();
-        QCOMPARE(open.active(), QString("0123"));
-        QCOMPARE(open.contradiction(), QString());
-        open.camera->failures().clear();
-
         auto* const enable = open.page->findChild<QCheckBox*>("chkMultipleRegionEnable");
-        open.camera->failures().add("MultipleRegionEnable", sim::Operation::SetValue,
-                                    sim::Failure::refuse());
         QSignalSpy told(open.page.get(), &MultiROIWidget::multipleRegionsEnabled);
         const bool isOn = enable->isChecked();
         enable->setChecked(!isOn);
@@ -323,21 +312,6 @@ private slots:
         QCOMPARE(open.contradiction(), QString());
     }
 
-    /// A receiver that selects another region does not make the page read that one instead.
-    void selectsAgainAfterSignals()
-    {
-        const MultiROIPage open("multi-region", "Free");
-        open.loadDefaults();
-        open.switchOff(1);
-        open.camera->setNotifications(sim::NotificationSettings::off());
-        open.camera->forceAt("SubRegionMode", 1, "On");
-        connect(open.page.get(), &MultiROIWidget::regionActivated, open.page.get(),
-                [&open] { open.writeAsOther("SubRegionSelector", "Region0"); });
-        open.page->setFeatureValue(2, -1, "SubRegionWidth", 320);
-        QVERIFY(open.isOn(1));
-        QCOMPARE(open.contradiction(), QString());
-    }
-
     /// Reads are refused for a while: what is shown stays, and in the end agrees with the camera.
     void refusedReadsEnd()
     {
@@ -364,44 +338,38 @@ private slots:
     {
         using Action = std::function<void(const MultiROIPage&)>;
         const DataTable row([](const Action& action) {
-            for (const bool isLabel : {false, true}) {
-                for (int signal = 0; signal < 8; ++signal) {
-                    MultiROIPage open("multi-region", "Horizontal");
-                    open.loadDefaults();
-                    MultiROIWidget* const page = open.page.get();
-                    bool isTold = false;
-                    const auto end = [&open, &isTold, isLabel] {
+            for (int run = 0; run < 16; ++run) {
+                const bool isLabel = run % 2 > 0;
+                MultiROIPage open("multi-region", "Horizontal");
+                open.loadDefaults();
+                bool isTold = false;
+                const auto endAt = [&](auto* sender, auto signal) {
+                    connect(sender, signal, qApp, [&open, &isTold, isLabel] {
                         isTold = true;
                         if (isLabel)
                             delete open.page->findChild<MultiRubberBandLabel*>();
                         else
                             open.page.reset();
-                    };
-                    using Page = MultiROIWidget;
-                    if (signal == 0)
-                        connect(page, &Page::loggingMessage, qApp, end);
-                    else if (signal == 1)
-                        connect(page, &Page::multipleRegionsEnabled, qApp, end);
-                    else if (signal == 2)
-                        connect(page, &Page::regionColorChanged, qApp, end);
-                    else if (signal == 3)
-                        connect(page, &Page::currentRegionChanged, qApp, end);
-                    else if (signal == 4)
-                        connect(page, &Page::regionActivated, qApp, end);
-                    else if (signal == 5)
-                        connect(open.label, &MultiRubberBandLabel::regionColorChanged, qApp, end);
-                    else if (signal == 6)
-                        connect(open.label, &MultiRubberBandLabel::regionRangeChanged, qApp, end);
-                    else
-                        connect(open.label, &MultiRubberBandLabel::highlightSelectedRegion, qApp,
-                                end);
-                    Answers answers({"OK", "OK"});
-                    action(open);
-                    if (isLabel)
-                        open.settle();
-                    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-                    QCOMPARE(!open.page, isTold && !isLabel);
-                }
+                    });
+                };
+                using Page = MultiROIWidget;
+                using Label = MultiRubberBandLabel;
+                const std::function<void()> connections[]
+                    = {[&] { endAt(open.page.get(), &Page::loggingMessage); },
+                       [&] { endAt(open.page.get(), &Page::multipleRegionsEnabled); },
+                       [&] { endAt(open.page.get(), &Page::regionColorChanged); },
+                       [&] { endAt(open.page.get(), &Page::currentRegionChanged); },
+                       [&] { endAt(open.page.get(), &Page::regionActivated); },
+                       [&] { endAt(open.label, &Label::regionColorChanged); },
+                       [&] { endAt(open.label, &Label::regionRangeChanged); },
+                       [&] { endAt(open.label, &Label::highlightSelectedRegion); }};
+                connections[run / 2]();
+                Answers answers({"OK", "OK"});
+                action(open);
+                if (isLabel)
+                    open.settle();
+                QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+                QCOMPARE(!open.page, isTold && !isLabel);
             }
         });
         row("button", [](const MultiROIPage& open) { open.button(2)->click(); });
