@@ -21,8 +21,7 @@ namespace {
 QString anyNumber(Random& random)
 {
     if (random.oneIn(8))
-        return random.pick({QStringLiteral("-"), QStringLiteral("abc"), QStringLiteral("1e9"),
-                            QStringLiteral("99999999999"), QString()});
+        return random.pick({"-", "abc", "1e9", "99999999999", ""});
     return QString::number(random.below(random.pick({10, 200, 3000, 20000})));
 }
 
@@ -157,12 +156,6 @@ void pickPicture(Session& session)
     }
 }
 
-void leaveField(Session&)
-{
-    if (QWidget* const field = QApplication::focusWidget())
-        field->clearFocus();
-}
-
 void stream(Session& session)
 {
     const bool runs = session.random.oneIn(2);
@@ -244,7 +237,7 @@ constexpr std::array actions{
     Action{"scrolling", 3, scroll},
     Action{"resizing", 3, resizeWindow},
     Action{"changing the theme", 1, changeTheme},
-    Action{"leaving a field", 4, leaveField},
+    Action{"leaving a field", 4, [](Session&) { leaveField(); }},
     Action{"hiding and showing", 2, hideAndShow},
     Action{"reopening", 2, reopen},
     Action{"streaming", 4, stream},
@@ -265,16 +258,7 @@ void leaveTyped(Session& session)
         typeIntoField(session);
 }
 
-const Action& pickAction(Session& session)
+const Action& pickAction(Random& random)
 {
-    int total = 0;
-    for (const Action& action : actions)
-        total += action.weight;
-    int place = session.random.below(total);
-    for (const Action& action : actions) {
-        place -= action.weight;
-        if (place < 0)
-            return action;
-    }
-    return actions.front();
+    return random.pickWeighted(actions);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+class Random;
 class Session;
 
 /// Something that a person, the viewer, the camera or another client does.
@@ -14,4 +15,4 @@ struct Action
 /// Leaves a number typed into a field or a cell, not entered.
 void leaveTyped(Session& session);
 
-const Action& pickAction(Session& session);
+const Action& pickAction(Random& random);

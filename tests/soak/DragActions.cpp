@@ -8,10 +8,12 @@
 #include <QMenu>
 #include <QRubberBand>
 
+#include <array>
+
 namespace {
 
 // The pictures are the labels that carry bands.
-QLabel* anyPicture(Session& session)
+QPointer<QLabel> anyPicture(Session& session)
 {
     QList<QLabel*> pictures;
     for (QLabel* const label : usable<QLabel>(session)) {
@@ -19,6 +21,17 @@ QLabel* anyPicture(Session& session)
             pictures.append(label);
     }
     return pictures.isEmpty() ? nullptr : session.random.pick(pictures);
+}
+
+void resizeWindow(Session& session, int smallest, int largest)
+{
+    const int height = session.random.between(smallest, largest);
+    session.resize(session.random.between(smallest, largest), height);
+}
+
+void sendLastFrame(Session& session)
+{
+    emit session.host().sendFrame(session.host().lastFrame);
 }
 
 QList<QRubberBand*> linesOf(const QLabel& picture)
@@ -56,53 +69,45 @@ QPoint pressPoint(Random& random, const QLabel& picture)
     return {along(band.x(), band.width()), along(band.y(), band.height())};
 }
 
-enum class Disturbance {
+enum class Effect {
     None,
     Camera,
     Mouse ///< is taken away, which ends the drag
 };
 
-Disturbance disturb(Session& session)
+struct Disturbance
 {
-    Random& random = session.random;
-    switch (random.below(34)) {
-    case 0:
-        session.closePage("mid-drag");
-        break;
-    case 1:
-        session.host().hide();
-        session.host().show();
-        break;
-    case 2:
-    case 3:
-        session.resize(random.between(200, 900), random.between(200, 900));
-        break;
-    case 4:
-    case 5:
-    case 6:
-    case 7:
-        session.misbehaviour().writeFromOutside();
-        return Disturbance::Camera;
-    case 8:
-        emit session.host().streaming(random.oneIn(2));
-        break;
-    case 9:
-    case 10:
-        emit session.host().sendFrame(session.host().lastFrame);
-        break;
-    case 11:
-    case 12: {
-        QMenu menu;
-        menu.addAction(QStringLiteral("An entry"));
-        menu.popup({});
-        session.pass(20);
-        return Disturbance::Mouse;
-    }
-    default:
-        session.pass(random.pick({0, 0, 0, 20, 300, 1100}));
-    }
-    return Disturbance::None;
-}
+    int weight;
+    void (*perform)(Session&);
+    Effect effect = Effect::None;
+};
+
+const std::array disturbances{
+    Disturbance{1, [](Session& session) { session.closePage("mid-drag"); }},
+    Disturbance{1,
+                [](Session& session) {
+                    session.host().hide();
+                    session.host().show();
+                }},
+    Disturbance{2, [](Session& session) { resizeWindow(session, 200, 900); }},
+    Disturbance{4, [](Session& session) { session.misbehaviour().writeFromOutside(); },
+                Effect::Camera},
+    Disturbance{1,
+                [](Session& session) { emit session.host().streaming(session.random.oneIn(2)); }},
+    Disturbance{2, sendLastFrame},
+    Disturbance{2,
+                [](Session& session) {
+                    QMenu menu;
+                    menu.addAction("An entry");
+                    menu.popup({});
+                    session.pass(20);
+                },
+                Effect::Mouse},
+    Disturbance{21,
+                [](Session& session) {
+                    session.pass(session.random.pick({0, 0, 0, 20, 300, 1100}));
+                }},
+};
 
 // A tile may lie over another while its neighbour is off; and a camera that refuses one of several
 // writes keeps what comes of it.
@@ -126,8 +131,8 @@ void dragRegion(Session& session)
     const bool isTyped = random.oneIn(4);
     if (isTyped)
         leaveTyped(session);
-    else if (QWidget* const field = QApplication::focusWidget())
-        field->clearFocus();
+    else
+        leaveField();
     session.pass(0);
     if (!picture || !picture->isVisible() || !picture->isEnabled())
         return;
@@ -147,18 +152,18 @@ void dragRegion(Session& session)
         sendMouse(picture, QEvent::MouseMove, to);
         if (!picture || !random.oneIn(2))
             continue;
-        const Disturbance disturbance = disturb(session);
-        isAlone = isAlone && disturbance != Disturbance::Camera;
-        isDropped = isDropped || disturbance == Disturbance::Mouse;
+        const Disturbance& disturbance = random.pickWeighted(disturbances);
+        disturbance.perform(session);
+        isAlone = isAlone && disturbance.effect != Effect::Camera;
+        isDropped = isDropped || disturbance.effect == Effect::Mouse;
     }
     const auto findWrites = [&session](const char* text) {
         // A region that lies outside switches the automatic function off when it is noticed; and a
         // press beside the regions starts no drag, so that they are read on, one selected after
         // the other.
-        const QStringList writes = session.takeWrites(
-            {QStringLiteral("AutofunctionAOIEnable"), QStringLiteral("SubRegionSelector")});
+        const QString writes = session.takeWrites({"AutofunctionAOIEnable", "SubRegionSelector"});
         if (session.isHonest() && session.page() && !writes.isEmpty())
-            session.find(QLatin1String(text).arg(writes.join(QLatin1String(", "))));
+            session.find(QString(text).arg(writes));
     };
     findWrites("a drag wrote %1 before its release");
     if (picture)
@@ -166,21 +171,19 @@ void dragRegion(Session& session)
     if (isDropped)
         findWrites("a drag that had lost the mouse wrote %1");
     if (isAlone && mustNotOverlap(session) && Invariants::countOverlaps(session) > overlaps)
-        session.find(QStringLiteral("a drag made regions overlap"));
+        session.find("a drag made regions overlap");
 }
 
 void dragLine(Session& session)
 {
     Random& random = session.random;
     const QPointer<QLabel> picture = anyPicture(session);
-    QList<QRubberBand*> lines = picture ? linesOf(*picture) : QList<QRubberBand*>();
-    if (lines.isEmpty())
+    if (!picture || linesOf(*picture).isEmpty())
         return;
-    if (QWidget* const field = QApplication::focusWidget())
-        field->clearFocus();
-    emit session.host().sendFrame(session.host().lastFrame);
+    leaveField();
+    sendLastFrame(session);
     session.pass(0);
-    lines = picture ? linesOf(*picture) : QList<QRubberBand*>();
+    const auto lines = picture ? linesOf(*picture) : QList<QRubberBand*>();
     if (lines.isEmpty() || !picture->isEnabled())
         return;
     const QRect start = random.pick(lines)->geometry();
@@ -210,15 +213,15 @@ void dragLine(Session& session)
     const int formerExtent = extent();
     if (picture && isLineAt(reached, 2.0) && formerExtent > 0) {
         if (random.oneIn(2))
-            session.resize(random.between(400, 900), random.between(400, 900));
+            resizeWindow(session, 400, 900);
         else
-            emit session.host().sendFrame(session.host().lastFrame);
+            sendLastFrame(session);
         session.pass(0);
         const double scale = picture ? double(extent()) / formerExtent : 0.0;
         if (picture)
             moveBy(scale, distance);
         if (picture && scale > 0.3 && !isLineAt(reached * scale, 3.0))
-            session.find(QStringLiteral("a line was lost in its drag"));
+            session.find("a line was lost in its drag");
     }
     if (picture)
         release(picture, start.center());

@@ -13,8 +13,6 @@
 
 #include <cmath>
 
-namespace Invariants {
-
 namespace {
 
 /// A field of a region page and the features it shows, of which the camera's first counts.
@@ -44,19 +42,6 @@ const std::initializer_list<Field> fields{
     {"AutoROIWidget", "spinExpAutoMax", {"ExposureAutoMax"}},
 };
 
-QString valueText(const sim::Camera& camera, const std::string& feature)
-{
-    return QString::fromStdString(camera.feature(feature).text());
-}
-
-void compare(QStringList& findings, const QString& what, double shown, double held,
-             double tolerance)
-{
-    if (!(std::abs(shown - held) <= tolerance))
-        findings.append(
-            QStringLiteral("%1 shows %2, the camera holds %3").arg(what).arg(shown).arg(held));
-}
-
 bool isOn(const char* page, const QWidget* widget)
 {
     while (widget && !widget->inherits(page))
@@ -64,131 +49,148 @@ bool isOn(const char* page, const QWidget* widget)
     return widget;
 }
 
-void checkRegionFields(Session& session, QStringList& findings)
+/// Whether the page shows what the camera holds.
+class Comparison
 {
-    for (const Field& field : fields) {
-        for (QDoubleSpinBox* const box : usable<QDoubleSpinBox>(session)) {
-            if (box->objectName() != QLatin1String(field.name))
-                continue;
+public:
+    explicit Comparison(Session& session)
+        : m_session(session)
+        , m_camera(session.camera())
+        , m_state(m_camera.snapshot())
+    {
+        compareRegionFields();
+        compareBoundFields();
+        compareBand();
+        compareBands();
+        compareTables();
+    }
+
+    QStringList findings;
+
+private:
+    void add(const QString& what, const QString& shown, const QString& held)
+    {
+        findings.append(QString("%1 shows %2, the camera holds %3").arg(what, shown, held));
+    }
+    void compare(const QString& what, const QString& shown, const std::string& held)
+    {
+        if (shown != QString::fromStdString(held))
+            add(what, shown, QString::fromStdString(held));
+    }
+    void compare(const QString& what, double shown, double held, double tolerance)
+    {
+        if (!(std::abs(shown - held) <= tolerance))
+            add(what, QString::number(shown), QString::number(held));
+    }
+
+    void compareRegionFields();
+    void compareBoundFields();
+    void compareBand();
+    void compareBands();
+    void compareTables();
+
+    Session& m_session;
+    const sim::Camera& m_camera;
+    const sim::Snapshot m_state;
+};
+
+void Comparison::compareRegionFields()
+{
+    for (const QDoubleSpinBox* const box : usable<QDoubleSpinBox>(m_session)) {
+        for (const auto& [page, name, features] : fields) {
             const auto feature
-                = std::find_if(field.features.begin(), field.features.end(),
-                               [&](const char* name) { return session.camera().has(name); });
-            if (isOn(field.page, box) && feature != field.features.end())
-                compare(findings, QStringLiteral("%1 of %2").arg(box->objectName(), field.page),
-                        box->value(), session.camera().feature(*feature).number(),
-                        std::pow(10.0, -box->decimals()));
+                = std::find_if(features.begin(), features.end(),
+                               [&](auto* candidate) { return m_camera.has(candidate); });
+            if (box->objectName() == name && isOn(page, box) && feature != features.end())
+                compare(box->objectName() + " of " + page, box->value(),
+                        m_camera.feature(*feature).number(), std::pow(10.0, -box->decimals()));
         }
     }
 }
 
 // Fields that are named after a feature, with three letters before.
-void checkBoundFields(Session& session, QStringList& findings)
+void Comparison::compareBoundFields()
 {
-    for (QWidget* const widget : usable<QWidget>(session)) {
-        const std::string feature = widget->objectName().mid(3).toStdString();
-        if (!session.camera().has(feature))
+    for (const QWidget* const widget : usable<QWidget>(m_session)) {
+        const QString name = widget->objectName();
+        const std::string feature = name.mid(3).toStdString();
+        if (!m_camera.has(feature))
             continue;
-        const QString held = valueText(session.camera(), feature);
-        QString shown = held;
-        if (const auto* const box = qobject_cast<QSpinBox*>(widget))
-            shown = QString::number(box->value());
-        else if (const auto* const list = qobject_cast<QComboBox*>(widget))
-            shown = list->currentText();
-        else if (const auto* const check = qobject_cast<QCheckBox*>(widget))
-            compare(findings, check->objectName(), check->isChecked(),
-                    session.camera().feature(feature).isOn(), 0.0);
-        if (shown != held)
-            findings.append(QStringLiteral("%1 shows %2, the camera holds %3")
-                                .arg(widget->objectName(), shown, held));
+        const std::string held = m_camera.feature(feature).text();
+        if (const auto* const box = qobject_cast<const QSpinBox*>(widget))
+            compare(name, QString::number(box->value()), held);
+        else if (const auto* const list = qobject_cast<const QComboBox*>(widget))
+            compare(name, list->currentText(), held);
+        else if (const auto* const check = qobject_cast<const QCheckBox*>(widget))
+            compare(name, check->isChecked(), m_camera.feature(feature).isOn(), 0.0);
     }
 }
 
 // The page of the single region: its band covers the camera's region, to the pixel, but ends with
 // the picture, which keeps the rounded aspect ratio of the size at which it was chosen.
-void checkBand(Session& session, QStringList& findings)
+void Comparison::compareBand()
 {
-    const sim::Snapshot state = session.camera().snapshot();
-    for (const QLabel* const label : usable<QLabel>(session)) {
+    for (const QLabel* const label : usable<QLabel>(m_session)) {
         const auto* const band = label->findChild<QRubberBand*>();
-        if (!isOn("AOIWidget", label) || !band || state.regions.empty() || state.maximum.isEmpty())
+        if (!isOn("AOIWidget", label) || !band || m_state.regions.empty()
+            || m_state.maximum.isEmpty())
             continue;
-        const auto& region = state.regions.front();
+        const auto& region = m_state.regions.front();
+        const auto sensorWidth = double(m_state.maximum.width);
+        const double ratio = sensorWidth / double(m_state.maximum.height);
         const double width
-            = std::min(double(label->width()),
-                       std::floor(double(label->height()) * double(state.maximum.width)
-                                      / double(state.maximum.height)
-                                  + 0.5));
-        const double scale = width / double(state.maximum.width);
-        compare(findings, QStringLiteral("the band's left"), band->x(), double(region.x) * scale,
-                1.0);
-        compare(findings, QStringLiteral("the band's top"), band->y(), double(region.y) * scale,
-                1.0);
+            = std::min(double(label->width()), std::floor(label->height() * ratio + 0.5));
+        const double scale = width / sensorWidth;
         const QSize picture = label->pixmap(Qt::ReturnByValue).size();
-        compare(findings, QStringLiteral("the band's width"), band->width(),
-                std::min(double(region.width) * scale, double(picture.width() - band->x())), 2.0);
-        compare(findings, QStringLiteral("the band's height"), band->height(),
-                std::min(double(region.height) * scale, double(picture.height() - band->y())), 2.0);
+        const auto compareLength = [&](const char* what, int shown, double length, int room) {
+            compare(what, shown, std::min(length * scale, double(room)), 2.0);
+        };
+        compare("the band's left", band->x(), double(region.x) * scale, 1.0);
+        compare("the band's top", band->y(), double(region.y) * scale, 1.0);
+        compareLength("the band's width", band->width(), double(region.width),
+                      picture.width() - band->x());
+        compareLength("the band's height", band->height(), double(region.height),
+                      picture.height() - band->y());
     }
 }
 
 // Each region that is switched on has its band, and no other has one.
-void checkRegionBands(Session& session, QStringList& findings)
+void Comparison::compareBands()
 {
-    const sim::Snapshot state = session.camera().snapshot();
-    for (const QLabel* const label : usable<QLabel>(session)) {
-        if (!label->inherits("MultiRubberBandLabel") || !state.hasMultipleRegions)
+    for (const QLabel* const label : usable<QLabel>(m_session)) {
+        if (!label->inherits("MultiRubberBandLabel") || !m_state.hasMultipleRegions)
             continue;
         int shown = 0;
         for (const QRubberBand* const band : label->findChildren<QRubberBand*>())
             shown += band->inherits("RectangleRubberBand") && band->isVisible() ? 1 : 0;
-        compare(findings, QStringLiteral("the number of bands"), shown,
-                double(state.regions.size()), 0.0);
+        compare("the number of bands", shown, double(m_state.regions.size()), 0.0);
     }
 }
 
 // The table of the region whose tab is open: a name and a value in each row.
-void checkRegionTables(Session& session, QStringList& findings)
+void Comparison::compareTables()
 {
-    for (const QAbstractItemView* const table : usable<QAbstractItemView>(session)) {
-        if (!table->inherits("RegionTableWidget"))
+    for (const QAbstractItemView* const table : usable<QAbstractItemView>(m_session)) {
+        const QTabWidget* tabs = nullptr;
+        for (const QWidget* parent = table; parent && !tabs; parent = parent->parentWidget())
+            tabs = qobject_cast<const QTabWidget*>(parent);
+        if (!table->inherits("RegionTableWidget") || !tabs)
             continue;
-        const QWidget* page = table;
-        while (page && !qobject_cast<const QTabWidget*>(page->parentWidget()->parentWidget()))
-            page = page->parentWidget();
-        if (!page)
-            continue;
-        const auto* const tabs = static_cast<QTabWidget*>(page->parentWidget()->parentWidget());
+        const int region = tabs->currentIndex();
         const QAbstractItemModel* const model = table->model();
         for (int row = 0; row < model->rowCount(); ++row) {
-            const std::string name = model->index(row, 0).data().toString().toStdString();
-            if (!session.camera().has(name))
-                continue;
-            const auto held = session.camera().feature(name).valueAt(tabs->currentIndex());
-            const QString shown = model->index(row, 1).data().toString();
-            if (shown != QString::fromStdString(held.toText()))
-                findings.append(QStringLiteral("the table shows %1 for %2 of region %3, the camera "
-                                               "holds %4")
-                                    .arg(shown, QString::fromStdString(name))
-                                    .arg(tabs->currentIndex())
-                                    .arg(QString::fromStdString(held.toText())));
+            const QString name = model->index(row, 0).data().toString();
+            if (m_camera.has(name.toStdString()))
+                compare(QString("%1 of region %2").arg(name).arg(region),
+                        model->index(row, 1).data().toString(),
+                        m_camera.feature(name.toStdString()).valueAt(region).toText());
         }
     }
 }
 
-QStringList differences(Session& session)
-{
-    QStringList findings;
-    checkBoundFields(session, findings);
-    checkRegionFields(session, findings);
-    checkBand(session, findings);
-    checkRegionBands(session, findings);
-    checkRegionTables(session, findings);
-    return findings;
-}
-
 } // namespace
 
-int countOverlaps(Session& session)
+int Invariants::countOverlaps(Session& session)
 {
     const sim::Snapshot state = session.camera().snapshot();
     int overlaps = 0;
@@ -202,7 +204,7 @@ int countOverlaps(Session& session)
     return overlaps;
 }
 
-void checkRegions(Session& session)
+void Invariants::checkRegions(Session& session)
 {
     const sim::Snapshot state = session.camera().snapshot();
     if (state.maximum.isEmpty())
@@ -213,17 +215,16 @@ void checkRegions(Session& session)
             continue;
         if (region.x < 0 || region.y < 0 || region.x + region.width > state.maximum.width
             || region.y + region.height > state.maximum.height)
-            session.find(QStringLiteral("region %1 is beyond the sensor").arg(region.number));
+            session.find(QString("region %1 is beyond the sensor").arg(region.number));
     }
 }
 
-void checkAtRest(Session& session)
+void Invariants::checkAtRest(Session& session)
 {
     using Mode = sim::NotificationSettings::Mode;
     constexpr int settlingTime = 2500;
     session.camera().failures().clear();
-    if (QWidget* const field = QApplication::focusWidget())
-        field->clearFocus();
+    leaveField();
     if (session.camera().notifications().mode == Mode::Off) {
         session.host().hide();
         session.host().show();
@@ -232,27 +233,23 @@ void checkAtRest(Session& session)
     session.pass(settlingTime);
     if (!session.page())
         return;
-    // To read one of several regions it has to be selected, and a region of the automatic function
-    // outside the picture switches the function off.
-    const QStringList demanded{QStringLiteral("SubRegionSelector"),
-                               QStringLiteral("AutofunctionAOIEnable")};
     session.takeWrites();
     if (session.camera().notifications().mode != Mode::Off)
         session.misbehaviour().writeFromOutside();
     session.pass(settlingTime);
-    const QStringList writes = session.takeWrites(demanded);
+    // To read one of several regions it has to be selected, and a region of the automatic function
+    // outside the picture switches the function off.
+    const QString writes = session.takeWrites({"SubRegionSelector", "AutofunctionAOIEnable"});
     if (!writes.isEmpty())
-        session.find(QStringLiteral("a refresh wrote %1").arg(writes.join(QLatin1String(", "))));
-    QStringList findings = differences(session);
+        session.find("a refresh wrote " + writes);
+    QStringList findings = Comparison(session).findings;
     // A busy machine may let the camera's threads wait, and a camera that seemed lost is asked
     // again after seconds.
     for (int looks = 0; looks < 10 && session.hasThreads() && !findings.isEmpty(); ++looks) {
         session.camera().flushNotifications();
         session.pass(4 * settlingTime);
-        findings = differences(session);
+        findings = Comparison(session).findings;
     }
     for (const QString& finding : qAsConst(findings))
         session.find(finding);
 }
-
-} // namespace Invariants

@@ -62,6 +62,14 @@ Failure someFailure(Failure::Kind kind, Random& random)
     }
 }
 
+Occurrence aWhile(Random& random, int latestStart, int shortest, int longest)
+{
+    Occurrence result
+        = Occurrence::from(static_cast<std::uint64_t>(random.between(1, latestStart)));
+    result.count = static_cast<std::uint64_t>(random.between(shortest, longest));
+    return result;
+}
+
 // What the camera stores in place of the written value has to be a value of the camera's still.
 Operations operationsFor(Failure::Kind kind)
 {
@@ -90,11 +98,6 @@ Misbehaviour::Misbehaviour(sim::Camera& camera, Random& random)
 {
 }
 
-const std::string& Misbehaviour::anyFeature()
-{
-    return m_random.pick(m_names);
-}
-
 std::string Misbehaviour::anyObservedFeature()
 {
     std::vector<std::string> observed;
@@ -105,19 +108,20 @@ std::string Misbehaviour::anyObservedFeature()
     return observed.empty() ? std::string() : m_random.pick(observed);
 }
 
-void Misbehaviour::refuseWrites()
+bool Misbehaviour::tire()
 {
-    m_camera.failures().add(FailureInjector::anyFeature, Operations::writes(), Failure::refuse(),
-                            Occurrence::randomly(0.1, m_random.next()));
-}
-
-void Misbehaviour::refuseReads()
-{
+    const int fault = m_random.below(6);
+    if (fault == 0)
+        m_camera.failures().add(FailureInjector::anyFeature, Operations::writes(),
+                                Failure::refuse(), Occurrence::randomly(0.1, m_random.next()));
     for (const std::string& name : m_names) {
-        if (name != "DeviceVendorName")
+        if (fault == 1 && name != "DeviceVendorName")
             m_camera.failures().add(name, cameraReads, Failure::refuse(),
                                     Occurrence::randomly(0.02, m_random.next()));
     }
+    if (fault == 2)
+        slowOneDown();
+    return fault <= 2;
 }
 
 void Misbehaviour::slowOneDown()
@@ -128,8 +132,7 @@ void Misbehaviour::slowOneDown()
         if (m_camera.has(name))
             present.emplace_back(name);
     }
-    Occurrence while_ = Occurrence::from(static_cast<std::uint64_t>(m_random.between(1, 20)));
-    while_.count = static_cast<std::uint64_t>(m_random.between(2, 40));
+    const Occurrence while_ = aWhile(m_random, 20, 2, 40);
     Failure failure = Failure::refuse();
     failure.delay = std::chrono::milliseconds(120);
     if (!present.empty())
@@ -159,8 +162,7 @@ void Misbehaviour::spoil(bool withObservers)
     }
     // Some features are gone for a while, and are refused when they are back.
     for (int i = m_random.below(4); i > 0; --i) {
-        Occurrence while_ = Occurrence::from(static_cast<std::uint64_t>(m_random.between(1, 200)));
-        while_.count = static_cast<std::uint64_t>(m_random.between(1, 500));
+        const Occurrence while_ = aWhile(m_random, 200, 1, 500);
         const std::string& name = anyFeature();
         m_camera.failures().add(name, Operations::all().without(kept),
                                 Failure::refuse(ZebErrorNotFound), while_);
@@ -172,29 +174,29 @@ void Misbehaviour::spoil(bool withObservers)
 void Misbehaviour::distort()
 {
     const std::string& name = anyFeature();
-    if (m_random.oneIn(2)) {
+    if (m_random.oneIn(2))
         distortNumbers(name);
-        return;
-    }
+    else
+        distortDescription(name);
+}
+
+void Misbehaviour::distortDescription(const std::string& name)
+{
     const int what = m_random.below(4);
     const std::string text = oddText(m_random);
     m_camera.modify(name, [&](sim::FeatureDescription& feature) {
-        switch (what) {
-        case 0:
+        const bool isEnumeration = feature.type == ZebFeatureDataEnum;
+        if (what == 0) {
             feature.displayName = feature.toolTip = feature.unit = text;
             feature.description = feature.category = feature.representation = text;
-            break;
-        case 1:
+        } else if (what == 1) {
             feature.readOnly();
-            break;
-        case 2:
+        } else if (what == 2) {
             feature.readableIf([](const sim::State&) { return false; });
-            break;
-        default:
-            if (feature.type == ZebFeatureDataEnum && m_random.oneIn(2))
-                feature.entries.clear();
-            else if (feature.type == ZebFeatureDataEnum)
-                feature.entries.push_back({text, 4711});
+        } else if (isEnumeration && m_random.oneIn(2)) {
+            feature.entries.clear();
+        } else if (isEnumeration) {
+            feature.entries.push_back({text, 4711});
         }
     });
     if (what == 3 && m_camera.feature(name).description().type == ZebFeatureDataEnum)

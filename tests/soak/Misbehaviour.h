@@ -13,12 +13,9 @@ class Misbehaviour
 public:
     Misbehaviour(sim::Camera& camera, Random& random);
 
-    /// Writes are refused now and then; the camera is honest otherwise.
-    void refuseWrites();
-    /// Reads are refused now and then, but for the vendor's.
-    void refuseReads();
-    /// Reads of one feature take their time and fail, for a while.
-    void slowOneDown();
+    /// What an honest camera may do, or nothing, which is answered by false: some writes or reads
+    /// are refused, or reads of one feature take their time and fail for a while.
+    bool tire();
     /// Every operation goes wrong now and then, in every way but the loss of the camera.
     /// Registering and unregistering are left alone, unless @p withObservers.
     void spoil(bool withObservers);
@@ -27,12 +24,14 @@ public:
     /// Another client writes something legal, as far as the feature has legal values.
     void writeFromOutside();
 
-    const std::string& anyFeature();
     /// Empty when the page observes nothing now.
     std::string anyObservedFeature();
 
 private:
+    const std::string& anyFeature() { return m_random.pick(m_names); }
+    void slowOneDown();
     void distortNumbers(const std::string& name);
+    void distortDescription(const std::string& name);
 
     sim::Camera& m_camera;
     Random& m_random;

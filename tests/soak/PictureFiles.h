@@ -1,19 +1,6 @@
 #pragma once
 
-#include <QStringList>
-#include <QTemporaryDir>
+#include <QDir>
 
-/// A folder of picture files, most of them bad.
-class PictureFiles
-{
-public:
-    PictureFiles();
-
-    const QStringList& paths() const { return m_paths; }
-
-private:
-    void write(const QString& name, const QByteArray& data);
-
-    QTemporaryDir m_folder;
-    QStringList m_paths;
-};
+/// Writes picture files, most of them bad; answers their paths.
+QStringList writePictureFiles(const QDir& folder);

@@ -13,37 +13,37 @@
 
 namespace {
 
-std::int64_t residentBytes()
+/// Of the application's objects and of all widgets.
+int timerCount()
 {
-    malloc_trim(0);
-    QFile file(QStringLiteral("/proc/self/statm"));
-    if (!file.open(QIODevice::ReadOnly))
-        return 0;
-    return file.readAll().split(' ').value(1).toLongLong() * sysconf(_SC_PAGESIZE);
+    QObjectList objects = qApp->findChildren<QObject*>();
+    objects.append(qApp);
+    for (QWidget* const widget : QApplication::allWidgets())
+        objects.append(widget);
+    int count = 0;
+    for (QObject* const object : qAsConst(objects))
+        count += QAbstractEventDispatcher::instance()->registeredTimers(object).size();
+    return count;
 }
 
 } // namespace
 
 ProcessState ProcessState::now()
 {
+    malloc_trim(0);
     ProcessState state;
-    state.residentBytes = ::residentBytes();
+    QFile pages("/proc/self/statm");
+    if (pages.open(QIODevice::ReadOnly))
+        state.memory = pages.readAll().split(' ').value(1).toLongLong() * sysconf(_SC_PAGESIZE);
     const auto heap = mallinfo2();
-    state.heapBytes = static_cast<std::int64_t>(heap.uordblks + heap.hblkhd);
-    state.descriptors = QDir(QStringLiteral("/proc/self/fd"))
-                            .entryList(QDir::NoDotAndDotDot | QDir::AllEntries | QDir::System)
-                            .size();
-    const auto widgets = QApplication::allWidgets();
-    state.widgets = widgets.size();
-    auto objects = qApp->findChildren<QObject*>();
-    objects.append(qApp);
-    for (QObject* const widget : widgets)
-        objects.append(widget);
-    auto* const dispatcher = QAbstractEventDispatcher::instance();
-    for (QObject* const object : qAsConst(objects))
-        state.timers += dispatcher->registeredTimers(object).size();
-    state.translators = qApp->findChildren<QTranslator*>().size();
-    state.hasCursor = QApplication::overrideCursor() != nullptr;
+    state.heap = static_cast<std::int64_t>(heap.uordblks + heap.hblkhd);
+    const QDir descriptors("/proc/self/fd");
+    const auto everything = QDir::NoDotAndDotDot | QDir::AllEntries | QDir::System;
+    state.counts = {{"descriptors", descriptors.entryList(everything).size()},
+                    {"timers", timerCount()},
+                    {"translators", qApp->findChildren<QTranslator*>().size()},
+                    {"widgets", QApplication::allWidgets().size()},
+                    {"cursors", QApplication::overrideCursor() ? 1 : 0}};
     return state;
 }
 
@@ -54,16 +54,11 @@ std::int64_t ProcessState::largestMemory()
     return usage.ru_maxrss * 1024;
 }
 
-QString ProcessState::text() const
+void ProcessState::print(const std::string& title) const
 {
-    return QStringLiteral(
-               "memory %1 KiB, heap in use %2 KiB, descriptors %3, timers %4, translators %5, "
-               "widgets %6, cursor %7")
-        .arg(residentBytes / 1024)
-        .arg(heapBytes / 1024)
-        .arg(descriptors)
-        .arg(timers)
-        .arg(translators)
-        .arg(widgets)
-        .arg(hasCursor ? QStringLiteral("yes") : QStringLiteral("no"));
+    std::printf("%s: memory %lld KiB, heap in use %lld KiB", title.c_str(),
+                static_cast<long long>(memory >> 10), static_cast<long long>(heap >> 10));
+    for (const auto& [name, count] : counts)
+        std::printf(", %s %d", name.c_str(), count);
+    std::puts("");
 }

@@ -1,21 +1,17 @@
 #pragma once
 
-#include <QString>
-
 #include <cstdint>
+#include <map>
+#include <string>
 
 /// What the process holds now.
 struct ProcessState
 {
-    std::int64_t residentBytes = 0;
-    std::int64_t heapBytes = 0; ///< in use
-    int descriptors = 0;
-    int timers = 0; ///< of the application's objects and of all widgets
-    int translators = 0;
-    int widgets = 0;
-    bool hasCursor = false;
+    std::int64_t memory = 0; ///< resident; bytes, as all memory here
+    std::int64_t heap = 0;   ///< in use
+    std::map<std::string, int> counts;
 
     static ProcessState now();
-    static std::int64_t largestMemory(); ///< bytes, since the start
-    QString text() const;
+    static std::int64_t largestMemory(); ///< since the start
+    void print(const std::string& title) const;
 };

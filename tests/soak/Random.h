@@ -35,6 +35,18 @@ public:
     {
         return *std::next(items.begin(), below(static_cast<int>(items.size())));
     }
+    /// Each item as often as its weight says.
+    template <typename Table> const auto& pickWeighted(const Table& items)
+    {
+        int total = 0;
+        for (const auto& item : items)
+            total += item.weight;
+        int place = below(total);
+        auto item = std::begin(items);
+        for (; place >= item->weight; ++item)
+            place -= item->weight;
+        return *item;
+    }
 
 private:
     std::uint64_t m_state;

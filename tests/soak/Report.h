@@ -1,29 +1,30 @@
 #pragma once
 
 #include <QString>
-#include <QStringList>
 
 #include <cstdint>
 #include <cstdio>
 #include <map>
+#include <string>
 
 /// What a run did and found.
-class Report
+struct Report
 {
-public:
-    QStringList findings;
+    std::map<std::string, std::uint64_t> figures;
+    int findings = 0;
 
-    std::uint64_t& operator[](const QString& figure) { return m_figures[figure]; }
+    std::uint64_t& operator[](const std::string& figure) { return figures[figure]; }
 
-    /// One figure a line, each after its name, in the order of the names.
-    void print() const
+    void find(const QString& text)
     {
-        for (const auto& [name, value] : m_figures)
-            std::printf("%s: %llu\n", qPrintable(name), static_cast<unsigned long long>(value));
-        std::printf("findings: %d\n", int(findings.size()));
-        std::fflush(stdout);
+        ++findings;
+        std::fprintf(stderr, "finding: %s\n", qPrintable(text));
     }
 
-private:
-    std::map<QString, std::uint64_t> m_figures;
+    void print() const
+    {
+        for (const auto& [name, value] : figures)
+            std::printf("%s: %llu\n", name.c_str(), static_cast<unsigned long long>(value));
+        std::printf("findings: %d\n", findings);
+    }
 };

@@ -2,7 +2,6 @@
 
 #include "Actions.h"
 #include "Invariants.h"
-#include "PictureFiles.h"
 #include "ProcessState.h"
 #include "VirtualTime.h"
 #include "Watchdog.h"
@@ -17,7 +16,6 @@
 #include <QLineEdit>
 
 #include <array>
-#include <cstdio>
 
 namespace {
 
@@ -59,28 +57,26 @@ Session::Session(const Run& run, std::uint64_t seed, const std::string& model)
     m_translations = random.pick({TranslationFiles::Built, TranslationFiles::Built,
                                   TranslationFiles::Missing, TranslationFiles::Broken});
     m_run.translations.use(m_translations);
-    m_run.report[QStringLiteral("sessions with translations %1")
-                     .arg(QLatin1String(translationNames[m_translations]))]
+    m_run.report[std::string("sessions with translations ") + translationNames[m_translations]]
         += 1;
     VirtualTime::start(m_hasThreads ? VirtualTime::Pace::Fast : VirtualTime::Pace::Exact);
     QApplication::setPalette(QPalette(Qt::lightGray));
     m_host = std::make_unique<Host>();
     m_host->lastFrame = QPixmap(320, 200);
-    m_dialogTimer.setInterval(dialogInterval);
     connect(&m_dialogTimer, &QTimer::timeout, this, &Session::answerDialog);
-    m_dialogTimer.start();
+    m_dialogTimer.start(dialogInterval);
 }
 
 Session::~Session()
 {
-    m_run.report[QStringLiteral("sessions run")] += 1;
-    m_run.report[QStringLiteral("sessions without threads")] += m_hasThreads ? 0 : 1;
+    m_run.report["sessions run"] += 1;
+    m_run.report["sessions without threads"] += m_hasThreads ? 0 : 1;
 }
 
 void Session::prepareCamera(const std::string& model)
 {
     using Settings = sim::NotificationSettings;
-    m_model = QString::fromStdString(model);
+    m_model = model;
     m_isHonest = random.oneIn(2);
     m_hasThreads = random.oneIn(3);
 
@@ -102,14 +98,7 @@ void Session::prepareCamera(const std::string& model)
     const auto features = m_camera->features();
     m_features = TabExtensionInterface::FeatureList::create(features.begin(), features.end());
     if (m_isHonest) {
-        const int fault = random.below(6);
-        m_isStrict = fault > 2;
-        if (fault == 0)
-            m_misbehaviour->refuseWrites();
-        else if (fault == 1)
-            m_misbehaviour->refuseReads();
-        else if (fault == 2)
-            m_misbehaviour->slowOneDown();
+        m_isStrict = !m_misbehaviour->tire();
         return;
     }
     m_countsObservers = !random.oneIn(4);
@@ -142,13 +131,20 @@ void Session::run()
     m_host.reset();
     QCoreApplication::processEvents();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    checkRest(memory);
+}
+
+void Session::checkRest(std::int64_t memoryBefore)
+{
     if (QApplication::overrideCursor())
-        find(QStringLiteral("a cursor is left"));
-    if (!QApplication::topLevelWidgets().isEmpty())
-        find(QStringLiteral("a window is left"));
+        find("a cursor is left");
     while (QApplication::overrideCursor())
         QApplication::restoreOverrideCursor();
-    checkMemory(memory);
+    if (!QApplication::topLevelWidgets().isEmpty())
+        find("a window is left");
+    const std::int64_t growth = ProcessState::largestMemory() - memoryBefore;
+    if (growth > mostMemory)
+        find(QString("it took %1 MiB").arg(growth >> 20));
 }
 
 void Session::closeCamera()
@@ -158,27 +154,26 @@ void Session::closeCamera()
     if (!m_camera)
         return;
     account();
-    for (std::size_t kind = 0; kind < sim::Failure::kindCount; ++kind)
-        m_run.report[QStringLiteral("injected failures, %1").arg(QLatin1String(kindNames[kind]))]
+    for (std::size_t kind = 0; kind < kindNames.size(); ++kind)
+        m_run.report[std::string("injected failures, ") + kindNames[kind]]
             += m_camera->failures().injected(static_cast<sim::Failure::Kind>(kind));
-    m_run.report[QStringLiteral("notifications")] += m_camera->notificationCount();
+    m_run.report["notifications"] += m_camera->notificationCount();
     m_misbehaviour.reset();
     m_camera.reset();
 }
 
 void Session::step()
 {
-    const Action& action = pickAction(*this);
+    const Action& action = pickAction(random);
     m_action = action.name;
     Watchdog::setPlace(m_seed, m_step, m_action);
-    m_run.watchdog.beat();
-    m_run.report[QStringLiteral("user actions")] += 1;
+    m_run.report["user actions"] += 1;
     if (m_run.isVerbose) {
         std::fprintf(stderr, "%d %s, %zu calls before\n", m_step, m_action,
                      m_camera->journal().count());
     }
     const bool isTimed = m_isLost && action.isShort;
-    const std::chrono::nanoseconds begin = m_run.watchdog.guiTime();
+    const std::chrono::nanoseconds begin = Watchdog::guiTime();
     action.perform(*this);
     if (isTimed)
         checkLostTime(begin);
@@ -190,11 +185,11 @@ void Session::step()
 
 void Session::pass(int milliseconds)
 {
-    m_run.watchdog.beat();
+    Watchdog::beat();
     QEventLoop loop;
     QTimer::singleShot(milliseconds, Qt::PreciseTimer, &loop, &QEventLoop::quit);
     loop.exec();
-    m_run.watchdog.beat();
+    Watchdog::beat();
 }
 
 void Session::resize(int width, int height)
@@ -211,34 +206,27 @@ void Session::openPage()
     m_page = page;
     const auto connections = Host::connections();
     takeWrites();
-    m_run.watchdog.beat();
+    Watchdog::beat();
     qint32 result = -1;
     try {
         result
             = m_run.module.createTab(m_features, page, random.oneIn(20) ? nullptr : &connections);
     } catch (...) {
-        find(QStringLiteral("an exception came out of createTab"));
+        find("an exception came out of createTab");
     }
+    m_run.report[result == 0 ? "pages opened" : "pages refused"] += 1;
     if (result != 0) {
-        m_run.report[QStringLiteral("pages refused")] += 1;
-        if (page->layout() || !page->children().isEmpty() || !page->accessibleName().isEmpty())
-            find(QStringLiteral("a refused page is not as it was"));
-        if (m_isHonest && m_camera->has("Height") && m_camera->has("Width")
-            && m_camera->feature("DeviceVendorName").text().rfind("Brontax", 0) == 0)
-            find(QStringLiteral("the camera was refused"));
+        checkRefusal(*page);
         delete page;
         return;
     }
-    m_run.report[QStringLiteral("pages opened")] += 1;
     if (!TranslationFiles::areShown(m_translations))
-        find(QStringLiteral("the texts are not those of the translation files"));
+        find("the texts are not those of the translation files");
     // A region told by its edges that is invalid gives way to the whole picture.
-    const QStringList writes
-        = takeWrites({QStringLiteral("SubRegionSelector"), QStringLiteral("DSPSubregionLeft"),
-                      QStringLiteral("DSPSubregionTop"), QStringLiteral("DSPSubregionRight"),
-                      QStringLiteral("DSPSubregionBottom")});
+    const QString writes = takeWrites({"SubRegionSelector", "DSPSubregionLeft", "DSPSubregionTop",
+                                       "DSPSubregionRight", "DSPSubregionBottom"});
     if (m_isHonest && !writes.isEmpty())
-        find(QStringLiteral("opening wrote %1").arg(writes.join(QLatin1String(", "))));
+        find("opening wrote " + writes);
     resize(700, 900);
     page->show();
     m_host->show();
@@ -246,52 +234,48 @@ void Session::openPage()
     pass(random.pick({0, 30, 1300}));
 }
 
+void Session::checkRefusal(const QWidget& page)
+{
+    if (page.layout() || !page.children().isEmpty() || !page.accessibleName().isEmpty())
+        find("a refused page is not as it was");
+    if (m_isHonest && m_camera->has("Height") && m_camera->has("Width")
+        && m_camera->feature("DeviceVendorName").text().rfind("Brontax", 0) == 0)
+        find("the camera was refused");
+}
+
 void Session::closePage(const char* ending)
 {
     if (!m_page)
         return;
-    const std::chrono::nanoseconds begin = m_run.watchdog.guiTime();
-    m_run.watchdog.beat();
+    const std::chrono::nanoseconds begin = Watchdog::guiTime();
+    Watchdog::beat();
     const QPointer<QWidget> page = m_page;
     if (ending == hidden && m_host)
         m_host->hide();
     delete page.data();
-    m_run.report[QStringLiteral("pages destroyed, %1").arg(QLatin1String(ending))] += 1;
+    m_run.report[std::string("pages destroyed, ") + ending] += 1;
     if (m_isLost && m_camera) {
-        auto& slowest = m_run.report[QStringLiteral("slowest close of a lost camera, ms")];
+        auto& slowest = m_run.report["slowest close of a lost camera, ms"];
         slowest = std::max(slowest, checkLostTime(begin));
     }
-    checkPageIsGone();
+    if (m_camera && m_countsObservers && m_camera->observerCount() != 0)
+        find(QString("%1 observers are left").arg(m_camera->observerCount()));
 }
 
 // Milliseconds; sanitizers slow down what is not a call.
 std::uint64_t Session::checkLostTime(std::chrono::nanoseconds begin)
 {
-    using std::chrono::milliseconds;
-    const auto time = m_run.watchdog.guiTime() - begin;
-    const auto taken = std::uint64_t(std::chrono::duration_cast<milliseconds>(time).count());
+    const auto time = Watchdog::guiTime() - begin;
+    const auto taken = std::uint64_t(time / std::chrono::milliseconds(1));
     if (time > longestLostStep * Watchdog::slowdown)
-        find(QStringLiteral("with a lost camera it took %1 ms").arg(taken));
+        find(QString("with a lost camera it took %1 ms").arg(taken));
     return taken;
-}
-
-void Session::checkMemory(std::int64_t before)
-{
-    const std::int64_t growth = ProcessState::largestMemory() - before;
-    if (growth > mostMemory)
-        find(QStringLiteral("it took %1 MiB").arg(growth >> 20));
-}
-
-void Session::checkPageIsGone()
-{
-    if (m_camera && m_countsObservers && m_camera->observerCount() != 0)
-        find(QStringLiteral("%1 observers are left").arg(m_camera->observerCount()));
 }
 
 void Session::loseCamera()
 {
     m_isLost = true;
-    m_run.report[QStringLiteral("cameras lost")] += 1;
+    m_run.report["cameras lost"] += 1;
     m_camera->lose(lostCallTime);
 }
 
@@ -301,20 +285,20 @@ void Session::burst(bool isLarge)
     if (!m_hasThreads || m_crowd.joinable() || name.empty())
         return;
     const int count = isLarge ? 100000 : 500;
-    m_run.report[QStringLiteral("bursts of 100 000 from each of four threads")] += isLarge ? 1 : 0;
+    m_run.report["bursts of 100 000 from each of four threads"] += isLarge ? 1 : 0;
     m_crowd = std::thread([this, count, name] { m_camera->burst(name, count, 4); });
 }
 
-QStringList Session::takeWrites(const QStringList& ignored)
+QString Session::takeWrites(const QStringList& ignored)
 {
     account();
     QStringList writes;
     const QStringList all = std::exchange(m_writes, {});
     for (const QString& write : all) {
-        if (!ignored.contains(write.section(QLatin1Char('='), 0, 0)))
+        if (!ignored.contains(write.section('=', 0, 0)))
             writes.append(write);
     }
-    return writes;
+    return writes.join(", ");
 }
 
 // Takes over the journal's entries and counts, which start anew.
@@ -326,24 +310,22 @@ void Session::account()
         mix(m_digest, entry.feature + '=' + entry.value.toText());
     }
     mix(m_digest, std::to_string(journal.count()));
-    m_run.report[QStringLiteral("SDK calls")] += journal.count();
+    m_run.report["SDK calls"] += journal.count();
     journal.clear();
 }
 
 void Session::find(const QString& text)
 {
-    const QString finding = QStringLiteral("seed %1, step %2 (%3), camera %4: %5")
-                                .arg(QString::number(m_seed), QString::number(m_step),
-                                     QLatin1String(m_action), m_model, text);
-    m_run.report.findings.append(finding);
-    std::fprintf(stderr, "finding: %s\n  replay with: scripts/soak --replay %llu\n",
-                 qPrintable(finding), static_cast<unsigned long long>(m_seed));
+    const auto seed = QString::number(m_seed);
+    m_run.report.find(QString("seed %1, step %2 (%3), camera %4: %5\n"
+                              "  replay with: scripts/soak --replay %1")
+                          .arg(seed, QString::number(m_step), m_action, m_model.c_str(), text));
 }
 
 // A dialog is on: somebody answers, refuses, waits, or closes the page under it.
 void Session::answerDialog()
 {
-    m_run.watchdog.beat();
+    Watchdog::beat();
     if (QWidget* const popup = QApplication::activePopupWidget(); popup && random.oneIn(2)) {
         popup->close();
         return;
@@ -351,16 +333,16 @@ void Session::answerDialog()
     auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
     if (!dialog || random.oneIn(2))
         return;
-    m_run.report[QStringLiteral("user actions")] += 1;
+    m_run.report["user actions"] += 1;
     if (m_page && random.oneIn(8)) {
         closePage("with a dialog");
         return;
     }
     if (auto* const files = qobject_cast<QFileDialog*>(dialog); files && !random.oneIn(4)) {
         if (auto* const name = files->findChild<QLineEdit*>())
-            name->setText(random.pick(m_run.pictures.paths()));
-        m_run.report[QStringLiteral("picture files picked")] += 1;
-        files->setDirectory(QFileInfo(m_run.pictures.paths().first()).path());
+            name->setText(random.pick(m_run.pictures));
+        m_run.report["picture files picked"] += 1;
+        files->setDirectory(QFileInfo(m_run.pictures.first()).path());
         // Of a missing file Qt tells in a box, which waits for this timer's next turn.
         QMetaObject::invokeMethod(files, "accept", Qt::QueuedConnection);
         return;

@@ -15,9 +15,6 @@
 #include <memory>
 #include <thread>
 
-class PictureFiles;
-class Watchdog;
-
 /// One camera, opened through the module as a viewer does it, used, and closed; all of it follows
 /// from the seed. A session without threads of the camera's own replays call by call.
 class Session : public QObject
@@ -27,9 +24,8 @@ public:
     struct Run
     {
         TabExtensionInterface& module;
-        const PictureFiles& pictures;
+        const QStringList& pictures; ///< paths
         const TranslationFiles& translations;
-        Watchdog& watchdog;
         Report& report;
         bool isVerbose = false;
     };
@@ -48,7 +44,6 @@ public:
     sim::Camera& camera() { return *m_camera; }
     Misbehaviour& misbehaviour() { return *m_misbehaviour; }
     Host& host() { return *m_host; }
-    const PictureFiles& pictures() const { return m_run.pictures; }
     QWidget* page() const { return m_page; } ///< null when there is none now
     /// At most it refuses, or answers late.
     bool isHonest() const { return m_isHonest; }
@@ -65,18 +60,18 @@ public:
     void loseCamera();
     /// Notifies from four threads of another's making; a session without threads does nothing.
     void burst(bool isLarge);
-    /// What the module wrote since the last call, but for @p ignored; names and values.
-    QStringList takeWrites(const QStringList& ignored = {});
+    /// What the module wrote since the last call, but for @p ignored; names and values, as a list.
+    QString takeWrites(const QStringList& ignored = {});
     void find(const QString& text);
 
 private:
     void prepareCamera(const std::string& model);
     void closeCamera();
     void step();
+    void checkRefusal(const QWidget& page);
+    void checkRest(std::int64_t memoryBefore);
     void answerDialog();
     std::uint64_t checkLostTime(std::chrono::nanoseconds begin);
-    void checkPageIsGone();
-    void checkMemory(std::int64_t before);
     void account();
 
     const Run m_run;
@@ -88,7 +83,7 @@ private:
     QPointer<QWidget> m_page;
     QTimer m_dialogTimer;
     std::thread m_crowd;
-    QString m_model;
+    std::string m_model;
     QStringList m_writes;
     bool m_isHonest = false;
     bool m_isStrict = false;

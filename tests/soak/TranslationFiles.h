@@ -1,7 +1,6 @@
 #pragma once
 
-#include <QStringList>
-#include <QTemporaryDir>
+#include <QDir>
 
 /// The module's translations, which it looks for in the working directory: as they were built, none
 /// at all, and broken in several ways.
@@ -14,10 +13,8 @@ public:
         Broken
     };
 
-    TranslationFiles();
-    ~TranslationFiles();
-    TranslationFiles(const TranslationFiles&) = delete;
-    TranslationFiles& operator=(const TranslationFiles&) = delete;
+    /// The working directory has the built ones.
+    explicit TranslationFiles(const QDir& home);
 
     /// Pages find these from now on; there is no page yet.
     void use(Kind kind) const;
@@ -26,8 +23,5 @@ public:
     static bool areShown(Kind kind);
 
 private:
-    void breakFiles() const;
-
-    const QString m_built;
-    QTemporaryDir m_folder;
+    const QStringList m_folders; ///< of each kind
 };

@@ -26,6 +26,12 @@ template <typename Widget> Widget* anyUsable(Session& session)
     return widgets.isEmpty() ? nullptr : session.random.pick(widgets);
 }
 
+inline void leaveField()
+{
+    if (QWidget* const field = QApplication::focusWidget())
+        field->clearFocus();
+}
+
 inline void sendKey(QWidget* widget, int key, const QString& text = {})
 {
     const QPointer<QWidget> target = widget;

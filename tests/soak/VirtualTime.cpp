@@ -16,7 +16,6 @@ namespace {
 constexpr std::int64_t perSecond = 1'000'000'000;
 /// Coarse timers are aligned to the second, so each session starts at a whole number of them.
 constexpr std::int64_t startGrid = 1000 * perSecond;
-
 constexpr std::int64_t fastSpeed = 10;
 
 // The clock showed base when the real time was realBase, in nanoseconds; all the owner's alone.
@@ -26,55 +25,16 @@ std::int64_t speed = 1; ///< 0: it stands still
 std::atomic<std::int64_t> sleepTime{0};
 thread_local bool isOwner = false;
 
-struct Library
+bool isIn(const char* library, void* caller)
 {
-    std::uintptr_t begin = 0;
-    std::uintptr_t end = 0;
-};
-
-struct Search
-{
-    const char* name;
-    Library library;
-};
-
-Library find(const char* name)
-{
-    Search search{name, {}};
-    dl_iterate_phdr(
-        [](dl_phdr_info* info, std::size_t, void* data) {
-            auto& [wanted, found] = *static_cast<Search*>(data);
-            if (!info->dlpi_name || !std::strstr(info->dlpi_name, wanted))
-                return 0;
-            found.begin = info->dlpi_addr;
-            for (int i = 0; i < info->dlpi_phnum; ++i) {
-                const auto& segment = info->dlpi_phdr[i];
-                const std::uintptr_t end = info->dlpi_addr + segment.p_vaddr + segment.p_memsz;
-                if (segment.p_type == PT_LOAD && end > found.end)
-                    found.end = end;
-            }
-            return 1;
-        },
-        &search);
-    return search.library;
+    dl_find_object object{};
+    return _dl_find_object(caller, &object) == 0
+        && std::strstr(object.dlfo_link_map->l_name, library);
 }
 
-bool isIn(const Library& library, const void* caller)
+bool isQt(void* caller)
 {
-    const auto address = reinterpret_cast<std::uintptr_t>(caller);
-    return address >= library.begin && address < library.end;
-}
-
-bool isQt(const void* caller)
-{
-    static const Library library = find("libQt5Core.so");
-    return isIn(library, caller);
-}
-
-bool isStandardLibrary(const void* caller)
-{
-    static const Library library = find("libstdc++.so");
-    return isIn(library, caller);
+    return isIn("libQt5Core.so", caller);
 }
 
 timespec fromNanoseconds(std::int64_t time)
@@ -101,9 +61,7 @@ std::int64_t now()
 
 } // namespace
 
-namespace VirtualTime {
-
-void start(Pace pace)
+void VirtualTime::start(Pace pace)
 {
     isOwner = true;
     base = (now() / startGrid + 1) * startGrid;
@@ -111,25 +69,23 @@ void start(Pace pace)
     speed = pace == Pace::Exact ? 0 : fastSpeed;
 }
 
-std::chrono::nanoseconds real()
+std::chrono::nanoseconds VirtualTime::real()
 {
     return std::chrono::nanoseconds(realTime());
 }
 
-std::chrono::nanoseconds slept()
+std::chrono::nanoseconds VirtualTime::slept()
 {
     return std::chrono::nanoseconds(sleepTime.load());
 }
-
-} // namespace VirtualTime
 
 extern "C" {
 
 __attribute__((visibility("default"))) int clock_gettime(clockid_t clock, timespec* time) noexcept
 {
-    const void* const caller = __builtin_return_address(0);
+    void* const caller = __builtin_return_address(0);
     if (!isOwner || clock != CLOCK_MONOTONIC
-        || !(isQt(caller) || (speed == 0 && isStandardLibrary(caller))))
+        || !(isQt(caller) || (speed == 0 && isIn("libstdc++.so", caller))))
         return static_cast<int>(syscall(SYS_clock_gettime, clock, time));
     *time = fromNanoseconds(now());
     return 0;
@@ -147,8 +103,7 @@ __attribute__((visibility("default"))) int nanosleep(const timespec* time, times
 __attribute__((visibility("default"))) int ppoll(pollfd* descriptors, nfds_t count,
                                                  const timespec* timeout, const sigset_t* mask)
 {
-    using Function = decltype(&ppoll);
-    static const auto real = reinterpret_cast<Function>(dlsym(RTLD_NEXT, "ppoll"));
+    static const auto real = reinterpret_cast<decltype(&ppoll)>(dlsym(RTLD_NEXT, "ppoll"));
     if (!isOwner || !timeout || !isQt(__builtin_return_address(0)))
         return real(descriptors, count, timeout, mask);
     const std::int64_t wanted = toNanoseconds(*timeout);

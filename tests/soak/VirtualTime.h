@@ -23,9 +23,9 @@ enum class Pace {
 };
 
 void start(Pace pace);
-/// The real time, on any thread.
+
+// On any thread.
 std::chrono::nanoseconds real();
-/// What the camera let the thread of start() wait for so far; on any thread.
-std::chrono::nanoseconds slept();
+std::chrono::nanoseconds slept(); ///< what the camera let the thread of start() wait for so far
 
 } // namespace VirtualTime

@@ -3,11 +3,11 @@
 #include "VirtualTime.h"
 
 #include <array>
-#include <chrono>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
 
+#include <pthread.h>
 #include <time.h>
 #include <unistd.h>
 
@@ -18,9 +18,12 @@ extern "C" void __sanitizer_set_death_callback(void (*callback)());
 namespace {
 
 constexpr std::chrono::seconds longestHang{5 * Watchdog::slowdown};
-/// Of the real time, without any work: threads wait for each other.
-constexpr std::chrono::minutes longestLock{5};
+/// Of the real time: threads wait for each other, without any work.
+constexpr std::chrono::minutes longestLock{10};
 
+const pthread_t gui = pthread_self();
+std::atomic<std::chrono::nanoseconds> lastBeat{};
+std::atomic<std::chrono::nanoseconds> lastRealBeat{};
 std::atomic<std::uint64_t> currentSeed{0};
 std::atomic<int> currentStep{0};
 std::atomic<const char*> currentAction{""};
@@ -29,11 +32,11 @@ std::atomic<const char*> currentAction{""};
 void tellPlace()
 {
     std::array<char, 256> text{};
+    const auto seed = static_cast<unsigned long long>(currentSeed);
     const int length
         = std::snprintf(text.data(), text.size(),
                         "\nseed %llu, step %d (%s)\nreplay with: scripts/soak --replay %llu\n",
-                        static_cast<unsigned long long>(currentSeed), currentStep.load(),
-                        currentAction.load(), static_cast<unsigned long long>(currentSeed));
+                        seed, currentStep.load(), currentAction.load(), seed);
     if (length > 0 && write(STDERR_FILENO, text.data(), static_cast<std::size_t>(length)) < 0)
         std::abort();
 }
@@ -48,9 +51,9 @@ void tellPlace()
 } // namespace
 
 Watchdog::Watchdog()
-    : m_gui(pthread_self())
-    , m_thread([this] { watch(); })
 {
+    beat();
+    m_thread = std::thread(&Watchdog::watch, this);
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
     __sanitizer_set_death_callback(tellPlace);
 #else
@@ -61,26 +64,29 @@ Watchdog::Watchdog()
 
 Watchdog::~Watchdog()
 {
-    {
-        const std::lock_guard lock(m_mutex);
-        m_ends = true;
-    }
-    m_wake.notify_all();
+    m_ends = true;
     m_thread.join();
+}
+
+void Watchdog::beat()
+{
+    lastBeat = guiTime();
+    lastRealBeat = VirtualTime::real();
 }
 
 void Watchdog::setPlace(std::uint64_t seed, int step, const char* action)
 {
+    beat();
     currentSeed = seed;
     currentStep = step;
     currentAction = action;
 }
 
-std::chrono::nanoseconds Watchdog::guiTime() const
+std::chrono::nanoseconds Watchdog::guiTime()
 {
     clockid_t clock{};
     timespec time{};
-    pthread_getcpuclockid(m_gui, &clock);
+    pthread_getcpuclockid(gui, &clock);
     clock_gettime(clock, &time);
     return std::chrono::seconds(time.tv_sec) + std::chrono::nanoseconds(time.tv_nsec)
         + VirtualTime::slept();
@@ -88,26 +94,14 @@ std::chrono::nanoseconds Watchdog::guiTime() const
 
 void Watchdog::watch()
 {
-    std::uint64_t last = m_beats;
-    std::chrono::nanoseconds since = guiTime();
-    std::chrono::nanoseconds lastTime = since;
-    std::chrono::nanoseconds sinceReal = VirtualTime::real();
-    std::unique_lock lock(m_mutex);
-    while (!m_wake.wait_for(lock, std::chrono::milliseconds(100), [this] { return m_ends; })) {
-        const std::chrono::nanoseconds time = guiTime();
-        if (time != lastTime)
-            sinceReal = VirtualTime::real();
-        lastTime = time;
-        if (const std::uint64_t beats = m_beats; beats != last) {
-            last = beats;
-            since = time;
-            sinceReal = VirtualTime::real();
-        } else if (time - since > longestHang || VirtualTime::real() - sinceReal > longestLock) {
-            std::fputs("\nThe GUI thread hangs.", stderr);
+    for (; !m_ends; std::this_thread::sleep_for(std::chrono::milliseconds(100))) {
+        if (guiTime() - lastBeat.load() <= longestHang
+            && VirtualTime::real() - lastRealBeat.load() <= longestLock)
+            continue;
+        std::fputs("\nThe GUI thread hangs.", stderr);
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-            tellPlace();
+        tellPlace();
 #endif
-            std::abort();
-        }
+        std::abort();
     }
 }

@@ -2,15 +2,11 @@
 
 #include <atomic>
 #include <chrono>
-#include <condition_variable>
 #include <cstdint>
-#include <mutex>
 #include <thread>
 
-#include <pthread.h>
-
 /// Ends the program, with the place told, when the GUI thread does not come back for too long, or
-/// when it crashes.
+/// when it crashes. One for the process.
 class Watchdog
 {
 public:
@@ -26,23 +22,16 @@ public:
     Watchdog& operator=(const Watchdog&) = delete;
 
     /// The GUI thread is alive.
-    void beat()
-    {
-        m_beats.fetch_add(1, std::memory_order_relaxed);
-    }
+    static void beat();
     /// What the GUI thread worked and waited for the camera: the real time on an idle machine, and
     /// no more on a busy one.
-    std::chrono::nanoseconds guiTime() const;
+    static std::chrono::nanoseconds guiTime();
     /// Where it is; @p action is a literal.
     static void setPlace(std::uint64_t seed, int step, const char* action);
 
 private:
     void watch();
 
-    const pthread_t m_gui;
-    std::atomic<std::uint64_t> m_beats{0};
-    std::mutex m_mutex;
-    std::condition_variable m_wake;
-    bool m_ends = false;
+    std::atomic<bool> m_ends{false};
     std::thread m_thread;
 };

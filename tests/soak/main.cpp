@@ -1,17 +1,14 @@
 #include "LongRuns.h"
-#include "Options.h"
 #include "PictureFiles.h"
-#include "Report.h"
 #include "Session.h"
 #include "VirtualTime.h"
 #include "Watchdog.h"
 
 #include <QApplication>
+#include <QCommandLineParser>
 #include <QPluginLoader>
 #include <QTemporaryDir>
 
-#include <chrono>
-#include <cstdio>
 #include <cstdlib>
 #include <exception>
 
@@ -27,53 +24,46 @@ public:
     try {
         return QApplication::notify(receiver, event);
     } catch (const std::exception& error) {
-        report.findings.append(QStringLiteral("an exception: %1").arg(error.what()));
-        std::fprintf(stderr, "finding: %s\n", qPrintable(report.findings.last()));
+        report.find(QString("an exception: %1").arg(error.what()));
         return true;
     }
 
     Report report;
 };
 
-std::uint64_t sessionSeed(std::uint64_t seed, std::uint64_t number)
-{
-    return Random(seed + number * 0xD1B54A32D192ED03u).next();
-}
-
 // The first page of a process installs translations and loads fonts, icons and styles. A session is
 // to replay alone as it ran after others.
 void warmUp(const Session::Run& run)
 {
     Report ignored;
-    const Session::Run first{run.module, run.pictures, run.translations, run.watchdog, ignored};
+    const Session::Run first{run.module, run.pictures, run.translations, ignored};
     for (const char* model : {"aoi", "multi-region"})
         Session(first, 0, model).run();
 }
 
-void runSessions(const Session::Run& run, const Options& options)
+void runSessions(const Session::Run& run, const QCommandLineParser& options)
 {
-    warmUp(run);
     constexpr int enoughFindings = 20;
-    const std::chrono::nanoseconds end = VirtualTime::real()
-        + std::chrono::milliseconds(static_cast<std::int64_t>(options.minutes * 60000.0));
-    for (std::uint64_t i = 0; VirtualTime::real() < end && i < options.sessions
-         && run.report.findings.size() < enoughFindings;
-         ++i) {
-        const std::uint64_t seed = sessionSeed(options.seed, i);
+    const std::chrono::duration<double, std::ratio<60>> length(options.value("minutes").toDouble());
+    const auto end = VirtualTime::real() + length;
+    const std::uint64_t firstSeed = options.value("seed").toULongLong();
+    const std::uint64_t count = options.value("sessions").toULongLong();
+    for (std::uint64_t i = 0;
+         VirtualTime::real() < end && i < count && run.report.findings < enoughFindings; ++i) {
+        const std::uint64_t seed = Random(firstSeed + i * 0xD1B54A32D192ED03u).next();
         Session session(run, seed);
         session.run();
-        if (options.checksReplay && !session.hasThreads()) {
-            Session again(run, seed);
-            again.run();
-            if (again.digest() != session.digest())
-                again.find(QStringLiteral("a second run of the seed differs"));
-        }
+        if (!options.isSet("check-replay") || session.hasThreads())
+            continue;
+        Session again(run, seed);
+        again.run();
+        if (again.digest() != session.digest())
+            again.find("a second run of the seed differs");
     }
 }
 
-void runOne(const Session::Run& run, std::uint64_t seed)
+void replay(const Session::Run& run, std::uint64_t seed)
 {
-    warmUp(run);
     Session session(run, seed);
     session.run();
     std::fprintf(stderr, "digest %016llx%s\n", static_cast<unsigned long long>(session.digest()),
@@ -91,6 +81,22 @@ void isolate(const QTemporaryDir& home)
     qputenv("QT_HASH_SEED", "0");
 }
 
+void addOptions(QCommandLineParser& parser)
+{
+    parser.addHelpOption();
+    parser.addOptions({
+        {"module", "The built module.", "PATH", MODULE_PATH},
+        {"minutes", "How long to run.", "N", "1"},
+        {"seed", "The seed of all sessions.", "S", "1"},
+        {"sessions", "Ends after so many sessions.", "N", "1000000000"},
+        {"replay", "Runs the one session with this seed.", "SEED"},
+        {"cameras", "Opens and closes so many cameras instead.", "N"},
+        {"storm", "Sends 1000 notifications a second for so many minutes instead.", "MINUTES"},
+        {"check-replay", "Runs each session without threads twice and compares the SDK calls."},
+        {"verbose", "Names each action."},
+    });
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -100,27 +106,32 @@ int main(int argc, char** argv)
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     SoakApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
-    const Options options = Options::parse(application);
+    QCommandLineParser options;
+    addOptions(options);
+    options.process(application);
 
-    QPluginLoader loader(options.module);
+    QPluginLoader loader(options.value("module"));
     auto* const module = qobject_cast<TabExtensionInterface*>(loader.instance());
     if (!module) {
         std::fprintf(stderr, "%s\n", qPrintable(loader.errorString()));
         return EXIT_FAILURE;
     }
-    const PictureFiles pictures;
-    const TranslationFiles translations;
-    Watchdog watchdog;
+    const Watchdog watchdog;
     Report& report = application.report;
-    const Session::Run run{*module, pictures, translations, watchdog, report, options.isVerbose};
-    if (options.cameras > 0)
-        LongRuns::openAndClose(*module, watchdog, report, options.cameras);
-    else if (options.stormMinutes > 0)
-        LongRuns::storm(*module, watchdog, report, options.stormMinutes);
-    else if (options.replay)
-        runOne(run, *options.replay);
-    else
-        runSessions(run, options);
+    if (options.isSet("cameras")) {
+        LongRuns::openAndClose(*module, report, options.value("cameras").toInt());
+    } else if (options.isSet("storm")) {
+        LongRuns::storm(*module, report, options.value("storm").toDouble());
+    } else {
+        const QStringList pictures = writePictureFiles(home.path());
+        const TranslationFiles translations(home.path());
+        const Session::Run run{*module, pictures, translations, report, options.isSet("verbose")};
+        warmUp(run);
+        if (options.isSet("replay"))
+            replay(run, options.value("replay").toULongLong());
+        else
+            runSessions(run, options);
+    }
     report.print();
-    return report.findings.isEmpty() ? EXIT_SUCCESS : EXIT_FAILURE;
+    return report.findings == 0 ? EXIT_SUCCESS : EXIT_FAILURE;
 }
