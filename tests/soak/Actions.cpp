@@ -1,20 +1,16 @@
 #include "Actions.h"
 
 #include "DragActions.h"
-#include "PictureFiles.h"
 #include "UserInput.h"
 
 #include <QAbstractSpinBox>
 #include <QBitmap>
-#include <QCheckBox>
 #include <QComboBox>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QTabBar>
 #include <QTableView>
 #include <QWheelEvent>
-
-#include <array>
 
 namespace {
 
@@ -133,7 +129,7 @@ void editCell(Session& session)
     if (!editor)
         return;
     if (random.oneIn(6)) {
-        session.closePage("with an editor open");
+        session.closePage();
         return;
     }
     typeText(editor, anyNumber(random));
@@ -156,13 +152,6 @@ void pickPicture(Session& session)
     }
 }
 
-void stream(Session& session)
-{
-    const bool runs = session.random.oneIn(2);
-    session.camera().setStreaming(runs);
-    emit session.host().streaming(runs);
-}
-
 void sendFrame(Session& session)
 {
     Random& random = session.random;
@@ -176,11 +165,6 @@ void sendFrame(Session& session)
         emit session.host().sendFrame(frame);
 }
 
-void resizeWindow(Session& session)
-{
-    session.resize(session.random.between(50, 1600), session.random.between(50, 1200));
-}
-
 void hideAndShow(Session& session)
 {
     session.host().hide();
@@ -189,16 +173,11 @@ void hideAndShow(Session& session)
     QApplication::setActiveWindow(&session.host());
 }
 
-void changeTheme(Session& session)
+void stream(Session& session)
 {
-    QApplication::setPalette(session.random.oneIn(2) ? QPalette(Qt::black) : QPalette(Qt::white));
-}
-
-void reopen(Session& session)
-{
-    session.closePage(session.random.oneIn(2) ? Session::visible : Session::hidden);
-    session.pass(session.random.pick({0, 30}));
-    session.openPage();
+    const bool runs = session.random.oneIn(2);
+    session.camera().setStreaming(runs);
+    emit session.host().streaming(runs);
 }
 
 void writeFromOutside(Session& session)
@@ -213,39 +192,36 @@ void distortCamera(Session& session)
         session.misbehaviour().distort();
 }
 
-void burst(Session& session)
+void reopen(Session& session)
 {
-    session.burst(session.random.oneIn(3));
+    session.closePage(session.random.oneIn(2) ? Session::AsItIs : Session::Hidden);
+    session.pass(session.random.pick({0, 30}));
+    session.openPage();
 }
 
-void loseCamera(Session& session)
-{
-    if (!session.isHonest() && !session.isLost() && session.random.oneIn(2))
-        session.loseCamera();
-}
-
-constexpr std::array actions{
-    Action{"typing", 14, type},
-    Action{"stepping a field", 6, stepField},
-    Action{"dragging", 20, dragRegion},
-    Action{"dragging a line", 6, dragLine},
-    Action{"clicking", 14, clickButton},
-    Action{"choosing an entry", 8, chooseEntry},
-    Action{"editing a cell", 8, editCell},
-    Action{"picking a picture", 3, pickPicture},
-    Action{"switching tabs", 8, switchTab, true},
-    Action{"scrolling", 3, scroll},
-    Action{"resizing", 3, resizeWindow},
-    Action{"changing the theme", 1, changeTheme},
-    Action{"leaving a field", 4, [](Session&) { leaveField(); }},
-    Action{"hiding and showing", 2, hideAndShow},
-    Action{"reopening", 2, reopen},
-    Action{"streaming", 4, stream},
-    Action{"a frame", 3, sendFrame},
-    Action{"another client", 8, writeFromOutside},
-    Action{"distorting the camera", 4, distortCamera},
-    Action{"a burst", 1, burst},
-    Action{"losing the camera", 1, loseCamera},
+const Action actions[]{
+    {"typing", 14, type},
+    {"stepping a field", 6, stepField},
+    {"dragging", 20, dragRegion},
+    {"dragging a line", 6, dragLine},
+    {"clicking", 14, clickButton},
+    {"choosing an entry", 8, chooseEntry},
+    {"editing a cell", 8, editCell},
+    {"picking a picture", 3, pickPicture},
+    {"switching tabs", 8, switchTab, true},
+    {"scrolling", 3, scroll},
+    {"resizing", 3, [](Session& s) { s.resizeByChance(50, 1600, 1200); }},
+    {"changing the theme", 1,
+     [](Session& s) { QApplication::setPalette(s.random.oneIn(2) ? Qt::black : Qt::white); }},
+    {"leaving a field", 4, [](Session&) { leaveField(); }},
+    {"hiding and showing", 2, hideAndShow},
+    {"reopening", 2, reopen},
+    {"streaming", 4, stream},
+    {"a frame", 3, sendFrame},
+    {"another client", 8, writeFromOutside},
+    {"distorting the camera", 4, distortCamera},
+    {"a burst", 1, [](Session& s) { s.burst(s.random.oneIn(3)); }},
+    {"losing the camera", 1, [](Session& s) { s.loseCamera(); }},
 };
 
 } // namespace

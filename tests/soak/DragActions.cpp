@@ -8,8 +8,6 @@
 #include <QMenu>
 #include <QRubberBand>
 
-#include <array>
-
 namespace {
 
 // The pictures are the labels that carry bands.
@@ -21,12 +19,6 @@ QPointer<QLabel> anyPicture(Session& session)
             pictures.append(label);
     }
     return pictures.isEmpty() ? nullptr : session.random.pick(pictures);
-}
-
-void resizeWindow(Session& session, int smallest, int largest)
-{
-    const int height = session.random.between(smallest, largest);
-    session.resize(session.random.between(smallest, largest), height);
 }
 
 void sendLastFrame(Session& session)
@@ -82,31 +74,32 @@ struct Disturbance
     Effect effect = Effect::None;
 };
 
-const std::array disturbances{
-    Disturbance{1, [](Session& session) { session.closePage("mid-drag"); }},
-    Disturbance{1,
-                [](Session& session) {
-                    session.host().hide();
-                    session.host().show();
-                }},
-    Disturbance{2, [](Session& session) { resizeWindow(session, 200, 900); }},
-    Disturbance{4, [](Session& session) { session.misbehaviour().writeFromOutside(); },
-                Effect::Camera},
-    Disturbance{1,
-                [](Session& session) { emit session.host().streaming(session.random.oneIn(2)); }},
-    Disturbance{2, sendLastFrame},
-    Disturbance{2,
-                [](Session& session) {
-                    QMenu menu;
-                    menu.addAction("An entry");
-                    menu.popup({});
-                    session.pass(20);
-                },
-                Effect::Mouse},
-    Disturbance{21,
-                [](Session& session) {
-                    session.pass(session.random.pick({0, 0, 0, 20, 300, 1100}));
-                }},
+void hideAndShow(Session& session)
+{
+    session.host().hide();
+    session.host().show();
+}
+
+void openMenu(Session& session)
+{
+    QMenu menu;
+    menu.addAction("An entry");
+    menu.popup({});
+    session.pass(20);
+}
+
+const Disturbance disturbances[]{
+    {1, [](Session& s) { s.closePage(); }},
+    {1, hideAndShow},
+    {2, [](Session& s) { s.resizeByChance(200, 900, 900); }},
+    {4, [](Session& s) { s.misbehaviour().writeFromOutside(); }, Effect::Camera},
+    {1, [](Session& s) { emit s.host().streaming(s.random.oneIn(2)); }},
+    {2, sendLastFrame},
+    {2, openMenu, Effect::Mouse},
+    {21,
+     [](Session& s) {
+         s.pass(s.random.pick({0, 0, 0, 20, 300, 1100}));
+     }},
 };
 
 // A tile may lie over another while its neighbour is off; and a camera that refuses one of several
@@ -213,7 +206,7 @@ void dragLine(Session& session)
     const int formerExtent = extent();
     if (picture && isLineAt(reached, 2.0) && formerExtent > 0) {
         if (random.oneIn(2))
-            resizeWindow(session, 400, 900);
+            session.resizeByChance(400, 900, 900);
         else
             sendLastFrame(session);
         session.pass(0);

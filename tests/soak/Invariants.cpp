@@ -20,26 +20,22 @@ struct Field
 {
     const char* page;
     const char* name;
-    std::initializer_list<const char*> features;
+    const char* features;
 };
 
-const std::initializer_list<Field> fields{
-    {"AOIWidget", "spinLeft", {"OffsetX"}},
-    {"AOIWidget", "spinTop", {"OffsetY"}},
-    {"AOIWidget", "spinWidth", {"Width"}},
-    {"AOIWidget", "spinHeight", {"Height"}},
-    {"AutoROIWidget",
-     "spinLeft",
-     {"DSPSubregionLeft", "AutofunctionAOIOffsetX", "AutoModeRegionOffsetX"}},
-    {"AutoROIWidget",
-     "spinTop",
-     {"DSPSubregionTop", "AutofunctionAOIOffsetY", "AutoModeRegionOffsetY"}},
-    {"AutoROIWidget", "spinRight", {"DSPSubregionRight"}},
-    {"AutoROIWidget", "spinBottom", {"DSPSubregionBottom"}},
-    {"AutoROIWidget", "spinWidth", {"AutofunctionAOIWidth", "AutoModeRegionWidth"}},
-    {"AutoROIWidget", "spinHeight", {"AutofunctionAOIHeight", "AutoModeRegionHeight"}},
-    {"AutoROIWidget", "spinExpAutoMin", {"ExposureAutoMin"}},
-    {"AutoROIWidget", "spinExpAutoMax", {"ExposureAutoMax"}},
+constexpr Field fields[]{
+    {"AOIWidget", "spinLeft", "OffsetX"},
+    {"AOIWidget", "spinTop", "OffsetY"},
+    {"AOIWidget", "spinWidth", "Width"},
+    {"AOIWidget", "spinHeight", "Height"},
+    {"AutoROIWidget", "spinLeft", "DSPSubregionLeft AutofunctionAOIOffsetX AutoModeRegionOffsetX"},
+    {"AutoROIWidget", "spinTop", "DSPSubregionTop AutofunctionAOIOffsetY AutoModeRegionOffsetY"},
+    {"AutoROIWidget", "spinRight", "DSPSubregionRight"},
+    {"AutoROIWidget", "spinBottom", "DSPSubregionBottom"},
+    {"AutoROIWidget", "spinWidth", "AutofunctionAOIWidth AutoModeRegionWidth"},
+    {"AutoROIWidget", "spinHeight", "AutofunctionAOIHeight AutoModeRegionHeight"},
+    {"AutoROIWidget", "spinExpAutoMin", "ExposureAutoMin"},
+    {"AutoROIWidget", "spinExpAutoMax", "ExposureAutoMax"},
 };
 
 bool isOn(const char* page, const QWidget* widget)
@@ -98,12 +94,13 @@ void Comparison::compareRegionFields()
 {
     for (const QDoubleSpinBox* const box : usable<QDoubleSpinBox>(m_session)) {
         for (const auto& [page, name, features] : fields) {
-            const auto feature
-                = std::find_if(features.begin(), features.end(),
-                               [&](auto* candidate) { return m_camera.has(candidate); });
-            if (box->objectName() == name && isOn(page, box) && feature != features.end())
+            QStringList held = QString(features).split(' ');
+            while (!held.isEmpty() && !m_camera.has(held.first().toStdString()))
+                held.removeFirst();
+            if (box->objectName() == name && isOn(page, box) && !held.isEmpty())
                 compare(box->objectName() + " of " + page, box->value(),
-                        m_camera.feature(*feature).number(), std::pow(10.0, -box->decimals()));
+                        m_camera.feature(held.first().toStdString()).number(),
+                        std::pow(10.0, -box->decimals()));
         }
     }
 }

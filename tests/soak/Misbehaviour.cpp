@@ -47,19 +47,15 @@ std::string oddText(Random& random)
 
 Failure someFailure(Failure::Kind kind, Random& random)
 {
-    switch (kind) {
-    case Failure::Kind::None:
+    if (kind == Failure::Kind::None)
         return Failure::slow(std::chrono::milliseconds(random.between(1, 5)));
-    case Failure::Kind::Substitute: {
+    if (kind == Failure::Kind::Substitute) {
         const auto values = std::make_shared<Random>(random.next());
         return Failure::value([values](const sim::Value&) { return oddValue(*values); });
     }
-    default: {
-        Failure failure = Failure::of(kind);
-        failure.code = static_cast<ZebErrorType>(random.pick({-1, -3, -4, -6, -7, -12, -14, -99}));
-        return failure;
-    }
-    }
+    Failure failure = Failure::of(kind);
+    failure.code = static_cast<ZebErrorType>(random.pick({-1, -3, -4, -6, -7, -12, -14, -99}));
+    return failure;
 }
 
 Occurrence aWhile(Random& random, int latestStart, int shortest, int longest)
@@ -206,15 +202,15 @@ void Misbehaviour::distortDescription(const std::string& name)
 // The camera tells odd bounds and increments from now on, and goes by its own.
 void Misbehaviour::distortNumbers(const std::string& name)
 {
-    using Bounds = std::pair<sim::Value, sim::Value>;
-    const auto bounds = m_random.pick<Bounds>({{100, 10},
-                                               {0, 0},
-                                               {-5, -1},
-                                               {smallest, largest},
-                                               {0, largest},
-                                               {double(NAN), double(NAN)},
-                                               {-infinity, infinity},
-                                               {5.0, -5.0}});
+    const auto bounds
+        = m_random.pick<std::pair<sim::Value, sim::Value>>({{100, 10},
+                                                            {0, 0},
+                                                            {-5, -1},
+                                                            {smallest, largest},
+                                                            {0, largest},
+                                                            {double(NAN), double(NAN)},
+                                                            {-infinity, infinity},
+                                                            {5.0, -5.0}});
     const auto increment = m_random.pick<sim::Value>(
         {0, -1, 1000000, largest, smallest, double(NAN), infinity, 1e-300});
     m_camera.failures().add(name, Operation::GetRange, Failure::range(bounds.first, bounds.second));
@@ -226,33 +222,24 @@ void Misbehaviour::distortNumbers(const std::string& name)
 void Misbehaviour::writeFromOutside()
 {
     const std::string& name = anyFeature();
-    if (!m_camera.feature(name).isWritable())
-        return;
     const sim::FeatureProbe feature = m_camera.feature(name);
+    if (!feature.isWritable())
+        return;
     const sim::FeatureDescription description = feature.description();
-    switch (description.type) {
-    case ZebFeatureDataInt: {
+    if (description.type == ZebFeatureDataInt) {
+        constexpr std::int64_t far = std::int64_t{1} << 40;
         const sim::IntegerRange range = feature.range();
         const std::int64_t step = std::max<std::int64_t>(range.increment, 1);
-        if (range.minimum > range.maximum || range.minimum < -(1ll << 40)
-            || range.maximum > 1ll << 40)
+        if (range.minimum > range.maximum || range.minimum < -far || range.maximum > far)
             return;
         const std::int64_t steps = (range.maximum - range.minimum) / step;
         const auto wanted = static_cast<std::int64_t>(m_random.next() >> 1) % (steps + 1);
         m_camera.writeAsOtherClient(name, range.minimum + wanted * step);
-        break;
-    }
-    case ZebFeatureDataFloat:
+    } else if (description.type == ZebFeatureDataFloat) {
         m_camera.writeAsOtherClient(name, feature.number() * m_random.pick({0.5, 1.0, 1.5}));
-        break;
-    case ZebFeatureDataBool:
+    } else if (description.type == ZebFeatureDataBool) {
         m_camera.writeAsOtherClient(name, m_random.oneIn(2));
-        break;
-    case ZebFeatureDataEnum:
-        if (!description.entries.empty())
-            m_camera.writeAsOtherClient(name, m_random.pick(description.entries).name);
-        break;
-    default:
-        break;
+    } else if (description.type == ZebFeatureDataEnum && !description.entries.empty()) {
+        m_camera.writeAsOtherClient(name, m_random.pick(description.entries).name);
     }
 }

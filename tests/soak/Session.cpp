@@ -15,8 +15,6 @@
 #include <QFileDialog>
 #include <QLineEdit>
 
-#include <array>
-
 namespace {
 
 constexpr std::chrono::milliseconds lostCallTime{300};
@@ -24,11 +22,6 @@ constexpr std::chrono::milliseconds longestLostStep{2000};
 /// A picture of the largest size that is taken needs as much.
 constexpr std::int64_t mostMemory = (std::int64_t{1} << 30) + (std::int64_t{1} << 29);
 constexpr int dialogInterval = 40;
-
-constexpr std::array<const char*, sim::Failure::kindCount> kindNames{
-    "slow",         "refused", "reported although done", "another value", "length 0", "grown",
-    "unterminated", "4 GiB",   "null entries",           "exception",     "lost"};
-constexpr std::array<const char*, 3> translationNames{"built", "missing", "broken"};
 
 // Of the one with hundreds of regions a session takes as long as dozens of others.
 std::string anyModel(Random& random)
@@ -57,8 +50,6 @@ Session::Session(const Run& run, std::uint64_t seed, const std::string& model)
     m_translations = random.pick({TranslationFiles::Built, TranslationFiles::Built,
                                   TranslationFiles::Missing, TranslationFiles::Broken});
     m_run.translations.use(m_translations);
-    m_run.report[std::string("sessions with translations ") + translationNames[m_translations]]
-        += 1;
     VirtualTime::start(m_hasThreads ? VirtualTime::Pace::Fast : VirtualTime::Pace::Exact);
     QApplication::setPalette(QPalette(Qt::lightGray));
     m_host = std::make_unique<Host>();
@@ -125,7 +116,7 @@ void Session::run()
     if (random.oneIn(5) && !m_isHonest)
         closeCamera(); // before its page
     if (m_page)
-        closePage(random.oneIn(2) ? visible : hidden);
+        closePage(random.oneIn(2) ? AsItIs : Hidden);
     m_dialogTimer.stop();
     closeCamera();
     m_host.reset();
@@ -154,8 +145,8 @@ void Session::closeCamera()
     if (!m_camera)
         return;
     account();
-    for (std::size_t kind = 0; kind < kindNames.size(); ++kind)
-        m_run.report[std::string("injected failures, ") + kindNames[kind]]
+    for (std::size_t kind = 0; kind < sim::Failure::kindCount; ++kind)
+        m_run.report["injected failures"]
             += m_camera->failures().injected(static_cast<sim::Failure::Kind>(kind));
     m_run.report["notifications"] += m_camera->notificationCount();
     m_misbehaviour.reset();
@@ -197,6 +188,12 @@ void Session::resize(int width, int height)
     m_host->resize(width, height);
     if (m_page)
         m_page->setGeometry(m_host->rect());
+}
+
+void Session::resizeByChance(int least, int mostWidth, int mostHeight)
+{
+    const int height = random.between(least, mostHeight);
+    resize(random.between(least, mostWidth), height);
 }
 
 void Session::openPage()
@@ -243,37 +240,34 @@ void Session::checkRefusal(const QWidget& page)
         find("the camera was refused");
 }
 
-void Session::closePage(const char* ending)
+void Session::closePage(Closing closing)
 {
     if (!m_page)
         return;
     const std::chrono::nanoseconds begin = Watchdog::guiTime();
     Watchdog::beat();
     const QPointer<QWidget> page = m_page;
-    if (ending == hidden && m_host)
+    if (closing == Hidden && m_host)
         m_host->hide();
     delete page.data();
-    m_run.report[std::string("pages destroyed, ") + ending] += 1;
-    if (m_isLost && m_camera) {
-        auto& slowest = m_run.report["slowest close of a lost camera, ms"];
-        slowest = std::max(slowest, checkLostTime(begin));
-    }
+    if (m_isLost && m_camera)
+        checkLostTime(begin);
     if (m_camera && m_countsObservers && m_camera->observerCount() != 0)
         find(QString("%1 observers are left").arg(m_camera->observerCount()));
 }
 
-// Milliseconds; sanitizers slow down what is not a call.
-std::uint64_t Session::checkLostTime(std::chrono::nanoseconds begin)
+// Sanitizers slow down what is not a call.
+void Session::checkLostTime(std::chrono::nanoseconds begin)
 {
     const auto time = Watchdog::guiTime() - begin;
-    const auto taken = std::uint64_t(time / std::chrono::milliseconds(1));
     if (time > longestLostStep * Watchdog::slowdown)
-        find(QString("with a lost camera it took %1 ms").arg(taken));
-    return taken;
+        find(QString("with a lost camera it took %1 ms").arg(time / std::chrono::milliseconds(1)));
 }
 
 void Session::loseCamera()
 {
+    if (m_isHonest || m_isLost || !random.oneIn(2))
+        return;
     m_isLost = true;
     m_run.report["cameras lost"] += 1;
     m_camera->lose(lostCallTime);
@@ -285,7 +279,6 @@ void Session::burst(bool isLarge)
     if (!m_hasThreads || m_crowd.joinable() || name.empty())
         return;
     const int count = isLarge ? 100000 : 500;
-    m_run.report["bursts of 100 000 from each of four threads"] += isLarge ? 1 : 0;
     m_crowd = std::thread([this, count, name] { m_camera->burst(name, count, 4); });
 }
 
@@ -335,13 +328,12 @@ void Session::answerDialog()
         return;
     m_run.report["user actions"] += 1;
     if (m_page && random.oneIn(8)) {
-        closePage("with a dialog");
+        closePage();
         return;
     }
     if (auto* const files = qobject_cast<QFileDialog*>(dialog); files && !random.oneIn(4)) {
         if (auto* const name = files->findChild<QLineEdit*>())
             name->setText(random.pick(m_run.pictures));
-        m_run.report["picture files picked"] += 1;
         files->setDirectory(QFileInfo(m_run.pictures.first()).path());
         // Of a missing file Qt tells in a box, which waits for this timer's next turn.
         QMetaObject::invokeMethod(files, "accept", Qt::QueuedConnection);

@@ -52,12 +52,14 @@ public:
 
     void pass(int milliseconds);        ///< lets the event loop run
     void resize(int width, int height); ///< the window and its page
+    void resizeByChance(int least, int mostWidth, int mostHeight);
     void openPage();
-    /// @param ending how, for the report
-    void closePage(const char* ending);
-    static constexpr const char* hidden = "hidden";
-    static constexpr const char* visible = "while visible";
-    void loseCamera();
+    enum Closing {
+        AsItIs,
+        Hidden
+    };
+    void closePage(Closing closing = AsItIs);
+    void loseCamera(); ///< perhaps
     /// Notifies from four threads of another's making; a session without threads does nothing.
     void burst(bool isLarge);
     /// What the module wrote since the last call, but for @p ignored; names and values, as a list.
@@ -71,7 +73,7 @@ private:
     void checkRefusal(const QWidget& page);
     void checkRest(std::int64_t memoryBefore);
     void answerDialog();
-    std::uint64_t checkLostTime(std::chrono::nanoseconds begin);
+    void checkLostTime(std::chrono::nanoseconds begin);
     void account();
 
     const Run m_run;
