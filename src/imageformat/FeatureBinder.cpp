@@ -31,18 +31,6 @@ bool isField(const QWidget* widget)
         || type == &QCheckBox::staticMetaObject;
 }
 
-/// False when the value is no entry.
-bool showValue(QWidget* field, const QVariant& value)
-{
-    if (auto* const comboBox = qobject_cast<QComboBox*>(field))
-        return showEntry(comboBox, value.toString());
-    if (auto* const checkBox = qobject_cast<QCheckBox*>(field))
-        showChecked(checkBox, value.toDouble() != 0.0);
-    else
-        static_cast<QSpinBox*>(field)->setValue(toInt(value.toDouble()));
-    return true;
-}
-
 } // namespace
 
 FeatureBinder::FeatureBinder(QWidget& form, FeatureManager& manager)
@@ -101,27 +89,28 @@ bool FeatureBinder::showReading(QWidget* field, FeatureReader& feature, Entries 
         return reading.isComplete;
     };
 
-    bool isComplete = false;
     if (auto* const comboBox = qobject_cast<QComboBox*>(field)) {
-        isComplete = take(feature.textReading());
-        const QStringList offered
-            = entries == Entries::Refilled ? feature.entries() : QStringList();
-        if (!offered.isEmpty())
-            showEntries(comboBox, offered, true);
-        else if (entries == Entries::Refilled)
-            isComplete = false;
-    } else if (auto* const spinBox = qobject_cast<QSpinBox*>(field)) {
-        const auto reading
-            = feature.number(FeatureReader::Value | FeatureReader::Range | FeatureReader::Access);
-        if (reading.minimum && reading.maximum)
-            spinBox->setRange(toInt(*reading.minimum), toInt(*reading.maximum));
-        isComplete = take(reading);
-    } else {
-        isComplete = take(feature.number(FeatureReader::Value | FeatureReader::Access));
+        bool isComplete = take(feature.textReading());
+        if (entries == Entries::Refilled) {
+            const QStringList offered = feature.entries();
+            isComplete = isComplete && !offered.isEmpty();
+            if (!offered.isEmpty())
+                showEntries(comboBox, offered, true);
+        }
+        const bool isEntry = !told.isValid() || showEntry(comboBox, told.toString());
+        return isComplete && (isEntry || entries == Entries::Refilled);
     }
-    if (!told.isValid())
-        return isComplete;
-    return (showValue(field, told) || entries == Entries::Refilled) && isComplete;
+    auto* const spinBox = qobject_cast<QSpinBox*>(field);
+    const auto reading = feature.number(FeatureReader::Value | FeatureReader::Access
+                                        | (spinBox ? FeatureReader::Range : 0));
+    const bool isComplete = take(reading);
+    if (spinBox && reading.minimum && reading.maximum)
+        spinBox->setRange(toInt(*reading.minimum), toInt(*reading.maximum));
+    if (spinBox && told.isValid())
+        spinBox->setValue(toInt(told.toDouble()));
+    else if (told.isValid())
+        showChecked(static_cast<QCheckBox*>(field), told.toDouble() != 0.0);
+    return isComplete;
 }
 
 QList<QWidget*> FeatureBinder::boundTo(const QStringList& features) const

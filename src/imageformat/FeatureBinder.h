@@ -9,12 +9,9 @@ class FeatureManager;
 class FeatureReader;
 class QWidget;
 
-/// Edits features in the spin boxes, combo boxes and check boxes of a form. Which feature a field
-/// edits is told by its object name: three lower-case letters and the feature's exact name, as in
-/// "cmbPixelFormat".
-///
-/// A field shows what the camera told last: a read that fails changes nothing. Nothing here makes a
-/// field emit.
+/// Edits features in the spin boxes, combo boxes and check boxes of a form, which are named after
+/// them: three lower-case letters and the feature's exact name, as in "cmbPixelFormat". A field
+/// shows what the camera told last, and nothing here makes it emit.
 class FeatureBinder
 {
 public:
@@ -25,8 +22,7 @@ public:
 
     /// Shows the field. False, and the field is left alone, when the camera lacks the feature.
     bool bind(QWidget* field);
-    /// Shows range, value and access by one look-up. False when it is to be shown once more, for
-    /// not all of it was told.
+    /// By one look-up. False when it is to be shown once more, for not all of it was told.
     bool show(QWidget* field);
     /// Shows what the camera made of the value. False as above; also when the camera holds no entry
     /// of the combo box, which then selects nothing.

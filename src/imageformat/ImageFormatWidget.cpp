@@ -12,12 +12,10 @@
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QDoubleSpinBox>
 #include <QEvent>
 #include <QSpinBox>
 
 #include <algorithm>
-#include <tuple>
 #include <utility>
 
 namespace Name = FeatureNames;
@@ -105,7 +103,10 @@ template <typename Page> Page* ImageFormatWidget::addRegionPage()
         return nullptr;
     connect(this, &ImageFormatWidget::acquisitionRunning, page.get(), &Page::camIsStreaming);
     connect(m_ui->imageReaderWidget, &ImageReaderWidget::imageChanged, page.get(),
-            &Page::setBackgroundImage);
+            [this, page = page.get()](const std::shared_ptr<QPixmap>& image) {
+                const CameraLink::ManyReads manyReads(*featureManager->link());
+                page->setBackgroundImage(image);
+            });
     m_ui->tabWidget->addTab(page.get(), page->accessibleName());
     return page.release();
 }
@@ -134,25 +135,17 @@ void ImageFormatWidget::bindFields()
         connect(spinBox, QOverload<int>::of(&QSpinBox::valueChanged), this,
                 &ImageFormatWidget::OnChangeSpinbox);
     }
-    const auto doubleSpinBoxes = findChildren<QDoubleSpinBox*>();
-    for (QDoubleSpinBox* const spinBox : doubleSpinBoxes)
-        guardAgainstWheel(spinBox);
     const auto checkBoxes = findChildren<QCheckBox*>();
     for (QCheckBox* const checkBox : checkBoxes) {
         checkBox->installEventFilter(this);
-        takeOtherSpelling(checkBox);
+        // Two spellings of the feature are in use; one form serves both.
+        if (FeatureBinder::featureOf(checkBox) == Name::multipleRegionEnable
+            && !featureManager->HasFeature(Name::multipleRegionEnable)
+            && featureManager->HasFeature(Name::multipleRegionsEnable))
+            checkBox->setObjectName(QStringLiteral("chkMultipleRegionsEnable"));
         if (bind(checkBox))
             connect(checkBox, &QCheckBox::stateChanged, this, &ImageFormatWidget::OnChangeCheckbox);
     }
-}
-
-// Two spellings of the feature are in use; one form serves both.
-void ImageFormatWidget::takeOtherSpelling(QCheckBox* checkBox)
-{
-    if (FeatureBinder::featureOf(checkBox) == Name::multipleRegionEnable
-        && !featureManager->HasFeature(Name::multipleRegionEnable)
-        && featureManager->HasFeature(Name::multipleRegionsEnable))
-        checkBox->setObjectName(QStringLiteral("chkMultipleRegionsEnable"));
 }
 
 // The region pages' fields without a feature are theirs to disable.
@@ -180,10 +173,8 @@ void ImageFormatWidget::camIsStreaming(bool streaming)
 template <typename Field> Field* ImageFormatWidget::changedField()
 {
     QObject* const source = sender();
-    if (!source)
-        return nullptr;
     auto* const field = qobject_cast<Field*>(source);
-    if (!field) {
+    if (source && !field) {
         const QString name = source->objectName();
         qWarning("Error accessing widget '%s'", qPrintable(name));
         emit loggingMessage(ZebViewerLogFeatureAccess, tr("Error accessing widget '%s'").arg(name));
@@ -220,7 +211,6 @@ void ImageFormatWidget::write(QWidget* field, const QVariant& value)
 
 void ImageFormatWidget::resetImageSource()
 {
-    const CameraLink::ManyReads manyReads(*featureManager->link()); // by the region pages
     m_ui->imageReaderWidget->setCurrentIndex(ImageReaderWidget::NoImage);
     m_ui->imageReaderWidget->onComboBoxItemActivated(ImageReaderWidget::NoImage);
 }
@@ -235,9 +225,8 @@ void ImageFormatWidget::refreshFeatures()
         names.removeDuplicates();
     }
     const auto geometry = [this] {
-        return std::make_tuple(m_ui->spbBinningHorizontal->value(),
-                               m_ui->spbBinningVertical->value(), m_ui->chkReverseX->isChecked(),
-                               m_ui->chkReverseY->isChecked());
+        return QVector<int>{m_ui->spbBinningHorizontal->value(), m_ui->spbBinningVertical->value(),
+                            m_ui->chkReverseX->isChecked(), m_ui->chkReverseY->isChecked()};
     };
     // A change made on this page, which its field shows already, resets the image no second time.
     const auto formerGeometry = geometry();
@@ -262,8 +251,8 @@ bool ImageFormatWidget::eventFilter(QObject* watched, QEvent* event)
 
 void ImageFormatWidget::updateIcon()
 {
-    m_ui->lblIcon->setPixmap(QPixmap(isDarkMode() ? QStringLiteral(":/images/image-darkmode.png")
-                                                  : QStringLiteral(":/images/image.png")));
+    m_ui->lblIcon->setPixmap(
+        QPixmap(isDarkMode() ? ":/images/image-darkmode.png" : ":/images/image.png"));
 }
 
 void ImageFormatWidget::reportLoss(const QString& message)

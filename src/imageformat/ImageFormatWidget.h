@@ -5,17 +5,13 @@
 #include <memory>
 
 class FeatureBinder;
-class QCheckBox;
 
 namespace Ui {
 class ImageFormatWidget;
 }
 
 /// The page that the viewer sees: pixel format, binning and reversal, the choice of a background
-/// image, and the region pages as inner tabs.
-///
-/// Widgets are bound to features by their object names (see FeatureBinder). The region pages
-/// reach the viewer through this page only.
+/// image, and as inner tabs the region pages, which reach the viewer through this page only.
 class ImageFormatWidget : public BaseTabPluginWidget
 {
     Q_OBJECT
@@ -51,7 +47,6 @@ private:
     void addRegionPages();
     void bindFields();
     bool bind(QWidget* field);
-    void takeOtherSpelling(QCheckBox* checkBox);
     void guardAgainstWheel(QWidget* field);
     void write(QWidget* field, const QVariant& value);
     void resetImageSource();

@@ -17,6 +17,9 @@ ImageReaderWidget::ImageReaderWidget(QWidget* parent)
               QStringLiteral("Image from file")});
     setFocusPolicy(Qt::StrongFocus); // or else the wheel itself would give the focus
     connect(this, QOverload<int>::of(&QComboBox::activated), this, &ImageReaderWidget::activate);
+    m_dialogDue.setSingleShot(true);
+    connect(&m_dialogDue, &QTimer::timeout, this,
+            [this] { onComboBoxItemActivated(ImageFromFile); });
 }
 
 ImageReaderWidget::~ImageReaderWidget()
@@ -28,18 +31,10 @@ ImageReaderWidget::~ImageReaderWidget()
 // with it, while the file dialog is open: the dialog waits until the list is done.
 void ImageReaderWidget::activate(int index)
 {
-    if (index != ImageFromFile) {
+    if (index == ImageFromFile)
+        m_dialogDue.start();
+    else
         onComboBoxItemActivated(index);
-        return;
-    }
-    m_isDialogDue = true;
-    QMetaObject::invokeMethod(
-        this,
-        [this] {
-            if (m_isDialogDue)
-                onComboBoxItemActivated(ImageFromFile);
-        },
-        Qt::QueuedConnection);
 }
 
 void ImageReaderWidget::onFrameReceived(const QPixmap& frame)
@@ -52,27 +47,16 @@ void ImageReaderWidget::onComboBoxItemActivated(int index)
 {
     const OverrideCursor waitCursor(Qt::WaitCursor);
     // A dialog that was opened before asks for what is not wanted any more.
-    m_isDialogDue = false;
+    m_dialogDue.stop();
     closeDialog();
-    switch (index) {
-    case NoImage:
-        clearImage();
-        break;
-    case LastAcquiredImage:
+    if (index == NoImage) {
+        m_fileImage.reset();
+        emit imageChanged(m_fileImage);
+    } else if (index == LastAcquiredImage) {
         emit requestFrame();
-        break;
-    case ImageFromFile:
+    } else if (index == ImageFromFile) {
         chooseFile();
-        break;
-    default:
-        break;
     }
-}
-
-void ImageReaderWidget::clearImage()
-{
-    m_fileImage.reset();
-    emit imageChanged(m_fileImage);
 }
 
 // Rolling over the list on the way down the page must not choose.
@@ -99,8 +83,12 @@ void ImageReaderWidget::chooseFile()
     const QStringList files = dialog->selectedFiles();
     dialog->deleteLater();
     const bool isCurrent = self && std::exchange(m_dialog, nullptr) == dialog;
-    if (isCurrent && accepted && !files.isEmpty())
-        loadFile(files.first());
+    if (!isCurrent || !accepted || files.isEmpty())
+        return;
+    const PictureFile file = PictureFile::load(files.first());
+    m_fileImage = std::make_shared<QPixmap>(file.picture);
+    m_fileFault = file.fault;
+    emit imageChanged(m_fileImage);
 }
 
 void ImageReaderWidget::closeDialog()
@@ -115,12 +103,4 @@ void ImageReaderWidget::closeDialog()
         question->reject();
     dialog->reject();
     dialog->setParent(nullptr, dialog->windowFlags());
-}
-
-void ImageReaderWidget::loadFile(const QString& fileName)
-{
-    PictureFile file = PictureFile::load(fileName);
-    m_fileImage = std::make_shared<QPixmap>(std::move(file.picture));
-    m_fileFault = file.fault;
-    emit imageChanged(m_fileImage);
 }

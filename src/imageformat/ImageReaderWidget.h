@@ -5,6 +5,7 @@
 #include <QComboBox>
 #include <QPixmap>
 #include <QPointer>
+#include <QTimer>
 
 #include <memory>
 
@@ -51,12 +52,10 @@ protected:
 
 private:
     void activate(int index);
-    void clearImage();
     void chooseFile();
-    void loadFile(const QString& fileName);
 
     std::shared_ptr<QPixmap> m_fileImage;
     QString m_fileFault;
     QPointer<QFileDialog> m_dialog;
-    bool m_isDialogDue = false; ///< chosen, and not open yet
+    QTimer m_dialogDue;
 };

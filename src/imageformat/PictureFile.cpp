@@ -14,13 +14,6 @@ struct Text
 /// Of a decoded picture; nearly twice the largest sensor. It takes 1 GiB.
 constexpr qint64 maximumPixels = qint64{1} << 28;
 
-// Some formats tell the size only when they are decoded. They take a byte or more for a pixel.
-qint64 estimatedPixels(const QImageReader& reader, const QFileInfo& file)
-{
-    const QSize size = reader.size();
-    return size.isValid() ? qint64{size.width()} * size.height() : file.size();
-}
-
 } // namespace
 
 PictureFile PictureFile::load(const QString& fileName)
@@ -32,7 +25,9 @@ PictureFile PictureFile::load(const QString& fileName)
     if (!file.isFile())
         return unusable(Text::tr("It is no file."));
     QImageReader reader(fileName);
-    if (estimatedPixels(reader, file) > maximumPixels)
+    const QSize size = reader.size();
+    // Some formats tell the size only when they are decoded. They take a byte or more for a pixel.
+    if ((size.isValid() ? qint64{size.width()} * size.height() : file.size()) > maximumPixels)
         return unusable(Text::tr("It is too large."));
     QImage image = reader.read();
     if (image.isNull())

@@ -29,8 +29,7 @@ AOIWidget::AOIWidget(const FeatureList& camera, QWidget* parent)
         return;
 
     // The module's coloured texts count on their style sheets from the first page on.
-    darkModeTextStyle();
-    lightModeTextStyle();
+    regionTextStyle(isDarkMode());
 
     m_ui = std::make_unique<Ui::AOIWidget>();
     m_ui->setupUi(this);

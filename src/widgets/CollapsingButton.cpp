@@ -31,7 +31,7 @@ void CollapsingButton::setContent(QWidget* content)
     if (m_content)
         m_content->disconnect(&m_animationGroup);
     m_content = content;
-    showArrow(isChecked());
+    setArrowType(isChecked() ? Qt::DownArrow : Qt::RightArrow);
     if (!content)
         return;
 
@@ -46,28 +46,17 @@ void CollapsingButton::setContent(QWidget* content)
         content->setMaximumHeight(0);
 }
 
-void CollapsingButton::showArrow(bool checked)
-{
-    setArrowType(checked ? Qt::DownArrow : Qt::RightArrow);
-}
-
 void CollapsingButton::onToggled(bool checked)
 {
-    showArrow(checked);
+    setArrowType(checked ? Qt::DownArrow : Qt::RightArrow);
     if (!m_content)
         return;
 
-    if (!checked)
-        raiseEndValue();
+    // Content that grew while it was shown would jump to the old end value before it folds.
+    auto* animation = qobject_cast<QPropertyAnimation*>(m_animationGroup.animationAt(0));
+    if (!checked && animation && animation->endValue().toInt() < m_content->height())
+        animation->setEndValue(m_content->height());
     m_animationGroup.setDirection(checked ? QAbstractAnimation::Forward
                                           : QAbstractAnimation::Backward);
     m_animationGroup.start();
-}
-
-// Content that grew while it was shown would jump to the old end value before it folds.
-void CollapsingButton::raiseEndValue()
-{
-    auto* animation = qobject_cast<QPropertyAnimation*>(m_animationGroup.animationAt(0));
-    if (animation && animation->endValue().toInt() < m_content->height())
-        animation->setEndValue(m_content->height());
 }

@@ -14,17 +14,14 @@ public:
     explicit CollapsingButton(QWidget* parent);
 
     /// Takes the widget to fold, which stays its parent's; an unchecked button folds it at once.
-    /// Its height at this moment, in pixels, is what a later unfolding reaches, with a small
-    /// margin.
+    /// What a later unfolding reaches is its height at this moment, with a small margin.
     void setContent(QWidget* content);
 
     /// Sets the title, kept clear of the arrow by one space.
     void setText(const QString& text);
 
 private:
-    void showArrow(bool checked);
     void onToggled(bool checked);
-    void raiseEndValue();
 
     QPointer<QWidget> m_content;
     QParallelAnimationGroup m_animationGroup;

@@ -64,7 +64,10 @@ void ExtendedTabWidget::tabInserted(int index)
 void ExtendedTabWidget::tabRemoved(int index)
 {
     if (m_tabMenu) {
-        removeMenuAction(index);
+        if (QAction* const action = m_tabMenu->actions().value(index)) {
+            m_tabMenu->removeAction(action);
+            action->deleteLater(); // it may be this action's own click that removes the tab
+        }
         onChangeCurrentIndex(currentIndex());
     }
     QTabWidget::tabRemoved(index);
@@ -93,7 +96,13 @@ void ExtendedTabWidget::createTabMenu()
     m_tabMenu = new QMenu(this);
     for (int i = 0; i < count(); ++i)
         insertMenuAction(i);
-    connect(m_tabMenu, &QMenu::aboutToShow, this, &ExtendedTabWidget::updateMenuTitles);
+    // Tabs may have been renamed or moved since their actions were made.
+    connect(m_tabMenu, &QMenu::aboutToShow, this, [this] {
+        const QList<QAction*> actions = m_tabMenu->actions();
+        for (int i = 0; i < actions.size(); ++i)
+            actions[i]->setText(tabText(i));
+        onChangeCurrentIndex(currentIndex());
+    });
     connect(this, &QTabWidget::currentChanged, this, &ExtendedTabWidget::onChangeCurrentIndex);
     onChangeCurrentIndex(currentIndex());
 
@@ -141,23 +150,6 @@ void ExtendedTabWidget::insertMenuAction(int index)
         onChangeCurrentIndex(currentIndex()); // the click has toggled the action
     });
     m_tabMenu->insertAction(m_tabMenu->actions().value(index), action);
-}
-
-void ExtendedTabWidget::removeMenuAction(int index)
-{
-    if (QAction* action = m_tabMenu->actions().value(index)) {
-        m_tabMenu->removeAction(action);
-        action->deleteLater(); // it may be this action's own click that removes the tab
-    }
-}
-
-// Tabs may have been renamed or moved since their actions were made.
-void ExtendedTabWidget::updateMenuTitles()
-{
-    const QList<QAction*> actions = m_tabMenu->actions();
-    for (int i = 0; i < actions.size(); ++i)
-        actions[i]->setText(tabText(i));
-    onChangeCurrentIndex(currentIndex());
 }
 
 void ExtendedTabWidget::updateMenuButton()

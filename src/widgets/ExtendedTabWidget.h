@@ -5,8 +5,8 @@
 class QMenu;
 class QToolButton;
 
-/// A tab widget that can list its tabs in a drop-down menu, for when they no longer fit the tab
-/// bar, and can offer a "+" button that asks for a new tab.
+/// A tab widget that can list its tabs in a menu, for when they no longer fit the tab bar, and can
+/// offer a "+" button that asks for a new tab.
 class ExtendedTabWidget : public QTabWidget
 {
     Q_OBJECT
@@ -44,8 +44,6 @@ private:
     void createPlusButton();
     void removeButtons();
     void insertMenuAction(int index);
-    void removeMenuAction(int index);
-    void updateMenuTitles();
     void updateMenuButton();
 
     QMenu* m_tabMenu = nullptr;

@@ -3,14 +3,6 @@
 #include <QEvent>
 #include <QWidget>
 
-namespace {
-bool isEnabledWidget(const QObject* object)
-{
-    const auto* widget = qobject_cast<const QWidget*>(object);
-    return widget && widget->isEnabled();
-}
-} // namespace
-
 QSpinBoxMouseEventFilter::QSpinBoxMouseEventFilter(QObject* parent)
     : QObject(parent)
 {
@@ -35,7 +27,7 @@ bool QSpinBoxMouseEventFilter::eventFilter(QObject* watched, QEvent* event)
         m_mousePressed = false;
         break;
     case QEvent::EnabledChange:
-        m_mousePressed = m_mousePressed && isEnabledWidget(watched);
+        m_mousePressed = m_mousePressed && static_cast<QWidget*>(watched)->isEnabled();
         break;
     default:
         break;

@@ -2,20 +2,10 @@
 
 #include <QString>
 
-/// Style sheets for the coloured text of the region pages, each created once per process.
-inline const QString& darkModeTextStyle()
-{
-    static const QString style = QStringLiteral("color: rgba(56,111,251,255);");
-    return style;
-}
-
-inline const QString& lightModeTextStyle()
-{
-    static const QString style = QStringLiteral("color: rgba(50,95,201,255);");
-    return style;
-}
-
+/// The style sheet of coloured text on the region pages. Both are created at the first call.
 inline const QString& regionTextStyle(bool darkMode)
 {
-    return darkMode ? darkModeTextStyle() : lightModeTextStyle();
+    static const QString dark = QStringLiteral("color: rgba(56,111,251,255);");
+    static const QString light = QStringLiteral("color: rgba(50,95,201,255);");
+    return darkMode ? dark : light;
 }

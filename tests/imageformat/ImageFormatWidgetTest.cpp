@@ -41,6 +41,10 @@ struct OpenPage
     QComboBox* format() const { return field<QComboBox>("cmbPixelFormat"); }
     ImageReaderWidget* source() const { return field<ImageReaderWidget>("imageReaderWidget"); }
     int value(const char* feature) const { return int(camera->feature(feature).integer()); }
+    void refuse(sim::Operations operations) const
+    {
+        camera->failures().add("*", operations, sim::Failure::refuse());
+    }
 
     const MessageHandlerGuard guard;
     std::unique_ptr<sim::Camera> camera;
@@ -95,18 +99,14 @@ private slots:
         QVERIFY(p.camera->feature("ReverseX").isOn());
 
         // What the camera refuses is not shown, nor what it does not tell.
-        p.camera->failures().add("*", sim::Operation::SetValue, sim::Failure::refuse());
-        p.format()->setCurrentIndex(2);
-        QCOMPARE(p.format()->currentIndex(), 1);
-        p.binning()->setValue(4);
-        QCOMPARE(p.binning()->value(), 2);
-        p.camera->failures().add("*", sim::Operation::GetValue, sim::Failure::refuse());
-        p.binning()->setValue(4);
-        QCOMPARE(p.binning()->value(), 2);
-        p.format()->setCurrentIndex(2);
-        QCOMPARE(p.format()->currentIndex(), 1);
-        p.camera->failures().clear();
-        p.camera->failures().add("*", sim::Operation::SetValue, sim::Failure::refuse());
+        for (const auto refused : {sim::Operation::GetValue, sim::Operation::SetValue}) {
+            p.camera->failures().clear();
+            p.refuse(sim::Operations(refused) | sim::Operation::SetValue);
+            p.binning()->setValue(4);
+            QCOMPARE(p.binning()->value(), 2);
+            p.format()->setCurrentIndex(2);
+            QCOMPARE(p.format()->currentIndex(), 1);
+        }
         p.camera->journal().clear();
         const QPoint indicator(reverse->width() - 10, reverse->height() / 2);
         for (int click = 1; click <= 3; ++click) {
@@ -147,12 +147,10 @@ private slots:
         const OpenPage p;
         p.camera->setNotifications(sim::NotificationSettings::off());
         p.camera->force("PixelFormat", "Mono77");
-        p.camera->failures().add("PixelFormat", sim::Operation::SetValue, sim::Failure::refuse());
+        p.refuse(sim::Operation::SetValue);
         p.format()->setCurrentIndex(1);
         QCOMPARE(p.format()->currentIndex(), -1);
-        p.camera->modify("PixelFormat", [](sim::FeatureDescription& feature) {
-            feature.entries.push_back({"Mono77", 77});
-        });
+        p.camera->modify("PixelFormat", [](auto& f) { f.entries.push_back({"Mono77", 77}); });
         p.page->updateTimer();
         QCOMPARE(p.format()->currentText(), QString("Mono77"));
     }
@@ -163,7 +161,7 @@ private slots:
         const DataTable row([](sim::Operations refused) {
             const OpenPage p;
             QSignalSpy images(p.source(), &ImageReaderWidget::imageChanged);
-            p.camera->failures().add("*", refused, sim::Failure::refuse());
+            p.refuse(refused);
             p.camera->writeAsOtherClient("ReverseY", true);
             p.camera->writeAsOtherClient("BinningVertical", 2);
             p.camera->writeAsOtherClient("PixelFormat", "Mono12");

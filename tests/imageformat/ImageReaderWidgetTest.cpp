@@ -30,16 +30,6 @@ private slots:
         broken.write("no picture");
     }
 
-    void fileFilter_data()
-    {
-        const DataTable row([](const QList<QByteArray>& formats, const QString& filter) {
-            QCOMPARE(PictureFile::filter(formats), filter);
-        });
-        row("none", {}, "Image files ()");
-        row("order and case", {"png", "BMP", "Jpg"}, "Image files (*.png *.bmp *.jpg)");
-    }
-    void fileFilter() { runRow(); }
-
     void noImageAndFramesAreAnnouncedEachTime()
     {
         ImageReaderWidget selector(nullptr);
@@ -59,6 +49,8 @@ private slots:
     {
         const DataTable row([this](const QString& file, bool accepted,
                                    const QList<QSize>& announced) {
+            QCOMPARE(PictureFile::filter({"png", "BMP", "Jpg"}),
+                     QString("Image files (*.png *.bmp *.jpg)"));
             ImageReaderWidget selector(nullptr);
             const auto images = announcedBy(selector);
             whenDialogOpens([&](QFileDialog* dialog) {
@@ -96,26 +88,16 @@ private slots:
             file.write(content);
             file.close();
             // Opening a pipe for reading waits for a writer.
-            const QString name = content == "folder" ? m_folder.path()
-                : content == "pipe"                  ? makePipe()
-                                                     : file.fileName();
+            const QString name = content == "pipe" ? makePipe() : file.fileName();
             const PictureFile loaded = PictureFile::load(name);
             QVERIFY(loaded.picture.isNull());
             QVERIFY(loaded.fault.contains(name));
         });
-        row("empty", QByteArray());
-        row("text", QByteArray("This is no picture."));
-        row("900 megapixels, grey", QByteArray("P5\n30000 30000 255\n"));
-        row("900 megapixels, bits", QByteArray("P4\n30000 30000\n"));
-        row("folder", "folder");
-#ifdef Q_OS_UNIX
+        row("text", "This is no picture.");
+        row("900 megapixels", "P5\n30000 30000 255\n");
         row("pipe", "pipe");
-#endif
     }
-    void refusesWhatIsNoPicture()
-    {
-        runRow();
-    }
+    void refusesWhatIsNoPicture() { runRow(); }
 
     // The list is reset by the page while its dialog is on, or about to be.
     void laterChoiceEndsTheDialog_data()
@@ -148,10 +130,7 @@ private slots:
         row("open", true);
         row("about to open", false);
     }
-    void laterChoiceEndsTheDialog()
-    {
-        runRow();
-    }
+    void laterChoiceEndsTheDialog() { runRow(); }
 
     void wheelChoosesWithFocusOnly()
     {

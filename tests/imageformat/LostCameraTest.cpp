@@ -83,6 +83,7 @@ private slots:
         const Action edit = [](LostPage& f) {
             f.page->findChild<QSpinBox*>("spbBinningHorizontal")->setValue(2);
         };
+        const Action frame = [](LostPage& f) { emit f.page->receiveFrameSignal(QPixmap(8, 4)); };
         const auto type = [](const char* field) {
             return Action([field](LostPage& f) {
                 auto* const box = f.tabs->currentWidget()->findChild<QDoubleSpinBox*>(field);
@@ -96,6 +97,7 @@ private slots:
             row(name("close"), isWhole, 0, close);
             row(name("tick"), isWhole, 0, tick);
             row(name("edit"), isWhole, 0, edit);
+            row(name("a frame"), isWhole, 0, frame);
             row(name("type a width"), isWhole, 0, type("spinWidth"));
             row(name("type a limit"), isWhole, 1, type("spinExpAutoMin"));
             for (int tab = 0; tab < 3; ++tab)
