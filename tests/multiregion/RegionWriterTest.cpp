@@ -95,8 +95,10 @@ private slots:
         QCOMPARE(test.written(), QString("Width OffsetX Height OffsetY Mode"));
         test.writer->save(0, {16, 16, 640, 480});
         QCOMPARE(test.written(), QString("OffsetX Width OffsetY Height Mode"));
-        test.writer->save(1, {1000, 1000, 640, 480});
-        QCOMPARE(test.display.m_shown[1], QRect(1000, 1000, 640, 480));
+        test.writer->save(1, {2432, 1784, 160, 160});
+        test.writer->save(0, {0, 0, 2592, 1944});
+        test.writer->save(1, {8, 8, 640, 480});
+        QCOMPARE(test.display.m_shown[1], QRect(8, 8, 640, 480));
         test.writer->save(1, {});
         QCOMPARE(test.written("SubRegionMode").count("Mode"), 0);
         QCOMPARE(test.display.m_shown[1], QRect(0, 0, 16, 8));
@@ -196,6 +198,7 @@ private slots:
         test.writer->readAll();
         QVERIFY(test.link->isLost());
         QVERIFY(test.camera->journal().count() < 12);
+        QCOMPARE(test.log.size(), 1);
         QVERIFY(test.display.m_active[3]);
         test.camera->recover();
         test.camera->forceAt("SubRegionMode", 3, "Off");
