@@ -1,6 +1,6 @@
 #pragma once
 
-#include "multiregion/label/RegionConversion.h"
+#include "multiregion/label/ShownRegion.h"
 #include "multiregion/rules/SizeRange.h"
 
 #include <QMutex>

@@ -39,12 +39,9 @@ bool isForLines(const Span<int>& band, int point, const QVector<int>& positions)
     const int third = band.length / 3;
     if (point < band.start + third || point >= band.end() - third)
         return true;
-    const auto isInAZone = [&positions](int pixel) {
-        return std::any_of(positions.begin(), positions.end(),
-                           [pixel](int position) { return grabDistance(position, pixel); });
-    };
     for (int pixel = band.start; pixel < band.end(); ++pixel) {
-        if (!isInAZone(pixel))
+        if (std::none_of(positions.begin(), positions.end(),
+                         [pixel](int position) { return grabDistance(position, pixel); }))
             return true;
     }
     return false;

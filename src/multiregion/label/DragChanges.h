@@ -1,6 +1,6 @@
 #pragma once
 
-#include "multiregion/label/RegionConversion.h"
+#include "multiregion/label/ShownRegion.h"
 #include "multiregion/rules/ConstraintGroups.h"
 
 /// A region's new rectangle, in sensor pixels.

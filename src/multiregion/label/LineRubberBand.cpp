@@ -12,7 +12,6 @@ LineRubberBand::LineRubberBand(int orientation, int position, QWidget* parent, i
                                const QColor& color, SensorLabel* label)
     : QRubberBand(QRubberBand::Line, parent)
     , m_orientation(orientation)
-    , m_position(position)
 {
     if (label)
         m_bounds.upper = isVertical() ? label->shownSize().width() : label->shownSize().height();
@@ -31,12 +30,11 @@ std::optional<int> LineRubberBand::distanceTo(const QPoint& point) const
     constexpr int zone = lineGrabZone;
     if (!geometry().adjusted(-zone, -zone, zone, zone).contains(point))
         return std::nullopt;
-    return grabDistance(m_position, isVertical() ? point.x() : point.y());
+    return grabDistance(position(), isVertical() ? point.x() : point.y());
 }
 
 void LineRubberBand::place(int position, int length)
 {
-    m_position = position;
     if (isVertical()) {
         setFixedSize(constraintLineThickness, length);
         move(position, 0);
@@ -48,9 +46,6 @@ void LineRubberBand::place(int position, int length)
 
 void LineRubberBand::setColor(const QColor& color)
 {
-    if (color == m_color)
-        return;
-    m_color = color;
     QPalette colors = palette();
     colors.setBrush(QPalette::Highlight, QBrush(color, Qt::SolidPattern));
     setPalette(colors);
@@ -61,8 +56,9 @@ void LineRubberBand::moveToPoint(QPoint point)
     if (!m_dragging)
         return;
     const int wanted = isVertical() ? point.x() : point.y();
-    m_position = std::clamp(wanted, m_bounds.lower, std::max(m_bounds.lower, m_bounds.upper));
-    move(isVertical() ? QPoint(m_position, 0) : QPoint(0, m_position));
+    const int position
+        = std::clamp(wanted, m_bounds.lower, std::max(m_bounds.lower, m_bounds.upper));
+    move(isVertical() ? QPoint(position, 0) : QPoint(0, position));
     announce();
 }
 

@@ -29,7 +29,7 @@ public:
     const ConstraintGroup& group() const { return m_group; }
     BandEdge edge() const { return m_edge; }
 
-    int position() const { return m_position; }
+    int position() const { return isVertical() ? x() : y(); }
     /// Of a point that is near enough to grab the line.
     std::optional<int> distanceTo(const QPoint& point) const;
 
@@ -57,8 +57,6 @@ private:
     bool isVertical() const { return m_orientation == vertical; }
 
     const int m_orientation;
-    int m_position;
-    QColor m_color;
     bool m_dragging = false;
     LineBounds m_bounds;
     ConstraintGroup m_group;

@@ -1,6 +1,5 @@
 #include "multiregion/label/MultiRubberBandLabel.h"
 
-#include "multiregion/label/LineRubberBand.h"
 #include "multiregion/label/RectangleRubberBand.h"
 
 #include <QPointer>
@@ -24,7 +23,7 @@ MultiRubberBandLabel::MultiRubberBandLabel(int sensorWidth, int sensorHeight, co
     : BandSurroundings({sensorWidth, sensorHeight}, color, parent)
     , m_regions(color)
     , m_drag(&m_regions)
-    , m_lines(this, &m_regions)
+    , m_bands(this, &m_regions)
 {
     // The first resize tells its factors from the sensor's size, however large a pixmap it found.
     m_regions.setMapping({sensorSize(), sensorSize()});
@@ -64,12 +63,9 @@ void MultiRubberBandLabel::setRegionLimits(int regionNo, const RegionSizeLimits&
 
 void MultiRubberBandLabel::selectRegion(int regionNo)
 {
-    if (m_pressedRegion == regionNo)
+    if (regionNo == m_bands.selected())
         return;
-    m_selectedRegion = regionNo;
-    for (RectangleRubberBand* band : m_regions.bands())
-        band->highlightIfSelected(regionNo);
-    restack();
+    m_bands.select(regionNo);
     emit highlightSelectedRegion(regionNo);
 }
 
@@ -79,13 +75,19 @@ QColor MultiRubberBandLabel::shownColor(int regionNo) const
     return region.band ? region.band->shownColor() : region.color;
 }
 
+std::optional<int> MultiRubberBandLabel::regionUnder(const QPoint& point) const
+{
+    const RectangleRubberBand* band = m_bands.bandAt(point);
+    return band ? std::optional(band->regionNo()) : std::nullopt;
+}
+
 void MultiRubberBandLabel::announceRegions()
 {
-    m_announceSoon.stop();
     if (signalsBlocked())
         return;
     if (m_arrangePending)
         arrangeSilently();
+    m_announceSoon.stop();
     const QPointer<MultiRubberBandLabel> guard(this);
     for (const int region : m_regions.numbers()) {
         if (guard)
@@ -105,12 +107,7 @@ void MultiRubberBandLabel::removeRectangle(int index)
         return;
     if (m_drag.holds(index))
         dropDrag();
-    RectangleRubberBand* const band = std::exchange(m_regions[index].band, nullptr);
-    // It may be on the stack, in the midst of its own report.
-    band->hide();
-    band->disconnect();
-    disconnect(band);
-    band->deleteLater();
+    m_bands.hide(index);
     const QPointer<MultiRubberBandLabel> guard(this);
     emit regionActivated(index, false);
     if (guard)
@@ -164,9 +161,9 @@ void MultiRubberBandLabel::press(const QPoint& point)
     const QPointer<MultiRubberBandLabel> guard(this);
     if (m_arrangePending)
         announceRegions();
-    if (LineRubberBand* line = guard ? lineAt(point) : nullptr)
+    if (LineRubberBand* line = guard ? m_bands.lineAt(point) : nullptr)
         m_drag.begin(line);
-    else if (RectangleRubberBand* band = guard ? bandAt(point) : nullptr)
+    else if (RectangleRubberBand* band = guard ? m_bands.bandAt(point) : nullptr)
         m_drag.begin(band, point);
     if (guard && m_drag.isRunning())
         emit rubberChangeStarted(point);
@@ -183,7 +180,7 @@ void MultiRubberBandLabel::drag(const QPoint& point)
         return;
     const QVector<int> held = m_drag.held();
     for (const int region : held)
-        m_lines.follow(region);
+        m_bands.follow(region);
     emit mouseMoved(point);
 }
 
@@ -201,16 +198,15 @@ void MultiRubberBandLabel::drop()
     m_drag.drop();
     m_regions.applyWaiting();
     arrangeSilently();
-    m_announceSoon.start();
 }
 
 /// A line leaves the cursor as it is.
 void MultiRubberBandLabel::hover(const QPoint& position)
 {
     const QPoint point = clampedToPicture(position);
-    if (lineAt(point))
+    if (m_bands.lineAt(point))
         return;
-    if (const RectangleRubberBand* band = bandAt(point))
+    if (const RectangleRubberBand* band = m_bands.bandAt(point))
         setCursor(cursorForGrab(band->grabAt(point)));
     else
         unsetCursor();
@@ -224,7 +220,6 @@ void MultiRubberBandLabel::resizeEvent(QResizeEvent* event)
     BandSurroundings::resizeEvent(event);
     rescale();
     arrangeSilently();
-    m_announceSoon.start();
     const QSize& shown = m_regions.mapping().shown;
     const double factorX = static_cast<double>(shown.width()) / std::max(1, before.width());
     const double factorY = static_cast<double>(shown.height()) / std::max(1, before.height());
@@ -234,9 +229,7 @@ void MultiRubberBandLabel::resizeEvent(QResizeEvent* event)
 
 void MultiRubberBandLabel::showRectangle(int regionNo)
 {
-    auto* band = new RectangleRubberBand(regionNo, m_regions.placed(regionNo),
-                                         m_regions.limitsOfBand(regionNo).minimum,
-                                         regionColor(regionNo), this);
+    const RectangleRubberBand* band = m_bands.show(regionNo);
     connect(band, &RectangleRubberBand::regionBandSelected, this,
             &MultiRubberBandLabel::onBandPressed);
     connect(band, &RectangleRubberBand::geometryChanged, this,
@@ -245,27 +238,10 @@ void MultiRubberBandLabel::showRectangle(int regionNo)
             &MultiRubberBandLabel::onBandColorChanged);
     connect(this, &MultiRubberBandLabel::regionActivated, band,
             &RectangleRubberBand::onNeighbourRegionActivated);
-    m_lines.connectTo(band);
-    m_regions[regionNo].band = band;
-    band->highlightIfSelected(m_selectedRegion);
-    band->show();
-    restack();
     const QPointer<MultiRubberBandLabel> guard(this);
     emit regionActivated(regionNo, true);
     if (guard)
         arrange();
-}
-
-RectangleRubberBand* MultiRubberBandLabel::bandAt(const QPoint& point) const
-{
-    const std::optional<int> region = regionUnder(point);
-    return region ? m_regions.at(*region).band : nullptr;
-}
-
-LineRubberBand* MultiRubberBandLabel::lineAt(const QPoint& point) const
-{
-    const RectangleRubberBand* band = bandAt(point);
-    return m_lines.lineAt(point, band ? band->geometry() : QRect());
 }
 
 /// A drag goes on at another scale; without a picture the scale stays, to go on from.
@@ -297,30 +273,8 @@ void MultiRubberBandLabel::arrangeSilently()
         return;
     }
     const QSignalBlocker blocker(this);
-    for (RectangleRubberBand* band : m_regions.bands())
-        placeBand(band);
-    m_lines.update();
-    for (RectangleRubberBand* band : m_regions.bands())
-        band->onIntersectionFound(
-            m_regions.intersecting(band->regionNo(), band->geometry()).value_or(-1));
-}
-
-void MultiRubberBandLabel::placeBand(RectangleRubberBand* band)
-{
-    const int region = band->regionNo();
-    if (!m_drag.holds(region))
-        band->setGeometry(m_regions.placed(region));
-    band->setSizeLimits(m_regions.limitsOfBand(region));
-}
-
-/// As a press finds them: lines, the selected band, the others by number.
-void MultiRubberBandLabel::restack()
-{
-    for (RectangleRubberBand* band : m_regions.bands())
-        band->raise();
-    if (auto* band = m_regions.at(m_selectedRegion).band)
-        band->raise();
-    m_lines.raise();
+    m_bands.arrange(m_drag);
+    m_announceSoon.start();
 }
 
 void MultiRubberBandLabel::announce(int regionNo)
@@ -328,31 +282,34 @@ void MultiRubberBandLabel::announce(int regionNo)
     const QPointer<MultiRubberBandLabel> guard(this);
     if (isRegionShown(regionNo))
         emit regionColorChanged(regionNo, shownColor(regionNo));
-    const auto news = guard ? m_regions.newConstraints(regionNo) : QVector<QStringList>();
-    for (const QStringList& features : news) {
-        if (guard)
-            emit constraintsActivated(regionNo, features);
-    }
+    if (!guard)
+        return;
+    const QStringList features = sharedFeatures(regionNo, m_regions.groups());
+    const QStringList before = std::exchange(m_regions[regionNo].toldConstraints, features);
+    if (!before.isEmpty() && features != before)
+        emit constraintsActivated(regionNo, {});
+    if (guard && !features.isEmpty() && features != before)
+        emit constraintsActivated(regionNo, features);
     if (guard)
         announceRange(regionNo);
 }
 
 void MultiRubberBandLabel::announceRange(int regionNo)
 {
-    if (const auto range = m_regions.newRange(regionNo))
-        emit regionRangeChanged(regionNo, *range);
+    if (!isRegionShown(regionNo))
+        return;
+    const QRect range = rangeBetweenNeighbours(m_regions.shown(), m_regions.mode(),
+                                               m_regions.groups(), sensorSize(), regionNo);
+    if (range != std::exchange(m_regions[regionNo].toldRange, range))
+        emit regionRangeChanged(regionNo, range);
 }
 
 void MultiRubberBandLabel::onBandPressed(int regionNo)
 {
     const QPointer<MultiRubberBandLabel> guard(this);
     selectRegion(regionNo);
-    if (!guard)
-        return;
-    m_pressedRegion = regionNo;
-    emit regionSelected(regionNo);
     if (guard)
-        m_pressedRegion.reset();
+        emit regionSelected(regionNo);
 }
 
 /// At the end of the band's drag, or when a neighbour has brought or solved a conflict. Nothing is
@@ -368,7 +325,7 @@ void MultiRubberBandLabel::onBandGeometryChanged(int regionNo)
 
 void MultiRubberBandLabel::onBandColorChanged(int regionNo, const QColor& color)
 {
-    m_lines.setColor(regionNo, color);
+    m_bands.setLineColor(regionNo, color);
     emit regionColorChanged(regionNo, color);
 }
 

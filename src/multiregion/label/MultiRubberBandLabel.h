@@ -2,7 +2,7 @@
 
 #include "host/TabExtensionInterface.h"
 #include "multiregion/label/BandSurroundings.h"
-#include "multiregion/label/ConstraintLineSet.h"
+#include "multiregion/label/RegionBands.h"
 #include "multiregion/label/RegionDrag.h"
 #include "multiregion/label/RegionStore.h"
 
@@ -26,8 +26,6 @@ public:
     void setArrangementMode(const QString& mode);
     /// What the camera allows for a region; at first it may have any size within the sensor.
     void setRegionLimits(int regionNo, const RegionSizeLimits& limits);
-    /// Highlights it; within regionSelected(), which follows the highlighting, nothing more
-    /// happens.
     void selectRegion(int regionNo);
 
     /// A region's own colour, and the one that its band shows: red in a conflict.
@@ -37,10 +35,7 @@ public:
     bool isRegionShown(int regionNo) const { return m_regions.at(regionNo).band; }
 
     /// The shown region under a point.
-    std::optional<int> regionUnder(const QPoint& point) const
-    {
-        return m_regions.regionAt(point, m_selectedRegion);
-    }
+    std::optional<int> regionUnder(const QPoint& point) const;
     std::optional<int> intersecting(int region, const QRect& band) const override
     {
         return m_regions.intersecting(region, band);
@@ -88,7 +83,10 @@ public slots:
     void onRegionActivated(int regionNo, bool active);
 
 protected:
-    bool grabs(const QPoint& point) const override { return lineAt(point) || bandAt(point); }
+    bool grabs(const QPoint& point) const override
+    {
+        return m_bands.lineAt(point) || m_bands.bandAt(point);
+    }
     void press(const QPoint& point) override;
     void drag(const QPoint& point) override;
     void release(const QPoint& point) override;
@@ -98,14 +96,9 @@ protected:
 
 private:
     void showRectangle(int regionNo);
-    RectangleRubberBand* bandAt(const QPoint& point) const;
-    LineRubberBand* lineAt(const QPoint& point) const;
-
     void rescale();
     void arrange();
     void arrangeSilently();
-    void placeBand(RectangleRubberBand* band);
-    void restack();
 
     void announce(int regionNo);
     void announceRange(int regionNo);
@@ -117,9 +110,7 @@ private:
 
     RegionStore m_regions;
     RegionDrag m_drag;
-    ConstraintLineSet m_lines;
-    int m_selectedRegion = -1;
-    std::optional<int> m_pressedRegion; ///< while regionSelected() tells it
+    RegionBands m_bands;
     bool m_arrangePending = false;
     QTimer m_announceSoon;
 };

@@ -147,14 +147,11 @@ void RectangleRubberBand::onNeighbourRegionActivated(int regionNo, bool activate
 void RectangleRubberBand::onConstraintBandChanged(QRect lineBandGeometry)
 {
     const auto* line = qobject_cast<LineRubberBand*>(sender());
-    if (!line)
-        return;
-    if (lineBandGeometry.isNull()) {
+    if (lineBandGeometry.isNull())
         m_lineConstraints.remove(line);
-        return;
-    }
-    m_lineConstraints[line] = constraintsFromLine(line->group(), line->edge(), line->position(),
-                                                  m_regionNo, geometry());
+    else if (line)
+        m_lineConstraints[line] = constraintsFromLine(line->group(), line->edge(), line->position(),
+                                                      m_regionNo, geometry());
 }
 
 void RectangleRubberBand::changeEvent(QEvent* event)
@@ -165,31 +162,24 @@ void RectangleRubberBand::changeEvent(QEvent* event)
 
 void RectangleRubberBand::paintEvent(QPaintEvent* event)
 {
-    paintPlain(event);
-    if (!m_label) {
-        QPainter painter(this);
-        painter.setFont(numberFont());
-        painter.drawText(rect(), Qt::AlignCenter, numberText());
-        return;
-    }
-    // Lines and other bands that pass by touch the number seldom, and it is dear.
-    if (event->region().intersects(m_numberArea.translated(rect().center())))
-        drawNumber();
-}
-
-void RectangleRubberBand::paintPlain(QPaintEvent* event)
-{
     if (!m_image) {
         QStyleOptionRubberBand option;
         initStyleOption(&option);
         m_image.emplace(option, *this);
     }
-    if (!m_image->fits(size())) {
+    if (m_image->fits(size())) {
+        QPainter painter(this);
+        m_image->paint(painter, rect(), event->region());
+    } else {
         QRubberBand::paintEvent(event);
-        return;
     }
-    QPainter painter(this);
-    m_image->paint(painter, rect(), event->region());
+    if (!m_label) {
+        QPainter painter(this);
+        painter.setFont(numberFont());
+        painter.drawText(rect(), Qt::AlignCenter, numberText());
+    } else if (event->region().intersects(m_numberArea.translated(rect().center()))) {
+        drawNumber(); // which is dear; lines and other bands that pass by touch it seldom
+    }
 }
 
 /// A band in conflict may go anywhere, so that it can be pulled free; any other only where it
@@ -234,10 +224,8 @@ void RectangleRubberBand::prepareNumber()
 
 void RectangleRubberBand::drawNumber()
 {
-    const QPainterPath digits = m_number.translated(rect().center());
-    const QRect area
-        = m_numberArea.translated(rect().center()).intersected(rect()).translated(pos());
-    const QRect onLabel = area.intersected(m_label->rect());
+    const QRect area = m_numberArea.translated(rect().center()) & rect();
+    const QRect onLabel = area.translated(pos()) & m_label->rect();
     if (onLabel.isEmpty())
         return;
     // A brush smooths the digits; a clip would leave them jagged.
@@ -246,5 +234,5 @@ void RectangleRubberBand::drawNumber()
     negative.setTransform(QTransform::fromTranslate(origin.x(), origin.y()));
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.fillPath(digits, negative);
+    painter.fillPath(m_number.translated(rect().center()), negative);
 }

@@ -16,9 +16,8 @@ class LineRubberBand;
 /// One region on the region label, which hands it the mouse. It cannot be dragged over another
 /// region; while it overlaps one with a lower number it is red. Label pixels throughout.
 ///
-/// Shared rows and columns stay free of overlaps: a band on whose edges others depend goes only
-/// where these can follow it. The camera takes the shared edges for all members at once, so a free
-/// place for the one band alone would bring the others over their neighbours.
+/// A band on whose edges others depend goes only where these can follow it: the camera takes shared
+/// edges for all members at once, which would bring the others over their neighbours.
 class RectangleRubberBand : public QRubberBand
 {
     Q_OBJECT
@@ -66,7 +65,6 @@ protected:
 private:
     void showIfAllowed(const QRect& band);
     void applyColor();
-    void paintPlain(QPaintEvent* event);
     QString numberText() const;
     void prepareNumber();
     void drawNumber();

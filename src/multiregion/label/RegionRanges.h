@@ -1,7 +1,7 @@
 #pragma once
 
 #include "multiregion/label/ConstraintLineRules.h"
-#include "multiregion/label/RegionConversion.h"
+#include "multiregion/label/ShownRegion.h"
 
 /// The sizes that a region's band may have, label pixels. A camera reports the greatest size for
 /// the present offset; with the offset given up the region could be so much larger.

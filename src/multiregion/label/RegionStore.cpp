@@ -72,35 +72,3 @@ std::optional<int> RegionStore::intersecting(int asker, const QRect& band) const
     }
     return std::nullopt;
 }
-
-std::optional<int> RegionStore::regionAt(const QPoint& point, int preferred) const
-{
-    const auto isUnder = [&point](const KnownRegion& region) {
-        return region.band && region.band->geometry().contains(point);
-    };
-    if (isUnder(at(preferred)))
-        return preferred;
-    const auto it = std::find_if(m_regions.rbegin(), m_regions.rend(),
-                                 [&](const auto& entry) { return isUnder(entry.second); });
-    return it == m_regions.rend() ? std::nullopt : std::optional(it->first);
-}
-
-std::optional<QRect> RegionStore::newRange(int region)
-{
-    if (!at(region).band)
-        return std::nullopt;
-    const QRect range = rangeBetweenNeighbours(shown(), m_mode, m_groups, m_mapping.sensor, region);
-    const QRect before = std::exchange((*this)[region].toldRange, range);
-    return range == before ? std::nullopt : std::optional(range);
-}
-
-QVector<QStringList> RegionStore::newConstraints(int region)
-{
-    const QStringList features = sharedFeatures(region, m_groups);
-    const QStringList before = std::exchange((*this)[region].toldConstraints, features);
-    if (features == before)
-        return {};
-    if (before.isEmpty())
-        return {features};
-    return features.isEmpty() ? QVector{features} : QVector{QStringList(), features};
-}

@@ -57,14 +57,6 @@ public:
 
     /// The shown region with the lowest number, other than @p asker, whose band overlaps @p band.
     std::optional<int> intersecting(int asker, const QRect& band) const;
-    /// The shown region whose band contains @p point: @p preferred, else the highest number.
-    std::optional<int> regionAt(const QPoint& point, int preferred) const;
-
-    /// The shown region's range, once it is another one.
-    std::optional<QRect> newRange(int region);
-    /// The features that it takes from its groups' masters, once they are others; no features first
-    /// to withdraw those before.
-    QVector<QStringList> newConstraints(int region);
 
 private:
     KnownRegion m_unknown;

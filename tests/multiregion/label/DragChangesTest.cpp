@@ -1,6 +1,6 @@
+#include "multiregion/label/DragChanges.h"
 #include "DataTable.h"
 #include "RectText.h"
-#include "multiregion/label/DragChanges.h"
 #include "multiregion/label/RegionRanges.h"
 
 #include <QRandomGenerator>
@@ -35,7 +35,7 @@ QStringList texts(const QVector<RegionChange>& changes)
 
 } // namespace
 
-class RegionConversionTest : public QObject
+class DragChangesTest : public QObject
 {
     Q_OBJECT
 
@@ -69,7 +69,8 @@ private slots:
             QVector<ShownRegion> shown{{0, stored, band, {limits, limits}}};
             if (neighbour.isValid())
                 shown.append({1, neighbour, labelRect(neighbour, mapping), {}});
-            QCOMPARE(text(convertedRegion(shown[0], shown, mapping)), expected);
+            QCOMPARE(texts(changesAfterBandDrag(shown, {}, mapping, 0)),
+                     QStringList("0: " + expected));
         });
         row("unchanged", {0, 0, 0, 0}, 1, {}, "648,640 650x480");
         row("right edge", {0, 0, 10, 0}, 1, {}, "648,640 713x480");
@@ -120,7 +121,8 @@ private slots:
             if (between(0, 1))
                 dragged.band.setSize(labelRect(stored, scale).size());
             const ShownRegion neighbour{1, other, labelRect(other, scale), {}};
-            const QRect result = convertedRegion(dragged, {dragged, neighbour}, scale);
+            const QRect result
+                = changesAfterBandDrag({dragged, neighbour}, {}, scale, 0).first().rectangle;
             QVERIFY(result == stored || QRect(QPoint(), scale.sensor).contains(result));
             if (!overlap(stored, other) && !overlap(dragged.band, neighbour.band))
                 QVERIFY2(!overlap(result, other), qPrintable(text(result) + " " + text(other)));
@@ -201,5 +203,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(RegionConversionTest)
-#include "RegionConversionTest.moc"
+QTEST_GUILESS_MAIN(DragChangesTest)
+#include "DragChangesTest.moc"

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "multiregion/label/ConstraintLineRules.h"
+
+class BandSurroundings;
+class LineRubberBand;
+class QColor;
+class RectangleRubberBand;
+class RegionDrag;
+class RegionStore;
+
+/// What lies on a region label: the bands of the shown regions and two lines for each group. It
+/// makes, places, stacks and removes them.
+class RegionBands
+{
+public:
+    RegionBands(BandSurroundings* label, RegionStore* regions);
+
+    RectangleRubberBand* show(int region);
+    void hide(int region);
+    int selected() const { return m_selected; }
+    void select(int region);
+
+    /// Brings bands and lines in line with the regions and their groups, except for what is being
+    /// dragged, and tests for conflicts.
+    void arrange(const RegionDrag& drag);
+    /// Places the lines of which @p region is the master.
+    void follow(int region);
+    void setLineColor(int master, const QColor& color);
+
+    /// The band that contains a point: the selected one, else that with the highest number.
+    RectangleRubberBand* bandAt(const QPoint& point) const;
+    /// The nearest line within grabbing distance of a point that is not left to the band there.
+    LineRubberBand* lineAt(const QPoint& point) const;
+
+private:
+    void updateLines();
+    LineRubberBand* makeLine(const ConstraintGroup& group);
+    void placeLine(LineRubberBand* line);
+    void restack();
+
+    BandSurroundings* const m_label;
+    RegionStore* const m_regions;
+    QVector<LineRubberBand*> m_lines;
+    int m_selected = -1;
+};
