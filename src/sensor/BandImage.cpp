@@ -32,23 +32,7 @@ QRect inside(const QRect& rect, int frame)
 
 bool hasOneColor(const QImage& image, const QRect& area)
 {
-    const QRgb color = image.pixel(area.center());
-    for (int y = area.y(); y < area.y() + area.height(); ++y) {
-        for (int x = area.x(); x < area.x() + area.width(); ++x) {
-            if (image.pixel(x, y) != color)
-                return false;
-        }
-    }
-    return true;
-}
-
-int frameOf(const QImage& image, int scale)
-{
-    for (int frame = 0; frame <= widestFrame; ++frame) {
-        if (hasOneColor(image, inside(image.rect(), frame * scale)))
-            return frame;
-    }
-    return -1;
+    return image.copy(area) == image.copy({area.center(), QSize(1, 1)}).scaled(area.size());
 }
 
 /// One of the three parts of a band along an axis: where it is drawn, and from where.
@@ -74,18 +58,21 @@ BandImage::BandImage(const QStyleOptionRubberBand& option, const QWidget& band)
     if (!qFuzzyCompare(band.devicePixelRatioF(), m_scale))
         return;
     m_image = drawnBand(option, band, m_scale);
-    m_frame = frameOf(m_image, m_scale);
+    for (int frame = 0; !m_frame && frame <= widestFrame; ++frame) {
+        if (hasOneColor(m_image, inside(m_image.rect(), frame * m_scale)))
+            m_frame = frame;
+    }
 }
 
 bool BandImage::fits(const QSize& band) const
 {
-    return isUsable() && std::min(band.width(), band.height()) > 2 * m_frame;
+    return m_frame && std::min(band.width(), band.height()) > 2 * *m_frame;
 }
 
 void BandImage::paint(QPainter& painter, const QRect& band, const QRegion& region) const
 {
-    for (const Piece& row : pieces(band.y(), band.height(), m_frame)) {
-        for (const Piece& column : pieces(band.x(), band.width(), m_frame)) {
+    for (const Piece& row : pieces(band.y(), band.height(), *m_frame)) {
+        for (const Piece& column : pieces(band.x(), band.width(), *m_frame)) {
             const QRect piece(column.start, row.start, column.length, row.length);
             for (const QRect& rect : region) {
                 const QRect target = piece & rect;
@@ -106,5 +93,5 @@ void BandImage::paint(QPainter& painter, const QRect& band, const QRegion& regio
 QRegion BandImage::changed(const QRect& before, const QRect& after) const
 {
     const QRegion both = QRegion(before) + after;
-    return isUsable() ? both - (inside(before, m_frame) & inside(after, m_frame)) : both;
+    return m_frame ? both - (inside(before, *m_frame) & inside(after, *m_frame)) : both;
 }

@@ -3,6 +3,8 @@
 #include <QImage>
 #include <QRegion>
 
+#include <optional>
+
 class QPainter;
 class QStyleOptionRubberBand;
 class QWidget;
@@ -11,20 +13,19 @@ class QWidget;
 /// drawn out and of an inside of one colour: the style's own way to draw it, by antialiased paths,
 /// takes longer the larger the band is, however little of it is painted. Where the style lays one
 /// translucent colour over another the result may differ from its own by two in 255.
+///
+/// There is nothing to draw out for a style that gives the inside more than one colour, and on
+/// screens whose pixels are no whole fraction of the logical ones.
 class BandImage
 {
 public:
     /// As the band's style, palette and screen demand.
     BandImage(const QStyleOptionRubberBand& option, const QWidget& band);
 
-    /// False for a style that gives the inside more than one colour, and on screens whose pixels
-    /// are no whole fraction of the logical ones. Then there is nothing to draw out.
-    bool isUsable() const { return m_frame >= 0; }
-
-    /// Whether a band is large enough to have both borders of each axis whole.
+    /// Whether a band can be drawn out: it is large enough to have both borders of each axis whole.
     bool fits(const QSize& band) const;
 
-    /// Paints the part of @p band that is in @p region.
+    /// Paints the part in @p region of a band that fits.
     void paint(QPainter& painter, const QRect& band, const QRegion& region) const;
 
     /// What has to be painted anew when a band goes from one place to another: not what is inside
@@ -33,6 +34,6 @@ public:
 
 private:
     QImage m_image;
-    int m_scale = 1;  ///< pixels of the image for one of the band's, each way
-    int m_frame = -1; ///< how far the border reaches in
+    int m_scale = 1;            ///< pixels of the image for one of the band's, each way
+    std::optional<int> m_frame; ///< how far the border reaches in
 };

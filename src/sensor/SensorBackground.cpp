@@ -2,10 +2,10 @@
 
 #include <QImage>
 #include <QPainter>
+#include <QVersionNumber>
 #include <QtMath>
 
 #include <cstddef>
-#include <tuple>
 
 namespace {
 
@@ -15,7 +15,7 @@ constexpr int placeholderAlpha = 185;
 constexpr int marginFineness = 4;
 
 /// Aspect ratio kept and at least one pixel, as QPixmap::scaled() does it.
-QSize fittedSize(const QSize& size, const QSize& bounds)
+QSize fittedInto(const QSize& size, const QSize& bounds)
 {
     return size.scaled(bounds, Qt::KeepAspectRatio).expandedTo({1, 1});
 }
@@ -28,72 +28,53 @@ QImage viewOf(const QImage& image, const QRect& part)
     return QImage(firstPixel, part.width(), part.height(), image.bytesPerLine(), image.format());
 }
 
-/// A size several times @p size, from which the pixels are averaged, or that of the original when
-/// that is no larger.
-QSize finerSize(const QSize& original, const QSize& size)
+QImage spread(const QImage& image, const QSize& size)
 {
-    return original.boundedTo(size * marginFineness);
+    return image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
 }
 
-/// The area @p source, scaled, with black around the image's @p part of it. An image border may lie
-/// within a pixel.
+/// The area @p source with black around the image's @p part of it. An image border may lie within a
+/// pixel: the pixels are averaged from several times as many, as far as there are.
 QImage withMargins(const QImage& image, const QRect& source, const QRect& part, const QSize& size)
 {
-    QImage area(size, QImage::Format_ARGB32_Premultiplied);
+    const QSize finer = source.size().boundedTo(size * marginFineness);
+    QImage area(finer, QImage::Format_ARGB32_Premultiplied);
     area.fill(Qt::black);
-    const double xScale = static_cast<double>(size.width()) / source.width();
-    const double yScale = static_cast<double>(size.height()) / source.height();
+    const double xScale = static_cast<double>(finer.width()) / source.width();
+    const double yScale = static_cast<double>(finer.height()) / source.height();
     const QRectF place((part.x() - source.x()) * xScale, (part.y() - source.y()) * yScale,
                        part.width() * xScale, part.height() * yScale);
-    const QSize wholePixels(qCeil(place.width()), qCeil(place.height()));
     QPainter painter(&area);
     painter.setRenderHints(QPainter::SmoothPixmapTransform | QPainter::Antialiasing);
-    painter.drawImage(
-        place,
-        viewOf(image, part).scaled(wholePixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
-    return area;
+    painter.drawImage(place,
+                      spread(viewOf(image, part), {qCeil(place.width()), qCeil(place.height())}));
+    painter.end();
+    return spread(area, size);
 }
 
 /// The sensor pixels that are shown.
-QRect shownArea(const QSize& sensor, const QRect& crop)
+QRect shownArea(const SensorPicture& picture)
 {
-    const QRect sensorArea(QPoint(0, 0), sensor);
-    return crop.isEmpty() ? sensorArea : crop.intersected(sensorArea);
+    const QRect sensor(QPoint(0, 0), picture.sensor);
+    return picture.crop.isEmpty() ? sensor : picture.crop & sensor;
 }
 
-/// The pixels of a pixmap without a copy, in a format that needs no colour table.
-QImage pixelsOf(const QPixmap& pixmap)
+/// The shown area spread over @p size without a copy of the image, in the top left corner of a
+/// black pixmap.
+QPixmap composed(const SensorPicture& picture, const QSize& size, const QSize& target)
 {
-    const QImage image = pixmap.toImage();
-    return image.depth() > 8 ? image : image.convertToFormat(QImage::Format_ARGB32_Premultiplied);
-}
-
-/// The area @p source at @p size, over which it is spread; null when nothing of it is in the image.
-QImage scaledArea(const QPixmap& image, const QRect& source, const QSize& size)
-{
-    const QRect part = source.intersected(QRect(QPoint(0, 0), image.size()));
-    if (part.isEmpty())
-        return {};
-    const QImage pixels = pixelsOf(image);
-    const QImage picture = part == source
-        ? viewOf(pixels, part)
-        : withMargins(pixels, source, part, finerSize(source.size(), size));
-    return picture.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-}
-
-/// @p area in the top left corner.
-QPixmap onBlack(const QImage& area, const QSize& size)
-{
-    QPixmap result(size);
+    QImage pixels = picture.image->toImage();
+    if (pixels.depth() <= 8) // by a colour table
+        pixels = pixels.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    const QRect source = shownArea(picture);
+    const QRect part = source & pixels.rect();
+    QPixmap result(target);
     result.fill(Qt::black);
-    QPainter(&result).drawImage(0, 0, area);
+    if (!part.isEmpty())
+        QPainter(&result).drawImage(0, 0,
+                                    part == source ? spread(viewOf(pixels, part), size)
+                                                   : withMargins(pixels, source, part, size));
     return result;
-}
-
-/// The picture spread over @p size, whatever its aspect ratio.
-QPixmap stretchedBackground(const SensorPicture& picture, const QSize& size)
-{
-    return onBlack(scaledArea(*picture.image, shownArea(picture.sensor, picture.crop), size), size);
 }
 
 } // namespace
@@ -103,8 +84,8 @@ bool needsOpaquePlaceholder(const QOperatingSystemVersion& system)
     // The predefined version has no build number and would count as older than any real Windows 7.
     const QOperatingSystemVersion& last = QOperatingSystemVersion::Windows7;
     return system.type() == QOperatingSystemVersion::Windows
-        && std::make_tuple(system.majorVersion(), system.minorVersion())
-        <= std::make_tuple(last.majorVersion(), last.minorVersion());
+        && QVersionNumber(system.majorVersion(), system.minorVersion())
+        <= QVersionNumber(last.majorVersion(), last.minorVersion());
 }
 
 QColor placeholderTint(const QColor& color)
@@ -113,32 +94,21 @@ QColor placeholderTint(const QColor& color)
                            placeholderAlpha);
 }
 
-QPixmap composeBackground(const QPixmap& image, const QSize& sensor, const QRect& crop,
-                          const QSize& target)
+SensorBackground::SensorBackground(const QColor& placeholder, const QSize& sensor)
+    : m_size(sensor)
+    , m_color(placeholder)
 {
-    if (target.isEmpty())
-        return {};
-    const QRect source = shownArea(sensor, crop);
-    return onBlack(scaledArea(image, source, ::fittedSize(source.size(), target)), target);
 }
 
-void SensorBackground::showPlaceholder(const QColor& color, const QSize& sensor)
+SensorBackground::SensorBackground(const SensorPicture& picture, const QSize& keptSize)
+    : m_size(keptSize)
+    , m_source(picture)
 {
-    *this = {};
-    m_color = color;
-    m_size = sensor;
-}
-
-void SensorBackground::showPicture(const SensorPicture& picture, const QSize& keptSize)
-{
-    *this = {};
-    m_source = picture;
-    m_size = keptSize;
 }
 
 QSize SensorBackground::fittedSize(const QSize& bounds) const
 {
-    return m_size.isEmpty() || bounds.isEmpty() ? QSize() : ::fittedSize(m_size, bounds);
+    return m_size.isEmpty() || bounds.isEmpty() ? QSize() : fittedInto(m_size, bounds);
 }
 
 QPixmap SensorBackground::scaled(const QSize& size)
@@ -150,30 +120,17 @@ QPixmap SensorBackground::scaled(const QSize& size)
         placeholder.fill(m_color);
         return placeholder;
     }
-    if (isScaledDirectly(size)) {
-        m_firstSize = size;
-        return stretchedBackground(m_source, size);
+    if (m_source.image) {
+        const QSize shown = shownArea(m_source).size();
+        const bool losesPixels = size != m_size && m_size.boundedTo(largestLabel) != m_size;
+        if (losesPixels && shown == m_size && (m_firstSize.isEmpty() || size == m_firstSize)) {
+            m_firstSize = size;
+            return composed(m_source, size, size);
+        }
+        const QSize kept = losesPixels ? m_size.scaled(largestLabel, Qt::KeepAspectRatio) : m_size;
+        // Another aspect ratio than the sensor's leaves black beside the picture.
+        m_kept = composed(m_source, shown == m_size ? kept : fittedInto(shown, kept), kept);
+        m_source = {};
     }
-    if (m_source.image)
-        compose(size);
     return m_kept.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-}
-
-bool SensorBackground::isScaledDirectly(const QSize& size) const
-{
-    return m_source.image && m_source.fills(m_size) && size != m_size
-        && m_size.boundedTo(largestLabel) != m_size
-        && (m_firstSize.isEmpty() || size == m_firstSize);
-}
-
-/// @param size asked for; what is asked for whole is kept whole
-void SensorBackground::compose(const QSize& size)
-{
-    const bool isKeptWhole = size == m_size || m_size.boundedTo(largestLabel) == m_size;
-    const QSize kept = isKeptWhole ? m_size : m_size.scaled(largestLabel, Qt::KeepAspectRatio);
-    // Another aspect ratio than the sensor's leaves black beside the picture.
-    m_kept = m_source.fills(m_size)
-        ? stretchedBackground(m_source, kept)
-        : composeBackground(*m_source.image, m_source.sensor, m_source.crop, kept);
-    m_source = {};
 }

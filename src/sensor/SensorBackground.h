@@ -4,7 +4,6 @@
 #include <QOperatingSystemVersion>
 #include <QPixmap>
 #include <QRect>
-#include <QSize>
 
 #include <memory>
 
@@ -15,25 +14,14 @@ bool needsOpaquePlaceholder(const QOperatingSystemVersion& system);
 /// translucent.
 QColor placeholderTint(const QColor& color);
 
-/// The part @p crop (all of it when empty; sensor pixels) of a black sensor area that has @p image
-/// in its top left corner, fitted into the top left corner of a black pixmap of size @p target.
-///
-/// An image smaller than the sensor leaves black margins, a larger one is cut; its device pixel
-/// ratio does not count. The image is averaged straight into its place, without a copy of it; with
-/// margins there, by way of a picture of at most four times the target's width and height.
-QPixmap composeBackground(const QPixmap& image, const QSize& sensor, const QRect& crop,
-                          const QSize& target);
-
 /// A picture in the top left corner of a sensor, of which a part shows: all of it when the part is
-/// empty.
+/// empty. A smaller image leaves black margins, a larger one is cut; its device pixel ratio does
+/// not count.
 struct SensorPicture
 {
     std::shared_ptr<const QPixmap> image;
     QSize sensor;
     QRect crop;
-
-    /// Whether all of a sensor of this size shows.
-    bool fills(const QSize& area) const { return crop.isEmpty() && sensor == area; }
 };
 
 /// What a label shows of the sensor below its bands: the placeholder, which is no more than a
@@ -45,13 +33,12 @@ struct SensorPicture
 class SensorBackground
 {
 public:
-    /// As much as a label can show; label pixels.
+    /// As much as a label can show.
     static constexpr QSize largestLabel{2048, 2048};
 
-    /// @param sensor the size in sensor pixels, of which pixmaps take the aspect ratio
-    void showPlaceholder(const QColor& color, const QSize& sensor);
-    /// @param keptSize the size of all of it, of which pixmaps take the aspect ratio
-    void showPicture(const SensorPicture& picture, const QSize& keptSize);
+    SensorBackground(const QColor& placeholder, const QSize& sensor);
+    /// @param keptSize of all of it, of which pixmaps take the aspect ratio
+    SensorBackground(const SensorPicture& picture, const QSize& keptSize);
 
     bool isPicture() const { return m_source.image || !m_kept.isNull(); }
     QSize size() const { return m_size; }
@@ -60,12 +47,8 @@ public:
     QSize fittedSize(const QSize& bounds) const;
     /// All of it spread over @p size.
     QPixmap scaled(const QSize& size);
-    QPixmap fitted(const QSize& bounds) { return scaled(fittedSize(bounds)); }
 
 private:
-    bool isScaledDirectly(const QSize& size) const;
-    void compose(const QSize& size);
-
     QSize m_size;
     QColor m_color;
     SensorPicture m_source; ///< until there is the copy

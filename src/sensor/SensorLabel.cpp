@@ -37,20 +37,20 @@ SensorLabel::SensorLabel(const QSize& sensor, const QColor& color, QWidget* pare
     : QLabel(parent)
     , m_color(color)
     , m_sensor(sensor.boundedTo(largestSensor))
+    , m_background(placeholderColor(), m_sensor)
 {
     setMouseTracking(true);
     setMinimumSize(minimumSide, minimumSide);
     // Bands count from the left in right-to-left layouts too.
     setLayoutDirection(Qt::LeftToRight);
     setAlignment(Qt::AlignTop);
-    m_background.showPlaceholder(placeholderColor(), m_sensor);
     fitBackground(m_sensor.boundedTo(SensorBackground::largestLabel));
 }
 
 void SensorLabel::setSensor(const QSize& sensor)
 {
     m_sensor = sensor.boundedTo(largestSensor);
-    m_background.showPlaceholder(placeholderColor(), m_sensor);
+    m_background = {placeholderColor(), m_sensor};
     fitBackground(size());
     if (m_sensor.isEmpty())
         dropDrag();
@@ -60,9 +60,9 @@ void SensorLabel::setPicture(const SensorPicture& picture, const QSize& keptSize
                              const QSize& bounds)
 {
     if (picture.image)
-        m_background.showPicture(picture, keptSize);
+        m_background = {picture, keptSize};
     else
-        m_background.showPlaceholder(placeholderColor(), m_background.size());
+        m_background = {placeholderColor(), m_background.size()};
     fitBackground(bounds);
 }
 

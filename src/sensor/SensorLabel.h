@@ -4,9 +4,9 @@
 
 #include <QLabel>
 
-/// The sensor area with bands on it that are dragged with the mouse: a tinted placeholder or a
-/// picture, in the label's top left corner, scaled to fit. The base tells when a drag begins, goes
-/// on and ends; what is dragged is the matter of those who derive.
+/// The sensor area, a tinted placeholder or a picture in the label's top left corner, scaled to
+/// fit, with bands on it that are dragged with the mouse. What is dragged is the matter of those
+/// who derive.
 ///
 /// Pages may be deleted in a receiver of any signal. After one only what the receiver could not
 /// delete is used, and signals that tell of what Qt does to the label wait for the event loop.
@@ -21,12 +21,12 @@ public:
     bool isDragging() const { return m_button != Qt::NoButton; }
 
     QSize sensorSize() const { return m_sensor; }
-    /// Of the picture on the label, label pixels.
+    /// Of the picture on the label.
     QSize shownSize() const { return m_shown; }
 
 signals:
-    /// A press is about to begin a drag: what is being edited is to be written now, for nothing
-    /// else is until the release. The drag begins with what its receivers leave on the label.
+    /// A drag is about to begin, with what the receivers leave on the label: what is being edited
+    /// is to be written now.
     void aboutToDrag();
     /// A drag has ended without a result: the label was disabled or hidden, or lost the mouse.
     void dragDropped();
@@ -37,16 +37,14 @@ protected:
     void setOpaqueColor(const QColor& color) { m_opaqueColor = color; }
     /// Shows the placeholder. Without a sensor there is nothing to drag.
     void setSensor(const QSize& sensor);
-    /// Shows the picture, and without an image the placeholder as large as the picture was.
+    /// Without an image the placeholder comes back, as large as the picture was.
     /// @param keptSize at which the picture is kept; when resized it keeps this aspect ratio
-    /// @param bounds into which it is fitted, label pixels
+    /// @param bounds into which it is fitted
     void setPicture(const SensorPicture& picture, const QSize& keptSize, const QSize& bounds);
-
     /// Nothing shows but the picture as it is: a disabled label paints it paler, and what is in the
     /// margins is not the picture.
     bool isPlain() const { return isEnabled() && contentsRect() == rect(); }
-
-    /// The point of the shown picture next to @p point, its right and bottom border included.
+    /// Next to @p point on the picture, its right and bottom border included.
     QPoint clampedToPicture(const QPoint& point) const;
     void dropDrag();
 
@@ -59,7 +57,6 @@ protected:
     virtual void release(const QPoint& point) = 0;
     /// The drag has no result: all goes back to where it was, without a signal.
     virtual void drop() = 0;
-    /// @param point where it really is
     virtual void hover(const QPoint& point) = 0;
 
     bool event(QEvent* event) override;
@@ -82,6 +79,6 @@ private:
     QSize m_sensor;
     SensorBackground m_background;
     QSize m_shown;
-    bool m_pictureWaits = false;             ///< until the label is visible: it is scaled then
+    bool m_pictureWaits = false;             ///< to be scaled, until the label is visible
     Qt::MouseButton m_button = Qt::NoButton; ///< of the drag; the others do nothing meanwhile
 };

@@ -75,7 +75,6 @@ private slots:
         release(m_label.get(), {-20, 400});
         QCOMPARE(m_label->events.join(", "),
                  QString("about, press 200,150, drag 0,300, release -20,400"));
-        QVERIFY(!m_label->isDragging());
     }
 
     /// In the midst of a drag.
@@ -149,7 +148,6 @@ private slots:
         });
         row("moved away", "about", [](Probe* label) { label->band.moveLeft(250); });
         row("disabled", "about", [](Probe* label) { label->setEnabled(false); });
-        row("hidden", "about", [](Probe* label) { label->hide(); });
         row("nothing", "about, press 200,150", [](Probe*) {});
         row("deleted", {}, [this](Probe*) { m_label.reset(); });
     }

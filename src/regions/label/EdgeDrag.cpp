@@ -38,30 +38,18 @@ QRect clampedWhereHeld(const QRect& region, const EdgeGrab& held, const QSize& s
     return {x.start, y.start, x.length, y.length};
 }
 
-QRect movedBand(const EdgeDrag& drag, const QPoint& pointer, const LabelGeometry& geometry)
-{
-    const QSize room = displayedSize(geometry) - drag.band.size();
-    const QPoint position = pointer - drag.grabOffset;
-    return {QPoint(std::max(0, std::min(room.width(), position.x())),
-                   std::max(0, std::min(room.height(), position.y()))),
-            drag.band.size()};
-}
-
 } // namespace
-
-EdgeDrag dragFromPress(const QPoint& point, const QRect& band, Qt::CursorShape shown,
-                       const QRect& region, const LabelGeometry& geometry)
-{
-    const EdgeGrab held = grabForPress(bandForMouse(band, geometry), point);
-    return {held, followingEdges(held, isFlat(geometry) ? Qt::SizeHorCursor : shown),
-            point - band.topLeft(), band, region};
-}
 
 QRect draggedBand(const EdgeDrag& drag, const QPoint& pointer, const LabelGeometry& geometry)
 {
     const EdgeGrab& follows = drag.follows;
-    if (follows.moving)
-        return movedBand(drag, pointer, geometry);
+    if (follows.moving) {
+        const QSize room = displayedSize(geometry) - drag.band.size();
+        const QPoint position = pointer - drag.grabOffset;
+        return {QPoint(std::max(0, std::min(room.width(), position.x())),
+                       std::max(0, std::min(room.height(), position.y()))),
+                drag.band.size()};
+    }
     QPoint first = drag.band.topLeft();
     QPoint last = drag.band.bottomRight();
     if (follows.left)

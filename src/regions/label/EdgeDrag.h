@@ -13,10 +13,6 @@ struct EdgeDrag
     QRect region;      ///< sensor pixels
 };
 
-/// @param shown the cursor at the press
-EdgeDrag dragFromPress(const QPoint& point, const QRect& band, Qt::CursorShape shown,
-                       const QRect& region, const LabelGeometry& geometry);
-
 /// The opposite edges hold still, for which the band stays at least one pixel thin.
 /// @param pointer clamped to the picture
 QRect draggedBand(const EdgeDrag& drag, const QPoint& pointer, const LabelGeometry& geometry);

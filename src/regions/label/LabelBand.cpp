@@ -43,42 +43,32 @@ const BandImage& LabelBand::image()
     return *m_image;
 }
 
+bool LabelBand::event(QEvent* event)
+{
+    const bool isHandled = QRubberBand::event(event);
+    switch (event->type()) {
+    case QEvent::Move:
+    case QEvent::Resize:
+        if (isHidden())
+            break;
+        parentWidget()->update(image().changed(m_shown, geometry()));
+        m_shown = geometry();
+        break;
+    case QEvent::Show:
+        m_shown = geometry();
+        [[fallthrough]];
+    case QEvent::Hide:
+        parentWidget()->update(m_shown);
+        break;
+    default:
+        break;
+    }
+    return isHandled;
+}
+
 void LabelBand::changeEvent(QEvent* event)
 {
     QRubberBand::changeEvent(event);
     m_image.reset();
     parentWidget()->update(geometry());
-}
-
-void LabelBand::moveEvent(QMoveEvent* event)
-{
-    QRubberBand::moveEvent(event);
-    follow();
-}
-
-void LabelBand::resizeEvent(QResizeEvent* event)
-{
-    QRubberBand::resizeEvent(event);
-    follow();
-}
-
-void LabelBand::showEvent(QShowEvent* event)
-{
-    QRubberBand::showEvent(event);
-    m_shown = geometry();
-    parentWidget()->update(m_shown);
-}
-
-void LabelBand::hideEvent(QHideEvent* event)
-{
-    QRubberBand::hideEvent(event);
-    parentWidget()->update(m_shown);
-}
-
-void LabelBand::follow()
-{
-    if (isHidden())
-        return;
-    parentWidget()->update(image().changed(m_shown, geometry()));
-    m_shown = geometry();
 }

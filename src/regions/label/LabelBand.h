@@ -24,16 +24,12 @@ public:
     void paint(QPainter& painter, const QRegion& region);
 
 protected:
+    bool event(QEvent* event) override;
     void changeEvent(QEvent* event) override;
-    void moveEvent(QMoveEvent* event) override;
-    void resizeEvent(QResizeEvent* event) override;
-    void showEvent(QShowEvent* event) override;
-    void hideEvent(QHideEvent* event) override;
 
 private:
     QStyleOptionRubberBand styleOption() const;
     const BandImage& image();
-    void follow();
 
     QRect m_shown; ///< where the parent has painted the band
     std::optional<BandImage> m_image;

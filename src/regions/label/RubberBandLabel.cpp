@@ -1,7 +1,6 @@
 #include "regions/label/RubberBandLabel.h"
 
 #include "regions/label/LabelBand.h"
-
 #include "sensor/PixelRect.h"
 
 #include <QApplication>
@@ -14,6 +13,16 @@ namespace {
 
 constexpr int settleTimeMs = 200;
 constexpr int bandAlpha = 80;
+
+// What QLabel paints, rectangle by rectangle: one clip of them all takes several times as long.
+void paintPixmap(QPainter& painter, const QPixmap& pixmap, const QRegion& region)
+{
+    for (const QRect& part : region& pixmap.rect()) {
+        painter.setClipRect(part);
+        painter.drawPixmap(part, pixmap, part);
+    }
+    painter.setClipping(false);
+}
 
 } // namespace
 
@@ -31,8 +40,7 @@ RubberBandLabel::RubberBandLabel(int sensorWidth, int sensorHeight, const QColor
 void RubberBandLabel::setRegion(int top, int left, int width, int height)
 {
     m_region = truncatedRect(left, top, width, height);
-    if (!isDragging())
-        placeBand();
+    UpdateGeometryAfterResize();
 }
 
 void RubberBandLabel::setSensorSize(int width, int height)
@@ -58,10 +66,10 @@ int RubberBandLabel::heightForWidth(int width) const
 
 void RubberBandLabel::UpdateGeometryAfterResize()
 {
-    if (isDragging())
-        m_settleTimer.start();
-    else
-        placeBand();
+    const LabelGeometry current = labelGeometry();
+    if (!isDragging() && canPlaceBand(current))
+        m_band->setGeometry(m_region ? bandForRegion(*m_region, current)
+                                     : bandWithoutRegion(current));
 }
 
 bool RubberBandLabel::grabs(const QPoint& point) const
@@ -74,7 +82,11 @@ bool RubberBandLabel::grabs(const QPoint& point) const
 void RubberBandLabel::press(const QPoint& point)
 {
     m_heldRegion = m_region.value_or(QRect(QPoint(0, 0), sensorSize()));
-    m_drag = dragFromPress(point, m_band->geometry(), m_shownCursor, m_heldRegion, labelGeometry());
+    const LabelGeometry current = labelGeometry();
+    const QRect band = m_band->geometry();
+    const EdgeGrab held = grabForPress(bandForMouse(band, current), point);
+    const Qt::CursorShape shown = isFlat(current) ? Qt::SizeHorCursor : m_shownCursor;
+    m_drag = {held, followingEdges(held, shown), point - band.topLeft(), band, m_heldRegion};
     emit GeometryChangeStarted();
 }
 
@@ -99,7 +111,7 @@ void RubberBandLabel::release(const QPoint& point)
 void RubberBandLabel::drop()
 {
     m_drag.reset();
-    placeBand();
+    UpdateGeometryAfterResize();
 }
 
 void RubberBandLabel::hover(const QPoint& point)
@@ -145,7 +157,7 @@ void RubberBandLabel::showEvent(QShowEvent* event)
     if (!m_region || m_region->y() < 0)
         m_band->setGeometry(bandWithoutRegion(labelGeometry()));
     else
-        placeBand();
+        UpdateGeometryAfterResize();
 
     QColor highlight = color();
     highlight.setAlpha(bandAlpha);
@@ -161,30 +173,11 @@ void RubberBandLabel::paintEvent(QPaintEvent* event)
         QLabel::paintEvent(event);
     QPainter painter(this);
     if (isPlain())
-        paintPixmap(painter, event->region());
+        paintPixmap(painter, pixmap(Qt::ReturnByValue), event->region());
     m_band->paint(painter, event->region());
-}
-
-// What the base paints, rectangle by rectangle: one clip of them all takes several times as long.
-void RubberBandLabel::paintPixmap(QPainter& painter, const QRegion& region) const
-{
-    const QPixmap shown = pixmap(Qt::ReturnByValue);
-    for (const QRect& part : region& shown.rect()) {
-        painter.setClipRect(part);
-        painter.drawPixmap(part, shown, part);
-    }
-    painter.setClipping(false);
 }
 
 LabelGeometry RubberBandLabel::labelGeometry() const
 {
     return {size(), sensorSize(), shownSize()};
-}
-
-void RubberBandLabel::placeBand()
-{
-    const LabelGeometry current = labelGeometry();
-    if (canPlaceBand(current))
-        m_band->setGeometry(m_region ? bandForRegion(*m_region, current)
-                                     : bandWithoutRegion(current));
 }

@@ -13,8 +13,7 @@ class LabelBand;
 ///
 /// Regions are sensor pixels; signals and setRegion() pass them in the order top, left, width,
 /// height. A drag only moves the band: the region changes at its end. What is set meanwhile shows
-/// if the drag has no result. A label that is resized during a drag keeps the band on the region
-/// that it stands for.
+/// if the drag has no result. A label that is resized during a drag keeps the band on its region.
 class RubberBandLabel : public SensorLabel
 {
     Q_OBJECT
@@ -48,7 +47,7 @@ signals:
     void clicked();
 
 public slots:
-    /// Places the band on the stored region, or on the label's width before the first setRegion().
+    /// Places the band on the stored region, unless it is being dragged.
     void UpdateGeometryAfterResize();
 
 protected:
@@ -66,8 +65,6 @@ protected:
 
 private:
     LabelGeometry labelGeometry() const;
-    void paintPixmap(QPainter& painter, const QRegion& region) const;
-    void placeBand();
 
     std::optional<QRect> m_region;
     std::optional<EdgeDrag> m_drag;
