@@ -3,12 +3,12 @@
 #include "features/FeatureManager.h"
 #include "featuretable/FeatureItemDelegate.h"
 #include "featuretable/FeatureNameDelegate.h"
-#include "featuretable/FeatureValueItem.h"
 #include "featuretable/MyTableWidget.h"
 #include "featuretable/editors/DelegateWidget.h"
 #include "featuretable/record/FeatureInfoReading.h"
+#include "featuretable/record/ValueText.h"
 
-#include <QBrush>
+#include <QColor>
 #include <QDebug>
 #include <QHeaderView>
 #include <QPointer>
@@ -18,10 +18,32 @@
 
 namespace {
 
-QBrush nameBrush(bool writable)
+/// A value cell: display value and FeatureInfo are stored, the accessible text follows from them.
+class FeatureValueItem : public QTableWidgetItem
 {
-    return QColor(writable ? QStringLiteral("#006400") : QStringLiteral("grey"));
-}
+public:
+    QVariant data(int role) const override
+    {
+        if (role != Qt::AccessibleTextRole)
+            return QTableWidgetItem::data(role);
+        const QVariant record = data(Qt::UserRole);
+        const FeatureInfo* info = recordIn(record);
+        return info ? accessibleCellText(*info, data(Qt::DisplayRole)) : data(Qt::DisplayRole);
+    }
+
+    /// Every display value is told of, also one equal to the present: a value that was refused is
+    /// tried again, and a command runs again.
+    void setData(int role, const QVariant& value) override
+    {
+        // The base keeps a value that QVariant takes for equal, and floating-point numbers are
+        // compared loosely there.
+        if (role == Qt::DisplayRole && tableWidget() && data(role) == value) {
+            const QSignalBlocker blocker(tableWidget()->model());
+            QTableWidgetItem::setData(role, {});
+        }
+        QTableWidgetItem::setData(role, value);
+    }
+};
 
 /// Flags that are set count as changed, whatever they were.
 void setEditable(QTableWidgetItem& item, bool editable)
@@ -130,15 +152,13 @@ void FeaturesTableWidget::updateRow(int row, const QString& name)
     m_pending.removeAll(name);
     const bool isEdited
         = m_announced == name || (isEditing() && m_delegate->editor()->featureName() == name);
-    if (isEdited)
-        setPending(name);
-    if (isEdited && name != m_saved)
+    if (!isEdited) {
+        refreshRow(row, readFeature(name));
         return;
-    const FeatureInfo info = readFeature(name);
-    if (isEdited)
-        storeFeatureInfo(row, info);
-    else
-        refreshRow(row, info);
+    }
+    setPending(name);
+    if (name == m_saved)
+        storeFeatureInfo(row, readFeature(name));
 }
 
 void FeaturesTableWidget::onDataChanged(const QModelIndex& topLeft, const QModelIndex&,
@@ -265,7 +285,7 @@ void FeaturesTableWidget::refreshRow(int row, const FeatureInfo& info)
     const QScopedValueRollback refreshing(m_refreshing, true);
     nameItem->setText(QString::fromStdString(info.displayName));
     nameItem->setData(Qt::UserRole, QString::fromStdString(info.name));
-    nameItem->setForeground(nameBrush(info.writable));
+    nameItem->setForeground(QColor(info.writable ? "#006400" : "grey"));
     setEditable(*valueItem, info.writable);
     valueItem->setToolTip(QString::fromStdString(info.information));
     storeFeatureInfo(row, info);

@@ -19,9 +19,9 @@ class MyTableWidget;
 ///
 /// A double click on a cell begins the editing. An open editor is never overwritten.
 ///
-/// What the camera did not tell stays as it is shown, and its row is pending: to be named in a
-/// later updateFeatures(). So is a row that was passed over because its editor was open, or whose
-/// value was written, for the camera may have made another of it.
+/// Pending rows are to be named in a later updateFeatures(): what the camera did not tell stays as
+/// it is shown, a row whose editor is open was passed over, and of a value that was written the
+/// camera may have made another.
 ///
 /// Slots of its signals may close the editor, but must not delete the table, which is still in the
 /// midst of the editor's commit: deleteLater() does.

@@ -17,15 +17,10 @@ void MyTableWidget::keyboardSearch(const QString& search)
         QTableWidget::keyboardSearch(search);
 }
 
+// The last column reaches to the border, the last row need not.
 void MyTableWidget::paintEvent(QPaintEvent* event)
 {
     QTableWidget::paintEvent(event);
-    paintGrid();
-}
-
-// The last column reaches to the border, the last row need not.
-void MyTableWidget::paintGrid()
-{
     const QStyleOptionViewItem option = viewOptions();
     const auto color
         = static_cast<QRgb>(style()->styleHint(QStyle::SH_Table_GridLineColor, &option, this));

@@ -18,7 +18,4 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
-
-private:
-    void paintGrid();
 };

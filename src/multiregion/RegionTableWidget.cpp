@@ -66,15 +66,16 @@ void RegionTableWidget::addConstraints(int regionNo, QStringList features)
     const QStringList before = m_constrainedFeatures;
     if (features.isEmpty())
         m_constrainedFeatures.clear();
-    for (const QString& feature : qAsConst(features)) {
-        if (feature == Name::subRegionWidth && !manager()->HasFeature(Name::subRegionWidth)) {
-            m_constrainedFeatures << Name::width;
-            continue;
-        }
-        m_constrainedFeatures << feature;
-        if (feature == Name::subRegionOffsetX && !manager()->HasFeature(Name::subRegionOffsetX))
-            m_constrainedFeatures << Name::offsetX;
+    const auto isMissing = [&](const QString& feature) {
+        return features.contains(feature) && !manager()->HasFeature(feature);
+    };
+    if (isMissing(Name::subRegionOffsetX))
+        features << Name::offsetX;
+    if (isMissing(Name::subRegionWidth)) {
+        features.removeAll(Name::subRegionWidth);
+        features << Name::width;
     }
+    m_constrainedFeatures += features;
     m_constrainedFeatures.removeDuplicates();
     applyRanges(before + m_constrainedFeatures);
 }
@@ -110,11 +111,11 @@ void RegionTableWidget::applyRange(FeatureInfo& info) const
     if (m_range.isNull() || !m_constrainedFeatures.contains(name))
         return;
     const ConstrainedRange range = constrainedRange(name, m_range, presentValue(counterparts(name)),
-                                                    toInteger(info.increment).value_or(0));
+                                                    toInteger(info.increment).value_or(1));
     if (range.minimum)
-        info.minimum = FeatureValue(std::int64_t{*range.minimum});
+        info.minimum = *range.minimum;
     if (range.maximum)
-        info.maximum = FeatureValue(std::int64_t{*range.maximum});
+        info.maximum = *range.maximum;
 }
 
 void RegionTableWidget::applyRanges(const QStringList& features)
@@ -130,7 +131,7 @@ void RegionTableWidget::applyRanges(const QStringList& features)
 }
 
 /// Of the first name that the table has a row of; empty while the camera has told no value.
-std::optional<qint64> RegionTableWidget::presentValue(const QStringList& names) const
+std::optional<std::int64_t> RegionTableWidget::presentValue(const QStringList& names) const
 {
     for (const QString& name : names) {
         if (const int row = rowOf(name); row >= 0) {

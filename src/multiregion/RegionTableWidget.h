@@ -50,7 +50,7 @@ protected:
 private:
     void applyRange(FeatureInfo& info) const;
     void applyRanges(const QStringList& features);
-    std::optional<qint64> presentValue(const QStringList& names) const;
+    std::optional<std::int64_t> presentValue(const QStringList& names) const;
 
     const int m_regionNo;
     const QStringList m_features;

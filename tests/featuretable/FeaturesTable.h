@@ -30,12 +30,10 @@ inline sim::FeatureDescriptions oneOfEachKind()
         sim::booleanFeature("Flag"),
         sim::stringFeature("Text", "old"),
         sim::enumFeature("ModeSelector", {"First", "Second", "Third"}),
-        integer("Register", 255, 0xFFFFFFFF).represented("HexNumber"),
-        sim::integerFeature("WideRegister", 0x1C0FFEE00)
+        sim::integerFeature("Register", 0x1C0FFEE00)
             .represented("HexNumber")
-            .between(sim::IntegerRange(-1, std::int64_t{1} << 40)),
+            .between(sim::IntegerRange(16, std::int64_t{1} << 40)),
         integer("Address", 1, 0xFFFFFFFF).represented("IPV4Address").selectedBy("ModeSelector"),
-        integer("Station", 1, 0xFFFFFFFFFFFF).represented("MACAddress"),
         integer("Wide", 5, std::int64_t{1} << 40),
         sim::integerFeature("Unlimited", 5),
         integer("Stale", 2000, 1000),

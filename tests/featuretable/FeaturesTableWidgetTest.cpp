@@ -127,7 +127,6 @@ private slots:
         row("integer", "Count", Operation::GetValue, 77, qint64{77});
         row("float", "Gain", Operation::GetValue, 2.5, 2.5);
         row("flag", "Flag", Operation::GetValue, true, true);
-        row("text", "Text", Operation::GetValue, "new", "new");
         row("entry", "ModeSelector", Operation::GetValue, "Third", "Third");
         row("range", "Count", Operation::GetRange, 77, qint64{77});
         row("writability", "Text", Operation::IsWritable, "new", "new");

@@ -73,12 +73,11 @@ void DelegateWidget::addControl(QWidget* control, const char* objectName, int st
 {
     control->setObjectName(QLatin1String(objectName));
     control->setAccessibleName(accessibleName());
-    auto* field = qobject_cast<QLineEdit*>(control);
-    if (field || (field = control->findChild<QLineEdit*>()))
-        connect(field, &QLineEdit::textEdited, this, &DelegateWidget::touch);
+    const auto* field = qobject_cast<QLineEdit*>(control);
+    if (const auto* typed = field ? field : control->findChild<QLineEdit*>())
+        connect(typed, &QLineEdit::textEdited, this, &DelegateWidget::touch);
     control->installEventFilter(this);
-    layout()->addWidget(control);
-    static_cast<QHBoxLayout*>(layout())->setStretchFactor(control, stretch);
+    static_cast<QHBoxLayout*>(layout())->addWidget(control, stretch);
     m_controls.append(control);
 }
 

@@ -63,31 +63,25 @@ void FeatureSlider::mouseReleaseEvent(QMouseEvent* event)
 // Drawn flat from the palette: the bevels of the base stand out in a cell, and more so on dark.
 void FeatureSlider::drawSlider(QPainter* painter, const QRect& rect) const
 {
-    const QRect handle = handleRect();
-    const QRectF groove(rect.x() + handle.width() / 2.0,
+    constexpr double grooveRadius = grooveHeight / 2.0;
+    constexpr double handleRadius = 3.0;
+    constexpr double half = 0.5; // pixels, to the middle of the outline
+    const QRectF handle = handleRect();
+    const QRectF groove(rect.x() + handle.width() / 2,
                         rect.y() + (rect.height() - grooveHeight) / 2.0,
                         rect.width() - handle.width(), grooveHeight);
     QRectF covered = groove;
     covered.setRight(handle.center().x());
-    const double radius = grooveHeight / 2.0;
     painter->setRenderHint(QPainter::Antialiasing);
     painter->setPen(Qt::NoPen);
     painter->setBrush(fadedText(palette(), grooveAlpha));
-    painter->drawRoundedRect(groove, radius, radius);
+    painter->drawRoundedRect(groove, grooveRadius, grooveRadius);
     painter->setBrush(palette().brush(QPalette::Highlight));
-    painter->drawRoundedRect(covered, radius, radius);
-    drawHandle(painter, handle, 0);
-}
-
-void FeatureSlider::drawHandle(QPainter* painter, const QRect& rect, int) const
-{
-    constexpr double radius = 3.0;
-    constexpr double margin = 0.5;
+    painter->drawRoundedRect(covered, grooveRadius, grooveRadius);
     painter->setPen(hasFocus() ? palette().color(QPalette::Highlight)
                                : fadedText(palette(), outlineAlpha));
     painter->setBrush(palette().brush(QPalette::Button));
-    painter->drawRoundedRect(QRectF(rect).adjusted(margin, margin, -margin, -margin), radius,
-                             radius);
+    painter->drawRoundedRect(handle.adjusted(half, half, -half, -half), handleRadius, handleRadius);
 }
 
 void FeatureSlider::onValueChanged(double value)

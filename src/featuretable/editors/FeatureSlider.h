@@ -24,7 +24,6 @@ signals:
 protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
     void drawSlider(QPainter* painter, const QRect& rect) const override;
-    void drawHandle(QPainter* painter, const QRect& rect, int position) const override;
 
 private:
     void onValueChanged(double value);

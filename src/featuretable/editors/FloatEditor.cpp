@@ -28,18 +28,6 @@ FloatEditor::FloatEditor(const FeatureInfo& info, QWidget* parent)
     });
 }
 
-bool FloatEditor::showValue(const QVariant& value)
-{
-    bool isNumber = false;
-    const double number = value.toDouble(&isNumber);
-    if (!isNumber)
-        return false;
-    showNumber(number);
-    m_field->selectAll();
-    moveSlider(number);
-    return true;
-}
-
 QVariant FloatEditor::enteredValue()
 {
     const auto number = textToNumber(m_field->text());
@@ -49,4 +37,5 @@ QVariant FloatEditor::enteredValue()
 void FloatEditor::showNumber(double value)
 {
     m_field->setText(numberText(value));
+    m_field->selectAll();
 }

@@ -13,7 +13,6 @@ public:
     FloatEditor(const FeatureInfo& info, QWidget* parent);
 
 protected:
-    bool showValue(const QVariant& value) override;
     QVariant enteredValue() override;
     void showNumber(double value) override;
 

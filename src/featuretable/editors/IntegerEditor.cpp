@@ -38,17 +38,16 @@ template <typename Box, typename Number> class IntegerEditor : public SliderEdit
 public:
     IntegerEditor(const FeatureInfo& info, QWidget* parent)
         : SliderEditor(info, parent)
-        , m_range(integerRange(info))
         , m_field(new PatientSpinBox<Box>(this))
     {
+        const auto range = integerRange(info);
+        const std::int64_t largestStep = std::max<std::int64_t>(1, range.maximum);
+        const std::int64_t step = toInteger(info.increment).value_or(1);
         if constexpr (std::is_same_v<Box, QDoubleSpinBox>)
             m_field->setDecimals(0);
         m_field->setLocale(QLocale::c());
-        m_field->setRange(static_cast<Number>(m_range.minimum),
-                          static_cast<Number>(m_range.maximum));
-        const std::int64_t largestStep = std::max<std::int64_t>(1, m_range.maximum);
-        m_field->setSingleStep(static_cast<Number>(
-            std::clamp<std::int64_t>(toInteger(info.increment).value_or(1), 1, largestStep)));
+        m_field->setRange(static_cast<Number>(range.minimum), static_cast<Number>(range.maximum));
+        m_field->setSingleStep(static_cast<Number>(std::clamp<std::int64_t>(step, 1, largestStep)));
         if (!info.unit.empty())
             m_field->setSuffix(QLatin1Char(' ') + QString::fromStdString(info.unit));
         addControl(m_field, "editorField", 1);
@@ -60,18 +59,6 @@ public:
     }
 
 protected:
-    bool showValue(const QVariant& value) override
-    {
-        bool isInteger = false;
-        const std::int64_t integer = value.toLongLong(&isInteger);
-        if (!isInteger)
-            return false;
-        m_field->setValue(
-            static_cast<Number>(std::clamp(integer, m_range.minimum, m_range.maximum)));
-        m_field->selectAll();
-        return true;
-    }
-
     QVariant enteredValue() override
     {
         if (!m_field->hasAcceptableInput())
@@ -83,11 +70,12 @@ protected:
     void showNumber(double value) override
     {
         const QSignalBlocker blocker(m_field);
-        m_field->setValue(static_cast<Number>(value));
+        m_field->setValue(static_cast<Number>(
+            std::clamp(value, double(m_field->minimum()), double(m_field->maximum()))));
+        m_field->selectAll();
     }
 
 private:
-    const ValueRange<std::int64_t> m_range;
     Box* m_field;
 };
 

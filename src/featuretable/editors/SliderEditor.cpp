@@ -19,6 +19,17 @@ SliderEditor::SliderEditor(const FeatureInfo& info, QWidget* parent)
     connect(&m_pause, &QTimer::timeout, this, &SliderEditor::announce);
 }
 
+bool SliderEditor::showValue(const QVariant& value)
+{
+    bool isNumber = false;
+    const double number = value.toDouble(&isNumber);
+    if (isNumber) {
+        showNumber(number);
+        moveSlider(number);
+    }
+    return isNumber;
+}
+
 void SliderEditor::addSlider(const FeatureInfo& info)
 {
     const auto range = sliderRange(info);

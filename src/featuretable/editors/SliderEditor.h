@@ -19,12 +19,13 @@ public:
     SliderEditor(const FeatureInfo& info, QWidget* parent);
 
 protected:
-    /// Shows a value of the slider in the field.
+    /// Shows a value of the cell or the slider in the field, without an event of the field.
     virtual void showNumber(double value) = 0;
+    bool showValue(const QVariant& value) override;
 
     /// If the feature has one.
     void addSlider(const FeatureInfo& info);
-    /// The field's value changed.
+    /// The user has entered a value in the field.
     void moveSlider(double value);
 
     void resizeEvent(QResizeEvent* event) override;

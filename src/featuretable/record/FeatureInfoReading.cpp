@@ -7,12 +7,14 @@
 
 namespace {
 
-template <typename Type> FeatureValue toValue(const Type& value)
+FeatureValue toValue(const QString& text)
 {
-    if constexpr (std::is_same_v<Type, QString>)
-        return value.toStdString();
-    else
-        return value;
+    return text.toStdString();
+}
+
+template <typename Type> FeatureValue toValue(Type value)
+{
+    return value;
 }
 
 /// What a complete reading does not tell, the camera does not have.
@@ -27,21 +29,12 @@ template <typename Type> bool take(const Reading<Type>& reading, FeatureInfo& in
     takeBound(info.cameraMinimum, reading.minimum);
     takeBound(info.cameraMaximum, reading.maximum);
     takeBound(info.increment, reading.increment);
-    if (reading.value)
-        info.value = toValue(*reading.value);
-    else if (!info.isKnown)
-        info.value = toValue(Type());
+    if (reading.value || !info.isKnown)
+        info.value = toValue(reading.value.value_or(Type()));
     info.isKnown = info.isKnown || reading.value;
     if (reading.isComplete)
         info.writable = reading.isWritable;
     return reading.isComplete;
-}
-
-bool readWritability(FeatureReader& feature, FeatureInfo& info)
-{
-    const auto isWritable = feature.flag(&ZebFeatureWrapper::IsWritable);
-    info.writable = isWritable.value_or(info.writable && feature);
-    return isWritable || !feature;
 }
 
 bool readValue(FeatureReader& feature, FeatureInfo& info)
@@ -68,7 +61,9 @@ bool readValue(FeatureReader& feature, FeatureInfo& info)
         info.value = -1.0;
     }
     info.isKnown = true;
-    return readWritability(feature, info);
+    const auto isWritable = feature.flag(&ZebFeatureWrapper::IsWritable);
+    info.writable = isWritable.value_or(info.writable && feature);
+    return isWritable || !feature;
 }
 
 /// From the SDK's memory. What fails is empty.
@@ -94,23 +89,20 @@ void readTexts(FeatureReader& feature, FeatureInfo& info)
     }
 }
 
-/// What the rich text tells.
-auto toldOf(const FeatureInfo& info)
-{
-    return std::make_tuple(info.description, info.cameraMinimum, info.cameraMaximum,
-                           info.increment);
-}
-
 } // namespace
 
 bool readFeatureInfo(FeatureManager& manager, FeatureInfo& info)
 {
-    const auto toldBefore = toldOf(info);
+    const FeatureInfo before = info;
     FeatureReader feature = manager.Read(QString::fromStdString(info.name));
     const bool isWhole = readValue(feature, info);
     if (feature && !manager.link()->isDoubtful()) {
         readTexts(feature, info);
-        if (info.information.empty() || toldOf(info) != toldBefore)
+        const auto toldIn = [](const FeatureInfo& record) {
+            return std::tie(record.description, record.cameraMinimum, record.cameraMaximum,
+                            record.increment);
+        };
+        if (info.information.empty() || toldIn(info) != toldIn(before))
             info.information = featureInformation(feature).toStdString();
     }
     if (info.displayName.empty())

@@ -3,16 +3,17 @@
 #include "features/FeatureNames.h"
 #include "multiregion/rules/ConstraintGroups.h"
 
+#include <algorithm>
+
 namespace Name = FeatureNames;
 
 namespace {
 
-constexpr qint64 ownBound = -1;
+constexpr std::int64_t ownBound = -1;
 
 bool isOffset(const QString& feature)
 {
-    return feature == Name::subRegionOffsetX || feature == Name::offsetX
-        || feature == Name::subRegionOffsetY;
+    return feature.contains(QLatin1String("Offset"));
 }
 
 } // namespace
@@ -32,31 +33,27 @@ int masterRegion(int region, const QString& feature, const QStringList& constrai
 
 QStringList counterparts(const QString& feature)
 {
-    const auto axis = axisOf(feature);
-    if (!axis)
-        return {};
-    if (*axis == Qt::Vertical)
+    if (axisOf(feature) == Qt::Vertical)
         return {isOffset(feature) ? Name::subRegionHeight : Name::subRegionOffsetY};
     return isOffset(feature) ? QStringList{Name::subRegionWidth, Name::width}
                              : QStringList{Name::subRegionOffsetX, Name::offsetX};
 }
 
 ConstrainedRange constrainedRange(const QString& feature, const QRect& range,
-                                  std::optional<qint64> counterpart, qint64 increment)
+                                  std::optional<std::int64_t> counterpart, std::int64_t increment)
 {
     const auto axis = axisOf(feature);
     if (!axis)
         return {};
     const bool isVertical = *axis == Qt::Vertical;
-    const qint64 begin = isVertical ? range.y() : range.x();
-    const qint64 size = isVertical ? range.height() : range.width();
+    const std::int64_t begin = isVertical ? range.y() : range.x();
+    const std::int64_t end = begin + (isVertical ? range.height() : range.width());
     ConstrainedRange result;
-    if (isOffset(feature))
+    if (isOffset(feature) && begin != ownBound)
         result.minimum = begin;
-    if (!counterpart || begin + size - *counterpart == ownBound)
-        return result;
-    result.maximum = begin + size - *counterpart;
-    if (increment > 0)
-        *result.maximum -= *result.maximum % increment;
+    if (counterpart && end - *counterpart != ownBound) {
+        const std::int64_t maximum = end - *counterpart;
+        result.maximum = maximum - maximum % std::max<std::int64_t>(1, increment);
+    }
     return result;
 }

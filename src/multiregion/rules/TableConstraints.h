@@ -3,6 +3,7 @@
 #include <QRect>
 #include <QStringList>
 
+#include <cstdint>
 #include <optional>
 
 /// The region whose value an edited one stands for, -1 for the edited region alone. Region 3 of a
@@ -14,16 +15,14 @@ int masterRegion(int region, const QString& feature, const QStringList& constrai
 /// Bounds for editing a feature; empty where it keeps its own.
 struct ConstrainedRange
 {
-    std::optional<qint64> minimum;
-    std::optional<qint64> maximum;
+    std::optional<std::int64_t> minimum;
+    std::optional<std::int64_t> maximum;
 };
 
-/// The size that goes with an offset and the offset that goes with a size: its names, newest first;
-/// none for any other feature.
+/// The size that goes with an offset and the offset that goes with a size: its names, newest first.
 QStringList counterparts(const QString& feature);
 
 /// The bounds that keep a region inside @p range, sensor pixels.
 /// @param counterpart as the region has it; without it the maximum is the feature's own
-/// @param increment of the feature; 0 or less rounds nothing
 ConstrainedRange constrainedRange(const QString& feature, const QRect& range,
-                                  std::optional<qint64> counterpart, qint64 increment);
+                                  std::optional<std::int64_t> counterpart, std::int64_t increment);
