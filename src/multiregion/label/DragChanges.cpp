@@ -38,8 +38,6 @@ private:
     bool endMoved() const { return m_band.end() != m_placed.end(); }
     bool movedAsWhole() const { return startMoved() && m_band.length == m_placed.length; }
     int minimum() const { return std::max(1, m_limits.minimum); }
-    Span<int> moved() const;
-    Span<int> resized() const;
 
     const Qt::Orientation m_axis;
     const SensorMapping& m_mapping;
@@ -53,30 +51,23 @@ Span<int> SpanDrag::converted() const
 {
     if (!isMoved())
         return m_stored;
-    return movedAsWhole() ? moved() : resized();
-}
-
-Span<int> SpanDrag::moved() const
-{
-    const int farthest = std::max(0, lengthOf(m_mapping.sensor, m_axis) - m_stored.length);
-    const bool isAtBorder = m_band.start > 0 && m_band.end() >= lengthOf(m_mapping.shown, m_axis);
-    const int start
-        = isAtBorder ? farthest : std::min(farthest, sensorEdge(m_band.start, m_axis, m_mapping));
-    return {roundedDown(start, m_limits.offsetIncrement), m_stored.length};
-}
-
-Span<int> SpanDrag::resized() const
-{
+    const int shown = lengthOf(m_mapping.shown, m_axis);
+    const int sensor = lengthOf(m_mapping.sensor, m_axis);
+    const int bandStart = sensorEdge(m_band.start, m_axis, m_mapping);
     int start = m_stored.start;
     int end = m_stored.end();
-    if (endMoved())
-        end = std::min(lengthOf(m_mapping.sensor, m_axis),
-                       std::max(start + minimum(), sensorEdge(m_band.end(), m_axis, m_mapping)));
-    if (startMoved()) {
-        const int last = std::max(0, end - minimum());
-        start = roundedDown(std::min(last, sensorEdge(m_band.start, m_axis, m_mapping)),
-                            m_limits.offsetIncrement);
+    if (movedAsWhole()) {
+        const int farthest = std::max(0, sensor - m_stored.length);
+        const bool isAtBorder = m_band.start > 0 && m_band.end() >= shown;
+        start = isAtBorder ? farthest : std::min(farthest, bandStart);
+        return {roundedDown(start, m_limits.offsetIncrement), m_stored.length};
     }
+    if (endMoved())
+        end = std::min(sensor,
+                       std::max(start + minimum(), sensorEdge(m_band.end(), m_axis, m_mapping)));
+    if (startMoved())
+        start = roundedDown(std::min(std::max(0, end - minimum()), bandStart),
+                            m_limits.offsetIncrement);
     return end > start ? Span<int>{start, end - start} : m_stored;
 }
 

@@ -50,19 +50,15 @@ Qt::CursorShape cursorForGrab(const HandleGrab& grab)
 QRect movedRegionBand(const QRect& band, const QPoint& delta, const QSize& image,
                       const MoveConstraints& constraints)
 {
-    int x = std::max(constraints.lowerBound.x(),
-                     std::min(image.width() - band.width(), band.x() + delta.x()));
+    const QPoint wanted = band.topLeft() + delta;
+    int x
+        = std::max(constraints.lowerBound.x(), std::min(image.width() - band.width(), wanted.x()));
     int y = std::max(constraints.lowerBound.y(),
-                     std::min(image.height() - band.height(), band.y() + delta.y()));
-    const auto blocks = [&constraints](MoveDirection direction) {
-        return constraints.blocked.count(direction) > 0;
-    };
-    if ((y < band.y() && blocks(MoveDirection::Up))
-        || (y > band.y() && blocks(MoveDirection::Down)))
-        y = band.y();
-    if ((x < band.x() && blocks(MoveDirection::Left))
-        || (x > band.x() && blocks(MoveDirection::Right)))
+                     std::min(image.height() - band.height(), wanted.y()));
+    if (constraints.blocked.count(x < band.x() ? MoveDirection::Left : MoveDirection::Right) > 0)
         x = band.x();
+    if (constraints.blocked.count(y < band.y() ? MoveDirection::Up : MoveDirection::Down) > 0)
+        y = band.y();
     return {x, y, band.width(), band.height()};
 }
 

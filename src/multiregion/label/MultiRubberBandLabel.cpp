@@ -178,9 +178,7 @@ void MultiRubberBandLabel::drag(const QPoint& point)
     m_drag.moveTo(point);
     if (!guard)
         return;
-    const QVector<int> held = m_drag.held();
-    for (const int region : held)
-        m_bands.follow(region);
+    m_bands.follow(m_drag);
     emit mouseMoved(point);
 }
 
@@ -229,15 +227,13 @@ void MultiRubberBandLabel::resizeEvent(QResizeEvent* event)
 
 void MultiRubberBandLabel::showRectangle(int regionNo)
 {
-    const RectangleRubberBand* band = m_bands.show(regionNo);
-    connect(band, &RectangleRubberBand::regionBandSelected, this,
-            &MultiRubberBandLabel::onBandPressed);
-    connect(band, &RectangleRubberBand::geometryChanged, this,
-            &MultiRubberBandLabel::onBandGeometryChanged);
-    connect(band, &RectangleRubberBand::colorChanged, this,
-            &MultiRubberBandLabel::onBandColorChanged);
-    connect(this, &MultiRubberBandLabel::regionActivated, band,
-            &RectangleRubberBand::onNeighbourRegionActivated);
+    using Label = MultiRubberBandLabel;
+    using Band = RectangleRubberBand;
+    const Band* band = m_bands.show(regionNo);
+    connect(band, &Band::regionBandSelected, this, &Label::onBandPressed);
+    connect(band, &Band::geometryChanged, this, &Label::onBandGeometryChanged);
+    connect(band, &Band::colorChanged, this, &Label::onBandColorChanged);
+    connect(this, &Label::regionActivated, band, &Band::onNeighbourRegionActivated);
     const QPointer<MultiRubberBandLabel> guard(this);
     emit regionActivated(regionNo, true);
     if (guard)

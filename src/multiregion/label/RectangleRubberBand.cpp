@@ -21,17 +21,6 @@ const QFont& numberFont()
     return font;
 }
 
-/// What the label shows in @p area, without its bands: rendering those would paint a band from
-/// within its own painting.
-QImage negativeOf(QWidget* label, const QRect& area)
-{
-    QImage image(area.size(), QImage::Format_RGB32);
-    image.fill(label->palette().color(QPalette::Window));
-    label->render(&image, QPoint(), area, QWidget::DrawWindowBackground);
-    image.invertPixels();
-    return image;
-}
-
 } // namespace
 
 RectangleRubberBand::RectangleRubberBand(int regionNo, const QRect& geometry,
@@ -173,12 +162,14 @@ void RectangleRubberBand::paintEvent(QPaintEvent* event)
     } else {
         QRubberBand::paintEvent(event);
     }
+    const QRect number = m_number.boundingRect().toAlignedRect().translated(rect().center());
     if (!m_label) {
         QPainter painter(this);
         painter.setFont(numberFont());
         painter.drawText(rect(), Qt::AlignCenter, numberText());
-    } else if (event->region().intersects(m_numberArea.translated(rect().center()))) {
-        drawNumber(); // which is dear; lines and other bands that pass by touch it seldom
+    } else if (event->region().intersects(number)) {
+        // Which is dear; lines and other bands that pass by touch it seldom.
+        drawNumber(number & rect());
     }
 }
 
@@ -219,18 +210,21 @@ void RectangleRubberBand::prepareNumber()
     const QPoint baseline(-(metrics.horizontalAdvance(text) / 2), metrics.height() / 3);
     m_number = QPainterPath();
     m_number.addText(baseline, numberFont(), text);
-    m_numberArea = m_number.boundingRect().toAlignedRect();
 }
 
-void RectangleRubberBand::drawNumber()
+void RectangleRubberBand::drawNumber(const QRect& area)
 {
-    const QRect area = m_numberArea.translated(rect().center()) & rect();
     const QRect onLabel = area.translated(pos()) & m_label->rect();
     if (onLabel.isEmpty())
         return;
+    // Without the label's bands: they would be painted from within their own painting.
+    QImage picture(onLabel.size(), QImage::Format_RGB32);
+    picture.fill(m_label->palette().color(QPalette::Window));
+    m_label->render(&picture, QPoint(), onLabel, QWidget::DrawWindowBackground);
+    picture.invertPixels();
     // A brush smooths the digits; a clip would leave them jagged.
+    QBrush negative(picture);
     const QPoint origin = onLabel.topLeft() - pos();
-    QBrush negative(negativeOf(m_label, onLabel));
     negative.setTransform(QTransform::fromTranslate(origin.x(), origin.y()));
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);

@@ -67,7 +67,7 @@ private:
     void applyColor();
     QString numberText() const;
     void prepareNumber();
-    void drawNumber();
+    void drawNumber(const QRect& area);
 
     const int m_regionNo;
     QColor m_color;
@@ -81,5 +81,4 @@ private:
     BandSurroundings* const m_label;
     std::optional<BandImage> m_image;
     QPainterPath m_number; ///< around the origin
-    QRect m_numberArea;
 };

@@ -72,10 +72,10 @@ void RegionBands::arrange(const RegionDrag& drag)
     }
 }
 
-void RegionBands::follow(int region)
+void RegionBands::follow(const RegionDrag& drag)
 {
     for (LineRubberBand* line : qAsConst(m_lines)) {
-        if (line->group().master() == region)
+        if (drag.holds(line->group().master()))
             placeLine(line);
     }
 }
@@ -127,18 +127,15 @@ LineRubberBand* RegionBands::lineAt(const QPoint& point) const
 /// Has exactly the lines of the groups, and tells the bands.
 void RegionBands::updateLines()
 {
-    QVector<LineRubberBand*> former = std::exchange(m_lines, {});
+    auto former = std::exchange(m_lines, {});
     for (const ConstraintGroup& group : m_regions->groups()) {
         for (const BandEdge edge : {BandEdge::Leading, BandEdge::Trailing}) {
-            const auto it = std::find_if(former.begin(), former.end(), [&](LineRubberBand* line) {
-                return line->group().kind == group.kind && line->edge() == edge
-                    && line->group().master() == group.master();
-            });
-            LineRubberBand* line = it == former.end() ? makeLine(group) : *it;
-            former.removeOne(line);
+            const LineKey key{group.kind, group.master(), edge};
+            LineRubberBand* const known = former.take(key);
+            LineRubberBand* const line = known ? known : makeLine(group);
             line->setEdge(group, edge);
             placeLine(line);
-            m_lines << line;
+            m_lines.insert(key, line);
         }
     }
     for (LineRubberBand* line : qAsConst(former)) {

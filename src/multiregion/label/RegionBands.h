@@ -2,6 +2,10 @@
 
 #include "multiregion/label/ConstraintLineRules.h"
 
+#include <QMap>
+
+#include <tuple>
+
 class BandSurroundings;
 class LineRubberBand;
 class QColor;
@@ -24,8 +28,8 @@ public:
     /// Brings bands and lines in line with the regions and their groups, except for what is being
     /// dragged, and tests for conflicts.
     void arrange(const RegionDrag& drag);
-    /// Places the lines of which @p region is the master.
-    void follow(int region);
+    /// Places the lines whose masters are dragged.
+    void follow(const RegionDrag& drag);
     void setLineColor(int master, const QColor& color);
 
     /// The band that contains a point: the selected one, else that with the highest number.
@@ -34,6 +38,7 @@ public:
     LineRubberBand* lineAt(const QPoint& point) const;
 
 private:
+    using LineKey = std::tuple<ConstraintGroup::Kind, int, BandEdge>; ///< with the master
     void updateLines();
     LineRubberBand* makeLine(const ConstraintGroup& group);
     void placeLine(LineRubberBand* line);
@@ -41,6 +46,6 @@ private:
 
     BandSurroundings* const m_label;
     RegionStore* const m_regions;
-    QVector<LineRubberBand*> m_lines;
+    QMap<LineKey, LineRubberBand*> m_lines;
     int m_selected = -1;
 };

@@ -38,10 +38,10 @@ void RegionDrag::begin(RectangleRubberBand* band, const QPoint& point)
 
 void RegionDrag::moveTo(const QPoint& point)
 {
-    if (m_band)
-        m_band->resizeMoveToPoint(point);
-    if (!m_line)
+    if (!m_line) {
+        m_band->resizeMoveToPoint(point); // may delete this
         return;
+    }
     m_line->moveToPoint(point);
     const ConstraintGroup& group = m_line->group();
     const QRect master = m_regions->at(group.master()).band->geometry();
