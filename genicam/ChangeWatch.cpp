@@ -23,10 +23,10 @@ ChangeWatch::ChangeWatch(std::shared_ptr<DeviceLink> link, std::function<void(bo
 {
 }
 
-void ChangeWatch::start(Features features, DependencyGraph graph)
+void ChangeWatch::start(Features features, std::vector<Places> touched)
 {
     m_features = std::move(features);
-    m_graph = std::move(graph);
+    m_touched = std::move(touched);
     m_link->onLost([weak = weak_from_this()] {
         if (const auto self = weak.lock())
             self->m_wake.notify_all();
@@ -69,35 +69,38 @@ ZebErrorType ChangeWatch::remove(std::size_t feature, const ZebCPP::IFeatureObse
     if (!observer)
         return ZebErrorBadParameter;
     const std::lock_guard lock(m_mutex);
-    const auto list = m_observers.find(feature);
-    if (list == m_observers.end())
+    Observers& list = m_observers[feature];
+    const auto found = std::find(list.begin(), list.end(), observer);
+    if (found == list.end())
         return ZebErrorNotFound;
-    const auto found = std::find(list->second.begin(), list->second.end(), observer);
-    if (found == list->second.end())
-        return ZebErrorNotFound;
-    list->second.erase(found);
-    if (list->second.empty()) {
-        m_observers.erase(list);
-        m_known.erase(feature);
-    }
+    list.erase(found);
     return ZebErrorSuccess;
 }
 
-bool ChangeWatch::isObserved(std::size_t feature) const
+ChangeWatch::Observers ChangeWatch::observersOf(std::size_t feature) const
 {
     const std::lock_guard lock(m_mutex);
-    return m_observers.count(feature) > 0;
+    const auto found = m_observers.find(feature);
+    return found == m_observers.end() ? Observers() : found->second;
+}
+
+ZebCPP::FeaturePtr ChangeWatch::featureOf(ArvGcFeatureNode* node) const
+{
+    const std::lock_guard lock(m_mutex);
+    const auto found = std::find_if(m_features.begin(), m_features.end(),
+                                    [&](const auto& one) { return one->node() == node; });
+    return found == m_features.end() ? nullptr : *found;
 }
 
 // The value that is known is dropped: what the camera makes of the write, and resets by itself a
 // moment later, is new in any case.
-void ChangeWatch::written(const DependencyGraph::Places& touched)
+void ChangeWatch::written(std::size_t place)
 {
-    ++m_age;
+    m_link->forget();
     const std::lock_guard lock(m_mutex);
-    for (const std::size_t feature : touched)
+    for (const std::size_t feature : m_touched[place])
         m_known.erase(feature);
-    m_changed.insert(touched.begin(), touched.end());
+    m_changed.insert(m_touched[place].begin(), m_touched[place].end());
     m_wake.notify_all();
 }
 
@@ -105,15 +108,12 @@ void ChangeWatch::written(const DependencyGraph::Places& touched)
 void ChangeWatch::seen(std::size_t feature, const Value& value)
 {
     const std::lock_guard lock(m_mutex);
-    if (m_observers.count(feature) == 0)
-        return;
     const auto [known, isFirst] = m_known.try_emplace(feature, value);
     if (isFirst || known->second == value)
         return;
     known->second = value;
-    ++m_age;
-    const DependencyGraph::Places& touched = m_graph.touchedBy(feature);
-    m_changed.insert(touched.begin(), touched.end());
+    m_link->forget();
+    m_changed.insert(m_touched[feature].begin(), m_touched[feature].end());
     m_wake.notify_all();
 }
 
@@ -131,7 +131,7 @@ void ChangeWatch::run()
             m_isGone = !m_isGone;
             m_onGone(m_isGone);
         }
-        const DependencyGraph::Places changed = std::exchange(m_changed, {});
+        const Places changed = std::exchange(m_changed, {});
         lock.unlock();
         deliver(changed);
         if (Clock::now() >= nextPoll) {
@@ -145,30 +145,18 @@ void ChangeWatch::run()
     m_ended.notify_all();
 }
 
-void ChangeWatch::deliver(const DependencyGraph::Places& changed)
+void ChangeWatch::deliver(const Places& changed)
 {
     for (const std::size_t feature : changed) {
-        std::unique_lock lock(m_mutex);
-        const auto list = m_observers.find(feature);
-        const Observers observers = list == m_observers.end() ? Observers() : list->second;
-        lock.unlock();
-        for (const ZebCPP::IFeatureObserverPtr& observer : observers) {
+        for (const ZebCPP::IFeatureObserverPtr& observer : observersOf(feature)) {
+            const Observers left = observersOf(feature); // a call before may have taken it off
             try {
-                if (isRegistered(feature, observer)) // a call before may have taken it off
+                if (std::find(left.begin(), left.end(), observer) != left.end())
                     observer->FeatureChanged(m_features[feature]);
             } catch (...) { // the observer's fault, not to end the process
             }
         }
     }
-}
-
-bool ChangeWatch::isRegistered(std::size_t feature,
-                               const ZebCPP::IFeatureObserverPtr& observer) const
-{
-    const std::lock_guard lock(m_mutex);
-    const auto list = m_observers.find(feature);
-    return list != m_observers.end()
-        && std::find(list->second.begin(), list->second.end(), observer) != list->second.end();
 }
 
 // What does not fit into the time is looked at first the next time.
@@ -177,7 +165,7 @@ void ChangeWatch::poll()
     const auto end = Clock::now() + longestPoll;
     for (std::size_t count = 0; count < m_features.size(); ++count) {
         const std::size_t feature = m_nextToPoll++ % m_features.size();
-        if (!isObserved(feature))
+        if (observersOf(feature).empty())
             continue;
         if (Clock::now() > end || m_isStopping || !m_features[feature]->look()) {
             m_nextToPoll = feature;
@@ -188,11 +176,9 @@ void ChangeWatch::poll()
 
 void ChangeWatch::askAgain()
 {
-    const auto readable = std::find_if(m_features.begin(), m_features.end(),
-                                       [](const auto& one) { return one->isBackedByCamera(); });
-    if (readable == m_features.end() || !m_link->ask((*readable)->node()))
+    if (!m_link->ask())
         return;
-    ++m_age;
+    m_link->forget();
     const std::lock_guard lock(m_mutex);
     m_known.clear();
     for (const auto& [feature, observers] : m_observers)

@@ -4,12 +4,23 @@
 
 namespace genicam {
 
+namespace {
+
+using namespace std::chrono_literals;
+
+/// What is older is read from the camera again: another client may have changed it.
+constexpr auto longestTrust = 1s;
+constexpr auto patience = 500ms;
+
+} // namespace
+
 DeviceLink::DeviceLink(ArvDevice* device)
     : m_device(device)
     , m_genicam(arv_device_get_genicam(device))
 {
     countCriticals();
     setCache(true);
+    const auto onControlLost = +[](ArvDevice*, DeviceLink* self) { self->lose(); };
     g_signal_connect(device, "control-lost", G_CALLBACK(onControlLost), this);
 }
 
@@ -32,15 +43,55 @@ void DeviceLink::setCache(bool isOn)
             m_genicam, isOn ? ARV_REGISTER_CACHE_POLICY_ENABLE : ARV_REGISTER_CACHE_POLICY_DISABLE);
 }
 
-bool DeviceLink::ask(ArvGcFeatureNode* node)
+bool DeviceLink::isOld(Reading& last)
+{
+    const auto now = std::chrono::steady_clock::now();
+    const bool isFirst = last.time == std::chrono::steady_clock::time_point();
+    const bool isOld = last.age != m_age || (!isFirst && now - last.time > longestTrust);
+    if (isOld || isFirst)
+        last = {m_age, now};
+    return isOld;
+}
+
+ZebErrorType DeviceLink::perform(const Work& work, Reading* last, bool isPatient)
+{
+    std::unique_lock lock(m_mutex, std::defer_lock);
+    if (m_state == Answering) {
+        if (isPatient)
+            lock.lock();
+        else if (!lock.try_lock_for(patience))
+            lose();
+    }
+    if (m_state != Answering) // by now: another call was waited for
+        return isClosed() ? ZebErrorBadHandle : ZebErrorTimeout;
+    if (!last || isOld(*last))
+        setCache(false);
+    GError* error = nullptr;
+    ZebErrorType code = work(&error);
+    setCache(true);
+    if (error) {
+        code = codeOf(*error);
+        if (isLoss(*error))
+            lose();
+        g_error_free(error);
+    }
+    return code;
+}
+
+ArvGcFeatureNode* DeviceLink::node(const char* name) const
+{
+    ArvGcNode* const found = arv_gc_get_node(m_genicam, name);
+    return ARV_IS_GC_FEATURE_NODE(found) ? ARV_GC_FEATURE_NODE(found) : nullptr;
+}
+
+bool DeviceLink::ask()
 {
     const std::lock_guard lock(m_mutex);
     if (m_state != Lost)
         return m_state == Answering;
     GError* error = nullptr;
-    setCache(false);
-    arv_gc_feature_node_get_value_as_string(node, &error);
-    setCache(true);
+    guint32 version = 0; // which stands first in every camera
+    arv_device_read_memory(m_device.get(), 0, sizeof version, &version, &error);
     // A camera that was away has no controller any more.
     if (!error && ARV_IS_GV_DEVICE(m_device.get())
         && !arv_gv_device_is_controller(ARV_GV_DEVICE(m_device.get())))

@@ -11,11 +11,6 @@ namespace {
 /// The library's list of cameras is one for the process.
 std::mutex listMutex;
 
-std::string text(const char* source)
-{
-    return source ? source : "";
-}
-
 bool isLoopback(const std::string& address)
 {
     const GObjectPtr<GInetAddress> parsed(g_inet_address_new_from_string(address.c_str()));
@@ -31,9 +26,9 @@ std::vector<FoundCamera> findCameras()
     arv_update_device_list();
     std::vector<FoundCamera> cameras;
     for (unsigned i = 0; i < arv_get_n_devices(); ++i) {
-        cameras.push_back({text(arv_get_device_id(i)), text(arv_get_device_vendor(i)),
-                           text(arv_get_device_model(i)), text(arv_get_device_serial_nbr(i)),
-                           text(arv_get_device_address(i)), text(arv_get_device_protocol(i))});
+        cameras.push_back({textOf(arv_get_device_id(i)), textOf(arv_get_device_vendor(i)),
+                           textOf(arv_get_device_model(i)), textOf(arv_get_device_serial_nbr(i)),
+                           textOf(arv_get_device_address(i)), textOf(arv_get_device_protocol(i))});
     }
     return cameras;
 }
@@ -74,12 +69,6 @@ FakeCamera::~FakeCamera()
 bool FakeCamera::isRunning() const
 {
     return arv_gv_fake_camera_is_running(m_camera);
-}
-
-void FakeCamera::writeRegister(unsigned registerAddress, unsigned value)
-{
-    arv_fake_camera_write_register(arv_gv_fake_camera_get_fake_camera(m_camera), registerAddress,
-                                   value);
 }
 
 } // namespace genicam

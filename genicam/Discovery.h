@@ -40,8 +40,6 @@ public:
     FakeCamera& operator=(const FakeCamera&) = delete;
 
     bool isRunning() const;
-    /// Writes a register as another client does.
-    void writeRegister(unsigned address, unsigned value);
 
 private:
     ArvGvFakeCamera* m_camera;

@@ -1,151 +1,140 @@
 #include "Frame.h"
 
 #include <algorithm>
+#include <array>
+#include <optional>
+#include <utility>
 
 namespace genicam {
 
 namespace {
 
 /// How the samples of a format lie in memory.
-enum class Packing {
-    Bytes,   ///< in one byte or two, the low one first
-    Grouped, ///< two samples in three bytes, of which the first and last hold the high bits
-    Stream,  ///< one behind the other, low bits first
+enum Packing {
+    Bytes, ///< in one byte or two, the low one first
+    Pairs, ///< two samples in three bytes, of which the first and last hold the high bits
+    Bits,  ///< one behind the other, low bits first
 };
 
-/// What the first red pixel's column and row are; none for grey.
-struct Mosaic
+/// What the samples mean. A mosaic is named by the first two pixels of its first line.
+enum Meaning {
+    Grey,
+    Gr,
+    Rg,
+    Gb,
+    Bg,
+    Rgb,
+    Bgr,
+    Uyvy,
+    Yuyv,
+    MeaningCount
+};
+
+struct Layout
 {
-    int redColumn = -1;
-    int redRow = -1;
+    std::uint8_t bits;
+    Packing packing;
+    std::uint32_t ids[MeaningCount];
 };
 
-constexpr Mosaic gr{1, 0}, rg{0, 0}, gb{0, 1}, bg{1, 1};
+// An ID's first byte tells colours (2) from one sample a pixel (1), and stands here less one; the
+// second tells how many bits a pixel takes, which is known from the others.
+constexpr std::uint32_t single = 0x01000000;
+constexpr std::uint32_t colour = 0x01000000;
+constexpr std::uint32_t idMask = 0xff00ffff;
+
+constexpr Layout layouts[] = {
+    {8,
+     Bytes,
+     {0x01, 0x08, 0x09, 0x0a, 0x0b, colour | 0x14, colour | 0x15, colour | 0x1f, colour | 0x32}},
+    {10, Bytes, {0x03, 0x0c, 0x0d, 0x0e, 0x0f}},
+    {12, Bytes, {0x05, 0x10, 0x11, 0x12, 0x13}},
+    {14, Bytes, {0x25, 0x109, 0x10a, 0x10b, 0x10c}},
+    {16, Bytes, {0x07, 0x2e, 0x2f, 0x30, 0x31}},
+    {10, Pairs, {0x04, 0x26, 0x27, 0x28, 0x29}},
+    {12, Pairs, {0x06, 0x2a, 0x2b, 0x2c, 0x2d}},
+    {10, Bits, {0x46, 0x56, 0x58, 0x54, 0x52}},
+    {12, Bits, {0x47, 0x57, 0x59, 0x55, 0x53}},
+};
 
 struct Format
 {
-    std::uint16_t id;
     std::uint8_t bits;
     Packing packing;
-    Mosaic mosaic;
+    Meaning meaning;
 };
 
-constexpr Format formats[] = {
-    {0x01, 8, Packing::Bytes, {}},    {0x03, 10, Packing::Bytes, {}},
-    {0x04, 10, Packing::Grouped, {}}, {0x05, 12, Packing::Bytes, {}},
-    {0x06, 12, Packing::Grouped, {}}, {0x07, 16, Packing::Bytes, {}},
-    {0x25, 14, Packing::Bytes, {}},   {0x46, 10, Packing::Stream, {}},
-    {0x47, 12, Packing::Stream, {}},  {0x08, 8, Packing::Bytes, gr},
-    {0x09, 8, Packing::Bytes, rg},    {0x0a, 8, Packing::Bytes, gb},
-    {0x0b, 8, Packing::Bytes, bg},    {0x0c, 10, Packing::Bytes, gr},
-    {0x0d, 10, Packing::Bytes, rg},   {0x0e, 10, Packing::Bytes, gb},
-    {0x0f, 10, Packing::Bytes, bg},   {0x10, 12, Packing::Bytes, gr},
-    {0x11, 12, Packing::Bytes, rg},   {0x12, 12, Packing::Bytes, gb},
-    {0x13, 12, Packing::Bytes, bg},   {0x26, 10, Packing::Grouped, gr},
-    {0x27, 10, Packing::Grouped, rg}, {0x28, 10, Packing::Grouped, gb},
-    {0x29, 10, Packing::Grouped, bg}, {0x2a, 12, Packing::Grouped, gr},
-    {0x2b, 12, Packing::Grouped, rg}, {0x2c, 12, Packing::Grouped, gb},
-    {0x2d, 12, Packing::Grouped, bg}, {0x2e, 16, Packing::Bytes, gr},
-    {0x2f, 16, Packing::Bytes, rg},   {0x30, 16, Packing::Bytes, gb},
-    {0x31, 16, Packing::Bytes, bg},   {0x52, 10, Packing::Stream, bg},
-    {0x53, 12, Packing::Stream, bg},  {0x54, 10, Packing::Stream, gb},
-    {0x55, 12, Packing::Stream, gb},  {0x56, 10, Packing::Stream, gr},
-    {0x57, 12, Packing::Stream, gr},  {0x58, 10, Packing::Stream, rg},
-    {0x59, 12, Packing::Stream, rg},
-};
+std::optional<Format> findFormat(std::uint32_t format)
+{
+    const std::uint32_t id = (format & idMask) - single;
+    for (const Layout& layout : layouts) {
+        const auto* const found = std::find(std::begin(layout.ids), std::end(layout.ids), id);
+        if (id != 0 && found != std::end(layout.ids))
+            return Format{layout.bits, layout.packing, Meaning(found - layout.ids)};
+    }
+    return {};
+}
 
-enum ColourFormat : std::uint32_t {
-    Rgb8 = 0x02180014,
-    Bgr8 = 0x02180015,
-    Uyvy = 0x0210001f,
-    Yuyv = 0x02100032,
-};
+using Samples = std::vector<std::uint8_t>;
+using Pixel = std::array<std::uint8_t, 3>;
 
 /// The eight highest bits of every sample; nothing when there are too few.
-std::vector<std::uint8_t> unpack(const std::uint8_t* data, std::size_t size, std::size_t count,
-                                 const Format& format)
+Samples unpack(const std::uint8_t* data, std::size_t size, std::size_t count, const Format& format)
 {
     const std::size_t bits = format.bits;
-    const std::size_t needed = format.packing == Packing::Bytes ? count * (bits > 8 ? 2 : 1)
-        : format.packing == Packing::Grouped                    ? (count * 3 + 1) / 2
-                                                                : (count * bits + 7) / 8;
-    if (size < needed)
+    const std::size_t distance = format.packing == Bits ? bits : bits > 8 ? 16 : 8;
+    const std::size_t total = format.packing == Pairs ? count * 12 : count * distance;
+    if (size < (total + 7) / 8)
         return {};
-    std::vector<std::uint8_t> samples(count);
+    Samples samples(count);
     for (std::size_t i = 0; i < count; ++i) {
-        if (format.packing == Packing::Grouped) {
-            samples[i] = data[i / 2 * 3 + i % 2 * 2];
-        } else if (bits == 8) {
-            samples[i] = data[i];
-        } else {
-            const std::size_t high
-                = format.packing == Packing::Bytes ? i * 16 + bits - 8 : i * bits + bits - 8;
-            const std::size_t byte = high / 8;
-            const unsigned pair = data[byte] | (high % 8 ? data[byte + 1] << 8 : 0U);
-            samples[i] = static_cast<std::uint8_t>(pair >> (high % 8));
-        }
+        const std::size_t high
+            = format.packing == Pairs ? (i / 2 * 3 + i % 2 * 2) * 8 : i * distance + bits - 8;
+        const std::uint8_t* const byte = data + high / 8;
+        const unsigned pair = byte[0] | (high % 8 ? byte[1] << 8 : 0U);
+        samples[i] = static_cast<std::uint8_t>(pair >> high % 8);
     }
     return samples;
 }
 
-/// Every pixel takes the colours of the two by two samples that it is part of.
-std::vector<std::uint8_t> demosaic(const std::vector<std::uint8_t>& samples, int width, int height,
-                                   const Mosaic& mosaic)
-{
-    const auto sample = [&](int x, int y) {
-        x = x < width ? x : std::max(0, x - 2);
-        y = y < height ? y : std::max(0, y - 2);
-        return samples[static_cast<std::size_t>(y) * static_cast<std::size_t>(width)
-                       + static_cast<std::size_t>(x)];
-    };
-    std::vector<std::uint8_t> pixels;
-    pixels.reserve(samples.size() * 3);
-    for (int y = 0; y < height; ++y) {
-        for (int x = 0; x < width; ++x) {
-            const int column = x - x % 2;
-            const int row = y - y % 2;
-            const int redX = column + mosaic.redColumn;
-            const int redY = row + mosaic.redRow;
-            const int blueX = column + 1 - mosaic.redColumn;
-            const int blueY = row + 1 - mosaic.redRow;
-            pixels.push_back(sample(redX, redY));
-            pixels.push_back(sample(y % 2 == mosaic.redRow ? blueX : redX, y));
-            pixels.push_back(sample(blueX, blueY));
-        }
-    }
-    return pixels;
-}
-
-void appendYuv(std::vector<std::uint8_t>& pixels, int y, int u, int v)
+Pixel fromYuv(int y, int u, int v)
 {
     const auto level
         = [](double value) { return static_cast<std::uint8_t>(std::clamp(value, 0.0, 255.0)); };
-    pixels.push_back(level(y + 1.402 * (v - 128)));
-    pixels.push_back(level(y - 0.344 * (u - 128) - 0.714 * (v - 128)));
-    pixels.push_back(level(y + 1.772 * (u - 128)));
+    return {level(y + 1.402 * (v - 128)), level(y - 0.344 * (u - 128) - 0.714 * (v - 128)),
+            level(y + 1.772 * (u - 128))};
 }
 
-std::vector<std::uint8_t> decodeColour(const std::uint8_t* data, std::size_t size,
-                                       std::size_t count, std::uint32_t format)
+/// Every pixel takes the colours of the two by two samples that it is part of; the last of an odd
+/// number those before it.
+Pixel fromMosaic(const Samples& samples, std::size_t width, std::size_t x, std::size_t y,
+                 Meaning mosaic)
 {
-    const bool isYuv = format == Uyvy || format == Yuyv;
-    if (size < count * (isYuv ? 2 : 3) || (isYuv && count % 2 != 0))
-        return {};
-    if (format == Rgb8)
-        return {data, data + count * 3};
-    std::vector<std::uint8_t> pixels;
-    pixels.reserve(count * 3);
-    for (std::size_t i = 0; i < count; ++i) {
-        if (format == Bgr8) {
-            pixels.insert(pixels.end(), {data[i * 3 + 2], data[i * 3 + 1], data[i * 3]});
-        } else {
-            const std::uint8_t* const pair = data + i / 2 * 4;
-            const int luma = format == Uyvy ? 1 : 0;
-            appendYuv(pixels, pair[luma + static_cast<int>(i % 2) * 2], pair[1 - luma],
-                      pair[3 - luma]);
-        }
-    }
-    return pixels;
+    const std::size_t height = samples.size() / width;
+    const auto sample = [&](std::size_t column, std::size_t row) {
+        column = column < width ? column : column < 2 ? 0 : column - 2;
+        row = row < height ? row : row < 2 ? 0 : row - 2;
+        return samples[row * width + column];
+    };
+    const std::size_t redColumn = mosaic == Gr || mosaic == Bg ? 1 : 0;
+    const std::size_t redRow = mosaic == Gb || mosaic == Bg ? 1 : 0;
+    const std::size_t redX = x - x % 2 + redColumn;
+    const std::size_t blueX = x - x % 2 + 1 - redColumn;
+    return {sample(redX, y - y % 2 + redRow), sample(y % 2 == redRow ? blueX : redX, y),
+            sample(blueX, y - y % 2 + 1 - redRow)};
+}
+
+Pixel pixelAt(const Samples& samples, std::size_t width, std::size_t x, std::size_t y,
+              Meaning meaning)
+{
+    const std::size_t index = y * width + x;
+    if (meaning == Bgr)
+        return {samples[index * 3 + 2], samples[index * 3 + 1], samples[index * 3]};
+    if (meaning < Rgb)
+        return fromMosaic(samples, width, x, y, meaning);
+    const std::uint8_t* const pair = samples.data() + index / 2 * 4;
+    const std::size_t luma = meaning == Uyvy ? 1 : 0;
+    return fromYuv(pair[luma + index % 2 * 2], pair[1 - luma], pair[3 - luma]);
 }
 
 } // namespace
@@ -156,24 +145,28 @@ Frame decodeFrame(const std::uint8_t* data, std::size_t size, int width, int hei
     Frame frame;
     frame.width = width;
     frame.height = height;
-    if (!data || width <= 0 || height <= 0)
+    const std::optional<Format> found = findFormat(format);
+    if (!data || width <= 0 || height <= 0 || !found)
         return frame;
-    const std::size_t count = static_cast<std::size_t>(width) * static_cast<std::size_t>(height);
-    if (format == Rgb8 || format == Bgr8 || format == Uyvy || format == Yuyv) {
-        frame.isColour = true;
-        frame.pixels = decodeColour(data, size, count, format);
+    const auto columns = static_cast<std::size_t>(width);
+    const auto lines = static_cast<std::size_t>(height);
+    const Meaning meaning = found->meaning;
+    const std::size_t samplesPerPixel = meaning < Rgb ? 1 : meaning < Uyvy ? 3 : 2;
+    if (meaning >= Uyvy && columns * lines % 2 != 0)
+        return frame;
+    Samples samples = unpack(data, size, columns * lines * samplesPerPixel, *found);
+    frame.isColour = meaning != Grey;
+    if (meaning == Grey || meaning == Rgb || samples.empty()) {
+        frame.pixels = std::move(samples);
         return frame;
     }
-    const auto* const found
-        = std::find_if(std::begin(formats), std::end(formats), [&](const Format& one) {
-              return one.id == (format & 0xffff) && format >> 24 == 0x01;
-          });
-    if (found == std::end(formats))
-        return frame;
-    frame.pixels = unpack(data, size, count, *found);
-    frame.isColour = found->mosaic.redColumn >= 0;
-    if (frame.isColour && !frame.pixels.empty())
-        frame.pixels = demosaic(frame.pixels, width, height, found->mosaic);
+    frame.pixels.reserve(columns * lines * 3);
+    for (std::size_t y = 0; y < lines; ++y) {
+        for (std::size_t x = 0; x < columns; ++x) {
+            const Pixel pixel = pixelAt(samples, columns, x, y, meaning);
+            frame.pixels.insert(frame.pixels.end(), pixel.begin(), pixel.end());
+        }
+    }
     return frame;
 }
 

@@ -15,6 +15,9 @@ struct Frame
     int height = 0;
     bool isColour = false;
     std::vector<std::uint8_t> pixels;
+    // Of the stream, by then.
+    double framesPerSecond = 0.0;
+    std::uint64_t lostFrames = 0;
 };
 
 /// Makes a picture of what a camera sent, in one of the formats Mono and Bayer of 8 to 16 bits

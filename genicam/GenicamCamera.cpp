@@ -9,23 +9,19 @@ namespace genicam {
 
 namespace {
 
-struct ListedNode
-{
-    ArvGcFeatureNode* node;
-    std::string category;
-};
+using NodeOfCategory = std::pair<ArvGcFeatureNode*, std::string>;
 
-/// The features below a category, with the path of theirs; each stands where it comes first.
+/// The features below a category; each stands where it comes first.
 void collect(ArvGcFeatureNode* category, const std::string& path,
-             std::set<ArvGcFeatureNode*>& known, std::vector<ListedNode>& list)
+             std::set<ArvGcFeatureNode*>& known, std::vector<NodeOfCategory>& list)
 {
     for (const auto& [type, node] : linksOf(category)) {
         if (type != ARV_GC_PROPERTY_NODE_TYPE_P_FEATURE || !known.insert(node).second)
             continue;
         if (ARV_IS_GC_CATEGORY(node))
-            collect(node, path + "/" + arv_gc_feature_node_get_name(node), known, list);
+            collect(node, path + "/" + textsOf(node)[Name], known, list);
         else if (typeOf(node) != ZebFeatureDataUnknown)
-            list.push_back({node, path});
+            list.emplace_back(node, path.empty() ? "/" : path);
     }
 }
 
@@ -35,16 +31,26 @@ GenicamCamera::GenicamCamera(ArvDevice* device, const Options& options)
     : m_link(std::make_shared<DeviceLink>(device))
     , m_watch(std::make_shared<ChangeWatch>(m_link, options.onGone))
 {
-    DependencyGraph graph;
-    m_link->perform(false, [&](GError**) {
-        readFeatures(options);
+    std::vector<Places> touched;
+    m_link->perform([&](GError**) {
+        std::vector<NodeOfCategory> list;
+        std::set<ArvGcFeatureNode*> known;
+        if (ArvGcFeatureNode* const root = m_link->node("Root"))
+            collect(root, "", known, list);
         std::vector<ArvGcFeatureNode*> nodes;
-        for (const auto& feature : m_features)
-            nodes.push_back(feature->node());
-        graph = DependencyGraph(nodes);
+        for (const auto& [node, category] : list) {
+            const bool isVendor = textsOf(node)[Name] == "DeviceVendorName";
+            const std::string prefix = isVendor ? options.vendorPrefix : std::string();
+            const GenicamFeature::Place place{nodes.size(), category, prefix};
+            m_features.push_back(std::make_shared<GenicamFeature>(node, place, m_link, m_watch));
+            nodes.push_back(node);
+        }
+        nodes.push_back(
+            m_link->node("TLParamsLocked")); // behind the features, whether listed or not
+        touched = touchedByWrites(nodes);
         return ZebErrorSuccess;
     });
-    m_watch->start(m_features, std::move(graph));
+    m_watch->start(m_features, std::move(touched));
 }
 
 GenicamCamera::~GenicamCamera()
@@ -52,34 +58,6 @@ GenicamCamera::~GenicamCamera()
     stopStream();
     m_watch->stop();
     m_link->close();
-}
-
-void GenicamCamera::readFeatures(const Options& options)
-{
-    std::vector<ListedNode> list;
-    std::set<ArvGcFeatureNode*> known;
-    if (ArvGcNode* const root = m_link->node("Root"); ARV_IS_GC_CATEGORY(root))
-        collect(ARV_GC_FEATURE_NODE(root), "", known, list);
-
-    std::map<ArvGcFeatureNode*, std::weak_ptr<GenicamFeature>> byNode;
-    for (const auto& [node, category] : list) {
-        const bool isVendor
-            = g_strcmp0(arv_gc_feature_node_get_name(node), "DeviceVendorName") == 0;
-        m_features.push_back(std::make_shared<GenicamFeature>(
-            node,
-            GenicamFeature::Place{m_features.size(), category.empty() ? "/" : category,
-                                  isVendor ? options.vendorPrefix : std::string()},
-            m_link, m_watch));
-        byNode[node] = m_features.back();
-    }
-    for (const auto& feature : m_features) {
-        std::vector<std::weak_ptr<GenicamFeature>> selected;
-        for (const auto& [type, node] : linksOf(feature->node())) {
-            if (type == ARV_GC_PROPERTY_NODE_TYPE_P_SELECTED && byNode.count(node) > 0)
-                selected.push_back(byNode[node]);
-        }
-        feature->setSelected(std::move(selected));
-    }
 }
 
 std::vector<ZebCPP::FeaturePtr> GenicamCamera::features() const
@@ -116,14 +94,15 @@ ZebErrorType GenicamCamera::writeAsOtherClient(const std::string& name, const st
     return feature ? feature->writeUnnoticed(value) : ZebErrorNotFound;
 }
 
+// A streaming camera locks what decides the size of its pictures.
 std::string GenicamCamera::startStream(std::function<void()> onFrame)
 {
     stopStream();
     auto stream = std::make_unique<ImageStream>(m_link, std::move(onFrame));
     std::string reason = stream->start();
-    announceStream();
     if (reason.empty())
         m_stream = std::move(stream);
+    m_watch->written(m_features.size());
     return reason;
 }
 
@@ -132,35 +111,12 @@ void GenicamCamera::stopStream()
     if (!m_stream)
         return;
     m_stream.reset();
-    announceStream();
-}
-
-// A streaming camera locks what decides the size of its pictures.
-void GenicamCamera::announceStream()
-{
-    DependencyGraph::Places touched;
-    m_link->perform(false, [&](GError**) {
-        if (ArvGcNode* const locked = m_link->node("TLParamsLocked");
-            ARV_IS_GC_FEATURE_NODE(locked))
-            touched = m_watch->graph().touchedBy(ARV_GC_FEATURE_NODE(locked));
-        return ZebErrorSuccess;
-    });
-    m_watch->written(touched);
+    m_watch->written(m_features.size());
 }
 
 std::optional<Frame> GenicamCamera::takeFrame()
 {
     return m_stream ? m_stream->take() : std::nullopt;
-}
-
-double GenicamCamera::framesPerSecond() const
-{
-    return m_stream ? m_stream->figures().framesPerSecond : 0.0;
-}
-
-std::uint64_t GenicamCamera::lostFrames() const
-{
-    return m_stream ? m_stream->figures().lostFrames : 0;
 }
 
 } // namespace genicam

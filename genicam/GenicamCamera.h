@@ -57,13 +57,9 @@ public:
     void stopStream();
     /// The newest frame, once.
     std::optional<Frame> takeFrame();
-    double framesPerSecond() const;
-    std::uint64_t lostFrames() const;
 
 private:
     std::shared_ptr<GenicamFeature> find(const std::string& name) const;
-    void readFeatures(const Options& options);
-    void announceStream();
 
     std::shared_ptr<DeviceLink> m_link;
     std::shared_ptr<ChangeWatch> m_watch;

@@ -1,24 +1,20 @@
 #include "GenicamFeature.h"
 
-#include "NodeWriting.h"
-
 #include <algorithm>
 #include <tuple>
-#include <utility>
 
 namespace genicam {
 
 namespace {
 
-/// What is older is read from the camera again: another client may have changed it.
-constexpr std::chrono::seconds longestTrust{1};
-
 /// No description is trusted with the memory.
 constexpr std::uint64_t largestRegister = 1 << 24;
 
-template <typename Number>
-constexpr ZebFeatureDataType typeFor
-    = std::is_same_v<Number, double> ? ZebFeatureDataFloat : ZebFeatureDataInt;
+template <typename Plain>
+constexpr ZebFeatureDataType typeFor = std::is_same_v<Plain, double> ? ZebFeatureDataFloat
+    : std::is_same_v<Plain, bool>                                    ? ZebFeatureDataBool
+    : std::is_same_v<Plain, std::string>                             ? ZebFeatureDataString
+                                                                     : ZebFeatureDataInt;
 
 /// The second half of the two-call pattern; the first when there is no buffer.
 template <typename Item>
@@ -26,11 +22,10 @@ ZebErrorType answerList(const std::vector<Item>& items, Item* buffer, std::uint3
 {
     const std::uint32_t capacity = count;
     count = static_cast<std::uint32_t>(items.size());
-    if (!buffer)
-        return ZebErrorSuccess;
-    if (capacity < count)
+    if (buffer && capacity < count)
         return ZebErrorBadParameter;
-    std::copy(items.begin(), items.end(), buffer);
+    if (buffer)
+        std::copy(items.begin(), items.end(), buffer);
     return ZebErrorSuccess;
 }
 
@@ -43,53 +38,30 @@ GenicamFeature::GenicamFeature(ArvGcFeatureNode* node, Place place,
     , m_link(std::move(link))
     , m_watch(std::move(watch))
     , m_type(typeOf(node))
-    , m_name(textOf(arv_gc_feature_node_get_name(node)))
-    , m_displayName(textOf(arv_gc_feature_node_get_display_name(node)))
-    , m_unit(unitOf(node))
-    , m_representation(representationOf(node))
-    , m_toolTip(textOf(arv_gc_feature_node_get_tooltip(node)))
-    , m_description(textOf(arv_gc_feature_node_get_description(node)))
     , m_visibility(visibilityOf(node))
-    , m_isBackedByCamera(hasRegister(node))
+    , m_texts(textsOf(node))
     , m_entries(entriesOf(node))
 {
-    if (m_displayName.empty())
-        m_displayName = m_name;
 }
 
 // Reading
 
-bool GenicamFeature::isOutOfDate(Kind kind)
+ZebErrorType GenicamFeature::read(Kind kind, ZebFeatureDataType type, const DeviceLink::Work& work)
 {
-    const auto now = std::chrono::steady_clock::now();
-    const std::uint64_t age = m_watch->age();
-    const std::lock_guard lock(m_mutex);
-    Reading& last = m_readings[kind];
-    const bool isFirst = last.time == std::chrono::steady_clock::time_point();
-    const bool isOld = last.age != age || (!isFirst && now - last.time > longestTrust);
-    if (isOld || isFirst)
-        last = {age, now};
-    return isOld;
+    return m_type == type ? m_link->perform(work, &m_readings[kind]) : ZebErrorBadParameter;
 }
 
-template <typename Work> ZebErrorType GenicamFeature::read(Kind kind, Work&& work)
+template <typename Plain> ZebErrorType GenicamFeature::readPlain(Plain& plain)
 {
-    return m_link->perform(isOutOfDate(kind), work);
-}
-
-template <typename Plain>
-ZebErrorType GenicamFeature::readPlain(ZebFeatureDataType type, Plain& plain)
-{
-    const bool isEntryNumber = std::is_same_v<Plain, std::int64_t> && m_type == ZebFeatureDataEnum;
-    if (m_type != type && !isEntryNumber)
-        return ZebErrorBadParameter;
+    const bool isEntryNumber = std::is_same_v<Plain, Integer> && m_type == ZebFeatureDataEnum;
     Value value;
-    const ZebErrorType result = read(OfValue, [&](GError** error) {
-        if (!accessOf(m_node, error).isReadable)
-            return ZebErrorInvalidAccess;
-        value = readValue(m_node, error);
-        return ZebErrorSuccess;
-    });
+    const ZebErrorType result
+        = read(OfValue, isEntryNumber ? m_type : typeFor<Plain>, [&](GError** error) {
+              if (!accessOf(m_node, error).isReadable)
+                  return ZebErrorInvalidAccess;
+              value = readValue(m_node, error);
+              return ZebErrorSuccess;
+          });
     if (result != ZebErrorSuccess)
         return result;
     plain = std::get<Plain>(value);
@@ -97,37 +69,31 @@ ZebErrorType GenicamFeature::readPlain(ZebFeatureDataType type, Plain& plain)
     return ZebErrorSuccess;
 }
 
-ZebErrorType GenicamFeature::GetValue(char* buffer, std::uint32_t& length)
+ZebErrorType GenicamFeature::GetValue(char* buffer, Count& length)
 {
-    std::string value;
-    if (m_type == ZebFeatureDataString) {
-        const ZebErrorType result = readPlain(ZebFeatureDataString, value);
-        if (result != ZebErrorSuccess)
-            return result;
+    std::string text;
+    ZebErrorType result = ZebErrorBadParameter;
+    if (m_type == ZebFeatureDataEnum) {
+        Integer number = 0;
+        result = readPlain(number);
+        if (result == ZebErrorSuccess) {
+            result = read(OfEntries, m_type, [&](GError** error) {
+                const std::optional<Entry> entry = findEntry(m_entries, number, error);
+                text = entry ? entry->name : std::string();
+                return entry ? ZebErrorSuccess : ZebErrorInvalidValue;
+            });
+        }
+    } else {
+        result = readPlain(text);
         if (!m_place.vendorPrefix.empty())
-            value = m_place.vendorPrefix + " (" + value + ")";
-        return answer(value, buffer, length);
+            text = m_place.vendorPrefix + " (" + text + ")";
     }
-    std::int64_t number = 0;
-    ZebErrorType result = readPlain(ZebFeatureDataEnum, number);
-    if (result == ZebErrorSuccess) {
-        result = read(OfEntries, [&](GError** error) {
-            const Entry* const entry = findEntry(m_entries, number, error);
-            if (!entry)
-                return ZebErrorInvalidValue; // the camera's own is none of them
-            value = entry->name;
-            return ZebErrorSuccess;
-        });
-    }
-    return result == ZebErrorSuccess ? answer(value, buffer, length) : result;
+    return result == ZebErrorSuccess ? tell(text, buffer, length) : result;
 }
 
-ZebErrorType GenicamFeature::GetValue(std::uint8_t* buffer, std::uint32_t bufferSize,
-                                      std::uint32_t& sizeFilled)
+ZebErrorType GenicamFeature::GetValue(std::uint8_t* buffer, Count bufferSize, Count& sizeFilled)
 {
-    if (m_type != ZebFeatureDataRaw)
-        return ZebErrorBadParameter;
-    return read(OfValue, [&](GError** error) {
+    return read(OfValue, ZebFeatureDataRaw, [&](GError** error) {
         if (!accessOf(m_node, error).isReadable)
             return ZebErrorInvalidAccess;
         const auto size = arv_gc_register_get_length(ARV_GC_REGISTER(m_node), error);
@@ -147,28 +113,26 @@ bool GenicamFeature::look()
         return true;
     Value value;
     bool isWritable = false;
-    const ZebErrorType result = m_link->perform(
-        true,
-        [&](GError** error) {
-            const Access access = accessOf(m_node, error);
-            isWritable = access.isWritable;
-            if (!*error && access.isReadable)
-                value = readValue(m_node, error);
-            return ZebErrorSuccess;
-        },
-        true);
+    const DeviceLink::Work work = [&](GError** error) {
+        const Access access = accessOf(m_node, error);
+        isWritable = access.isWritable;
+        if (!*error && access.isReadable)
+            value = readValue(m_node, error);
+        return ZebErrorSuccess;
+    };
+    const ZebErrorType result = m_link->perform(work, nullptr, true);
     if (result == ZebErrorTimeout || result == ZebErrorBadHandle)
         return false;
     m_watch->seen(m_place.index, value);
     if (std::exchange(m_wasWritable, isWritable).value_or(isWritable) != isWritable)
-        m_watch->written({m_place.index});
+        m_watch->written(m_place.index);
     return true;
 }
 
 std::string GenicamFeature::readText()
 {
     std::string value;
-    m_link->perform(true, [&](GError** error) {
+    m_link->perform([&](GError** error) {
         if (m_type != ZebFeatureDataCommand && accessOf(m_node, error).isReadable)
             value = textOf(arv_gc_feature_node_get_value_as_string(m_node, error));
         return ZebErrorSuccess;
@@ -178,26 +142,20 @@ std::string GenicamFeature::readText()
 
 // Lists
 
-ZebErrorType GenicamFeature::GetValues(const char** values, std::uint32_t& count)
+ZebErrorType GenicamFeature::GetValues(const char** values, Count& count)
 {
-    if (m_type != ZebFeatureDataEnum)
-        return ZebErrorBadParameter;
     std::vector<const char*> names;
     for (const Entry& entry : m_entries)
         names.push_back(entry.name.c_str());
-    return answerList(names, values, count);
+    return m_type == ZebFeatureDataEnum ? answerList(names, values, count) : ZebErrorBadParameter;
 }
 
-ZebErrorType GenicamFeature::GetValues(std::int64_t* values, std::uint32_t& count)
+ZebErrorType GenicamFeature::GetValues(Integer* values, Count& count)
 {
-    if (m_type != ZebFeatureDataEnum)
-        return ZebErrorBadParameter;
-    return read(OfEntries, [&](GError** error) {
-        std::vector<std::int64_t> numbers;
-        for (const Entry& entry : m_entries) {
-            if (!*error)
-                numbers.push_back(entry.readNumber(error));
-        }
+    return read(OfEntries, ZebFeatureDataEnum, [&](GError** error) {
+        std::vector<Integer> numbers;
+        for (const Entry& entry : m_entries)
+            numbers.push_back(*error ? 0 : entry.readNumber(error));
         return answerList(numbers, values, count);
     });
 }
@@ -206,44 +164,38 @@ ZebErrorType GenicamFeature::GetEntry(ZebCPP::EnumEntry& entry, const char* name
 {
     if (m_type != ZebFeatureDataEnum || !name)
         return ZebErrorBadParameter;
-    if (!findEntry(m_entries, name))
-        return ZebErrorNotFound;
     entry = {};
-    return ZebErrorSuccess;
+    return findEntry(m_entries, name) ? ZebErrorSuccess : ZebErrorNotFound;
 }
 
-ZebErrorType GenicamFeature::GetEntries(ZebCPP::EnumEntry* entries, std::uint32_t& count)
+ZebErrorType GenicamFeature::GetEntries(ZebCPP::EnumEntry* entries, Count& count)
 {
-    return m_type == ZebFeatureDataEnum
-        ? answerList(std::vector<ZebCPP::EnumEntry>(m_entries.size()), entries, count)
-        : ZebErrorBadParameter;
+    const std::vector<ZebCPP::EnumEntry> list(m_entries.size());
+    return m_type == ZebFeatureDataEnum ? answerList(list, entries, count) : ZebErrorBadParameter;
 }
 
-ZebErrorType GenicamFeature::IsValueAvailable(std::int64_t value, bool& available)
+ZebErrorType GenicamFeature::IsValueAvailable(Integer value, bool& available)
 {
-    if (m_type != ZebFeatureDataEnum)
-        return ZebErrorBadParameter;
-    return read(OfEntries, [&](GError** error) {
-        const Entry* const entry = findEntry(m_entries, value, error);
-        available = entry && entry->isAvailable(error);
+    return read(OfEntries, ZebFeatureDataEnum, [&](GError** error) {
+        const std::optional<Entry> entry = findEntry(m_entries, value, error);
+        available = entry && isThere(entry->node, error);
         return ZebErrorSuccess;
     });
 }
 
 ZebErrorType GenicamFeature::IsValueAvailable(const char* value, bool& available)
 {
-    if (m_type != ZebFeatureDataEnum || !value)
+    if (!value)
         return ZebErrorBadParameter;
-    const Entry* const entry = findEntry(m_entries, value);
-    return read(OfEntries, [&](GError** error) {
-        available = entry && entry->isAvailable(error);
+    return read(OfEntries, ZebFeatureDataEnum, [&](GError** error) {
+        const std::optional<Entry> entry = findEntry(m_entries, value);
+        available = entry && isThere(entry->node, error);
         return ZebErrorSuccess;
     });
 }
 
 // The library knows of none.
-ZebErrorType GenicamFeature::GetValidValueSet(std::int64_t* values, std::uint32_t,
-                                              std::uint32_t* setSize)
+ZebErrorType GenicamFeature::GetValidValueSet(Integer* values, Count, Count* setSize)
 {
     if (m_type != ZebFeatureDataInt || (!values && !setSize))
         return ZebErrorBadParameter;
@@ -252,35 +204,36 @@ ZebErrorType GenicamFeature::GetValidValueSet(std::int64_t* values, std::uint32_
     return ZebErrorSuccess;
 }
 
-ZebErrorType GenicamFeature::GetSelectedFeatures(ZebCPP::FeaturePtr* features, std::uint32_t& count)
+ZebErrorType GenicamFeature::GetSelectedFeatures(ZebCPP::FeaturePtr* features, Count& count)
 {
-    std::vector<ZebCPP::FeaturePtr> selected;
-    for (const auto& one : m_selected) {
-        if (auto feature = one.lock())
-            selected.push_back(std::move(feature));
-    }
-    return answerList(selected, features, count);
+    return read(OfEntries, m_type, [&](GError**) {
+        std::vector<ZebCPP::FeaturePtr> selected;
+        for (const auto& [type, node] : linksOf(m_node)) {
+            if (type == ARV_GC_PROPERTY_NODE_TYPE_P_SELECTED)
+                selected.push_back(m_watch->featureOf(node));
+        }
+        selected.erase(std::remove(selected.begin(), selected.end(), nullptr), selected.end());
+        return answerList(selected, features, count);
+    });
 }
 
 // Range and increment
 
 template <typename Number> ZebErrorType GenicamFeature::readLimits(Range<Number>& range)
 {
-    if (m_type != typeFor<Number>)
-        return ZebErrorBadParameter;
-    return read(OfRange, [&](GError** error) {
+    return read(OfRange, typeFor<Number>, [&](GError** error) {
         range = readRange<Number>(m_node, error);
         return ZebErrorSuccess;
     });
 }
 
-template <typename Number> ZebErrorType GenicamFeature::readBounds(Number& minimum, Number& maximum)
+template <typename Number> ZebErrorType GenicamFeature::readBounds(Number& low, Number& high)
 {
     Range<Number> range{};
     const ZebErrorType result = readLimits(range);
     if (result != ZebErrorSuccess || range.isAbsurd())
         return result != ZebErrorSuccess ? result : ZebErrorNotFound;
-    std::tie(minimum, maximum) = std::tie(range.minimum, range.maximum);
+    std::tie(low, high) = std::tie(range.minimum, range.maximum);
     return ZebErrorSuccess;
 }
 
@@ -288,18 +241,15 @@ template <typename Number> ZebErrorType GenicamFeature::readIncrement(Number& in
 {
     Range<Number> range{};
     const ZebErrorType result = readLimits(range);
-    if (result != ZebErrorSuccess)
-        return result;
-    increment = range.increment;
-    return increment > 0 ? ZebErrorSuccess : ZebErrorNotFound;
+    if (result == ZebErrorSuccess)
+        increment = range.increment;
+    return result == ZebErrorSuccess && !(increment > 0) ? ZebErrorNotFound : result;
 }
 
 ZebErrorType GenicamFeature::HasIncrement(bool& hasIncrement)
 {
     Range<double> range{};
-    const ZebErrorType result = m_type == ZebFeatureDataFloat
-        ? readLimits(range)
-        : tell(range.increment, range.increment);
+    const ZebErrorType result = m_type == ZebFeatureDataFloat ? readLimits(range) : whenOpen();
     hasIncrement = m_type == ZebFeatureDataInt || range.increment > 0.0;
     return result;
 }
@@ -307,30 +257,37 @@ ZebErrorType GenicamFeature::HasIncrement(bool& hasIncrement)
 // Writing
 
 // A masked register is read and written as a whole, so it must not be an old one that is read.
-template <typename Work> ZebErrorType GenicamFeature::send(Work&& work)
+ZebErrorType GenicamFeature::send(const DeviceLink::Work& work)
 {
-    return m_link->perform(true, [&](GError** error) {
+    return m_link->perform([&](GError** error) {
         const bool isWritable = accessOf(m_node, error).isWritable;
         return *error || !isWritable ? ZebErrorInvalidAccess : work(error);
     });
 }
 
-template <typename Work> ZebErrorType GenicamFeature::writeBy(Work&& work)
+ZebErrorType GenicamFeature::sendNoticed(const DeviceLink::Work& work)
 {
     const ZebErrorType result = send(work);
-    m_watch->written(result == ZebErrorSuccess ? m_watch->graph().touchedBy(m_place.index)
-                                               : DependencyGraph::Places());
+    if (result == ZebErrorSuccess)
+        m_watch->written(m_place.index);
+    else
+        m_link->forget();
     return result;
 }
 
-ZebErrorType GenicamFeature::write(const Value& value)
+template <typename Plain> ZebErrorType GenicamFeature::write(const Plain& value)
 {
-    return writeBy([&](GError** error) { return writeValue(m_node, value, error); });
+    return sendNoticed([&](GError** error) { return genicam::write(m_node, value, error); });
 }
 
-ZebErrorType GenicamFeature::SetValue(const std::uint8_t* data, std::uint32_t size)
+ZebErrorType GenicamFeature::SetValue(const char* value)
 {
-    return writeBy([&](GError** error) { return writeBytes(m_node, data, size, error); });
+    return value ? write(std::string(value)) : ZebErrorBadParameter;
+}
+
+ZebErrorType GenicamFeature::SetValue(const std::uint8_t* data, Count size)
+{
+    return data ? write(std::vector<std::uint8_t>(data, data + size)) : ZebErrorBadParameter;
 }
 
 ZebErrorType GenicamFeature::writeUnnoticed(const std::string& value)
@@ -348,7 +305,7 @@ ZebErrorType GenicamFeature::RunCommand()
 {
     if (m_type != ZebFeatureDataCommand)
         return ZebErrorBadParameter;
-    return writeBy([&](GError** error) {
+    return sendNoticed([&](GError** error) {
         arv_gc_command_execute(ARV_GC_COMMAND(m_node), error);
         return ZebErrorSuccess;
     });
@@ -358,16 +315,15 @@ ZebErrorType GenicamFeature::IsCommandDone(bool& done)
 {
     if (m_type != ZebFeatureDataCommand)
         return ZebErrorBadParameter;
-    return m_link->perform(true, [&](GError** error) {
+    return m_link->perform([&](GError** error) {
         done = genicam::isCommandDone(m_node, error);
         return ZebErrorSuccess;
     });
 }
 
-// Descriptions, which need no camera
+// What needs no camera
 
-ZebErrorType GenicamFeature::answer(const std::string& text, char* buffer,
-                                    std::uint32_t& length) const
+ZebErrorType GenicamFeature::tell(const std::string& text, char* buffer, Count& length) const
 {
     if (m_link->isClosed())
         return ZebErrorBadHandle;
@@ -375,24 +331,66 @@ ZebErrorType GenicamFeature::answer(const std::string& text, char* buffer,
     return answerList(characters, buffer, length);
 }
 
+ZebErrorType GenicamFeature::tell(TextKind kind, char* buffer, Count& length) const
+{
+    return tell(m_texts[kind], buffer, length);
+}
+
+ZebErrorType GenicamFeature::GetDataType(ZebFeatureDataType& dataType)
+{
+    dataType = m_type;
+    return whenOpen();
+}
+
+ZebErrorType GenicamFeature::GetVisibility(ZebFeatureVisibilityType& visibility)
+{
+    visibility = m_visibility;
+    return whenOpen();
+}
+
+ZebErrorType GenicamFeature::RegisterObserver(const ZebCPP::IFeatureObserverPtr& observer)
+{
+    return m_link->isClosed() ? ZebErrorBadHandle : m_watch->add(m_place.index, observer);
+}
+
+ZebErrorType GenicamFeature::UnregisterObserver(const ZebCPP::IFeatureObserverPtr& observer)
+{
+    return m_link->isClosed() ? ZebErrorBadHandle : m_watch->remove(m_place.index, observer);
+}
+
 // Access
 
-ZebErrorType GenicamFeature::readAccess(bool Access::*part, bool& output)
+ZebErrorType GenicamFeature::readAccess(Access& access)
 {
-    return read(OfAccess, [&](GError** error) {
-        output = accessOf(m_node, error).*part;
+    return read(OfAccess, m_type, [&](GError** error) {
+        access = accessOf(m_node, error);
         return ZebErrorSuccess;
     });
 }
 
+ZebErrorType GenicamFeature::IsReadable(bool& readable)
+{
+    Access access;
+    const ZebErrorType result = readAccess(access);
+    readable = access.isReadable;
+    return result;
+}
+
+ZebErrorType GenicamFeature::IsWritable(bool& writable)
+{
+    Access access;
+    const ZebErrorType result = readAccess(access);
+    writable = access.isWritable;
+    return result;
+}
+
 ZebErrorType GenicamFeature::GetFlags(ZebFeatureFlagsType& flags)
 {
-    return read(OfAccess, [&](GError** error) {
-        const Access access = accessOf(m_node, error);
-        flags = static_cast<ZebFeatureFlagsType>((access.isReadable ? ZebFeatureFlagsRead : 0U)
-                                                 | (access.isWritable ? ZebFeatureFlagsWrite : 0U));
-        return ZebErrorSuccess;
-    });
+    Access access;
+    const ZebErrorType result = readAccess(access);
+    flags = static_cast<ZebFeatureFlagsType>((access.isReadable ? ZebFeatureFlagsRead : 0U)
+                                             | (access.isWritable ? ZebFeatureFlagsWrite : 0U));
+    return result;
 }
 
 } // namespace genicam

@@ -4,6 +4,7 @@
 
 #include <atomic>
 #include <cstdio>
+#include <map>
 #include <mutex>
 
 namespace genicam {
@@ -18,70 +19,53 @@ void onCritical(const char* domain, GLogLevelFlags, const char* message, void*)
     std::fprintf(stderr, "genicam: %s: %s\n", domain ? domain : "Aravis", message);
 }
 
-ZebErrorType codeOfDeviceError(int code)
-{
-    switch (code) {
-    case ARV_DEVICE_ERROR_TIMEOUT:
-    case ARV_DEVICE_ERROR_NOT_CONNECTED:
-    case ARV_DEVICE_ERROR_TRANSFER_ERROR:
-        return ZebErrorTimeout;
-    case ARV_DEVICE_ERROR_FEATURE_NOT_FOUND:
-    case ARV_DEVICE_ERROR_NOT_FOUND:
-    case ARV_DEVICE_ERROR_GENICAM_NOT_FOUND:
-    case ARV_DEVICE_ERROR_PROTOCOL_ERROR_NOT_IMPLEMENTED:
-    case ARV_DEVICE_ERROR_PROTOCOL_ERROR_INVALID_ADDRESS:
-        return ZebErrorNotFound;
-    case ARV_DEVICE_ERROR_NOT_CONTROLLER:
-    case ARV_DEVICE_ERROR_PROTOCOL_ERROR_WRITE_PROTECT:
-    case ARV_DEVICE_ERROR_PROTOCOL_ERROR_ACCESS_DENIED:
-        return ZebErrorInvalidAccess;
-    case ARV_DEVICE_ERROR_PROTOCOL_ERROR_BUSY:
-        return ZebErrorResources;
-    case ARV_DEVICE_ERROR_WRONG_FEATURE:
-    case ARV_DEVICE_ERROR_INVALID_PARAMETER:
-    case ARV_DEVICE_ERROR_PROTOCOL_ERROR_INVALID_PARAMETER:
-    case ARV_DEVICE_ERROR_PROTOCOL_ERROR_BAD_ALIGNMENT:
-        return ZebErrorBadParameter;
-    default:
-        return ZebErrorOther;
-    }
-}
+using Codes = std::map<int, ZebErrorType>;
 
-ZebErrorType codeOfNodeError(int code)
-{
-    switch (code) {
-    case ARV_GC_ERROR_OUT_OF_RANGE:
-    case ARV_GC_ERROR_INVALID_LENGTH:
-    case ARV_GC_ERROR_INVALID_SYNTAX:
-        return ZebErrorBadParameter;
-    case ARV_GC_ERROR_ENUM_ENTRY_NOT_FOUND:
-        return ZebErrorInvalidValue;
-    case ARV_GC_ERROR_READ_ONLY:
-        return ZebErrorInvalidAccess;
-    case ARV_GC_ERROR_NODE_NOT_FOUND:
-    case ARV_GC_ERROR_PROPERTY_NOT_DEFINED:
-    case ARV_GC_ERROR_PVALUE_NOT_DEFINED:
-        return ZebErrorNotFound;
-    default:
-        return ZebErrorOther;
-    }
-}
+const Codes deviceCodes{
+    {ARV_DEVICE_ERROR_TIMEOUT, ZebErrorTimeout},
+    {ARV_DEVICE_ERROR_NOT_CONNECTED, ZebErrorTimeout},
+    {ARV_DEVICE_ERROR_TRANSFER_ERROR, ZebErrorTimeout},
+    {ARV_DEVICE_ERROR_FEATURE_NOT_FOUND, ZebErrorNotFound},
+    {ARV_DEVICE_ERROR_NOT_FOUND, ZebErrorNotFound},
+    {ARV_DEVICE_ERROR_GENICAM_NOT_FOUND, ZebErrorNotFound},
+    {ARV_DEVICE_ERROR_PROTOCOL_ERROR_NOT_IMPLEMENTED, ZebErrorNotFound},
+    {ARV_DEVICE_ERROR_PROTOCOL_ERROR_INVALID_ADDRESS, ZebErrorNotFound},
+    {ARV_DEVICE_ERROR_NOT_CONTROLLER, ZebErrorInvalidAccess},
+    {ARV_DEVICE_ERROR_PROTOCOL_ERROR_WRITE_PROTECT, ZebErrorInvalidAccess},
+    {ARV_DEVICE_ERROR_PROTOCOL_ERROR_ACCESS_DENIED, ZebErrorInvalidAccess},
+    {ARV_DEVICE_ERROR_PROTOCOL_ERROR_BUSY, ZebErrorResources},
+    {ARV_DEVICE_ERROR_WRONG_FEATURE, ZebErrorBadParameter},
+    {ARV_DEVICE_ERROR_INVALID_PARAMETER, ZebErrorBadParameter},
+    {ARV_DEVICE_ERROR_PROTOCOL_ERROR_INVALID_PARAMETER, ZebErrorBadParameter},
+    {ARV_DEVICE_ERROR_PROTOCOL_ERROR_BAD_ALIGNMENT, ZebErrorBadParameter},
+};
+
+const Codes nodeCodes{
+    {ARV_GC_ERROR_OUT_OF_RANGE, ZebErrorBadParameter},
+    {ARV_GC_ERROR_INVALID_LENGTH, ZebErrorBadParameter},
+    {ARV_GC_ERROR_INVALID_SYNTAX, ZebErrorBadParameter},
+    {ARV_GC_ERROR_ENUM_ENTRY_NOT_FOUND, ZebErrorInvalidValue},
+    {ARV_GC_ERROR_READ_ONLY, ZebErrorInvalidAccess},
+    {ARV_GC_ERROR_NODE_NOT_FOUND, ZebErrorNotFound},
+    {ARV_GC_ERROR_PROPERTY_NOT_DEFINED, ZebErrorNotFound},
+    {ARV_GC_ERROR_PVALUE_NOT_DEFINED, ZebErrorNotFound},
+};
 
 } // namespace
 
 ZebErrorType codeOf(const GError& error)
 {
-    if (error.domain == ARV_DEVICE_ERROR)
-        return codeOfDeviceError(error.code);
-    if (error.domain == ARV_GC_ERROR)
-        return codeOfNodeError(error.code);
-    return isLoss(error) ? ZebErrorTimeout : ZebErrorOther;
+    if (error.domain == G_IO_ERROR)
+        return ZebErrorTimeout;
+    const bool isKnown = error.domain == ARV_DEVICE_ERROR || error.domain == ARV_GC_ERROR;
+    const Codes& codes = error.domain == ARV_DEVICE_ERROR ? deviceCodes : nodeCodes;
+    const auto found = codes.find(error.code);
+    return isKnown && found != codes.end() ? found->second : ZebErrorOther;
 }
 
 bool isLoss(const GError& error)
 {
-    return error.domain == ARV_DEVICE_ERROR ? codeOfDeviceError(error.code) == ZebErrorTimeout
-                                            : error.domain == G_IO_ERROR;
+    return codeOf(error) == ZebErrorTimeout;
 }
 
 void countCriticals()
@@ -89,9 +73,8 @@ void countCriticals()
     static std::once_flag once;
     std::call_once(once, [] {
         const auto levels = static_cast<GLogLevelFlags>(G_LOG_LEVEL_CRITICAL | G_LOG_LEVEL_WARNING);
-        for (const char* domain :
-             {static_cast<const char*>(nullptr), "GLib", "GLib-GObject", "GLib-GIO"})
-            g_log_set_handler(domain, levels, onCritical, nullptr);
+        for (const char* domain : {"", "GLib", "GLib-GObject", "GLib-GIO"})
+            g_log_set_handler(*domain ? domain : nullptr, levels, onCritical, nullptr);
     });
 }
 

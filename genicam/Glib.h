@@ -5,6 +5,7 @@
 #include <ZebCPP/ZebCPP.h>
 
 #include <memory>
+#include <string>
 
 namespace genicam {
 
@@ -15,10 +16,11 @@ struct Unref
 
 template <typename Type> using GObjectPtr = std::unique_ptr<Type, Unref>;
 
-struct FreeGlib
+/// Empty for null.
+inline std::string textOf(const char* source)
 {
-    void operator()(void* memory) const { g_free(memory); }
-};
+    return source ? source : "";
+}
 
 /// What an error of the library is in the SDK's terms.
 ZebErrorType codeOf(const GError& error);

@@ -11,14 +11,6 @@ constexpr std::size_t memory = 256 * 1024 * 1024;
 constexpr std::size_t largestPayload = 1024 * 1024 * 1024;
 constexpr std::uint64_t patience = 100 * 1000; // microseconds
 
-std::size_t readPayload(DeviceLink& link, GError** error)
-{
-    ArvGcNode* const node = link.node("PayloadSize");
-    const auto size
-        = ARV_IS_GC_INTEGER(node) ? arv_gc_integer_get_value(ARV_GC_INTEGER(node), error) : 0;
-    return static_cast<std::size_t>(std::max<gint64>(0, size));
-}
-
 } // namespace
 
 ImageStream::ImageStream(std::shared_ptr<DeviceLink> link, std::function<void()> onFrame)
@@ -31,7 +23,7 @@ ImageStream::~ImageStream()
 {
     if (!m_thread.joinable())
         return;
-    m_link->perform(true, [this](GError** error) { return setAcquiring(false, error); });
+    m_link->perform([this](GError** error) { return setAcquiring(false, error); });
     m_isStopping = true;
     m_thread.join();
     // A lost camera blocks this, too, for seconds.
@@ -44,8 +36,11 @@ ImageStream::~ImageStream()
 std::string ImageStream::start()
 {
     std::string reason = "the camera does not answer";
-    const ZebErrorType result = m_link->perform(true, [&](GError** error) {
-        const std::size_t payload = readPayload(*m_link, error);
+    const ZebErrorType result = m_link->perform([&](GError** error) {
+        ArvGcFeatureNode* const node = m_link->node("PayloadSize");
+        const auto size
+            = ARV_IS_GC_INTEGER(node) ? arv_gc_integer_get_value(ARV_GC_INTEGER(node), error) : 0;
+        const std::size_t payload = static_cast<std::size_t>(std::max<gint64>(0, size));
         if (!*error)
             m_stream.reset(arv_device_create_stream(m_link->device(), nullptr, nullptr, error));
         if (!*error && m_stream && payload > 0 && payload <= largestPayload) {
@@ -67,8 +62,8 @@ std::string ImageStream::start()
 // While it streams a camera keeps what decides the size of its pictures as it is, when told so.
 ZebErrorType ImageStream::setAcquiring(bool isOn, GError** error)
 {
-    ArvGcNode* const command = m_link->node(isOn ? "AcquisitionStart" : "AcquisitionStop");
-    ArvGcNode* const locked = m_link->node("TLParamsLocked");
+    ArvGcFeatureNode* const command = m_link->node(isOn ? "AcquisitionStart" : "AcquisitionStop");
+    ArvGcFeatureNode* const locked = m_link->node("TLParamsLocked");
     if (ARV_IS_GC_INTEGER(locked) && isOn)
         arv_gc_integer_set_value(ARV_GC_INTEGER(locked), 1, error);
     if (!*error && ARV_IS_GC_COMMAND(command))
@@ -80,24 +75,28 @@ ZebErrorType ImageStream::setAcquiring(bool isOn, GError** error)
 
 void ImageStream::run()
 {
-    auto second = g_get_monotonic_time();
+    m_second = g_get_monotonic_time();
     while (!m_isStopping) {
         if (ArvBuffer* const buffer = newestBuffer()) {
-            handle(buffer);
+            if (arv_buffer_get_status(buffer) == ARV_BUFFER_STATUS_SUCCESS)
+                show(buffer);
             arv_stream_push_buffer(m_stream.get(), buffer);
         }
-        const auto now = g_get_monotonic_time();
-        if (now - second < G_USEC_PER_SEC)
-            continue;
-        guint64 failures = 0;
-        guint64 underruns = 0;
-        arv_stream_get_statistics(m_stream.get(), nullptr, &failures, &underruns);
-        const std::lock_guard lock(m_mutex);
-        m_figures
-            = {m_framesOfSecond * 1e6 / static_cast<double>(now - second), failures + underruns};
-        m_framesOfSecond = 0;
-        second = now;
+        if (g_get_monotonic_time() - m_second >= G_USEC_PER_SEC)
+            count();
     }
+}
+
+void ImageStream::count()
+{
+    guint64 failures = 0;
+    guint64 underruns = 0;
+    arv_stream_get_statistics(m_stream.get(), nullptr, &failures, &underruns);
+    const auto now = g_get_monotonic_time();
+    m_framesPerSecond = m_framesOfSecond * 1e6 / static_cast<double>(now - m_second);
+    m_lostFrames = failures + underruns;
+    m_framesOfSecond = 0;
+    m_second = now;
 }
 
 /// The others go back to the camera unseen.
@@ -115,10 +114,8 @@ ArvBuffer* ImageStream::newestBuffer()
     return newest;
 }
 
-void ImageStream::handle(ArvBuffer* buffer)
+void ImageStream::show(ArvBuffer* buffer)
 {
-    if (arv_buffer_get_status(buffer) != ARV_BUFFER_STATUS_SUCCESS)
-        return;
     std::size_t size = 0;
     const void* const data = arv_buffer_get_image_data(buffer, &size);
     Frame frame = decodeFrame(
@@ -126,17 +123,13 @@ void ImageStream::handle(ArvBuffer* buffer)
         arv_buffer_get_image_height(buffer), arv_buffer_get_image_pixel_format(buffer));
     frame.x = arv_buffer_get_image_x(buffer);
     frame.y = arv_buffer_get_image_y(buffer);
+    frame.framesPerSecond = m_framesPerSecond;
+    frame.lostFrames = m_lostFrames;
     {
         const std::lock_guard lock(m_mutex);
         m_frame = std::move(frame);
     }
     m_onFrame();
-}
-
-StreamFigures ImageStream::figures() const
-{
-    const std::lock_guard lock(m_mutex);
-    return m_figures;
 }
 
 std::optional<Frame> ImageStream::take()

@@ -4,16 +4,9 @@
 #include "Frame.h"
 
 #include <optional>
-#include <string>
 #include <thread>
 
 namespace genicam {
-
-struct StreamFigures
-{
-    double framesPerSecond = 0.0;
-    std::uint64_t lostFrames = 0;
-};
 
 /// The pictures of a started camera, of which the newest is kept.
 class ImageStream
@@ -25,14 +18,14 @@ public:
 
     /// Starts the camera; empty, or why not.
     std::string start();
-    StreamFigures figures() const;
     /// The newest frame, once.
     std::optional<Frame> take();
 
 private:
     void run();
     ArvBuffer* newestBuffer();
-    void handle(ArvBuffer* buffer);
+    void show(ArvBuffer* buffer);
+    void count();
     ZebErrorType setAcquiring(bool isOn, GError** error);
 
     const std::shared_ptr<DeviceLink> m_link;
@@ -40,10 +33,13 @@ private:
     GObjectPtr<ArvStream> m_stream;
     std::thread m_thread;
     std::atomic<bool> m_isStopping{false};
-    mutable std::mutex m_mutex;
+    std::mutex m_mutex;
     std::optional<Frame> m_frame;
-    StreamFigures m_figures;
+    // Of the stream's thread:
+    double m_framesPerSecond = 0.0;
+    std::uint64_t m_lostFrames = 0;
     int m_framesOfSecond = 0;
+    gint64 m_second = 0;
 };
 
 } // namespace genicam

@@ -15,6 +15,25 @@ template <typename Visit> void forEachChild(ArvGcFeatureNode* node, Visit&& visi
         visit(child);
 }
 
+template <typename Visit> void forEachProperty(ArvGcFeatureNode* node, Visit&& visit)
+{
+    forEachChild(node, [&](ArvDomNode* child) {
+        if (ARV_IS_GC_PROPERTY_NODE(child))
+            visit(arv_gc_property_node_get_node_type(ARV_GC_PROPERTY_NODE(child)),
+                  ARV_GC_PROPERTY_NODE(child));
+    });
+}
+
+ZebErrorType writeEntry(ArvGcFeatureNode* node, const std::optional<Entry>& entry, GError** error)
+{
+    if (!entry || !isThere(entry->node, error))
+        return ZebErrorBadParameter;
+    const std::int64_t number = entry->readNumber(error);
+    if (!*error)
+        arv_gc_enumeration_set_int_value(ARV_GC_ENUMERATION(node), number, error);
+    return ZebErrorSuccess;
+}
+
 } // namespace
 
 template <> bool Range<std::int64_t>::holds(std::int64_t value) const
@@ -27,74 +46,90 @@ template <> bool Range<std::int64_t>::holds(std::int64_t value) const
 
 template <> bool Range<double>::holds(double value) const
 {
-    if (!std::isfinite(value))
-        return false;
-    if (isAbsurd())
-        return true;
     constexpr double tolerance = 1e-6;
     const double steps = increment > 0.0 ? (value - minimum) / increment : 0.0;
-    return value >= minimum && value <= maximum && std::abs(steps - std::round(steps)) < tolerance;
-}
-
-std::string textOf(const char* source)
-{
-    return source ? source : "";
+    return std::isfinite(value)
+        && (isAbsurd()
+            || (value >= minimum && value <= maximum
+                && std::abs(steps - std::round(steps)) < tolerance));
 }
 
 ZebFeatureDataType typeOf(ArvGcFeatureNode* node)
 {
     // Enumerations are integers and typed registers are registers, too.
-    if (ARV_IS_GC_ENUMERATION(node))
-        return ZebFeatureDataEnum;
-    if (ARV_IS_GC_BOOLEAN(node))
-        return ZebFeatureDataBool;
-    if (ARV_IS_GC_COMMAND(node))
-        return ZebFeatureDataCommand;
-    if (ARV_IS_GC_FLOAT(node))
-        return ZebFeatureDataFloat;
-    if (ARV_IS_GC_INTEGER(node))
-        return ZebFeatureDataInt;
-    if (ARV_IS_GC_STRING(node))
-        return ZebFeatureDataString;
-    return ARV_IS_GC_REGISTER(node) ? ZebFeatureDataRaw : ZebFeatureDataUnknown;
+    static const std::pair<GType, ZebFeatureDataType> types[] = {
+        {ARV_TYPE_GC_ENUMERATION, ZebFeatureDataEnum}, {ARV_TYPE_GC_BOOLEAN, ZebFeatureDataBool},
+        {ARV_TYPE_GC_COMMAND, ZebFeatureDataCommand},  {ARV_TYPE_GC_FLOAT, ZebFeatureDataFloat},
+        {ARV_TYPE_GC_INTEGER, ZebFeatureDataInt},      {ARV_TYPE_GC_STRING, ZebFeatureDataString},
+        {ARV_TYPE_GC_REGISTER, ZebFeatureDataRaw}};
+    for (const auto& [library, type] : types) {
+        if (G_TYPE_CHECK_INSTANCE_TYPE(node, library))
+            return type;
+    }
+    return ZebFeatureDataUnknown;
+}
+
+ZebFeatureVisibilityType visibilityOf(ArvGcFeatureNode* node)
+{
+    const int levels = arv_gc_feature_node_get_visibility(node); // from invisible to beginner
+    return levels < 0
+        ? ZebFeatureVisibilityBeginner
+        : static_cast<ZebFeatureVisibilityType>(ZebFeatureVisibilityInvisible - levels);
+}
+
+Texts textsOf(ArvGcFeatureNode* node)
+{
+    static const char* const notations[] = {"Linear",    "Logarithmic", "Boolean",   "PureNumber",
+                                            "HexNumber", "IPV4Address", "MACAddress"};
+    Texts texts;
+    texts[Name] = textOf(arv_gc_feature_node_get_name(node));
+    texts[DisplayName] = textOf(arv_gc_feature_node_get_display_name(node));
+    texts[ToolTip] = textOf(arv_gc_feature_node_get_tooltip(node));
+    texts[Description] = textOf(arv_gc_feature_node_get_description(node));
+    if (texts[DisplayName].empty())
+        texts[DisplayName] = texts[Name];
+    int notation = ARV_GC_REPRESENTATION_UNDEFINED;
+    if (typeOf(node) == ZebFeatureDataFloat) {
+        texts[Unit] = textOf(arv_gc_float_get_unit(ARV_GC_FLOAT(node)));
+        notation = arv_gc_float_get_representation(ARV_GC_FLOAT(node));
+    } else if (typeOf(node) == ZebFeatureDataInt) {
+        texts[Unit] = textOf(arv_gc_integer_get_unit(ARV_GC_INTEGER(node)));
+        notation = arv_gc_integer_get_representation(ARV_GC_INTEGER(node));
+    }
+    texts[Notation] = notation < 0 ? "" : notations[notation];
+    return texts;
+}
+
+bool isThere(ArvGcFeatureNode* node, GError** error)
+{
+    return arv_gc_feature_node_is_implemented(node, error) && !*error
+        && arv_gc_feature_node_is_available(node, error) && !*error;
 }
 
 Access accessOf(ArvGcFeatureNode* node, GError** error)
 {
-    if (!arv_gc_feature_node_is_implemented(node, error) || *error
-        || !arv_gc_feature_node_is_available(node, error) || *error)
+    if (!isThere(node, error))
         return {};
     const ArvGcAccessMode mode = arv_gc_feature_node_get_actual_access_mode(node);
-    const bool isCommand = ARV_IS_GC_COMMAND(node);
-    Access access;
-    access.isReadable = mode != ARV_GC_ACCESS_MODE_WO && !isCommand;
-    access.isWritable
-        = mode != ARV_GC_ACCESS_MODE_RO && !arv_gc_feature_node_is_locked(node, error) && !*error;
-    return access;
+    return {mode != ARV_GC_ACCESS_MODE_WO && !ARV_IS_GC_COMMAND(node),
+            mode != ARV_GC_ACCESS_MODE_RO && !arv_gc_feature_node_is_locked(node, error)
+                && !*error};
 }
 
 Value readValue(ArvGcFeatureNode* node, GError** error)
 {
     Value value;
-    switch (typeOf(node)) {
-    case ZebFeatureDataEnum:
+    const ZebFeatureDataType type = typeOf(node);
+    if (type == ZebFeatureDataEnum)
         value = std::int64_t{arv_gc_enumeration_get_int_value(ARV_GC_ENUMERATION(node), error)};
-        break;
-    case ZebFeatureDataBool:
+    else if (type == ZebFeatureDataBool)
         value = arv_gc_boolean_get_value(ARV_GC_BOOLEAN(node), error) != FALSE;
-        break;
-    case ZebFeatureDataFloat:
+    else if (type == ZebFeatureDataFloat)
         value = arv_gc_float_get_value(ARV_GC_FLOAT(node), error);
-        break;
-    case ZebFeatureDataInt:
+    else if (type == ZebFeatureDataInt)
         value = std::int64_t{arv_gc_integer_get_value(ARV_GC_INTEGER(node), error)};
-        break;
-    case ZebFeatureDataString:
+    else if (type == ZebFeatureDataString)
         value = textOf(arv_gc_string_get_value(ARV_GC_STRING(node), error));
-        break;
-    default:
-        break;
-    }
     return *error ? Value() : value;
 }
 
@@ -129,53 +164,74 @@ template <> Range<double> readRange(ArvGcFeatureNode* node, GError** error)
 bool isCommandDone(ArvGcFeatureNode* node, GError** error)
 {
     std::int64_t executed = 0;
-    ArvGcFeatureNode* flag = nullptr;
-    forEachChild(node, [&](ArvDomNode* child) {
-        if (!ARV_IS_GC_PROPERTY_NODE(child))
-            return;
-        auto* const property = ARV_GC_PROPERTY_NODE(child);
-        const auto type = arv_gc_property_node_get_node_type(property);
+    ArvGcNode* flag = nullptr;
+    forEachProperty(node, [&](ArvGcPropertyNodeType type, ArvGcPropertyNode* property) {
         if (type == ARV_GC_PROPERTY_NODE_TYPE_COMMAND_VALUE
             || type == ARV_GC_PROPERTY_NODE_TYPE_P_COMMAND_VALUE)
             executed = arv_gc_property_node_get_int64(property, error);
+        else if (type == ARV_GC_PROPERTY_NODE_TYPE_P_VALUE)
+            flag = arv_gc_property_node_get_linked_node(property);
     });
-    for (const auto& [type, linked] : linksOf(node)) {
-        if (type == ARV_GC_PROPERTY_NODE_TYPE_P_VALUE && ARV_IS_GC_INTEGER(linked))
-            flag = linked;
-    }
-    if (*error || !flag || !accessOf(flag, error).isReadable)
-        return true; // a register that cannot be read cannot tell
-    return arv_gc_integer_get_value(ARV_GC_INTEGER(flag), error) != executed;
+    // A register that cannot be read cannot tell.
+    return *error || !ARV_IS_GC_INTEGER(flag)
+        || !accessOf(ARV_GC_FEATURE_NODE(flag), error).isReadable
+        || arv_gc_integer_get_value(ARV_GC_INTEGER(flag), error) != executed;
 }
 
-std::string unitOf(ArvGcFeatureNode* node)
+ZebErrorType write(ArvGcFeatureNode* node, std::int64_t value, GError** error)
 {
-    if (typeOf(node) == ZebFeatureDataFloat)
-        return textOf(arv_gc_float_get_unit(ARV_GC_FLOAT(node)));
-    return typeOf(node) == ZebFeatureDataInt ? textOf(arv_gc_integer_get_unit(ARV_GC_INTEGER(node)))
-                                             : std::string();
+    if (ARV_IS_GC_ENUMERATION(node))
+        return writeEntry(node, findEntry(entriesOf(node), value, error), error);
+    if (typeOf(node) != ZebFeatureDataInt || !readRange<std::int64_t>(node, error).holds(value)
+        || *error)
+        return ZebErrorBadParameter;
+    arv_gc_integer_set_value(ARV_GC_INTEGER(node), value, error);
+    return ZebErrorSuccess;
 }
 
-std::string representationOf(ArvGcFeatureNode* node)
+ZebErrorType write(ArvGcFeatureNode* node, double value, GError** error)
 {
-    static const char* const names[] = {"Linear",    "Logarithmic", "Boolean",   "PureNumber",
-                                        "HexNumber", "IPV4Address", "MACAddress"};
-    const ZebFeatureDataType type = typeOf(node);
-    const int index = type == ZebFeatureDataFloat
-        ? arv_gc_float_get_representation(ARV_GC_FLOAT(node))
-        : type == ZebFeatureDataInt ? arv_gc_integer_get_representation(ARV_GC_INTEGER(node))
-                                    : ARV_GC_REPRESENTATION_UNDEFINED;
-    return index < 0 ? "" : names[index];
+    if (typeOf(node) != ZebFeatureDataFloat || !readRange<double>(node, error).holds(value)
+        || *error)
+        return ZebErrorBadParameter;
+    arv_gc_float_set_value(ARV_GC_FLOAT(node), value, error);
+    return ZebErrorSuccess;
+}
+
+ZebErrorType write(ArvGcFeatureNode* node, bool value, GError** error)
+{
+    if (typeOf(node) != ZebFeatureDataBool)
+        return ZebErrorBadParameter;
+    arv_gc_boolean_set_value(ARV_GC_BOOLEAN(node), value, error);
+    return ZebErrorSuccess;
+}
+
+ZebErrorType write(ArvGcFeatureNode* node, const std::string& value, GError** error)
+{
+    if (ARV_IS_GC_ENUMERATION(node))
+        return writeEntry(node, findEntry(entriesOf(node), value), error);
+    if (typeOf(node) != ZebFeatureDataString)
+        return ZebErrorBadParameter;
+    const auto longest = arv_gc_string_get_max_length(ARV_GC_STRING(node), error);
+    if (*error || (longest > 0 && value.size() > static_cast<std::size_t>(longest)))
+        return ZebErrorBadParameter;
+    arv_gc_string_set_value(ARV_GC_STRING(node), value.c_str(), error);
+    return ZebErrorSuccess;
+}
+
+ZebErrorType write(ArvGcFeatureNode* node, const std::vector<std::uint8_t>& value, GError** error)
+{
+    if (typeOf(node) != ZebFeatureDataRaw
+        || arv_gc_register_get_length(ARV_GC_REGISTER(node), error) != value.size() || *error)
+        return ZebErrorBadParameter;
+    arv_gc_register_set(ARV_GC_REGISTER(node), value.data(), value.size(), error);
+    return ZebErrorSuccess;
 }
 
 std::vector<Link> linksOf(ArvGcFeatureNode* node)
 {
     std::vector<Link> links;
-    forEachChild(node, [&](ArvDomNode* child) {
-        if (!ARV_IS_GC_PROPERTY_NODE(child))
-            return;
-        auto* const property = ARV_GC_PROPERTY_NODE(child);
-        const ArvGcPropertyNodeType type = arv_gc_property_node_get_node_type(property);
+    forEachProperty(node, [&](ArvGcPropertyNodeType type, ArvGcPropertyNode* property) {
         if (type <= ARV_GC_PROPERTY_NODE_TYPE_P_UNKNONW)
             return;
         ArvGcNode* const linked = arv_gc_property_node_get_linked_node(property);
@@ -183,41 +239,6 @@ std::vector<Link> linksOf(ArvGcFeatureNode* node)
             links.emplace_back(type, ARV_GC_FEATURE_NODE(linked));
     });
     return links;
-}
-
-ZebFeatureVisibilityType visibilityOf(ArvGcFeatureNode* node)
-{
-    switch (arv_gc_feature_node_get_visibility(node)) {
-    case ARV_GC_VISIBILITY_INVISIBLE:
-        return ZebFeatureVisibilityInvisible;
-    case ARV_GC_VISIBILITY_GURU:
-        return ZebFeatureVisibilityGuru;
-    case ARV_GC_VISIBILITY_EXPERT:
-        return ZebFeatureVisibilityExpert;
-    default:
-        return ZebFeatureVisibilityBeginner;
-    }
-}
-
-bool hasRegister(ArvGcFeatureNode* node)
-{
-    if (ARV_IS_GC_REGISTER_NODE(node))
-        return true;
-    const std::vector<Link> links = linksOf(node);
-    return std::any_of(links.begin(), links.end(), [](const Link& link) {
-        return link.first == ARV_GC_PROPERTY_NODE_TYPE_P_VALUE && hasRegister(link.second);
-    });
-}
-
-std::int64_t Entry::readNumber(GError** error) const
-{
-    return arv_gc_enum_entry_get_value(ARV_GC_ENUM_ENTRY(node), error);
-}
-
-bool Entry::isAvailable(GError** error) const
-{
-    return arv_gc_feature_node_is_implemented(node, error) && !*error
-        && arv_gc_feature_node_is_available(node, error) && !*error;
 }
 
 Entries entriesOf(ArvGcFeatureNode* node)
@@ -232,23 +253,19 @@ Entries entriesOf(ArvGcFeatureNode* node)
     return entries;
 }
 
-const Entry* findEntry(const Entries& entries, std::string_view name)
+std::optional<Entry> findEntry(const Entries& entries, const std::string& name)
 {
     const auto found = std::find_if(entries.begin(), entries.end(),
                                     [&](const Entry& entry) { return entry.name == name; });
-    return found == entries.end() ? nullptr : &*found;
+    return found == entries.end() ? std::nullopt : std::optional(*found);
 }
 
-const Entry* findEntry(const Entries& entries, std::int64_t number, GError** error)
+std::optional<Entry> findEntry(const Entries& entries, std::int64_t number, GError** error)
 {
-    for (const Entry& entry : entries) {
-        const bool isFound = entry.readNumber(error) == number;
-        if (*error)
-            return nullptr;
-        if (isFound)
-            return &entry;
-    }
-    return nullptr;
+    const auto found = std::find_if(entries.begin(), entries.end(), [&](const Entry& entry) {
+        return entry.readNumber(error) == number || *error;
+    });
+    return found == entries.end() || *error ? std::nullopt : std::optional(*found);
 }
 
 } // namespace genicam

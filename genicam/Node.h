@@ -2,9 +2,8 @@
 
 #include "Glib.h"
 
-#include <cstdint>
-#include <string>
-#include <string_view>
+#include <array>
+#include <optional>
 #include <utility>
 #include <variant>
 #include <vector>
@@ -34,22 +33,37 @@ template <typename Number> struct Range
     bool holds(Number value) const;
 };
 
-/// Empty for null.
-std::string textOf(const char* source);
+/// What never changes.
+enum TextKind {
+    Name,
+    DisplayName,
+    ToolTip,
+    Description,
+    Unit,
+    Notation,
+    TextCount
+};
+using Texts = std::array<std::string, TextCount>;
 
 ZebFeatureDataType typeOf(ArvGcFeatureNode* node);
-Access accessOf(ArvGcFeatureNode* node, GError** error);
+ZebFeatureVisibilityType visibilityOf(ArvGcFeatureNode* node);
+Texts textsOf(ArvGcFeatureNode* node);
 
+/// Implemented and available.
+bool isThere(ArvGcFeatureNode* node, GError** error);
+Access accessOf(ArvGcFeatureNode* node, GError** error);
 /// An enumeration's value is its number.
 Value readValue(ArvGcFeatureNode* node, GError** error);
 template <typename Number> Range<Number> readRange(ArvGcFeatureNode* node, GError** error);
 bool isCommandDone(ArvGcFeatureNode* node, GError** error);
 
-ZebFeatureVisibilityType visibilityOf(ArvGcFeatureNode* node);
-/// Whether the value stands in a register of the camera.
-bool hasRegister(ArvGcFeatureNode* node);
-std::string unitOf(ArvGcFeatureNode* node);
-std::string representationOf(ArvGcFeatureNode* node);
+// Writing refuses what the library would let pass: values of another type, off the grid or out of
+// range, entries that are not available. Entries are written by name or number.
+ZebErrorType write(ArvGcFeatureNode* node, std::int64_t value, GError** error);
+ZebErrorType write(ArvGcFeatureNode* node, double value, GError** error);
+ZebErrorType write(ArvGcFeatureNode* node, bool value, GError** error);
+ZebErrorType write(ArvGcFeatureNode* node, const std::string& value, GError** error);
+ZebErrorType write(ArvGcFeatureNode* node, const std::vector<std::uint8_t>& value, GError** error);
 
 /// The properties of a node that name another one, with that one, in the description's order.
 using Link = std::pair<ArvGcPropertyNodeType, ArvGcFeatureNode*>;
@@ -60,15 +74,16 @@ struct Entry
     ArvGcFeatureNode* node;
     std::string name;
 
-    std::int64_t readNumber(GError** error) const;
-    bool isAvailable(GError** error) const;
+    std::int64_t readNumber(GError** error) const
+    {
+        return arv_gc_enum_entry_get_value(ARV_GC_ENUM_ENTRY(node), error);
+    }
 };
 
 /// An enumeration's entries, in the description's order.
 using Entries = std::vector<Entry>;
 Entries entriesOf(ArvGcFeatureNode* node);
-/// Null when there is none.
-const Entry* findEntry(const Entries& entries, std::string_view name);
-const Entry* findEntry(const Entries& entries, std::int64_t number, GError** error);
+std::optional<Entry> findEntry(const Entries& entries, const std::string& name);
+std::optional<Entry> findEntry(const Entries& entries, std::int64_t number, GError** error);
 
 } // namespace genicam

@@ -135,6 +135,8 @@ void GenicamSource::takeFrame()
         : QImage(frame->pixels.data(), frame->width, frame->height, frame->width * channels,
                  frame->isColour ? QImage::Format_RGB888 : QImage::Format_Grayscale8)
               .copy();
+    m_framesPerSecond = frame->framesPerSecond;
+    m_lostFrames = frame->lostFrames;
     m_state.regions = {QRect(frame->x, frame->y, frame->width, frame->height)};
     emit pictureChanged();
 }
@@ -168,10 +170,9 @@ void GenicamSource::readState()
 
 QString GenicamSource::streamText() const
 {
-    return m_isStreaming ? tr("%1 frames/s · %2 lost")
-                               .arg(m_camera->framesPerSecond(), 0, 'f', 1)
-                               .arg(m_camera->lostFrames())
-                         : QString();
+    return m_isStreaming
+        ? tr("%1 frames/s · %2 lost").arg(m_framesPerSecond, 0, 'f', 1).arg(m_lostFrames)
+        : QString();
 }
 
 QString GenicamSource::readValueText(const QString& feature) const

@@ -41,6 +41,8 @@ private:
     std::shared_ptr<Observer> m_observer;
     SensorState m_state;
     QImage m_frame;
+    double m_framesPerSecond = 0.0;
+    quint64 m_lostFrames = 0;
     std::atomic<bool> m_isFrameWaiting{false};
     bool m_isStreaming = false;
 };

@@ -1,4 +1,6 @@
-#include "DependencyGraph.h"
+#include "Dependencies.h"
+
+#include <map>
 
 namespace genicam {
 
@@ -7,19 +9,14 @@ namespace {
 using Nodes = std::set<ArvGcFeatureNode*>;
 using Selectors = std::map<ArvGcFeatureNode*, Nodes>;
 
-bool isDependency(ArvGcPropertyNodeType type)
-{
-    return type != ARV_GC_PROPERTY_NODE_TYPE_P_FEATURE && type != ARV_GC_PROPERTY_NODE_TYPE_P_PORT
-        && type != ARV_GC_PROPERTY_NODE_TYPE_P_SELECTED;
-}
-
 /// All that @p node depends on, itself included.
 void collect(ArvGcFeatureNode* node, const Selectors& selectors, Nodes& nodes)
 {
-    if (!nodes.insert(node).second)
+    if (!node || !nodes.insert(node).second)
         return;
     for (const auto& [type, linked] : linksOf(node)) {
-        if (isDependency(type))
+        if (type != ARV_GC_PROPERTY_NODE_TYPE_P_FEATURE && type != ARV_GC_PROPERTY_NODE_TYPE_P_PORT
+            && type != ARV_GC_PROPERTY_NODE_TYPE_P_SELECTED)
             collect(linked, selectors, nodes);
     }
     for (const Entry& entry : entriesOf(node))
@@ -37,7 +34,7 @@ void collect(ArvGcFeatureNode* node, const Selectors& selectors, Nodes& nodes)
 /// The nodes that a write to @p node goes through.
 void collectWritten(ArvGcFeatureNode* node, Nodes& nodes)
 {
-    if (!nodes.insert(node).second)
+    if (!node || !nodes.insert(node).second)
         return;
     for (const auto& [type, linked] : linksOf(node)) {
         if (type == ARV_GC_PROPERTY_NODE_TYPE_P_VALUE)
@@ -47,33 +44,29 @@ void collectWritten(ArvGcFeatureNode* node, Nodes& nodes)
 
 } // namespace
 
-DependencyGraph::DependencyGraph(const std::vector<ArvGcFeatureNode*>& features)
+std::vector<Places> touchedByWrites(const std::vector<ArvGcFeatureNode*>& nodes)
 {
     Selectors selectors;
-    for (ArvGcFeatureNode* feature : features) {
-        for (const auto& [type, linked] : linksOf(feature)) {
+    for (ArvGcFeatureNode* node : nodes) {
+        for (const auto& [type, linked] : linksOf(node)) {
             if (type == ARV_GC_PROPERTY_NODE_TYPE_P_SELECTED)
-                selectors[linked].insert(feature);
+                selectors[linked].insert(node);
         }
     }
-    for (std::size_t place = 0; place < features.size(); ++place) {
-        Nodes nodes;
-        collect(features[place], selectors, nodes);
-        for (ArvGcFeatureNode* node : nodes)
-            m_dependents[node].insert(place);
+    std::map<ArvGcFeatureNode*, Places> dependents;
+    for (std::size_t place = 0; place < nodes.size(); ++place) {
+        Nodes needed;
+        collect(nodes[place], selectors, needed);
+        for (ArvGcFeatureNode* one : needed)
+            dependents[one].insert(place);
     }
-    for (ArvGcFeatureNode* feature : features)
-        m_touched.push_back(touchedBy(feature));
-}
-
-DependencyGraph::Places DependencyGraph::touchedBy(ArvGcFeatureNode* node) const
-{
-    Nodes written;
-    collectWritten(node, written);
-    Places touched;
-    for (ArvGcFeatureNode* one : written) {
-        if (const auto found = m_dependents.find(one); found != m_dependents.end())
-            touched.insert(found->second.begin(), found->second.end());
+    std::vector<Places> touched;
+    for (ArvGcFeatureNode* node : nodes) {
+        Nodes written;
+        collectWritten(node, written);
+        Places& places = touched.emplace_back();
+        for (ArvGcFeatureNode* one : written)
+            places.insert(dependents[one].begin(), dependents[one].end());
     }
     return touched;
 }
