@@ -9,10 +9,10 @@ class QPainter;
 class QStyleOptionRubberBand;
 class QWidget;
 
-/// A style's rubber band, drawn once and small. Any band consists of its corners, of its edges
-/// drawn out and of an inside of one colour: the style's own way to draw it, by antialiased paths,
-/// takes longer the larger the band is, however little of it is painted. Where the style lays one
-/// translucent colour over another the result may differ from its own by two in 255.
+/// A style's rubber band, drawn once and small: any band consists of its corners, of its edges
+/// drawn out and of an inside of one colour. The style's own way takes longer the larger the band
+/// is, however little of it is painted. Where translucent colours overlap, the two differ by up to
+/// two in 255.
 ///
 /// There is nothing to draw out for a style that gives the inside more than one colour, and on
 /// screens whose pixels are no whole fraction of the logical ones.

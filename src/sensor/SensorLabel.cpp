@@ -73,22 +73,12 @@ QPoint SensorLabel::clampedToPicture(const QPoint& point) const
 
 bool SensorLabel::event(QEvent* event)
 {
-    switch (event->type()) {
-    case QEvent::EnabledChange:
-        if (!isEnabled())
-            dropDrag();
-        coverWithPicture();
-        break;
-    case QEvent::ContentsRectChange:
-        coverWithPicture();
-        break;
-    case QEvent::Hide:
-    case QEvent::UngrabMouse:
+    const QEvent::Type type = event->type();
+    const bool isDisabled = type == QEvent::EnabledChange && !isEnabled();
+    if (isDisabled || type == QEvent::Hide || type == QEvent::UngrabMouse)
         dropDrag();
-        break;
-    default:
-        break;
-    }
+    if (type == QEvent::EnabledChange || type == QEvent::ContentsRectChange)
+        coverWithPicture();
     return QLabel::event(event);
 }
 

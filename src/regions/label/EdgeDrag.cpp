@@ -38,6 +38,18 @@ QRect clampedWhereHeld(const QRect& region, const EdgeGrab& held, const QSize& s
     return {x.start, y.start, x.length, y.length};
 }
 
+/// All that these edges change, but for the height.
+QRect withEdges(QRect region, const EdgeGrab& edges, const QRect& read)
+{
+    if (edges.moving || edges.left)
+        region.moveLeft(read.x());
+    if (edges.moving || edges.top)
+        region.moveTop(read.y());
+    if (edges.left || edges.right)
+        region.setWidth(read.width());
+    return region;
+}
+
 } // namespace
 
 QRect draggedBand(const EdgeDrag& drag, const QPoint& pointer, const LabelGeometry& geometry)
@@ -71,13 +83,7 @@ QRect provisionalRegion(const EdgeDrag& drag, const QRect& band, const LabelGeom
 {
     const EdgeGrab& follows = drag.follows;
     const QRect read = readRegion(drag, band, geometry);
-    QRect region = drag.region;
-    if (follows.moving || follows.left)
-        region.moveLeft(read.x());
-    if (follows.left || follows.right)
-        region.setWidth(read.width());
-    if (follows.moving || follows.top)
-        region.moveTop(read.y());
+    QRect region = withEdges(drag.region, follows, read);
     // Rounded down, unlike all others: the region never begins below the pointer.
     if (follows.top && follows.right)
         region.moveTop(toInt(band.y() * sensorPerLabel(geometry) - 0.5));
@@ -93,14 +99,9 @@ QRect releasedRegion(const EdgeDrag& drag, const QRect& band, const QPoint& poin
     const EdgeGrab& held = drag.held;
     const QSize& sensor = geometry.sensor;
     const QRect read = readRegion(drag, band, geometry);
-    QRect region = drag.region;
-    if (held.top || held.moving)
-        region.moveTop(read.y());
-    if (held.left || held.moving)
-        region.moveLeft(read.x());
-    if (held.left || held.right)
-        region.setWidth(pointer.x() >= geometry.label.width() ? sensor.width() - region.x()
-                                                              : read.width());
+    QRect region = withEdges(drag.region, held, read);
+    if ((held.left || held.right) && pointer.x() >= geometry.label.width())
+        region.setWidth(sensor.width() - region.x());
     if (held.top || held.bottom)
         region.setHeight(pointer.y() >= geometry.label.height() ? sensor.height() - region.y()
                                                                 : read.height());

@@ -85,7 +85,7 @@ void RubberBandLabel::press(const QPoint& point)
     const LabelGeometry current = labelGeometry();
     const QRect band = m_band->geometry();
     const EdgeGrab held = grabForPress(bandForMouse(band, current), point);
-    const Qt::CursorShape shown = isFlat(current) ? Qt::SizeHorCursor : m_shownCursor;
+    const Qt::CursorShape shown = isFlat(current) ? Qt::SizeHorCursor : cursor().shape();
     m_drag = {held, followingEdges(held, shown), point - band.topLeft(), band, m_heldRegion};
     emit GeometryChangeStarted();
 }
@@ -116,9 +116,8 @@ void RubberBandLabel::drop()
 
 void RubberBandLabel::hover(const QPoint& point)
 {
-    m_shownCursor = cursorForHover(bandForMouse(m_band->geometry(), labelGeometry()),
-                                   clampedToPicture(point), point);
-    setCursor(m_shownCursor);
+    setCursor(cursorForHover(bandForMouse(m_band->geometry(), labelGeometry()),
+                             clampedToPicture(point), point));
     // The pages behind may delete the label meanwhile; nothing may follow.
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }

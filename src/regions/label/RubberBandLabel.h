@@ -26,9 +26,9 @@ public:
     void setRegion(int top, int left, int width, int height);
     void setSensorSize(int width, int height);
 
-    /// Shows @p image on a sensor of size @p sensorSize, or its part @p crop when not empty (both
-    /// sensor pixels), and without an image the placeholder. Takes back one override cursor, which
-    /// whoever announced the image has set.
+    /// Without an image the placeholder comes back. Takes back one override cursor, which whoever
+    /// announced the image has set.
+    /// @param crop the part to show of the sensor area; all when empty
     void showBackground(std::shared_ptr<QPixmap> image, QSize sensorSize, QRect crop);
 
     /// The region at rest; an empty one until the first setRegion().
@@ -68,8 +68,7 @@ private:
 
     std::optional<QRect> m_region;
     std::optional<EdgeDrag> m_drag;
-    QRect m_heldRegion;                              ///< what the band stands for during a drag
-    Qt::CursorShape m_shownCursor = Qt::ArrowCursor; ///< tells the next press corners from edges
+    QRect m_heldRegion; ///< what the band stands for during a drag
     QTimer m_settleTimer;
     LabelBand* const m_band;
 };
