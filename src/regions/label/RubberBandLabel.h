@@ -31,7 +31,7 @@ public:
     /// @param crop the part to show of the sensor area; all when empty
     void showBackground(std::shared_ptr<QPixmap> image, QSize sensorSize, QRect crop);
 
-    /// The region at rest; an empty one until the first setRegion().
+    /// An empty one until the first setRegion().
     QRect region() const { return m_region.value_or(QRect()); }
 
     QSize sizeHint() const override;

@@ -45,39 +45,36 @@ private slots:
     }
     void placesRegions() { runRow(); }
 
-    void takesEdgesOnPress_data()
+    /// What a press takes and what hovering shows there.
+    void findsEdges_data()
     {
-        const DataTable row([](const QRect& at, const QPoint& pointer, const QString& expected) {
-            QVERIFY(grabForPress(at, pointer) == flags(expected));
+        const DataTable row([](const QPoint& pointer, const QString& taken, Qt::CursorShape shown) {
+            QVERIFY(grabForPress(band, pointer) == flags(taken));
+            QCOMPARE(cursorForHover(band, pointer, pointer), shown);
         });
-        row("inside", band, {200, 150}, "move");
-        row("4 right of the right edge", band, {303, 150}, "right");
-        row("5 right of the right edge", band, {304, 150}, "");
-        row("4 left of the left edge", band, {96, 150}, "left");
-        row("5 left of the left edge", band, {95, 150}, "");
-        row("top right corner's extension", band, {295, 71}, "right top");
-        row("bottom left corner", band, {104, 228}, "left bottom");
-        row("thin: right and top win", {50, 50, 3, 3}, {50, 50}, "right top");
+        row("inside", {200, 150}, "move", Qt::SizeAllCursor);
+        row("5 before the right edge", {294, 150}, "move", Qt::SizeAllCursor);
+        row("4 before the right edge", {295, 150}, "right", Qt::SizeHorCursor);
+        row("4 behind the right edge", {303, 150}, "right", Qt::ArrowCursor);
+        row("5 behind the right edge", {304, 150}, "", Qt::ArrowCursor);
+        row("4 before the left edge", {96, 150}, "left", Qt::ArrowCursor);
+        row("5 before the left edge", {95, 150}, "", Qt::ArrowCursor);
+        row("behind the top left", {103, 79}, "left top", Qt::SizeHorCursor);
+        row("top left", {100, 75}, "left top", Qt::SizeFDiagCursor);
+        row("above the top right", {298, 74}, "right top", Qt::SizeHorCursor);
+        row("top right", {298, 78}, "right top", Qt::SizeBDiagCursor);
+        row("bottom right", {298, 224}, "right bottom", Qt::SizeFDiagCursor);
+        row("bottom", {200, 220}, "bottom", Qt::SizeVerCursor);
+        row("on the bottom edge", {200, 224}, "bottom", Qt::SizeAllCursor);
+        row("below the bottom left", {100, 230}, "left", Qt::SizeBDiagCursor);
     }
-    void takesEdgesOnPress() { runRow(); }
+    void findsEdges() { runRow(); }
 
-    void showsCursors_data()
+    void findsEdgesOfThinBandsAndBesideThePicture()
     {
-        const DataTable row([](const QPoint& pointer, Qt::CursorShape expected) {
-            QCOMPARE(cursorForHover(band, pointer, pointer), expected);
-            QCOMPARE(cursorForHover(band, QPoint(200, 150), QPoint(900, 150)), Qt::ArrowCursor);
-        });
-        row("before the right edge", {298, 150}, Qt::SizeHorCursor);
-        row("4 before it", {295, 150}, Qt::SizeHorCursor);
-        row("above the band", {298, 74}, Qt::SizeHorCursor);
-        row("top right", {298, 78}, Qt::SizeBDiagCursor);
-        row("bottom right", {298, 224}, Qt::SizeFDiagCursor);
-        row("top left", {100, 75}, Qt::SizeFDiagCursor);
-        row("bottom left", {100, 230}, Qt::SizeBDiagCursor);
-        row("bottom", {200, 220}, Qt::SizeVerCursor);
-        row("on the bottom edge", {200, 224}, Qt::SizeAllCursor);
+        QVERIFY(grabForPress({50, 50, 3, 3}, {50, 50}) == flags("right top"));
+        QCOMPARE(cursorForHover(band, {200, 150}, {900, 150}), Qt::ArrowCursor);
     }
-    void showsCursors() { runRow(); }
 
     /// The row's name tells what is dragged.
     void drags_data()
