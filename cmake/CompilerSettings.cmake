@@ -10,6 +10,11 @@ if(MSVC)
 else()
     target_compile_options(project_settings INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow
                                                       -Wnon-virtual-dtor)
+    # Of an optimised std::optional GCC 12 says that its empty value may be used.
+    if(CMAKE_CXX_COMPILER_ID STREQUAL GNU)
+        target_compile_options(project_settings INTERFACE
+            $<$<CONFIG:Release,RelWithDebInfo>:-Wno-maybe-uninitialized>)
+    endif()
 endif()
 if(WIN32)
     target_compile_definitions(project_settings INTERFACE NOMINMAX WIN32_LEAN_AND_MEAN UNICODE _UNICODE)
