@@ -1,50 +1,21 @@
 #include "featuretable/editors/TextEditor.h"
 
-#include "featuretable/record/ValueRange.h"
 #include "featuretable/record/ValueText.h"
 
 #include <QLineEdit>
 #include <QRegularExpressionValidator>
 
-namespace {
-
-/// A number outside its range may become another with more keys, so it is not refused but not
-/// accepted either.
-class RangeValidator : public QRegularExpressionValidator
-{
-public:
-    RangeValidator(const FeatureInfo& info, const IntegerNotation& notation, QObject* parent)
-        : QRegularExpressionValidator(QRegularExpression(notation.pattern), parent)
-        , m_notation(notation)
-        , m_range(integerRange(info))
-    {
-    }
-
-    State validate(QString& text, int& position) const override
-    {
-        const State state = QRegularExpressionValidator::validate(text, position);
-        if (state != Acceptable)
-            return state;
-        const auto value = textToInteger(text, m_notation);
-        return value && m_range.contains(*value) ? Acceptable : Intermediate;
-    }
-
-private:
-    const IntegerNotation m_notation;
-    const ValueRange<std::int64_t> m_range;
-};
-
-} // namespace
-
 TextEditor::TextEditor(const FeatureInfo& info, const IntegerNotation* notation, QWidget* parent)
     : DelegateWidget(info, parent)
     , m_notation(notation)
+    , m_range(integerRange(info))
     , m_field(new QLineEdit(this))
 {
     addControl(m_field, "editorField", 1);
     if (!notation)
         return;
-    m_field->setValidator(new RangeValidator(info, *notation, m_field));
+    const QRegularExpression pattern(QString::fromLatin1(notation->pattern));
+    m_field->setValidator(new QRegularExpressionValidator(pattern, m_field));
     addUnit(info);
 }
 
@@ -65,5 +36,5 @@ QVariant TextEditor::enteredValue()
     if (!m_notation)
         return m_field->text();
     const auto value = textToInteger(m_field->text(), *m_notation);
-    return value ? QVariant::fromValue<qint64>(*value) : QVariant();
+    return value && m_range.contains(*value) ? QVariant::fromValue<qint64>(*value) : QVariant();
 }

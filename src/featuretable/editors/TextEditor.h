@@ -1,6 +1,7 @@
 #pragma once
 
 #include "featuretable/editors/DelegateWidget.h"
+#include "featuretable/record/ValueRange.h"
 
 struct IntegerNotation;
 class QLineEdit;
@@ -21,5 +22,6 @@ protected:
 
 private:
     const IntegerNotation* m_notation;
+    const ValueRange<std::int64_t> m_range;
     QLineEdit* m_field;
 };

@@ -62,7 +62,6 @@ private slots:
             QCOMPARE(textToNumber(text), std::optional<double>(number));
         });
         row("10000000", 10000000.0);
-        row("0.1", 0.1);
         row("12589.254117941673", 12589.254117941673);
         row("0.0000025", 2.5e-6);
         row("2.5e-12", 2.5e-12);
@@ -80,7 +79,6 @@ private slots:
         });
         constexpr qint64 intMaximum = std::numeric_limits<int>::max();
         row("32 bits", -intMaximum - 1, intMaximum, 5, IntegerField::Spin32);
-        row("beyond 32 bits", 0, intMaximum + 1, 5, IntegerField::Spin53);
         row("2^53", -twoTo53, twoTo53, 5, IntegerField::Spin53);
         row("beyond 2^53", 0, twoTo53 + 1, 5, IntegerField::Text);
         row("stale value", 0, 10, twoTo53 + 1, IntegerField::Text);
@@ -100,13 +98,11 @@ private slots:
             QCOMPARE(QString(range ? logarithmic : "none"), kind);
         });
         constexpr double infinity = std::numeric_limits<double>::infinity();
-        row("integer", infoOf(5, 0, 10), "linear");
         row("logarithmic integer", infoOf(5, 1, 10, "Logarithmic"), "logarithmic");
         row("from 0", infoOf(5, 0, 10, "Logarithmic"), "linear");
         row("exposure time as integer", infoOf(5, 1, 10, {}, "ExposureTime"), "linear");
         row("one value", infoOf(5, 5, 5), "none");
         row("beyond exact numbers", infoOf(5, 0, twoTo53 + 2), "none");
-        row("float", infoOf(5.0, 0.1, 10.0), "none");
         row("logarithmic float", infoOf(5.0, 0.1, 10.0, "Logarithmic"), "logarithmic");
         row("exposure time", infoOf(5.0, 0.1, 10.0, {}, "ExposureTimeAbs"), "logarithmic");
         row("exposure time from 0", infoOf(5.0, 0.0, 10.0, {}, "ExposureTime"), "none");
@@ -128,7 +124,6 @@ private slots:
         });
         row("nearest", 0.0, 1023.0, 16.0, 41.0, 48.0, 63);
         row("last whole step", 0.0, 1023.0, 16.0, 1023.0, 1008.0, 63);
-        row("from the minimum", 3.0, 11.0, 4.0, 6.0, 7.0, 2);
         row("last tenth", 0.0, 0.3, 0.1, 0.3, 0.3, 3);
         row("increment -1", 1.0, 2.0, -1.0, 1.5, 1.5, 10000);
         row("minimum with many digits", 1.0 / 3.0, 10.0, 0.1, 0.0, 1.0 / 3.0, 96);
