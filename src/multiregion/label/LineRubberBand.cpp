@@ -19,12 +19,6 @@ LineRubberBand::LineRubberBand(int orientation, int position, QWidget* parent, i
     setColor(color);
 }
 
-void LineRubberBand::setEdge(const ConstraintGroup& group, BandEdge edge)
-{
-    m_group = group;
-    m_edge = edge;
-}
-
 std::optional<int> LineRubberBand::distanceTo(const QPoint& point) const
 {
     constexpr int zone = lineGrabZone;
@@ -35,13 +29,9 @@ std::optional<int> LineRubberBand::distanceTo(const QPoint& point) const
 
 void LineRubberBand::place(int position, int length)
 {
-    if (isVertical()) {
-        setFixedSize(constraintLineThickness, length);
-        move(position, 0);
-    } else {
-        setFixedSize(length, constraintLineThickness);
-        move(0, position);
-    }
+    const QSize size(length, constraintLineThickness);
+    setFixedSize(isVertical() ? size.transposed() : size);
+    moveTo(position);
 }
 
 void LineRubberBand::setColor(const QColor& color)
@@ -56,9 +46,7 @@ void LineRubberBand::moveToPoint(QPoint point)
     if (!m_dragging)
         return;
     const int wanted = isVertical() ? point.x() : point.y();
-    const int position
-        = std::clamp(wanted, m_bounds.lower, std::max(m_bounds.lower, m_bounds.upper));
-    move(isVertical() ? QPoint(position, 0) : QPoint(0, position));
+    moveTo(std::clamp(wanted, m_bounds.lower, m_bounds.upper));
     announce();
 }
 

@@ -25,7 +25,11 @@ public:
                    SensorLabel* label);
 
     /// Which edge of which regions the line marks.
-    void setEdge(const ConstraintGroup& group, BandEdge edge);
+    void setEdge(const ConstraintGroup& group, BandEdge edge)
+    {
+        m_group = group;
+        m_edge = edge;
+    }
     const ConstraintGroup& group() const { return m_group; }
     BandEdge edge() const { return m_edge; }
 
@@ -55,6 +59,7 @@ protected:
 
 private:
     bool isVertical() const { return m_orientation == vertical; }
+    void moveTo(int position) { isVertical() ? move(position, 0) : move(0, position); }
 
     const int m_orientation;
     bool m_dragging = false;

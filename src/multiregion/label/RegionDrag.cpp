@@ -6,11 +6,6 @@
 
 #include <utility>
 
-RegionDrag::RegionDrag(const RegionStore* regions)
-    : m_regions(regions)
-{
-}
-
 QVector<int> RegionDrag::held() const
 {
     if (m_line)

@@ -13,7 +13,10 @@ class RegionStore;
 class RegionDrag
 {
 public:
-    explicit RegionDrag(const RegionStore* regions);
+    explicit RegionDrag(const RegionStore* regions)
+        : m_regions(regions)
+    {
+    }
 
     bool isRunning() const { return m_band || m_line; }
     /// The regions whose bands go with it.
