@@ -2,35 +2,20 @@
 
 #include <arv.h>
 
-#include <atomic>
 #include <cstring>
 #include <fstream>
 #include <iterator>
-#include <mutex>
+#include <string>
 #include <thread>
-#include <vector>
 
 namespace {
-
-constexpr std::size_t memorySize = 0x1000;
-
-struct Memory
-{
-    std::mutex mutex;
-    std::vector<std::uint8_t> bytes = std::vector<std::uint8_t>(memorySize);
-    std::string description;
-    ArvGc* genicam = nullptr;
-    std::atomic<ByteArrayDevice::Failure> failure{ByteArrayDevice::None};
-    std::atomic<std::int64_t> delay{0};
-    std::atomic<int> reads{0};
-    std::atomic<int> writes{0};
-    std::function<void(std::uint32_t)> reaction;
-};
 
 struct TestDevice
 {
     ArvDevice parent;
-    Memory* memory;
+    std::shared_ptr<ByteArrayDevice>* memory;
+    std::string* description;
+    ArvGc* genicam;
 };
 
 struct TestDeviceClass
@@ -40,18 +25,18 @@ struct TestDeviceClass
 
 G_DEFINE_TYPE(TestDevice, test_device, ARV_TYPE_DEVICE)
 
-Memory& memoryOf(ArvDevice* device)
+TestDevice* self(void* device)
 {
-    return *reinterpret_cast<TestDevice*>(device)->memory;
+    return static_cast<TestDevice*>(device);
 }
 
-bool refuses(Memory& memory, guint64 address, guint32 size, GError** error)
+bool refuses(ByteArrayDevice& memory, guint64 address, guint32 size, GError** error)
 {
     static const int codes[] = {0, ARV_DEVICE_ERROR_TIMEOUT, ARV_DEVICE_ERROR_PROTOCOL_ERROR_BUSY,
                                 ARV_DEVICE_ERROR_PROTOCOL_ERROR_ACCESS_DENIED,
                                 ARV_DEVICE_ERROR_PROTOCOL_ERROR_WRITE_PROTECT};
-    std::this_thread::sleep_for(std::chrono::milliseconds(memory.delay));
-    const bool isOutside = address + size > memorySize;
+    std::this_thread::sleep_for(memory.delay.load());
+    const bool isOutside = address + size > memory.bytes.size();
     if (!isOutside && memory.failure == ByteArrayDevice::None)
         return false;
     g_set_error(error, ARV_DEVICE_ERROR,
@@ -62,7 +47,7 @@ bool refuses(Memory& memory, guint64 address, guint32 size, GError** error)
 
 gboolean readMemory(ArvDevice* device, guint64 address, guint32 size, void* buffer, GError** error)
 {
-    Memory& memory = memoryOf(device);
+    ByteArrayDevice& memory = **self(device)->memory;
     ++memory.reads;
     if (refuses(memory, address, size, error))
         return FALSE;
@@ -73,7 +58,7 @@ gboolean readMemory(ArvDevice* device, guint64 address, guint32 size, void* buff
 
 gboolean writeMemory(ArvDevice* device, guint64 address, guint32 size, void* buffer, GError** error)
 {
-    Memory& memory = memoryOf(device);
+    ByteArrayDevice& memory = **self(device)->memory;
     ++memory.writes;
     if (refuses(memory, address, size, error))
         return FALSE;
@@ -81,114 +66,72 @@ gboolean writeMemory(ArvDevice* device, guint64 address, guint32 size, void* buf
         const std::lock_guard lock(memory.mutex);
         std::memcpy(memory.bytes.data() + address, buffer, size);
     }
-    if (memory.reaction)
-        memory.reaction(static_cast<std::uint32_t>(address));
+    memory.reaction(static_cast<std::uint32_t>(address));
     return TRUE;
-}
-
-gboolean readRegister(ArvDevice* device, guint64 address, guint32* value, GError** error)
-{
-    const gboolean isRead = readMemory(device, address, sizeof *value, value, error);
-    *value = GUINT32_FROM_BE(*value);
-    return isRead;
-}
-
-gboolean writeRegister(ArvDevice* device, guint64 address, guint32 value, GError** error)
-{
-    guint32 bytes = GUINT32_TO_BE(value);
-    return writeMemory(device, address, sizeof bytes, &bytes, error);
-}
-
-const char* descriptionText(ArvDevice* device, std::size_t* size)
-{
-    *size = memoryOf(device).description.size();
-    return memoryOf(device).description.c_str();
-}
-
-ArvGc* descriptionNodes(ArvDevice* device)
-{
-    return memoryOf(device).genicam;
 }
 
 void finalize(GObject* object)
 {
-    Memory* const memory = reinterpret_cast<TestDevice*>(object)->memory;
-    g_clear_object(&memory->genicam);
-    delete memory;
+    g_clear_object(&self(object)->genicam);
+    delete self(object)->memory;
+    delete self(object)->description;
     G_OBJECT_CLASS(test_device_parent_class)->finalize(object);
 }
 
-void test_device_init(TestDevice* device)
-{
-    device->memory = new Memory;
-}
+void test_device_init(TestDevice*) { }
 
 void test_device_class_init(TestDeviceClass* type)
 {
     G_OBJECT_CLASS(type)->finalize = finalize;
     type->parent.read_memory = readMemory;
     type->parent.write_memory = writeMemory;
-    type->parent.read_register = readRegister;
-    type->parent.write_register = writeRegister;
-    type->parent.get_genicam_xml = descriptionText;
-    type->parent.get_genicam = descriptionNodes;
+    type->parent.get_genicam = [](ArvDevice* device) { return self(device)->genicam; };
 }
 
 } // namespace
 
-ByteArrayDevice::ByteArrayDevice(const std::string& descriptionFile)
-    : m_device(ARV_DEVICE(g_object_new(test_device_get_type(), nullptr)))
+ByteArrayDevice::ByteArrayDevice()
 {
-    Memory& memory = memoryOf(m_device);
-    std::ifstream file(descriptionFile);
-    memory.description.assign(std::istreambuf_iterator<char>(file), {});
-    memory.genicam = arv_gc_new(m_device, memory.description.data(), memory.description.size());
+    const std::pair<std::uint32_t, std::uint32_t> registers[]
+        = {{0x4c, 99}, {0x100, 2592},       {0x104, 1944}, {0x110, 1},
+           {0x114, 1}, {0x120, 0x01080001}, {0x124, 100},  {0x200, 1}};
+    for (const auto& [address, value] : registers)
+        write(address, value);
+    for (std::uint32_t region = 0; region < 4; ++region) {
+        write(0x20c + 0x20 * region, 486 * region);
+        write(0x210 + 0x20 * region, 2592);
+        write(0x214 + 0x20 * region, 400);
+    }
 }
 
-ByteArrayDevice::~ByteArrayDevice()
+ArvDevice* ByteArrayDevice::open(const std::shared_ptr<ByteArrayDevice>& memory)
 {
-    g_object_unref(m_device);
+    auto* const device = self(g_object_new(test_device_get_type(), nullptr));
+    std::ifstream file(DESCRIPTION_FILE);
+    device->memory = new std::shared_ptr<ByteArrayDevice>(memory);
+    device->description = new std::string(std::istreambuf_iterator<char>(file), {});
+    device->genicam
+        = arv_gc_new(&device->parent, device->description->data(), device->description->size());
+    return &device->parent;
 }
 
-ArvDevice* ByteArrayDevice::reference() const
+std::uint32_t ByteArrayDevice::read(std::uint32_t address)
 {
-    return ARV_DEVICE(g_object_ref(m_device));
-}
-
-std::uint32_t ByteArrayDevice::read(std::uint32_t address) const
-{
-    Memory& memory = memoryOf(m_device);
-    const std::lock_guard lock(memory.mutex);
+    const std::lock_guard lock(mutex);
     guint32 value = 0;
-    std::memcpy(&value, memory.bytes.data() + address, sizeof value);
+    std::memcpy(&value, bytes.data() + address, sizeof value);
     return GUINT32_FROM_BE(value);
 }
 
 void ByteArrayDevice::write(std::uint32_t address, std::uint32_t value)
 {
-    Memory& memory = memoryOf(m_device);
-    const std::lock_guard lock(memory.mutex);
-    const guint32 bytes = GUINT32_TO_BE(value);
-    std::memcpy(memory.bytes.data() + address, &bytes, sizeof bytes);
+    const std::lock_guard lock(mutex);
+    const guint32 sent = GUINT32_TO_BE(value);
+    std::memcpy(bytes.data() + address, &sent, sizeof sent);
 }
 
-void ByteArrayDevice::fail(Failure failure, std::chrono::milliseconds delay)
+void ByteArrayDevice::fail(Failure next, std::chrono::milliseconds wait)
 {
-    memoryOf(m_device).delay = delay.count();
-    memoryOf(m_device).failure = failure;
-}
-
-void ByteArrayDevice::afterWrite(std::function<void(std::uint32_t)> reaction)
-{
-    memoryOf(m_device).reaction = std::move(reaction);
-}
-
-int ByteArrayDevice::reads() const
-{
-    return memoryOf(m_device).reads;
-}
-
-int ByteArrayDevice::writes() const
-{
-    return memoryOf(m_device).writes;
+    delay = wait;
+    failure = next;
 }

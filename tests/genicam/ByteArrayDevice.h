@@ -1,17 +1,19 @@
 #pragma once
 
+#include <atomic>
 #include <chrono>
 #include <cstdint>
 #include <functional>
-#include <string>
+#include <memory>
+#include <mutex>
+#include <vector>
 
 typedef struct _ArvDevice ArvDevice;
 
-/// A camera without hardware or socket: registers of four bytes, high byte first, in memory, with a
-/// description from a file.
-class ByteArrayDevice
+/// A camera without hardware or socket: registers of four bytes, high byte first, in memory, with
+/// the description of camera.xml. Its sensor has 2592 x 1944 pixels.
+struct ByteArrayDevice
 {
-public:
     enum Failure {
         None,
         Timeout,
@@ -20,25 +22,24 @@ public:
         WriteProtected
     };
 
-    explicit ByteArrayDevice(const std::string& descriptionFile);
-    ~ByteArrayDevice();
-    ByteArrayDevice(const ByteArrayDevice&) = delete;
-    ByteArrayDevice& operator=(const ByteArrayDevice&) = delete;
+    ByteArrayDevice();
 
-    /// A reference for whoever opens it.
-    ArvDevice* reference() const;
+    /// May be closed after this is gone.
+    static ArvDevice* open(const std::shared_ptr<ByteArrayDevice>& memory);
 
     // As the camera itself, or another client.
-    std::uint32_t read(std::uint32_t address) const;
+    std::uint32_t read(std::uint32_t address);
     void write(std::uint32_t address, std::uint32_t value);
 
     /// Every access from now on fails like this, after the delay.
-    void fail(Failure failure, std::chrono::milliseconds delay = {});
-    /// What the camera does by itself after a register was written.
-    void afterWrite(std::function<void(std::uint32_t address)> reaction);
-    int reads() const;
-    int writes() const;
+    void fail(Failure next, std::chrono::milliseconds wait = {});
 
-private:
-    ArvDevice* m_device;
+    std::mutex mutex;
+    std::vector<std::uint8_t> bytes = std::vector<std::uint8_t>(0x1000);
+    std::atomic<Failure> failure{None};
+    std::atomic<std::chrono::milliseconds> delay{};
+    std::atomic<int> reads{0};
+    std::atomic<int> writes{0};
+    /// What the camera does by itself after a register was written.
+    std::function<void(std::uint32_t address)> reaction = [](std::uint32_t) {};
 };

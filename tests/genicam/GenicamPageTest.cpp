@@ -30,13 +30,11 @@ struct Page
         if (isHosted)
             hosted = std::make_unique<HostedCamera>();
         else
-            device = std::make_unique<ByteArrayDevice>(DESCRIPTION_FILE);
+            device = std::make_shared<ByteArrayDevice>();
         if (hosted && !hosted->isRunning())
             return;
-        if (device)
-            prepare();
-        camera = std::make_unique<GenicamCamera>(hosted ? hosted->open() : device->reference(),
-                                                 options);
+        ArvDevice* const opened = hosted ? hosted->open() : ByteArrayDevice::open(device);
+        camera = std::make_unique<GenicamCamera>(opened, options);
         const auto list = camera->features();
         page = std::make_unique<ImageFormatWidget>(
             TabExtensionInterface::FeatureList::create(list.begin(), list.end()), nullptr);
@@ -45,33 +43,20 @@ struct Page
         QTest::qWait(50);
     }
 
-    void prepare() const
-    {
-        const std::pair<std::uint32_t, std::uint32_t> registers[] = {
-            {0x100, 2592}, {0x104, 1944}, {0x110, 1}, {0x114, 1}, {0x120, 0x01080001}, {0x200, 1}};
-        for (const auto& [address, value] : registers)
-            device->write(address, value);
-        for (std::uint32_t region = 0; region < 4; ++region) {
-            device->write(0x20c + 0x20 * region, 486 * region);
-            device->write(0x210 + 0x20 * region, 2592);
-            device->write(0x214 + 0x20 * region, 400);
-        }
-    }
-
     AOIWidget& region() const { return *page->findChild<AOIWidget*>(); }
     QDoubleSpinBox* field(const char* name) const
     {
         return region().findChild<QDoubleSpinBox*>(name);
     }
-    RubberBandLabel* label() const { return region().findChild<RubberBandLabel*>(); }
     std::int64_t integer(const char* name) const
     {
         return QString::fromStdString(camera->readText(name)).toLongLong();
     }
-    void type(const char* name, double value) const
+    static void type(QAbstractSpinBox* box, const char* text)
     {
-        field(name)->setValue(value);
-        QTest::keyClick(field(name), Qt::Key_Return);
+        box->selectAll();
+        QTest::keyClicks(box, text);
+        QTest::keyClick(box, Qt::Key_Return);
     }
 
     /// Where the fields differ from the camera.
@@ -84,18 +69,14 @@ struct Page
                                                               {"spinHeight", "Height"}};
         for (const auto& [name, feature] : fields) {
             if (qRound64(field(name)->value()) != integer(feature))
-                wrong += QString("%1 %2, %3 %4; ")
-                             .arg(name)
-                             .arg(field(name)->value())
-                             .arg(feature)
-                             .arg(integer(feature));
+                wrong += QString("%1 %2; ").arg(name).arg(field(name)->value());
         }
         return wrong;
     }
 
     const MessageHandlerGuard guard;
     std::unique_ptr<HostedCamera> hosted;
-    std::unique_ptr<ByteArrayDevice> device;
+    std::shared_ptr<ByteArrayDevice> device;
     std::unique_ptr<GenicamCamera> camera;
     std::unique_ptr<ImageFormatWidget> page;
 };
@@ -114,8 +95,8 @@ private slots:
     void opensQuickly()
     {
         const Page p(false);
-        QVERIFY2(p.device->reads() < 40, qPrintable(QString::number(p.device->reads())));
-        QCOMPARE(p.device->writes(), 0);
+        QVERIFY(p.device->reads < 40);
+        QCOMPARE(int(p.device->writes), 0);
     }
 
     void refusesAnotherMaker() { QVERIFY_EXCEPTION_THROWN(Page(false, ""), TENotSupported); }
@@ -129,20 +110,19 @@ private slots:
             QTRY_COMPARE(p.contradiction(), QString());
 
             auto* const binning = p.page->findChild<QSpinBox*>("spbBinningHorizontal");
-            binning->setValue(2);
-            QTest::keyClick(binning, Qt::Key_Return);
+            p.type(binning, "2");
             QCOMPARE(p.integer("BinningHorizontal"), 2);
-            binning->setValue(1);
-            QTest::keyClick(binning, Qt::Key_Return);
+            p.type(binning, "1");
 
-            p.type("spinWidth", 641);
-            p.type("spinHeight", 480);
-            p.type("spinLeft", 99);
+            p.type(p.field("spinWidth"), "641");
+            p.type(p.field("spinHeight"), "480");
+            p.type(p.field("spinLeft"), "99");
             QTRY_COMPARE(p.contradiction(), QString());
             QCOMPARE(p.integer("Width"), isHosted ? 641 : 648);
 
-            const QRect band = p.label()->findChild<QRubberBand*>()->geometry();
-            drag(p.label(), band.center(), band.center() + QPoint(9, 7));
+            auto* const label = p.region().findChild<RubberBandLabel*>();
+            const QRect band = label->findChild<QRubberBand*>()->geometry();
+            drag(label, band.center(), band.center() + QPoint(9, 7));
             QTRY_VERIFY(p.integer("OffsetY") > 0);
             QTRY_COMPARE(p.contradiction(), QString());
 
