@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCursor>
 #include <QGuiApplication>
 
 /// Shows a cursor all over the application for as long as the object lives.
