@@ -1,5 +1,5 @@
+#include "Effort.h"
 #include "PlainCamera.h"
-#include "ProcessorTime.h"
 #include "Row.h"
 #include "Screen.h"
 #include "imageformat/ImageFormatWidget.h"
@@ -8,8 +8,10 @@
 #include "ui_AutoROIWidget.h"
 #include "ui_ImageFormatWidget.h"
 
+#include <algorithm>
+#include <array>
 #include <deque>
-#include <vector>
+#include <limits>
 
 // Opening the page and painting it once, on cameras with few and with very many features.
 
@@ -69,33 +71,36 @@ Contest openingContest(int features)
             [desk] { desk->clear(); }};
 }
 
-/// Of the processor, for an opening of each, one after the other.
-std::vector<double> openingSeconds(const std::deque<PlainCamera>& cameras)
+struct Growth
 {
-    Desk desk;
-    std::vector<double> seconds;
-    for (const PlainCamera& camera : cameras) {
-        desk.clear();
-        const double start = processorSeconds();
-        desk.open(new ImageFormatWidget(camera.features(), nullptr));
-        seconds.push_back(processorSeconds() - start);
-    }
-    return seconds;
-}
+    double effort = 0.0;
+    double calls = 0.0;
+};
 
-/// How many times as long 4000 more features take when there are 5000 already instead of 1000: the
-/// median of rounds, each of which lasts too short for the machine to change its pace within.
-double openingGrowth(int rounds)
+/// How many times as much 10000 more features cost when there are 11000 already instead of 1000.
+/// The cheapest of the rounds counts, which nothing disturbed.
+Growth openingGrowth(const Effort& effort, int rounds)
 {
     std::deque<PlainCamera> cameras;
-    for (const int count : {1000, 5000, 9000})
+    for (const int count : {1000, 11000, 21000})
         cameras.emplace_back(cameraWith(count, 0));
-    std::vector<double> ratios;
+    std::array<double, 3> efforts{};
+    std::array<double, 3> calls{};
+    efforts.fill(std::numeric_limits<double>::infinity());
+    Desk desk;
     for (int round = 0; round < rounds; ++round) {
-        const std::vector<double> seconds = openingSeconds(cameras);
-        ratios.push_back((seconds[2] - seconds[1]) / (seconds[1] - seconds[0]));
+        for (std::size_t i = 0; i < efforts.size(); ++i) {
+            desk.clear();
+            cameras[i].resetCalls();
+            const double taken = effort.of(
+                [&] { desk.open(new ImageFormatWidget(cameras[i].features(), nullptr)); });
+            efforts[i] = std::min(efforts[i], taken);
+            calls[i] = static_cast<double>(cameras[i].calls());
+        }
     }
-    return percentilesOf(ratios).p50;
+    const auto growth
+        = [](const auto& costs) { return (costs[2] - costs[1]) / (costs[1] - costs[0]); };
+    return {growth(efforts), growth(calls)};
 }
 
 } // namespace
@@ -107,6 +112,9 @@ void addOpeningRows()
     for (const auto& [features, target] : rows)
         addComparison("open/" + std::to_string(features), "the same forms without a camera", target,
                       {40, 4}, [features = features] { return openingContest(features); });
-    addMeasurement("open/growth", "4000 features on top of 5000 and of 1000", 1.2,
-                   [] { return Measurement{openingGrowth(31)}; });
+    const auto effort = std::make_shared<Effort>();
+    addMeasurement("open/growth", std::string(effort->unit()) + ", 10000 more on 11000 and on 1000",
+                   1.2, [=] { return Measurement{openingGrowth(*effort, 40).effort}; });
+    addMeasurement("open/growth/calls", "SDK calls, likewise", 1.2,
+                   [=] { return Measurement{openingGrowth(*effort, 1).calls}; });
 }

@@ -58,18 +58,6 @@ class ImageFormatWidgetTest : public QObject
     Q_OBJECT
 
 private slots:
-    void showsTheCamera()
-    {
-        const OpenPage p;
-        QCOMPARE(p.format()->currentText().toStdString(), p.camera->feature("PixelFormat").text());
-        QCOMPARE(p.binning()->value(), p.value("BinningHorizontal"));
-        QCOMPARE(p.binning()->maximum(),
-                 int(p.camera->feature("BinningHorizontal").range().maximum));
-        QCOMPARE(p.page->accessibleName(), QString("Image Format"));
-        QVERIFY(!p.field<QLabel>("lblIcon")->pixmap(Qt::ReturnByValue).isNull());
-        QCOMPARE(p.field<QAbstractButton>("btnImageFormat")->text(), QString(" Image Format: "));
-    }
-
     void writesNothingByItself()
     {
         for (const std::string& model : sim::modelNames()) {
@@ -90,6 +78,8 @@ private slots:
     void writesAndShowsWhatTheCameraTook()
     {
         const OpenPage p;
+        QCOMPARE(p.binning()->maximum(), 4);
+        QVERIFY(!p.field<QLabel>("lblIcon")->pixmap(Qt::ReturnByValue).isNull());
         auto* const reverse = p.field<QCheckBox>("chkReverseX");
         p.binning()->setValue(2);
         QCOMPARE(p.value("BinningHorizontal"), 2);
@@ -270,12 +260,8 @@ private slots:
         QApplication::setActiveWindow(p.page.get());
         const auto* const scrollBar = p.field<QScrollArea>("scrollArea")->verticalScrollBar();
         QVERIFY(scrollBar->maximum() > 0);
-        QVERIFY(!p.binning()->hasFocus());
         sendWheel(p.binning());
         QVERIFY(scrollBar->value() > 0);
-        sendWheel(p.format());
-        sendWheel(p.source());
-        QCOMPARE(p.source()->currentIndex(), int(ImageReaderWidget::NoImage));
         QVERIFY(p.camera->journal().writes().empty());
 
         p.binning()->setValue(2);

@@ -127,33 +127,6 @@ private slots:
         QCOMPARE(int(observer->calls), 3);
     }
 
-    void manyThreads()
-    {
-        const auto camera = createCamera("current");
-        camera->setNotifications(NotificationSettings::asynchronous());
-        camera->failures().add("*", sim::Operations::all(), sim::Failure::refuse(),
-                               sim::Occurrence::randomly(0.05, 7));
-        std::vector<std::thread> threads;
-        threads.reserve(4);
-        for (int t = 0; t < 4; ++t)
-            threads.emplace_back([&camera, t] {
-                const auto observer = std::make_shared<Observer>();
-                for (int i = 0; i < 300; ++i) {
-                    const auto width = camera->feature("Width").pointer();
-                    width->RegisterObserver(observer);
-                    width->SetValue(std::int64_t{16 + 8 * (i % 50)});
-                    camera->writeAsOtherClient("BinningHorizontal", 1 + (i + t) % 4);
-                    camera->setStreaming(i % 3 == 0);
-                    camera->snapshot();
-                    camera->modify("Gain", [i](auto& gain) { gain.unit = std::to_string(i); });
-                    width->UnregisterObserver(observer);
-                    camera->journal().writes();
-                }
-            });
-        for (std::thread& thread : threads)
-            thread.join();
-    }
-
     void closingWhileInUse()
     {
         auto camera = createCamera("current");

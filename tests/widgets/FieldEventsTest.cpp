@@ -44,7 +44,6 @@ private slots:
             QCoreApplication::sendEvent(&field, &event);
         });
         row("hidden", false, 0, [](QSpinBox& field) { field.hide(); });
-        row("page hidden", false, 0, [](QSpinBox& field) { field.window()->hide(); });
         row("disabled", false, 0, [](QSpinBox& field) { field.setEnabled(false); });
         row("taken out", false, 0, [](QSpinBox& field) { field.setParent(nullptr); });
         row("other window", false, 0, [](QSpinBox& field) {
@@ -52,7 +51,6 @@ private slots:
             QCoreApplication::sendEvent(field.window(), &event);
         });
     }
-
     void mousePressEnds() { runRow(); }
 
     void wheelGuard_data()
