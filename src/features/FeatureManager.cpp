@@ -178,7 +178,9 @@ double FeatureManager::GetValueState(const QString& name, const QString& alterna
     FeatureReader reader = Read(name, alternative1, alternative2);
     if (!reader)
         return missingNumber;
-    const Reading<double> reading = isNumber(reader) ? reader.number() : Reading<double>();
+    Reading<double> reading;
+    if (isNumber(reader))
+        reading = reader.number();
     writable = isNumber(reader) ? reading.isWritable : reader.isWritable();
     increment = reading.increment.value_or(missingNumber);
     return answer(reading, minimum, maximum);
