@@ -169,40 +169,35 @@ void ImageFormatWidget::camIsStreaming(bool streaming)
     m_ui->imageReaderWidget->setDisabled(streaming);
 }
 
-// The field that sent the current signal; null, and a log line, when it is of another class.
-template <typename Field> Field* ImageFormatWidget::changedField()
-{
-    QObject* const source = sender();
-    auto* const field = qobject_cast<Field*>(source);
-    if (source && !field) {
-        const QString name = source->objectName();
-        qWarning("Error accessing widget '%s'", qPrintable(name));
-        emit loggingMessage(ZebViewerLogFeatureAccess, tr("Error accessing widget '%s'").arg(name));
-    }
-    return field;
-}
-
 void ImageFormatWidget::OnChangeSpinbox(int value)
 {
-    write(changedField<QSpinBox>(), value);
+    write(QSpinBox::staticMetaObject, value);
 }
 
 void ImageFormatWidget::OnChangeComboboxSelection(const QString& currentText)
 {
-    write(changedField<QComboBox>(), currentText);
+    write(QComboBox::staticMetaObject, currentText);
 }
 
 void ImageFormatWidget::OnChangeCheckbox(int state)
 {
-    write(changedField<QCheckBox>(), state);
+    write(QCheckBox::staticMetaObject, state);
 }
 
-void ImageFormatWidget::write(QWidget* field, const QVariant& value)
+// The field is what sent the current signal.
+void ImageFormatWidget::write(const QMetaObject& fieldType, const QVariant& value)
 {
+    QObject* const field = sender();
     if (!field)
         return;
+    if (!fieldType.cast(field)) {
+        const QString name = field->objectName();
+        qWarning("Error accessing widget '%s'", qPrintable(name));
+        emit loggingMessage(ZebViewerLogFeatureAccess, tr("Error accessing widget '%s'").arg(name));
+        return;
+    }
     const QString feature = FeatureBinder::featureOf(field);
-    if (!m_binder->write(field, value))
+    if (!m_binder->write(static_cast<QWidget*>(field), value))
         OnFeatureChanged(feature, {});
     // A stored background image no longer matches the sensor.
     if (Name::pictureGeometry.contains(feature))

@@ -48,12 +48,11 @@ private:
     void bindFields();
     bool bind(QWidget* field);
     void guardAgainstWheel(QWidget* field);
-    void write(QWidget* field, const QVariant& value);
+    void write(const QMetaObject& fieldType, const QVariant& value);
     void resetImageSource();
     void updateIcon();
 
     template <typename Page> Page* addRegionPage();
-    template <typename Field> Field* changedField();
 
     const std::unique_ptr<FeatureBinder> m_binder;
     std::unique_ptr<Ui::ImageFormatWidget> m_ui;
