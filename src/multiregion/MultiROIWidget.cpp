@@ -170,7 +170,7 @@ void MultiROIWidget::onRegionButtonToggled()
     const int region = button->id();
     const bool activate = button->isChecked();
     const QPointer<MultiROIWidget> page(this);
-    const SenderShelter::Handling handling(m_senders, this, sender());
+    const auto handling = m_senders.handling(sender());
     m_tabs->open(region);
     if (page)
         m_writer->tellCurrent(region);
@@ -184,7 +184,7 @@ void MultiROIWidget::onArrangementModeChanged(int index)
 {
     if (!isReady() || index < 0)
         return;
-    const SenderShelter::Handling handling(m_senders, this, sender());
+    const auto handling = m_senders.handling(sender());
     const RegionWriter::Call call(*m_writer);
     m_settings->writeArrangement(index);
     if (!refreshArrangement())
@@ -221,7 +221,7 @@ void MultiROIWidget::setSubRegionSelector(int regionNo)
     if (!isReady() || regionNo < 0) // no tab is left
         return;
     const QPointer<MultiROIWidget> page(this);
-    const SenderShelter::Handling handling(m_senders, this, sender());
+    const auto handling = m_senders.handling(sender());
     if (!isRegion(regionNo)) {
         m_writer->select(regionNo); // whether there is such a region is for the camera to say
         return;
@@ -263,7 +263,7 @@ void MultiROIWidget::setFeatureValue(int regionNo, int, QString featureName, QVa
 {
     if (!isRegion(regionNo))
         return;
-    const SenderShelter::Handling handling(m_senders, this, sender());
+    const auto handling = m_senders.handling(sender());
     m_writer->setFeature(sharingRegions(m_tabs->groups(), regionNo, featureName), featureName,
                          value);
 }
@@ -311,7 +311,7 @@ std::optional<Answer> MultiROIWidget::ask(Question question)
 
 void MultiROIWidget::onEnableToggled(bool enabled)
 {
-    const SenderShelter::Handling handling(m_senders, this, sender());
+    const auto handling = m_senders.handling(sender());
     m_settings->writeSwitch(enabled);
     m_enabled.reset(); // a refused switch is told too
     if (!refreshSwitch())
@@ -382,7 +382,7 @@ bool MultiROIWidget::refreshSwitch()
 {
     const std::optional<bool> isEnabled = m_settings->refreshSwitch();
     if (isEnabled && std::exchange(m_enabled, isEnabled) != isEnabled)
-        m_writer->queue().add(this, &MultiROIWidget::multipleRegionsEnabled, *isEnabled);
+        m_writer->tell([=] { emit multipleRegionsEnabled(*isEnabled); });
     return isEnabled.has_value();
 }
 

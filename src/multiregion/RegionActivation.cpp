@@ -1,10 +1,9 @@
 #include "multiregion/RegionActivation.h"
 
 #include "multiregion/RegionCamera.h"
-#include "multiregion/RegionDisplay.h"
+#include "multiregion/RegionTabs.h"
 #include "multiregion/RegionWriter.h"
 #include "multiregion/rules/DefaultLayouts.h"
-#include "multiregion/rules/RegionPlacement.h"
 #include "sensor/Span.h"
 #include "widgets/OverrideCursor.h"
 
@@ -22,10 +21,10 @@ struct Text
 
 } // namespace
 
-RegionActivation::RegionActivation(RegionCamera& camera, RegionDisplay& display,
-                                   RegionWriter& writer, Ask ask)
+RegionActivation::RegionActivation(RegionCamera& camera, RegionTabs& tabs, RegionWriter& writer,
+                                   Ask ask)
     : m_camera(camera)
-    , m_display(display)
+    , m_tabs(tabs)
     , m_writer(writer)
     , m_ask(std::move(ask))
 {
@@ -33,8 +32,7 @@ RegionActivation::RegionActivation(RegionCamera& camera, RegionDisplay& display,
 
 void RegionActivation::toggle(int region, bool on)
 {
-    const Toggle toggle
-        = toggleFor(arrangementMode(m_display.mode()), region, on, m_display.active());
+    const Toggle toggle = toggleFor(arrangementMode(m_tabs.mode()), region, on, m_tabs.active());
     if (toggle.kind == Toggle::Place)
         place(region, toggle.axis);
     else if (toggle.kind == Toggle::SwitchOn)
@@ -53,7 +51,7 @@ void RegionActivation::switchOff(int region, const Toggle& toggle)
         if (!self || (isChoice && answer == Answer::None))
             return;
         if (!answer || answer == Answer::Rejected || answer == Answer::None) {
-            m_display.setChecked(region, true);
+            m_tabs.setChecked(region, true);
             return;
         }
         if (answer == Answer::Column)
@@ -73,7 +71,7 @@ void RegionActivation::place(int region, Qt::Orientation axis)
         const RegionWriter::Call call(m_writer);
         placed = placement(region, axis);
         if (!placed)
-            m_display.setChecked(region, m_display.isActive(region));
+            m_tabs.setChecked(region, m_tabs.isActive(region));
         else if (!placed->isNull())
             write(region, {}, *placed);
     }
@@ -86,7 +84,7 @@ void RegionActivation::place(int region, Qt::Orientation axis)
 void RegionActivation::completeTile(int region, const QRect& placed)
 {
     const Question question
-        = toggleFor(arrangementMode(m_display.mode()), region, true, m_display.active()).question;
+        = toggleFor(arrangementMode(m_tabs.mode()), region, true, m_tabs.active()).question;
     if (question == Question::None)
         return;
     const QPointer<RegionActivation> self(this);
@@ -110,7 +108,7 @@ void RegionActivation::completeTile(int region, const QRect& placed)
 /// predecessor and is never placed. Nothing when the camera does not tell or refuses a selection.
 std::optional<QRect> RegionActivation::placement(int region, Qt::Orientation axis)
 {
-    if (region < 1 || !m_display.has(region))
+    if (region < 1 || !m_tabs.has(region))
         return QRect();
     const auto geometryOf = [this](int each) {
         return m_writer.select(each) ? m_camera.readGeometry() : std::nullopt;
@@ -160,7 +158,7 @@ void RegionActivation::loadDefaults(const QColor& color)
         applyDefaults(color);
     }
     m_writer.readAll();
-    m_display.open(0);
+    m_tabs.open(0);
     m_writer.tellCurrent(0);
 }
 
@@ -169,28 +167,28 @@ void RegionActivation::applyDefaults(const QColor& color)
     const std::optional<QSize> sensor = m_camera.readSensorSize();
     if (!sensor)
         return;
-    for (int region = m_display.count() - 1; region >= 0; --region) {
+    for (int region = m_tabs.count() - 1; region >= 0; --region) {
         m_writer.save(region, {});
         m_writer.setActive(region, false);
         if (m_writer.isCameraLost())
             return;
     }
-    m_display.open(0);
+    m_tabs.open(0);
     if (!m_writer.select(0))
         return;
     const auto width = m_camera.readSizeRange(Qt::Horizontal);
     const auto height = m_camera.readSizeRange(Qt::Vertical);
     if (!width || !height)
         return;
-    const DefaultLayout layout = defaultLayout(m_display.mode(),
-                                               {static_cast<double>(sensor->width()),
-                                                static_cast<double>(sensor->height()), *width,
-                                                *height, m_display.count()});
+    const DefaultLayout layout
+        = defaultLayout(m_tabs.mode(),
+                        {static_cast<double>(sensor->width()),
+                         static_cast<double>(sensor->height()), *width, *height, m_tabs.count()});
     if (!layout.message.isEmpty())
         m_writer.log(layout.message);
     for (auto it = layout.regions.cbegin(); it != layout.regions.cend(); ++it) {
         m_writer.save(it.key(), it.value());
-        m_display.setColor(it.key(), color);
+        m_tabs.setColor(it.key(), color);
         m_writer.tellColor(it.key(), color);
     }
 }

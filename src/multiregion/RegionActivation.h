@@ -11,7 +11,7 @@
 #include <optional>
 
 class RegionCamera;
-class RegionDisplay;
+class RegionTabs;
 class RegionWriter;
 
 /// Switches regions on and off in a way that the arrangement can satisfy, and loads the default
@@ -25,7 +25,7 @@ public:
     /// the camera streams or is arranged otherwise.
     using Ask = std::function<std::optional<Answer>(Question)>;
 
-    RegionActivation(RegionCamera& camera, RegionDisplay& display, RegionWriter& writer, Ask ask);
+    RegionActivation(RegionCamera& camera, RegionTabs& tabs, RegionWriter& writer, Ask ask);
 
     void toggle(int region, bool on);
     /// @param color of the regions that are placed
@@ -41,7 +41,7 @@ private:
     void applyDefaults(const QColor& color);
 
     RegionCamera& m_camera;
-    RegionDisplay& m_display;
+    RegionTabs& m_tabs;
     RegionWriter& m_writer;
     const Ask m_ask;
     const std::shared_ptr<QMutex> m_loadLock = std::make_shared<QMutex>();

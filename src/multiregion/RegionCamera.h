@@ -1,7 +1,7 @@
 #pragma once
 
 #include "multiregion/label/ShownRegion.h"
-#include "multiregion/rules/SizeRange.h"
+#include "multiregion/rules/RegionPlacement.h"
 
 #include <QMutex>
 #include <QRect>

@@ -12,49 +12,6 @@ struct Text
     Q_DECLARE_TR_FUNCTIONS(MultiROIWidget)
 };
 
-/// The button that closed the box; null when the box went with its parent.
-QAbstractButton* run(QPointer<QMessageBox> box)
-{
-    box->exec();
-    if (!box)
-        return nullptr;
-    box->deleteLater();
-    return box->clickedButton();
-}
-
-Answer askForPart(QWidget* parent)
-{
-    auto* box = new QMessageBox(
-        QMessageBox::Question, Text::tr("Deactivate Region"),
-        Text::tr("Currently selected Arrangement Mode 'Tile' requires deactivation of either a row "
-                 "or a column.\nWhat would you deactivate?"),
-        QMessageBox::NoButton, parent, Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint);
-    QAbstractButton* const row = box->addButton(Text::tr("Row"), QMessageBox::YesRole);
-    QAbstractButton* const column = box->addButton(Text::tr("Column"), QMessageBox::NoRole);
-    QPushButton* const cancel = box->addButton(Text::tr("Cancel"), QMessageBox::RejectRole);
-    box->setEscapeButton(cancel);
-
-    QAbstractButton* const clicked = run(box);
-    if (!clicked)
-        return Answer::None;
-    if (clicked == row)
-        return Answer::Row;
-    return clicked == column ? Answer::Column : Answer::Rejected;
-}
-
-Answer confirm(const QString& title, const QString& text, QMessageBox::StandardButtons buttons,
-               QWidget* parent)
-{
-    const bool isQuestion = buttons.testFlag(QMessageBox::No);
-    auto* box = new QMessageBox(isQuestion ? QMessageBox::Question : QMessageBox::Information,
-                                title, text, buttons, parent);
-    QAbstractButton* const accepting = box->button(isQuestion ? QMessageBox::Yes : QMessageBox::Ok);
-    QAbstractButton* const clicked = run(box);
-    if (!clicked)
-        return Answer::None;
-    return clicked == accepting ? Answer::Accepted : Answer::Rejected;
-}
-
 QString textOf(Question question, const QString& mode)
 {
     const bool isColumn = question == Question::ColumnOff || question == Question::ColumnOn;
@@ -69,6 +26,9 @@ QString textOf(Question question, const QString& mode)
         return Text::tr("Currently selected Arrangement Mode '%1' requires deactivation of the "
                         "whole %2.")
             .arg(mode, part);
+    case Question::RowOrColumnOff:
+        return Text::tr("Currently selected Arrangement Mode 'Tile' requires deactivation of "
+                        "either a row or a column.\nWhat would you deactivate?");
     case Question::ColumnOn:
     case Question::RowOn:
         return Text::tr("Arrangement Mode '%1' requires activation of the whole %2.")
@@ -78,24 +38,52 @@ QString textOf(Question question, const QString& mode)
     }
 }
 
+QString titleOf(Question question)
+{
+    if (question == Question::LoadDefaults)
+        return Text::tr("Load Default Configuration");
+    const bool isOn = question == Question::ColumnOn || question == Question::RowOn;
+    return isOn ? Text::tr("Activate Region") : Text::tr("Deactivate Region");
+}
+
+QMessageBox::StandardButtons buttonsOf(Question question)
+{
+    switch (question) {
+    case Question::RowOrColumnOff:
+        return QMessageBox::NoButton;
+    case Question::LoadDefaults:
+        return QMessageBox::Yes | QMessageBox::No;
+    case Question::ColumnOn:
+    case Question::RowOn:
+        return QMessageBox::Ok;
+    default:
+        return QMessageBox::Ok | QMessageBox::Cancel;
+    }
+}
+
 } // namespace
 
 Answer askUser(Question question, const QString& mode, QWidget* parent)
 {
-    const QString text = textOf(question, mode);
-    switch (question) {
-    case Question::None:
-        return Answer::Accepted;
-    case Question::RowOrColumnOff:
-        return askForPart(parent);
-    case Question::LoadDefaults:
-        return confirm(Text::tr("Load Default Configuration"), text,
-                       QMessageBox::Yes | QMessageBox::No, parent);
-    case Question::ColumnOn:
-    case Question::RowOn:
-        return confirm(Text::tr("Activate Region"), text, QMessageBox::Ok, parent);
-    default:
-        return confirm(Text::tr("Deactivate Region"), text, QMessageBox::Ok | QMessageBox::Cancel,
-                       parent);
+    const bool isLoad = question == Question::LoadDefaults;
+    const bool isChoice = question == Question::RowOrColumnOff;
+    const QPointer<QMessageBox> box
+        = new QMessageBox(isLoad || isChoice ? QMessageBox::Question : QMessageBox::Information,
+                          titleOf(question), textOf(question, mode), buttonsOf(question), parent);
+    const QAbstractButton* accepting = box->button(isLoad ? QMessageBox::Yes : QMessageBox::Ok);
+    const QAbstractButton* column = nullptr;
+    if (isChoice) {
+        accepting = box->addButton(Text::tr("Row"), QMessageBox::YesRole);
+        column = box->addButton(Text::tr("Column"), QMessageBox::NoRole);
+        box->setEscapeButton(box->addButton(Text::tr("Cancel"), QMessageBox::RejectRole));
     }
+    box->exec();
+    const QAbstractButton* const clicked = box ? box->clickedButton() : nullptr;
+    if (box)
+        box->deleteLater();
+    if (!clicked)
+        return Answer::None;
+    if (clicked == accepting)
+        return Answer::Accepted;
+    return clicked == column ? Answer::Column : Answer::Rejected;
 }

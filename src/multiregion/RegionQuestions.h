@@ -6,8 +6,7 @@ class QString;
 class QWidget;
 
 enum class Answer {
-    Accepted,
-    Row,
+    Accepted, ///< the row, where that is the question
     Column,
     Rejected,
     None, ///< the box went without an answer, and its parent perhaps with it

@@ -4,7 +4,7 @@
 #include "multiregion/RegionLabelWidget.h"
 #include "multiregion/RegionTableWidget.h"
 #include "multiregion/label/MultiRubberBandLabel.h"
-#include "multiregion/rules/RegionButtonRules.h"
+#include "multiregion/rules/ToggleRules.h"
 #include "ui_MultiROIWidget.h"
 #include "widgets/RoundButton.h"
 
@@ -119,6 +119,14 @@ void RegionTabs::fitLabels()
         m_form.scrollRegionLabelsContents->sizeHint().width());
 }
 
+QVector<bool> RegionTabs::active() const
+{
+    QVector<bool> result;
+    for (int region = 0; region < count(); ++region)
+        result << isActive(region);
+    return result;
+}
+
 QVector<ConstraintGroup> RegionTabs::groups() const
 {
     QVector<int> shown;
@@ -174,9 +182,8 @@ void RegionTabs::setColor(int region, const QColor& color)
     showColor(region, color);
 }
 
-bool RegionTabs::show(int region, const RegionState& state)
+void RegionTabs::show(int region, const RegionState& state)
 {
-    const bool isTold = refreshTable(region);
     RegionLabelWidget* const label = tab(region).label;
     label->setRegionGeometry(state.geometry);
     label->highlightIfSelected(current());
@@ -184,7 +191,6 @@ bool RegionTabs::show(int region, const RegionState& state)
         m_label->setRegionLimits(region, state.limits);
         m_label->onRegionGeometryChanged(region, state.geometry);
     }
-    return isTold;
 }
 
 bool RegionTabs::refreshTable(int region)

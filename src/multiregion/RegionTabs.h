@@ -1,8 +1,9 @@
 #pragma once
 
-#include "multiregion/RegionDisplay.h"
+#include "multiregion/RegionCamera.h"
 #include "multiregion/rules/ConstraintGroups.h"
 
+#include <QColor>
 #include <QPointer>
 
 #include <vector>
@@ -17,7 +18,7 @@ class MultiROIWidget;
 }
 
 /// The parts of the page that belong to one region each: button, table and label, and its band.
-class RegionTabs : public RegionDisplay
+class RegionTabs
 {
 public:
     /// @p form and @p label must outlive the object; of the label, only its QObject part.
@@ -34,35 +35,47 @@ public:
     const Tab& add(RegionTableWidget* table, const QColor& color);
     const Tab& tab(int region) const { return m_tabs[static_cast<std::size_t>(region)]; }
 
+    int count() const { return static_cast<int>(m_tabs.size()); }
+    bool has(int region) const { return region >= 0 && region < count(); }
+
+    /// The region whose tab is open; none when there are no tabs.
+    int current() const;
+    void open(int region);
+
     // Of the open tab's table:
     bool isEditing() const;
     void finishEditing();
     /// What it shows beside its region's own features.
     void refreshSettings(const QStringList& names);
 
+    /// The arrangement's name.
+    QString mode() const { return m_mode; }
     void setMode(const QString& mode);
     void setStreaming(bool streaming);
     /// After every change of a button: which of them may be clicked.
     void updateButtons();
+
+    /// As the camera had it when last read; its button may stay checked without a place for it.
+    bool isActive(int region) const;
+    QVector<bool> active() const;
+    QVector<ConstraintGroup> groups() const;
+    void setActive(int region, bool active);
+    void setChecked(int region, bool checked);
+    QColor color(int region) const;
+    void setColor(int region, const QColor& color);
     /// In the colour of its band.
     void showColor(int region, const QColor& color);
+
+    void show(int region, const RegionState& state);
+    /// Of the region that is selected: its table reads on its own. False when the camera did not
+    /// tell all of that.
+    bool refreshTable(int region);
+
+    /// The sensor area keeps its signals to itself until announce().
+    void silence(bool silent);
+    void announce();
     /// A scroll area does not grow with its content: the labels would be cut off.
     void fitLabels();
-    QVector<ConstraintGroup> groups() const;
-
-    int count() const override { return static_cast<int>(m_tabs.size()); }
-    int current() const override;
-    void open(int region) override;
-    QString mode() const override { return m_mode; }
-    bool isActive(int region) const override;
-    void setActive(int region, bool active) override;
-    void setChecked(int region, bool checked) override;
-    QColor color(int region) const override;
-    void setColor(int region, const QColor& color) override;
-    bool show(int region, const RegionState& state) override;
-    bool refreshTable(int region) override;
-    void silence(bool silent) override;
-    void announce() override;
 
 private:
     const Ui::MultiROIWidget& m_form;

@@ -1,7 +1,7 @@
 #include "multiregion/RegionWriter.h"
 
 #include "multiregion/RegionCamera.h"
-#include "multiregion/RegionDisplay.h"
+#include "multiregion/RegionTabs.h"
 
 #include <QCoreApplication>
 
@@ -16,10 +16,9 @@ struct Text
 
 } // namespace
 
-RegionWriter::RegionWriter(RegionCamera& camera, RegionDisplay& display, CameraLink& link,
-                           Hold hold)
+RegionWriter::RegionWriter(RegionCamera& camera, RegionTabs& tabs, CameraLink& link, Hold hold)
     : m_camera(camera)
-    , m_display(display)
+    , m_tabs(tabs)
     , m_link(link)
     , m_hold(std::move(hold))
 {
@@ -27,18 +26,19 @@ RegionWriter::RegionWriter(RegionCamera& camera, RegionDisplay& display, CameraL
 
 RegionWriter::Call::Call(RegionWriter& writer)
     : m_writer(&writer)
-    , m_call(writer.m_queue)
 {
     if (writer.m_calls++ == 0)
-        writer.m_display.silence(true);
+        writer.m_tabs.silence(true);
 }
 
 RegionWriter::Call::~Call()
 {
     if (!m_writer || --m_writer->m_calls > 0)
         return;
-    m_writer->m_display.silence(false);
-    m_writer->m_display.announce(); // whose receivers may let the page go
+    m_writer->m_tabs.silence(false);
+    m_writer->m_tabs.announce(); // whose receivers may let the page go
+    if (m_writer)
+        m_writer->deliver();
 }
 
 RegionWriter::Loading::Loading(RegionWriter& writer)
@@ -62,7 +62,7 @@ bool RegionWriter::select(int region)
     if (selection == RegionCamera::Selection::Done)
         return true;
     if (selection == RegionCamera::Selection::Unknown) {
-        m_untold << region;
+        keepUntold(region);
         if (m_link.isDoubtful())
             m_camera.readOn(); // one feature alone makes no loss
     }
@@ -103,17 +103,17 @@ void RegionWriter::save(int region, const QRect& rect)
 void RegionWriter::setActive(int region, bool on)
 {
     const Call call(*this);
-    const bool wasShown = m_display.isActive(region);
+    const bool wasShown = m_tabs.isActive(region);
     if (!select(region)) {
-        m_display.setChecked(region, wasShown);
+        m_tabs.setChecked(region, wasShown);
         return;
     }
     const bool before = m_camera.readOn().value_or(wasShown);
     const std::optional<bool> now = m_camera.writeOn(on);
     if (!now)
-        m_untold << region;
+        keepUntold(region);
     show(region);
-    m_display.setChecked(region, now.value_or(before));
+    m_tabs.setChecked(region, now.value_or(before));
     if (now && *now != before)
         tellActive(region, *now);
 }
@@ -141,22 +141,26 @@ void RegionWriter::readAll()
     const Loading loading(*this);
     m_untold.clear();
     m_watch.lookBegins();
-    for (int region = 0; region < m_display.count(); ++region) {
+    for (int region = 0; region < m_tabs.count(); ++region) {
         readRegion(region);
-        tellColor(region, m_display.color(region));
+        tellColor(region, m_tabs.color(region));
     }
     returnToCurrent();
     m_watch.looked(true);
 }
 
+/// One after the other, and each second one alone while the camera does not tell.
 void RegionWriter::readUntold()
 {
     if (m_untold.isEmpty())
         return;
     const Call call(*this);
-    const QSet<int> regions = std::exchange(m_untold, {});
-    for (const int region : regions)
+    bool isTold = true;
+    for (int left = m_untold.size(); left > 0 && isTold; --left) {
+        const int region = m_untold.takeFirst();
         readRegion(region);
+        isTold = !m_untold.contains(region);
+    }
     returnToCurrent();
 }
 
@@ -166,7 +170,7 @@ void RegionWriter::readRegion(int region)
     if (!selectUnlessLost(region) || follow(region))
         return;
     // Tables of other inactive regions are filled when they are seen.
-    if (m_display.isActive(region) || region == m_display.current())
+    if (m_tabs.isActive(region) || region == m_tabs.current())
         show(region);
 }
 
@@ -174,23 +178,23 @@ bool RegionWriter::selectUnlessLost(int region)
 {
     if (!m_link.isLost())
         return select(region);
-    m_untold << region;
+    keepUntold(region);
     return false;
 }
 
 void RegionWriter::returnToCurrent()
 {
     if (!m_link.isLost())
-        select(m_display.current());
+        select(m_tabs.current());
 }
 
 void RegionWriter::readSelected(bool withMode)
 {
     const Call call(*this);
     const std::optional<int> region = m_camera.readSelected();
-    if (!region || !m_display.has(*region) || (withMode && follow(*region)))
+    if (!region || !m_tabs.has(*region) || (withMode && follow(*region)))
         return;
-    if (m_display.isActive(*region))
+    if (m_tabs.isActive(*region))
         show(*region);
     else
         refreshTable(*region);
@@ -203,7 +207,7 @@ void RegionWriter::lookIfDue()
     const Call call(*this);
     bool found = false;
     m_watch.lookBegins();
-    for (int region = 0; region < m_display.count(); ++region)
+    for (int region = 0; region < m_tabs.count(); ++region)
         found = (selectUnlessLost(region) && follow(region)) || found;
     returnToCurrent();
     m_watch.looked(found);
@@ -214,8 +218,8 @@ bool RegionWriter::follow(int region)
 {
     const std::optional<bool> isOn = m_camera.readOn();
     if (!isOn)
-        m_untold << region;
-    if (!isOn || *isOn == m_display.isActive(region))
+        keepUntold(region);
+    if (!isOn || *isOn == m_tabs.isActive(region))
         return false;
     show(region);
     tellActive(region, *isOn);
@@ -224,19 +228,58 @@ bool RegionWriter::follow(int region)
 
 void RegionWriter::show(int region)
 {
-    const std::optional<RegionState> state = m_camera.read();
-    if (!state || !m_display.show(region, *state))
-        m_untold << region;
+    refreshTable(region);
+    if (const std::optional<RegionState> state = m_camera.read())
+        m_tabs.show(region, *state);
+    else
+        keepUntold(region);
 }
 
 void RegionWriter::refreshTable(int region)
 {
-    if (!m_display.refreshTable(region))
+    if (!m_tabs.refreshTable(region))
+        keepUntold(region);
+}
+
+void RegionWriter::keepUntold(int region)
+{
+    if (!m_untold.contains(region))
         m_untold << region;
+}
+
+void RegionWriter::tell(const std::function<void()>& emission)
+{
+    m_signals.push_back(emission);
+    deliver();
+}
+
+void RegionWriter::deliver()
+{
+    const QPointer<RegionWriter> self(this);
+    while (self && m_calls == 0 && !m_signals.empty()) {
+        const std::function<void()> next = std::move(m_signals.front());
+        m_signals.pop_front();
+        next();
+    }
 }
 
 void RegionWriter::tellActive(int region, bool active)
 {
-    m_display.setActive(region, active);
-    m_queue.add(this, &RegionWriter::regionActivated, region, active);
+    m_tabs.setActive(region, active);
+    tell([=] { emit regionActivated(region, active); });
+}
+
+void RegionWriter::tellCurrent(int region)
+{
+    tell([=] { emit currentRegionChanged(region); });
+}
+
+void RegionWriter::tellColor(int region, const QColor& color)
+{
+    tell([=] { emit regionColorChanged(region, color); });
+}
+
+void RegionWriter::log(const QString& text)
+{
+    tell([=] { emit loggingMessage(ZebViewerLogMultiRegion, text); });
 }

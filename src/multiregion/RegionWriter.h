@@ -3,20 +3,22 @@
 #include "features/CameraLink.h"
 #include "host/TabExtensionInterface.h"
 #include "multiregion/ModeWatch.h"
-#include "page/SignalQueue.h"
 
 #include <QColor>
+#include <QPointer>
 #include <QRect>
-#include <QSet>
 #include <QVariant>
+#include <QVector>
 
+#include <deque>
 #include <functional>
 #include <memory>
 
 class RegionCamera;
-class RegionDisplay;
+class RegionTabs;
 
-/// Writes the camera's regions and reads them back. Its signals come when all of a call is done.
+/// Writes the camera's regions and reads them back. Its signals come when all of a call is done, so
+/// that a receiver may call the page again, write the camera or delete the page.
 ///
 /// What the camera does not tell stays as it is shown, and is read with readUntold().
 class RegionWriter : public QObject
@@ -27,7 +29,7 @@ public:
     /// Holds up the page for as long as what it answers lives.
     using Hold = std::function<std::shared_ptr<void>()>;
 
-    RegionWriter(RegionCamera& camera, RegionDisplay& display, CameraLink& link, Hold hold);
+    RegionWriter(RegionCamera& camera, RegionTabs& tabs, CameraLink& link, Hold hold);
 
     /// While it lives the regions are written one after the other; they are not read as a whole.
     class Loading
@@ -42,8 +44,8 @@ public:
         std::shared_ptr<void> m_hold;
     };
 
-    /// A call of the page's, within others perhaps: what it changes on the display is announced
-    /// when the outermost is done, and then the signals come.
+    /// A call of the page's, within others perhaps: what it changes on the tabs is announced when
+    /// the outermost is done, and then the signals come.
     class Call
     {
     public:
@@ -53,10 +55,8 @@ public:
 
     private:
         const QPointer<RegionWriter> m_writer;
-        const SignalQueue::Call m_call;
     };
 
-    SignalQueue& queue() { return m_queue; }
     ModeWatch& watch() { return m_watch; }
 
     bool isCameraLost() const { return m_link.isLost(); }
@@ -80,15 +80,11 @@ public:
     /// Looks for regions that another client has switched, when that is due; asked once a second.
     void lookIfDue();
 
-    void tellCurrent(int region) { m_queue.add(this, &RegionWriter::currentRegionChanged, region); }
-    void tellColor(int region, const QColor& color)
-    {
-        m_queue.add(this, &RegionWriter::regionColorChanged, region, color);
-    }
-    void log(const QString& text)
-    {
-        m_queue.add(this, &RegionWriter::loggingMessage, ZebViewerLogMultiRegion, text);
-    }
+    // When no call is under way any more:
+    void tell(const std::function<void()>& emission);
+    void tellCurrent(int region);
+    void tellColor(int region, const QColor& color);
+    void log(const QString& text);
 
 signals:
     void loggingMessage(ZebViewerLogCategory category, const QString& text);
@@ -104,14 +100,16 @@ private:
     void show(int region);
     void refreshTable(int region);
     void tellActive(int region, bool active);
+    void keepUntold(int region);
+    void deliver();
 
     RegionCamera& m_camera;
-    RegionDisplay& m_display;
+    RegionTabs& m_tabs;
     CameraLink& m_link;
     const Hold m_hold;
-    SignalQueue m_queue{this};
     ModeWatch m_watch;
+    std::deque<std::function<void()>> m_signals;
+    QVector<int> m_untold; ///< regions, in the order in which they are read again
     int m_calls = 0;
     bool m_isLoading = false;
-    QSet<int> m_untold;
 };

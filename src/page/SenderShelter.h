@@ -4,6 +4,8 @@
 #include <QVector>
 #include <QWidget>
 
+#include <memory>
+
 /// Children of a page whose signals are being handled. Qt still works on them afterwards: they
 /// outlive a page that a receiver deletes.
 class SenderShelter
@@ -12,7 +14,7 @@ public:
     SenderShelter() = default;
     ~SenderShelter()
     {
-        for (const QPointer<QWidget>& sender : qAsConst(m_senders)) {
+        for (const QPointer<QWidget>& sender : qAsConst(*m_senders)) {
             if (!sender)
                 continue;
             sender->setParent(nullptr);
@@ -21,27 +23,14 @@ public:
     }
     Q_DISABLE_COPY_MOVE(SenderShelter)
 
-    class Handling
+    /// @return lives as long as the signal is handled
+    [[nodiscard]] std::shared_ptr<void> handling(QObject* sender)
     {
-    public:
-        Handling(SenderShelter& shelter, const QWidget* page, QObject* sender)
-            : m_shelter(shelter)
-            , m_page(page)
-        {
-            m_shelter.m_senders << qobject_cast<QWidget*>(sender);
-        }
-        ~Handling()
-        {
-            if (m_page)
-                m_shelter.m_senders.removeLast();
-        }
-        Q_DISABLE_COPY_MOVE(Handling)
-
-    private:
-        SenderShelter& m_shelter;
-        const QPointer<const QWidget> m_page;
-    };
+        m_senders->append(qobject_cast<QWidget*>(sender));
+        return {nullptr, [senders = m_senders](void*) { senders->removeLast(); }};
+    }
 
 private:
-    QVector<QPointer<QWidget>> m_senders;
+    const std::shared_ptr<QVector<QPointer<QWidget>>> m_senders
+        = std::make_shared<QVector<QPointer<QWidget>>>();
 };

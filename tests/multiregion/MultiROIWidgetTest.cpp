@@ -126,36 +126,6 @@ private slots:
         QCOMPARE(open.contradiction(), QString());
     }
 
-    void writesSharedValuesToTheGroup()
-    {
-        MultiROIPage open("multi-region", "Horizontal");
-        open.loadDefaults();
-        open.page->setFeatureValue(2, 0, "SubRegionHeight", 600);
-        open.page->setFeatureValue(2, -1, "SubRegionWidth", 400);
-        for (int region = 0; region < 4; ++region) {
-            QCOMPARE(open.onCamera(region).height(), 600);
-            QCOMPARE(open.onCamera(region).width(), region == 2 ? 400 : 512);
-        }
-        QCOMPARE(open.contradiction(), QString());
-        QCOMPARE(open.tabs->currentIndex(), 0);
-    }
-
-    /// Six regions as tiles: rows and columns are those of the region, whatever master is named.
-    void keepsOtherRowsApart()
-    {
-        const MultiROIPage open("multi-region-6", "Tile");
-        open.loadDefaults();
-        open.page->saveNewRegionGeometry(4, {40, 1600, 160, 160});
-        open.page->saveNewRegionGeometry(5, {400, 1600, 160, 160});
-        const QRect first = open.onCamera(0);
-        open.page->setFeatureValue(5, 0, "SubRegionOffsetY", 1700);
-        QCOMPARE(open.onCamera(0), first);
-        QCOMPARE(open.onCamera(4).y(), 1700);
-        QCOMPARE(open.onCamera(5).y(), 1700);
-        open.settle();
-        QCOMPARE(open.contradiction(), QString());
-    }
-
     /// What is being typed is written before a drag begins, which then has the new shape to go by.
     void commitsBeforeADrag()
     {
@@ -272,35 +242,6 @@ private slots:
         QCOMPARE(open.active(), QString("0123"));
     }
 
-    void refusals()
-    {
-        MultiROIPage open("multi-region", "Free");
-        for (const char* feature : {"SubRegionMode", "MultipleRegionEnable"})
-            open.camera->failures().add(feature, sim::Operation::SetValue, sim::Failure::refuse());
-        open.button(1)->click();
-        QCOMPARE(open.contradiction(), QString());
-        auto* const enable = open.page->findChild<QCheckBox*>("chkMultipleRegionEnable");
-        QSignalSpy told(open.page.get(), &MultiROIWidget::multipleRegionsEnabled);
-        const bool isOn = enable->isChecked();
-        enable->setChecked(!isOn);
-        QCOMPARE(told.value(0), QVariantList{isOn});
-    }
-
-    /// A region that the camera does not have is not asked for, where that would be another one.
-    void noSuchRegion_data()
-    {
-        const DataTable row([](const QByteArray& model, const QString& line) {
-            const MultiROIPage open(model, "Free");
-            open.page->setSubRegionSelector(1);
-            open.page->setSubRegionSelector(4711);
-            QCOMPARE(open.log, QStringList(line));
-            QCOMPARE(open.camera->feature("SubRegionSelector").text().back(), '1');
-        });
-        row("entries", "multi-region", "Set 'SubRegionSelector' = 'Region4711' failed!");
-        row("numbers", "multi-region-integer", "Set 'SubRegionSelector' = 4711 failed!");
-    }
-    void noSuchRegion() { runRow(); }
-
     /// A camera that does not notify may move regions as another arrangement is chosen.
     void readsAfterTheArrangement()
     {
@@ -311,91 +252,6 @@ private slots:
         open.choose("Vertical");
         QCOMPARE(open.contradiction(), QString());
     }
-
-    /// Reads are refused for a while: what is shown stays, and in the end agrees with the camera.
-    void refusedReadsEnd()
-    {
-        MultiROIPage open("multi-region", "Free");
-        open.loadDefaults();
-        for (std::uint64_t seed = 1; seed <= 20; ++seed) {
-            open.camera->failures().add(sim::FailureInjector::anyFeature, sim::Operation::GetValue,
-                                        sim::Failure::refuse(),
-                                        sim::Occurrence::randomly(0.05, seed));
-            open.switchAsOther(int(seed % 4), seed % 3 == 0 ? "Off" : "On");
-            open.page->setFeatureValue(int(seed % 4), -1, "SubRegionWidth", int(160 + 8 * seed));
-            open.page->saveNewRegionGeometry(int(seed % 4), {int(seed) * 8, 8, 320, 240});
-            open.settle();
-            for (int region = 0; region < 4; ++region)
-                QVERIFY(open.label->regionRectangle(region).width() > 0);
-            open.camera->failures().clear();
-            open.settle();
-            QCOMPARE(open.contradiction(), QString());
-        }
-    }
-
-    /// The viewer may close the page, or take its label, in any receiver of its signals.
-    void endsInAnySignal_data()
-    {
-        using Action = std::function<void(const MultiROIPage&)>;
-        const DataTable row([](const Action& action) {
-            for (int run = 0; run < 16; ++run) {
-                const bool isLabel = run % 2 > 0;
-                MultiROIPage open("multi-region", "Horizontal");
-                open.loadDefaults();
-                bool isTold = false;
-                const auto endAt = [&](auto* sender, auto signal) {
-                    connect(sender, signal, qApp, [&open, &isTold, isLabel] {
-                        isTold = true;
-                        if (isLabel)
-                            delete open.page->findChild<MultiRubberBandLabel*>();
-                        else
-                            open.page.reset();
-                    });
-                };
-                using Page = MultiROIWidget;
-                using Label = MultiRubberBandLabel;
-                const std::function<void()> connections[]
-                    = {[&] { endAt(open.page.get(), &Page::loggingMessage); },
-                       [&] { endAt(open.page.get(), &Page::multipleRegionsEnabled); },
-                       [&] { endAt(open.page.get(), &Page::regionColorChanged); },
-                       [&] { endAt(open.page.get(), &Page::currentRegionChanged); },
-                       [&] { endAt(open.page.get(), &Page::regionActivated); },
-                       [&] { endAt(open.label, &Label::regionColorChanged); },
-                       [&] { endAt(open.label, &Label::regionRangeChanged); },
-                       [&] { endAt(open.label, &Label::highlightSelectedRegion); }};
-                connections[run / 2]();
-                Answers answers({"OK", "OK"});
-                action(open);
-                if (isLabel)
-                    open.settle();
-                QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-                QCOMPARE(!open.page, isTold && !isLabel);
-            }
-        });
-        row("button", [](const MultiROIPage& open) { open.button(2)->click(); });
-        row("switch", [](const MultiROIPage& open) {
-            open.page->findChild<QCheckBox*>("chkMultipleRegionEnable")->click();
-        });
-        row("arrangement", [](const MultiROIPage& open) {
-            auto* const box = open.page->findChild<QComboBox*>();
-            QTest::keyClick(box, Qt::Key_Up);
-        });
-        row("refused tab", [](const MultiROIPage& open) {
-            open.camera->failures().add("SubRegionSelector", sim::Operation::SetValue,
-                                        sim::Failure::refuse());
-            QTest::keyClick(open.tabs->tabBar(), Qt::Key_Right);
-        });
-        row("refused value", [](const MultiROIPage& open) {
-            open.camera->failures().add("SubRegionWidth", sim::Operation::SetValue,
-                                        sim::Failure::refuse());
-            open.page->setFeatureValue(1, -1, "SubRegionWidth", 320);
-        });
-        row("defaults", [](const MultiROIPage& open) {
-            Answers yes({"Yes"});
-            open.page->loadDefaultConfiguration();
-        });
-    }
-    void endsInAnySignal() { runRow(); }
 
     void manyTabs()
     {

@@ -1,83 +1,8 @@
 #include "multiregion/RegionWriter.h"
-#include "MessageHandlerGuard.h"
-#include "SimulatedCamera.h"
-#include "features/CameraLink.h"
-#include "multiregion/RegionDisplay.h"
+#include "DataTable.h"
+#include "multiregion/MultiROIPage.h"
 
-#include "simulator/Model.h"
-
-#include <QtTest>
-
-namespace {
-
-class Display : public RegionDisplay
-{
-public:
-    int count() const override { return 4; }
-    int current() const override { return 0; }
-    void open(int) override { }
-    QString mode() const override { return "Free"; }
-    bool isActive(int region) const override { return m_active[region]; }
-    void setActive(int region, bool active) override { m_active[region] = active; }
-    void setChecked(int region, bool checked) override { m_checked[region] = checked; }
-    QColor color(int) const override { return Qt::blue; }
-    void setColor(int, const QColor&) override { }
-    bool show(int region, const RegionState& state) override
-    {
-        m_shown[region] = state.geometry;
-        return true;
-    }
-    bool refreshTable(int) override { return true; }
-    void silence(bool silent) override { m_isSilent = silent; }
-    void announce() override { ++m_announced; }
-
-    bool m_active[4] = {};
-    bool m_checked[4] = {};
-    QRect m_shown[4];
-    bool m_isSilent = false;
-    int m_announced = 0;
-};
-
-struct Regions
-{
-    Regions()
-        : camera(sim::createCamera("multi-region"))
-        , link(std::make_shared<CameraLink>())
-        , manager(wrappers(*camera), link)
-        , regions(&manager)
-        , writer(std::make_unique<RegionWriter>(regions, display, *link,
-                                                [] { return std::make_shared<int>(); }))
-    {
-        QObject::connect(writer.get(), &RegionWriter::loggingMessage, writer.get(),
-                         [this](ZebViewerLogCategory, const QString& text) { log << text; });
-        writer->readAll();
-        display.m_announced = 0;
-        camera->journal().clear();
-    }
-
-    QString written(const char* without = "SubRegionSelector") const
-    {
-        QStringList names;
-        for (const sim::JournalEntry& entry : camera->journal().writes()) {
-            if (entry.feature != without)
-                names << QString::fromStdString(entry.feature).remove("SubRegion");
-        }
-        camera->journal().clear();
-        return names.join(' ');
-    }
-
-    bool isOn(int region) const { return camera->feature("SubRegionMode").textAt(region) == "On"; }
-
-    std::unique_ptr<sim::Camera> camera;
-    std::shared_ptr<CameraLink> link;
-    FeatureManager manager;
-    RegionCamera regions;
-    Display display;
-    std::unique_ptr<RegionWriter> writer;
-    QStringList log;
-};
-
-} // namespace
+#include <QCheckBox>
 
 class RegionWriterTest : public QObject
 {
@@ -88,127 +13,246 @@ private slots:
     /// something off.
     void writesInOrder()
     {
-        Regions test;
-        test.writer->save(0, {0, 0, 640, 480});
-        test.written();
-        test.writer->save(0, {8, 8, 320, 240});
-        QCOMPARE(test.written(), QString("Width OffsetX Height OffsetY Mode"));
-        test.writer->save(0, {16, 16, 640, 480});
-        QCOMPARE(test.written(), QString("OffsetX Width OffsetY Height Mode"));
-        test.writer->save(1, {2432, 1784, 160, 160});
-        test.writer->save(0, {0, 0, 2592, 1944});
-        test.writer->save(1, {8, 8, 640, 480});
-        QCOMPARE(test.display.m_shown[1], QRect(8, 8, 640, 480));
-        test.writer->save(1, {});
-        QCOMPARE(test.written("SubRegionMode").count("Mode"), 0);
-        QCOMPARE(test.display.m_shown[1], QRect(0, 0, 16, 8));
-        QVERIFY(test.display.m_active[1]);
+        const MultiROIPage open("multi-region", "Free");
+        open.page->saveNewRegionGeometry(0, {0, 0, 640, 480});
+        written(open);
+        open.page->saveNewRegionGeometry(0, {8, 8, 320, 240});
+        QCOMPARE(written(open), QString("Width OffsetX Height OffsetY Mode"));
+        open.page->saveNewRegionGeometry(0, {16, 16, 640, 480});
+        QCOMPARE(written(open), QString("OffsetX Width OffsetY Height Mode"));
+        open.page->saveNewRegionGeometry(1, {2432, 1784, 160, 160});
+        open.page->saveNewRegionGeometry(0, {0, 0, 2592, 1944});
+        open.page->saveNewRegionGeometry(1, {8, 8, 640, 480});
+        QCOMPARE(open.label->regionRectangle(1), QRect(8, 8, 640, 480));
+        written(open);
+        open.page->saveNewRegionGeometry(1, {});
+        QVERIFY(!written(open).contains("Mode"));
+        QCOMPARE(open.label->regionRectangle(1), QRect(0, 0, 16, 8));
+        QCOMPARE(open.active(), QString("01"));
     }
 
-    /// By then all is done: a receiver selects another region, or lets the writer go.
+    /// By then all is done: a receiver may select another region.
     void signalsComeLast()
     {
-        Regions test;
+        const MultiROIPage open("multi-region", "Free");
         QStringList told;
         const auto note = [&](const QString& what) {
             told << what;
-            QVERIFY(test.isOn(2));
-            QVERIFY(!test.display.m_isSilent);
-            QCOMPARE(test.display.m_announced, 1);
-            test.camera->writeAsOtherClient("SubRegionSelector", "Region3");
+            QVERIFY(open.isOn(2) && !open.label->signalsBlocked());
+            open.writeAsOther("SubRegionSelector", "Region3");
         };
-        connect(test.writer.get(), &RegionWriter::regionActivated, this,
+        connect(open.page.get(), &MultiROIWidget::regionActivated, this,
                 [&](int region, bool on) { note(QString("%1 %2").arg(region).arg(on)); });
-        connect(test.writer.get(), &RegionWriter::currentRegionChanged, this,
+        connect(open.page.get(), &MultiROIWidget::currentRegionChanged, this,
                 [&](int region) { note(QString("current %1").arg(region)); });
-        QSignalSpy colors(test.writer.get(), &RegionWriter::regionColorChanged);
-        test.writer->save(2, {0, 0, 640, 480});
+        const QSignalSpy colors(open.page.get(), &MultiROIWidget::regionColorChanged);
+        open.page->saveNewRegionGeometry(2, {0, 0, 640, 480});
         QCOMPARE(told, QStringList({"2 1", "current 2"}));
         QCOMPARE(colors.size(), 4);
-        connect(test.writer.get(), &RegionWriter::regionColorChanged, this,
-                [&test] { test.writer.reset(); });
-        test.writer->setFeature({0, 2}, "SubRegionHeight", 200);
-        QVERIFY(!test.writer);
-        QCOMPARE(test.camera->feature("SubRegionHeight").integerAt(2), std::int64_t{200});
-        QCOMPARE(told.size(), 2);
+        open.page->setFeatureValue(2, -1, "SubRegionHeight", 200);
+        QCOMPARE(open.onCamera(2).height(), 200);
     }
 
-    /// Nothing is written to another region, and the button shows what is.
-    void refusedSelections()
+    void writesSharedValuesToTheGroup()
     {
-        Regions test;
-        test.camera->failures().add("SubRegionSelector", sim::Operation::SetValue,
+        MultiROIPage open("multi-region", "Horizontal");
+        open.loadDefaults();
+        open.page->setFeatureValue(2, 0, "SubRegionHeight", 600);
+        open.page->setFeatureValue(2, -1, "SubRegionWidth", 400);
+        for (int region = 0; region < 4; ++region) {
+            QCOMPARE(open.onCamera(region).height(), 600);
+            QCOMPARE(open.onCamera(region).width(), region == 2 ? 400 : 512);
+        }
+        QCOMPARE(open.contradiction(), QString());
+        QCOMPARE(open.tabs->currentIndex(), 0);
+    }
+
+    /// Six regions as tiles: rows and columns are those of the region, whatever master is named.
+    void keepsOtherRowsApart()
+    {
+        const MultiROIPage open("multi-region-6", "Tile");
+        open.loadDefaults();
+        open.page->saveNewRegionGeometry(4, {40, 1600, 160, 160});
+        open.page->saveNewRegionGeometry(5, {400, 1600, 160, 160});
+        const QRect first = open.onCamera(0);
+        open.page->setFeatureValue(5, 0, "SubRegionOffsetY", 1700);
+        QCOMPARE(open.onCamera(0), first);
+        QCOMPARE(open.onCamera(4).y(), 1700);
+        QCOMPARE(open.onCamera(5).y(), 1700);
+        open.settle();
+        QCOMPARE(open.contradiction(), QString());
+    }
+
+    void refusals()
+    {
+        MultiROIPage open("multi-region", "Free");
+        open.camera->failures().add("SubRegionSelector", sim::Operation::SetValue,
                                     sim::Failure::refuse());
-        test.writer->save(1, {0, 0, 640, 480});
-        test.display.m_checked[1] = true;
-        test.writer->setActive(1, true);
-        test.writer->setFeature({1}, "SubRegionMode", "On");
-        QCOMPARE(test.written(), QString());
-        QVERIFY(!test.display.m_checked[1]);
-        QVERIFY(test.log.contains("Set 'SubRegionSelector' = 'Region1' failed!"));
-        QCOMPARE(test.log
-                     .filter("SubRegion: 1, Saving feature 'SubRegionMode' to value=On"
-                             " failed.")
+        open.page->saveNewRegionGeometry(1, {0, 0, 640, 480});
+        open.page->setFeatureValue(1, -1, "SubRegionMode", "On");
+        open.button(1)->click();
+        QCOMPARE(written(open), QString());
+        QVERIFY(open.log.contains("Set 'SubRegionSelector' = 'Region1' failed!"));
+        QCOMPARE(open.log.filter("SubRegion: 1, Saving feature 'SubRegionMode' to value=On failed.")
                      .size(),
                  1);
+        open.camera->failures().clear();
+        for (const char* feature : {"SubRegionMode", "MultipleRegionEnable"})
+            open.camera->failures().add(feature, sim::Operation::SetValue, sim::Failure::refuse());
+        open.button(1)->click();
+        QCOMPARE(open.contradiction(), QString());
+        auto* const enable = open.page->findChild<QCheckBox*>("chkMultipleRegionEnable");
+        QSignalSpy told(open.page.get(), &MultiROIWidget::multipleRegionsEnabled);
+        const bool isOn = enable->isChecked();
+        enable->setChecked(!isOn);
+        QCOMPARE(told.value(0), QVariantList{isOn});
     }
 
-    /// What is not told stays as it was shown; it is read later, and nothing else.
-    void keepsWhatIsNotTold_data()
+    /// A region that the camera does not have is not asked for, where that would be another one.
+    void noSuchRegion_data()
     {
-        QTest::addColumn<QString>("untold");
-        QTest::addColumn<QString>("changed");
-        QTest::newRow("selector") << "SubRegionSelector"
-                                  << "SubRegionWidth";
-        QTest::newRow("mode") << "SubRegionMode"
-                              << "SubRegionMode";
-        QTest::newRow("width") << "SubRegionWidth"
-                               << "SubRegionWidth";
+        const DataTable row([](const QByteArray& model, const QString& line) {
+            const MultiROIPage open(model, "Free");
+            open.page->setSubRegionSelector(1);
+            open.page->setSubRegionSelector(4711);
+            QCOMPARE(open.log, QStringList(line));
+            QCOMPARE(open.camera->feature("SubRegionSelector").text().back(), '1');
+        });
+        row("entries", "multi-region", "Set 'SubRegionSelector' = 'Region4711' failed!");
+        row("numbers", "multi-region-integer", "Set 'SubRegionSelector' = 4711 failed!");
     }
-    void keepsWhatIsNotTold()
+    void noSuchRegion() { runRow(); }
+
+    /// What is never told stays as it is shown, and one region a second is asked for it.
+    void asksOnceASecond_data()
     {
-        QFETCH(QString, untold);
-        QFETCH(QString, changed);
-        Regions test;
-        test.writer->save(2, {8, 8, 640, 480});
-        const bool isMode = changed == "SubRegionMode";
-        test.camera->forceAt(changed.toStdString(), 2, isMode ? sim::Value("Off") : 320);
-        const auto isAsBefore = [&test, isMode] {
-            return isMode ? test.display.m_active[2] : test.display.m_shown[2].width() == 640;
-        };
-        test.camera->failures().add(untold.toStdString(), sim::Operation::GetValue,
-                                    sim::Failure::refuse());
-        test.writer->readAll();
-        QVERIFY(isAsBefore());
-        test.camera->failures().clear();
-        test.writer->readUntold();
-        QVERIFY(!isAsBefore());
-        test.camera->journal().clear();
-        test.writer->readUntold();
-        QCOMPARE(test.camera->journal().count(), std::size_t{0});
+        const DataTable row([](const std::string& untold, const std::string& changed) {
+            const MultiROIPage open("multi-region", "Free");
+            open.loadDefaults();
+            const QRect before = open.onCamera(2);
+            open.camera->failures().add(untold, sim::Operation::GetValue, sim::Failure::refuse());
+            const bool isMode = changed == "SubRegionMode";
+            open.camera->forceAt(changed, 2, isMode ? sim::Value("Off") : 320);
+            open.page->hide();
+            open.page->show();
+            open.page->updateTimer();
+            for (int second = 0; second < 9; ++second) {
+                open.camera->journal().clear();
+                open.page->updateTimer();
+                QVERIFY(open.camera->journal().writes().size() <= 2);
+                QCOMPARE(open.label->regionRectangle(2), before);
+                QVERIFY(open.label->isRegionShown(2));
+            }
+            open.camera->failures().clear();
+            open.settle();
+            QCOMPARE(open.contradiction(), QString());
+            open.camera->journal().clear();
+            open.page->updateTimer();
+            QVERIFY(open.camera->journal().writes().empty());
+        });
+        row("selector", "SubRegionSelector", "SubRegionWidth");
+        row("mode", "SubRegionMode", "SubRegionMode");
+        row("width", "SubRegionWidth", "SubRegionWidth");
+    }
+    void asksOnceASecond() { runRow(); }
+
+    /// Reads are refused for a while: what is shown stays, and in the end agrees with the camera.
+    void refusedReadsEnd()
+    {
+        MultiROIPage open("multi-region", "Free");
+        open.loadDefaults();
+        for (std::uint64_t seed = 1; seed <= 20; ++seed) {
+            open.camera->failures().add(sim::FailureInjector::anyFeature, sim::Operation::GetValue,
+                                        sim::Failure::refuse(),
+                                        sim::Occurrence::randomly(0.05, seed));
+            open.switchAsOther(int(seed % 4), seed % 3 == 0 ? "Off" : "On");
+            open.page->setFeatureValue(int(seed % 4), -1, "SubRegionWidth", int(160 + 8 * seed));
+            open.page->saveNewRegionGeometry(int(seed % 4), {int(seed) * 8, 8, 320, 240});
+            open.settle();
+            for (int region = 0; region < 4; ++region)
+                QVERIFY(open.label->regionRectangle(region).width() > 0);
+            open.camera->failures().clear();
+            open.settle();
+            QCOMPARE(open.contradiction(), QString());
+        }
     }
 
-    /// A reading ends at the loss, and is taken up again.
-    void stopsAtALoss()
+    /// The viewer may close the page, or take its label, in any receiver of its signals.
+    void endsInAnySignal_data()
     {
-        Regions test;
-        test.writer->save(3, {0, 0, 640, 480});
-        test.camera->lose(std::chrono::milliseconds(101));
-        test.camera->journal().clear();
-        test.writer->readAll();
-        QVERIFY(test.link->isLost());
-        QVERIFY(test.camera->journal().count() < 12);
-        QCOMPARE(test.log.size(), 1);
-        QVERIFY(test.display.m_active[3]);
-        test.camera->recover();
-        test.camera->forceAt("SubRegionMode", 3, "Off");
-        QVERIFY(test.regions.readOn());
-        test.writer->readUntold();
-        QVERIFY(!test.display.m_active[3]);
+        using Action = std::function<void(const MultiROIPage&)>;
+        const DataTable row([](const Action& action) {
+            for (int run = 0; run < 16; ++run) {
+                const bool isLabel = run % 2 > 0;
+                MultiROIPage open("multi-region", "Horizontal");
+                open.loadDefaults();
+                bool isTold = false;
+                const auto endAt = [&](auto* sender, auto signal) {
+                    connect(sender, signal, qApp, [&open, &isTold, isLabel] {
+                        isTold = true;
+                        if (isLabel)
+                            delete open.page->findChild<MultiRubberBandLabel*>();
+                        else
+                            open.page.reset();
+                    });
+                };
+                using Page = MultiROIWidget;
+                using Label = MultiRubberBandLabel;
+                const std::function<void()> connections[]
+                    = {[&] { endAt(open.page.get(), &Page::loggingMessage); },
+                       [&] { endAt(open.page.get(), &Page::multipleRegionsEnabled); },
+                       [&] { endAt(open.page.get(), &Page::regionColorChanged); },
+                       [&] { endAt(open.page.get(), &Page::currentRegionChanged); },
+                       [&] { endAt(open.page.get(), &Page::regionActivated); },
+                       [&] { endAt(open.label, &Label::regionColorChanged); },
+                       [&] { endAt(open.label, &Label::regionRangeChanged); },
+                       [&] { endAt(open.label, &Label::highlightSelectedRegion); }};
+                connections[run / 2]();
+                Answers answers({"OK", "OK"});
+                action(open);
+                if (isLabel)
+                    open.settle();
+                QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+                QCOMPARE(!open.page, isTold && !isLabel);
+            }
+        });
+        row("button", [](const MultiROIPage& open) { open.button(2)->click(); });
+        row("switch", [](const MultiROIPage& open) {
+            open.page->findChild<QCheckBox*>("chkMultipleRegionEnable")->click();
+        });
+        row("arrangement", [](const MultiROIPage& open) {
+            auto* const box = open.page->findChild<QComboBox*>();
+            QTest::keyClick(box, Qt::Key_Up);
+        });
+        row("refused tab", [](const MultiROIPage& open) {
+            open.camera->failures().add("SubRegionSelector", sim::Operation::SetValue,
+                                        sim::Failure::refuse());
+            QTest::keyClick(open.tabs->tabBar(), Qt::Key_Right);
+        });
+        row("refused value", [](const MultiROIPage& open) {
+            open.camera->failures().add("SubRegionWidth", sim::Operation::SetValue,
+                                        sim::Failure::refuse());
+            open.page->setFeatureValue(1, -1, "SubRegionWidth", 320);
+        });
+        row("defaults", [](const MultiROIPage& open) {
+            Answers yes({"Yes"});
+            open.page->loadDefaultConfiguration();
+        });
     }
+    void endsInAnySignal() { runRow(); }
 
 private:
-    const MessageHandlerGuard m_guard;
+    /// The features written since it was asked last, but for the selector.
+    static QString written(const MultiROIPage& open)
+    {
+        QStringList names;
+        for (const sim::JournalEntry& entry : open.camera->journal().writes()) {
+            if (entry.feature != "SubRegionSelector")
+                names << QString::fromStdString(entry.feature).remove("SubRegion");
+        }
+        open.camera->journal().clear();
+        return names.join(' ');
+    }
 };
 
 QTEST_MAIN(RegionWriterTest)

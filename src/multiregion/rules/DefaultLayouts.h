@@ -1,6 +1,6 @@
 #pragma once
 
-#include "multiregion/rules/SizeRange.h"
+#include "multiregion/rules/RegionPlacement.h"
 
 #include <QMap>
 #include <QRect>

@@ -1,9 +1,15 @@
 #pragma once
 
-#include "multiregion/rules/SizeRange.h"
-
 #include <QRect>
 #include <Qt>
+
+/// What the camera allows for a size, sensor pixels. A bound of 0 bounds nothing.
+struct SizeRange
+{
+    double minimum = 0.0;
+    double maximum = 0.0;
+    double increment = 0.0;
+};
 
 /// What the place of a newly activated region depends on, in sensor pixels. Regions follow one
 /// another along an axis.

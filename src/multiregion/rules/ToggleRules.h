@@ -2,6 +2,7 @@
 
 #include "multiregion/rules/ArrangementMode.h"
 
+#include <QString>
 #include <QVector>
 #include <Qt>
 
@@ -35,3 +36,16 @@ struct Toggle
 
 /// @param active one entry a region
 Toggle toggleFor(ArrangementMode mode, int region, bool on, const QVector<bool>& active);
+
+struct RegionButtonState
+{
+    bool enabled = true;
+    QString toolTip; ///< why the region cannot be activated; empty otherwise
+};
+
+/// Which regions can be switched so that the arrangement stays satisfiable, one entry each. Region
+/// 0 has no rule: it is free unless the camera streams.
+/// @param active one entry a region: whether it is on
+/// @param checked one entry a region: whether its button is, also when the region found no place
+QVector<RegionButtonState> regionButtonStates(ArrangementMode mode, const QVector<bool>& active,
+                                              const QVector<bool>& checked, bool streaming);

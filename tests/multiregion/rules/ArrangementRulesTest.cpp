@@ -1,7 +1,6 @@
 #include "DataTable.h"
 #include "multiregion/rules/DefaultLayouts.h"
-#include "multiregion/rules/RegionButtonRules.h"
-#include "multiregion/rules/RegionPlacement.h"
+#include "multiregion/rules/ToggleRules.h"
 #include "sensor/PixelRect.h"
 #include "sensor/Span.h"
 
