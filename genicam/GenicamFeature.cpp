@@ -44,8 +44,6 @@ GenicamFeature::GenicamFeature(ArvGcFeatureNode* node, Place place,
 {
 }
 
-// Reading
-
 ZebErrorType GenicamFeature::read(Kind kind, ZebFeatureDataType type, const DeviceLink::Work& work)
 {
     return m_type == type ? m_link->perform(work, &m_readings[kind]) : ZebErrorBadParameter;
@@ -140,8 +138,6 @@ std::string GenicamFeature::readText()
     return value;
 }
 
-// Lists
-
 ZebErrorType GenicamFeature::GetValues(const char** values, Count& count)
 {
     std::vector<const char*> names;
@@ -165,7 +161,7 @@ ZebErrorType GenicamFeature::GetEntry(ZebCPP::EnumEntry& entry, const char* name
     if (m_type != ZebFeatureDataEnum || !name)
         return ZebErrorBadParameter;
     entry = {};
-    return findEntry(m_entries, name) ? ZebErrorSuccess : ZebErrorNotFound;
+    return findEntry(m_entries, name, nullptr) ? ZebErrorSuccess : ZebErrorNotFound;
 }
 
 ZebErrorType GenicamFeature::GetEntries(ZebCPP::EnumEntry* entries, Count& count)
@@ -174,24 +170,18 @@ ZebErrorType GenicamFeature::GetEntries(ZebCPP::EnumEntry* entries, Count& count
     return m_type == ZebFeatureDataEnum ? answerList(list, entries, count) : ZebErrorBadParameter;
 }
 
-ZebErrorType GenicamFeature::IsValueAvailable(Integer value, bool& available)
+template <typename Key> ZebErrorType GenicamFeature::isEntryThere(const Key& key, bool& is)
 {
     return read(OfEntries, ZebFeatureDataEnum, [&](GError** error) {
-        const std::optional<Entry> entry = findEntry(m_entries, value, error);
-        available = entry && isThere(entry->node, error);
+        const std::optional<Entry> entry = findEntry(m_entries, key, error);
+        is = entry && isThere(entry->node, error);
         return ZebErrorSuccess;
     });
 }
 
-ZebErrorType GenicamFeature::IsValueAvailable(const char* value, bool& available)
+ZebErrorType GenicamFeature::IsValueAvailable(const char* value, bool& is)
 {
-    if (!value)
-        return ZebErrorBadParameter;
-    return read(OfEntries, ZebFeatureDataEnum, [&](GError** error) {
-        const std::optional<Entry> entry = findEntry(m_entries, value);
-        available = entry && isThere(entry->node, error);
-        return ZebErrorSuccess;
-    });
+    return value ? isEntryThere(std::string(value), is) : ZebErrorBadParameter;
 }
 
 // The library knows of none.
@@ -216,8 +206,6 @@ ZebErrorType GenicamFeature::GetSelectedFeatures(ZebCPP::FeaturePtr* features, C
         return answerList(selected, features, count);
     });
 }
-
-// Range and increment
 
 template <typename Number> ZebErrorType GenicamFeature::readLimits(Range<Number>& range)
 {
@@ -253,8 +241,6 @@ ZebErrorType GenicamFeature::HasIncrement(bool& hasIncrement)
     hasIncrement = m_type == ZebFeatureDataInt || range.increment > 0.0;
     return result;
 }
-
-// Writing
 
 // A masked register is read and written as a whole, so it must not be an old one that is read.
 ZebErrorType GenicamFeature::send(const DeviceLink::Work& work)
@@ -321,8 +307,6 @@ ZebErrorType GenicamFeature::IsCommandDone(bool& done)
     });
 }
 
-// What needs no camera
-
 ZebErrorType GenicamFeature::tell(const std::string& text, char* buffer, Count& length) const
 {
     if (m_link->isClosed())
@@ -358,38 +342,21 @@ ZebErrorType GenicamFeature::UnregisterObserver(const ZebCPP::IFeatureObserverPt
     return m_link->isClosed() ? ZebErrorBadHandle : m_watch->remove(m_place.index, observer);
 }
 
-// Access
-
-ZebErrorType GenicamFeature::readAccess(Access& access)
+ZebErrorType GenicamFeature::GetFlags(ZebFeatureFlagsType& flags)
 {
     return read(OfAccess, m_type, [&](GError** error) {
-        access = accessOf(m_node, error);
+        const Access access = accessOf(m_node, error);
+        flags = static_cast<ZebFeatureFlagsType>((access.isReadable ? ZebFeatureFlagsRead : 0U)
+                                                 | (access.isWritable ? ZebFeatureFlagsWrite : 0U));
         return ZebErrorSuccess;
     });
 }
 
-ZebErrorType GenicamFeature::IsReadable(bool& readable)
+ZebErrorType GenicamFeature::has(ZebFeatureFlagsType flag, bool& is)
 {
-    Access access;
-    const ZebErrorType result = readAccess(access);
-    readable = access.isReadable;
-    return result;
-}
-
-ZebErrorType GenicamFeature::IsWritable(bool& writable)
-{
-    Access access;
-    const ZebErrorType result = readAccess(access);
-    writable = access.isWritable;
-    return result;
-}
-
-ZebErrorType GenicamFeature::GetFlags(ZebFeatureFlagsType& flags)
-{
-    Access access;
-    const ZebErrorType result = readAccess(access);
-    flags = static_cast<ZebFeatureFlagsType>((access.isReadable ? ZebFeatureFlagsRead : 0U)
-                                             | (access.isWritable ? ZebFeatureFlagsWrite : 0U));
+    ZebFeatureFlagsType flags{};
+    const ZebErrorType result = GetFlags(flags);
+    is = (flags & flag) != 0;
     return result;
 }
 

@@ -48,8 +48,11 @@ public:
     ZebErrorType GetIncrement(Integer& increment) override { return readIncrement(increment); }
     ZebErrorType GetIncrement(double& increment) override { return readIncrement(increment); }
     ZebErrorType GetValidValueSet(Integer* values, Count bufferSize, Count* setSize) override;
-    ZebErrorType IsValueAvailable(Integer value, bool& available) override;
-    ZebErrorType IsValueAvailable(const char* value, bool& available) override;
+    ZebErrorType IsValueAvailable(Integer value, bool& is) override
+    {
+        return isEntryThere(value, is);
+    }
+    ZebErrorType IsValueAvailable(const char* value, bool& is) override;
     ZebErrorType SetValue(Integer value) override { return write(value); }
     ZebErrorType SetValue(double value) override { return write(value); }
     ZebErrorType SetValue(bool value) override { return write(value); }
@@ -68,8 +71,8 @@ public:
     ZebErrorType GetFlags(ZebFeatureFlagsType& flags) override;
     ZebErrorType GetVisibility(ZebFeatureVisibilityType& visibility) override;
     ZebErrorType GetSelectedFeatures(ZebCPP::FeaturePtr* features, Count& count) override;
-    ZebErrorType IsReadable(bool& readable) override;
-    ZebErrorType IsWritable(bool& writable) override;
+    ZebErrorType IsReadable(bool& is) override { return has(ZebFeatureFlagsRead, is); }
+    ZebErrorType IsWritable(bool& is) override { return has(ZebFeatureFlagsWrite, is); }
     ZebErrorType RegisterObserver(const ZebCPP::IFeatureObserverPtr& observer) override;
     ZebErrorType UnregisterObserver(const ZebCPP::IFeatureObserverPtr& observer) override;
 
@@ -90,7 +93,8 @@ private:
     ZebErrorType tell(const std::string& text, char* buffer, Count& length) const;
     ZebErrorType tell(TextKind kind, char* buffer, Count& length) const;
     ZebErrorType read(Kind kind, ZebFeatureDataType type, const DeviceLink::Work& work);
-    ZebErrorType readAccess(Access& access);
+    ZebErrorType has(ZebFeatureFlagsType flag, bool& is);
+    template <typename Key> ZebErrorType isEntryThere(const Key& key, bool& is);
     template <typename Plain> ZebErrorType readPlain(Plain& plain);
     template <typename Number> ZebErrorType readLimits(Range<Number>& range);
     template <typename Number> ZebErrorType readBounds(Number& low, Number& high);

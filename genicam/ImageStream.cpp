@@ -47,10 +47,16 @@ std::string ImageStream::start()
             const std::size_t count = std::clamp<std::size_t>(memory / payload, 2, 8);
             for (std::size_t i = 0; i < count; ++i)
                 arv_stream_push_buffer(m_stream.get(), arv_buffer_new_allocate(payload));
-            return setAcquiring(true, error);
+            if (setAcquiring(true, error) == ZebErrorSuccess && !*error)
+                return ZebErrorSuccess;
+            if (!*error || !isLoss(**error))
+                setLocked(false, nullptr);
+            reason = "the camera cannot be started";
+        } else {
+            reason = "the camera tells no size of its pictures, or an absurd one";
         }
-        reason = *error ? (*error)->message
-                        : "the camera tells no size of its pictures, or an absurd one";
+        if (*error)
+            reason = (*error)->message;
         return ZebErrorOther;
     });
     if (result != ZebErrorSuccess)
@@ -60,16 +66,22 @@ std::string ImageStream::start()
 }
 
 // While it streams a camera keeps what decides the size of its pictures as it is, when told so.
+void ImageStream::setLocked(bool is, GError** error)
+{
+    ArvGcFeatureNode* const locked = m_link->node("TLParamsLocked");
+    if (ARV_IS_GC_INTEGER(locked))
+        arv_gc_integer_set_value(ARV_GC_INTEGER(locked), is, error);
+}
+
 ZebErrorType ImageStream::setAcquiring(bool isOn, GError** error)
 {
     ArvGcFeatureNode* const command = m_link->node(isOn ? "AcquisitionStart" : "AcquisitionStop");
-    ArvGcFeatureNode* const locked = m_link->node("TLParamsLocked");
-    if (ARV_IS_GC_INTEGER(locked) && isOn)
-        arv_gc_integer_set_value(ARV_GC_INTEGER(locked), 1, error);
+    if (isOn)
+        setLocked(true, error);
     if (!*error && ARV_IS_GC_COMMAND(command))
         arv_gc_command_execute(ARV_GC_COMMAND(command), error);
-    if (!*error && ARV_IS_GC_INTEGER(locked) && !isOn)
-        arv_gc_integer_set_value(ARV_GC_INTEGER(locked), 0, error);
+    if (!*error && !isOn)
+        setLocked(false, error);
     return ARV_IS_GC_COMMAND(command) ? ZebErrorSuccess : ZebErrorNotFound;
 }
 

@@ -26,6 +26,7 @@ private:
     ArvBuffer* newestBuffer();
     void show(ArvBuffer* buffer);
     void count();
+    void setLocked(bool is, GError** error);
     ZebErrorType setAcquiring(bool isOn, GError** error);
 
     const std::shared_ptr<DeviceLink> m_link;

@@ -24,8 +24,10 @@ template <typename Visit> void forEachProperty(ArvGcFeatureNode* node, Visit&& v
     });
 }
 
-ZebErrorType writeEntry(ArvGcFeatureNode* node, const std::optional<Entry>& entry, GError** error)
+template <typename Key>
+ZebErrorType writeEntry(ArvGcFeatureNode* node, const Key& key, GError** error)
 {
+    const std::optional<Entry> entry = findEntry(entriesOf(node), key, error);
     if (!entry || !isThere(entry->node, error))
         return ZebErrorBadParameter;
     const std::int64_t number = entry->readNumber(error);
@@ -181,7 +183,7 @@ bool isCommandDone(ArvGcFeatureNode* node, GError** error)
 ZebErrorType write(ArvGcFeatureNode* node, std::int64_t value, GError** error)
 {
     if (ARV_IS_GC_ENUMERATION(node))
-        return writeEntry(node, findEntry(entriesOf(node), value, error), error);
+        return writeEntry(node, value, error);
     if (typeOf(node) != ZebFeatureDataInt || !readRange<std::int64_t>(node, error).holds(value)
         || *error)
         return ZebErrorBadParameter;
@@ -209,7 +211,7 @@ ZebErrorType write(ArvGcFeatureNode* node, bool value, GError** error)
 ZebErrorType write(ArvGcFeatureNode* node, const std::string& value, GError** error)
 {
     if (ARV_IS_GC_ENUMERATION(node))
-        return writeEntry(node, findEntry(entriesOf(node), value), error);
+        return writeEntry(node, value, error);
     if (typeOf(node) != ZebFeatureDataString)
         return ZebErrorBadParameter;
     const auto longest = arv_gc_string_get_max_length(ARV_GC_STRING(node), error);
@@ -253,7 +255,7 @@ Entries entriesOf(ArvGcFeatureNode* node)
     return entries;
 }
 
-std::optional<Entry> findEntry(const Entries& entries, const std::string& name)
+std::optional<Entry> findEntry(const Entries& entries, const std::string& name, GError**)
 {
     const auto found = std::find_if(entries.begin(), entries.end(),
                                     [&](const Entry& entry) { return entry.name == name; });

@@ -83,7 +83,7 @@ struct Entry
 /// An enumeration's entries, in the description's order.
 using Entries = std::vector<Entry>;
 Entries entriesOf(ArvGcFeatureNode* node);
-std::optional<Entry> findEntry(const Entries& entries, const std::string& name);
+std::optional<Entry> findEntry(const Entries& entries, const std::string& name, GError** error);
 std::optional<Entry> findEntry(const Entries& entries, std::int64_t number, GError** error);
 
 } // namespace genicam

@@ -12,41 +12,33 @@ const char* const observed[]
        "Height",      "OffsetX",      "OffsetY",           "ReverseX",        "ReverseY",
        "PixelFormat", "ExposureTime", "BinningHorizontal", "BinningVertical", "ExposureTimeAbs"};
 
-int readInteger(const genicam::GenicamCamera& camera, const char* name, int missing)
+template <typename Plain>
+Plain read(const genicam::GenicamCamera& camera, const char* name, Plain missing)
+{
+    const ZebCPP::FeaturePtr feature = camera.feature(name);
+    Plain value{};
+    return feature && feature->GetValue(value) == ZebErrorSuccess ? value : missing;
+}
+
+/// Far above any sensor, far below what overflows an int.
+int pixels(std::int64_t value)
 {
     constexpr std::int64_t limit = 1 << 24;
-    const ZebCPP::FeaturePtr feature = camera.feature(name);
-    std::int64_t value = 0;
-    const bool isRead = feature && feature->GetValue(value) == ZebErrorSuccess;
-    return isRead ? static_cast<int>(qBound(-limit, value, limit)) : missing;
+    return static_cast<int>(qBound(-limit, value, limit));
+}
+
+int readPixels(const genicam::GenicamCamera& camera, const char* name, int missing = 0)
+{
+    return pixels(read(camera, name, std::int64_t{missing}));
 }
 
 int readMaximum(const genicam::GenicamCamera& camera, const char* name)
 {
-    constexpr std::int64_t limit = 1 << 24;
     const ZebCPP::FeaturePtr feature = camera.feature(name);
     std::int64_t minimum = 0;
     std::int64_t maximum = 0;
     const bool isRead = feature && feature->GetRange(minimum, maximum) == ZebErrorSuccess;
-    return isRead ? static_cast<int>(qBound<std::int64_t>(0, maximum, limit)) : 0;
-}
-
-double readExposure(const genicam::GenicamCamera& camera)
-{
-    double value = 0.0;
-    for (const char* name : {"ExposureTime", "ExposureTimeAbs"}) {
-        const ZebCPP::FeaturePtr feature = camera.feature(name);
-        if (feature && feature->GetValue(value) == ZebErrorSuccess)
-            return value;
-    }
-    return 0.0;
-}
-
-bool readSwitch(const genicam::GenicamCamera& camera, const char* name)
-{
-    const ZebCPP::FeaturePtr feature = camera.feature(name);
-    bool isOn = false;
-    return feature && feature->GetValue(isOn) == ZebErrorSuccess && isOn;
+    return isRead ? qMax(0, pixels(maximum)) : 0;
 }
 
 } // namespace
@@ -54,39 +46,28 @@ bool readSwitch(const genicam::GenicamCamera& camera, const char* name)
 class GenicamSource::Observer : public ZebCPP::IFeatureObserver
 {
 public:
-    explicit Observer(GenicamSource* source)
-        : m_source(source)
-    {
-    }
-
     void FeatureChanged(const ZebCPP::FeaturePtr&) override
     {
-        const QMutexLocker lock(&m_mutex);
-        if (m_source)
-            QMetaObject::invokeMethod(m_source, &GenicamSource::readState, Qt::QueuedConnection);
+        const QMutexLocker lock(&mutex);
+        if (source)
+            QMetaObject::invokeMethod(source, &GenicamSource::readState, Qt::QueuedConnection);
     }
 
-    void forget()
-    {
-        const QMutexLocker lock(&m_mutex);
-        m_source = nullptr;
-    }
-
-private:
-    QMutex m_mutex;
-    GenicamSource* m_source;
+    QMutex mutex;
+    GenicamSource* source = nullptr;
 };
 
 GenicamSource::GenicamSource(ArvDevice* device, const std::string& vendor)
-    : m_observer(std::make_shared<Observer>(this))
+    : m_observer(std::make_shared<Observer>())
 {
+    const auto tellGone = [this](bool isGone) {
+        QMetaObject::invokeMethod(
+            this, [=] { emit goneChanged(isGone); }, Qt::QueuedConnection);
+    };
     m_camera = std::make_unique<genicam::GenicamCamera>(
-        device, genicam::GenicamCamera::Options{vendor, [this](bool isGone) {
-                                                    QMetaObject::invokeMethod(
-                                                        this, [=] { emit goneChanged(isGone); },
-                                                        Qt::QueuedConnection);
-                                                }});
+        device, genicam::GenicamCamera::Options{vendor, tellGone});
     readState();
+    m_observer->source = this;
     for (const char* name : observed) {
         if (const ZebCPP::FeaturePtr feature = m_camera->feature(name))
             feature->RegisterObserver(m_observer);
@@ -95,7 +76,8 @@ GenicamSource::GenicamSource(ArvDevice* device, const std::string& vendor)
 
 GenicamSource::~GenicamSource()
 {
-    m_observer->forget();
+    const QMutexLocker lock(&m_observer->mutex);
+    m_observer->source = nullptr;
 }
 
 std::vector<ZebCPP::FeaturePtr> GenicamSource::features() const
@@ -145,20 +127,20 @@ void GenicamSource::readState()
 {
     const genicam::GenicamCamera& camera = *m_camera;
     SensorState state;
-    const QSize size(readInteger(camera, "Width", 0), readInteger(camera, "Height", 0));
-    state.binning = QSize(qMax(1, readInteger(camera, "BinningHorizontal", 1)),
-                          qMax(1, readInteger(camera, "BinningVertical", 1)));
-    state.sensor = QSize(readInteger(camera, "SensorWidth", readMaximum(camera, "Width")),
-                         readInteger(camera, "SensorHeight", readMaximum(camera, "Height")));
-    state.picture = QSize(readInteger(camera, "WidthMax", state.sensor.width()),
-                          readInteger(camera, "HeightMax", state.sensor.height()));
-    state.reverseX = readSwitch(camera, "ReverseX");
-    state.reverseY = readSwitch(camera, "ReverseY");
-    state.regions = {
-        QRect(QPoint(readInteger(camera, "OffsetX", 0), readInteger(camera, "OffsetY", 0)), size)};
+    const QSize size(readPixels(camera, "Width"), readPixels(camera, "Height"));
+    const QPoint offset(readPixels(camera, "OffsetX"), readPixels(camera, "OffsetY"));
+    state.binning = QSize(qMax(1, readPixels(camera, "BinningHorizontal")),
+                          qMax(1, readPixels(camera, "BinningVertical")));
+    state.sensor = QSize(readPixels(camera, "SensorWidth", readMaximum(camera, "Width")),
+                         readPixels(camera, "SensorHeight", readMaximum(camera, "Height")));
+    state.picture = QSize(readPixels(camera, "WidthMax", state.sensor.width()),
+                          readPixels(camera, "HeightMax", state.sensor.height()));
+    state.reverseX = read(camera, "ReverseX", false);
+    state.reverseY = read(camera, "ReverseY", false);
+    state.regions = {QRect(offset, size)};
     if (m_isStreaming && !m_state.regions.isEmpty())
         state.regions = m_state.regions; // until the next frame
-    state.exposureTime = readExposure(camera);
+    state.exposureTime = read(camera, "ExposureTime", read(camera, "ExposureTimeAbs", 0.0));
     state.pixelFormat = readValueText(QStringLiteral("PixelFormat"));
     if (state == m_state || camera.isGone())
         return;
