@@ -65,7 +65,6 @@ public slots:
 protected:
     bool isAtWork() const override;
     Changes refresh(const Changes& changes) override;
-    void onPaletteChanged(QEvent*) override { }
 
 private:
     static constexpr int mostRegions = 256;

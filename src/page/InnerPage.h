@@ -71,6 +71,7 @@ protected:
     bool isStreaming() const { return m_isStreaming; }
     void setStreaming(bool isStreaming) { m_isStreaming = isStreaming; }
 
+    void onPaletteChanged(QEvent*) override { }
     void refreshFeatures() final;
     void showEvent(QShowEvent* event) override;
 

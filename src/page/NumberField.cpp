@@ -43,6 +43,9 @@ bool NumberField::show(const Reading<double>& reading)
 {
     if (isBeingTyped())
         return false;
+    if (reading.isComplete || reading.isWritable)
+        m_isWritable = reading.isWritable;
+    setEnabled(m_isEnabled);
     const bool hasRange = reading.minimum && reading.maximum;
     setRangeAndValue(hasRange ? *reading.minimum : m_box->minimum(),
                      hasRange ? *reading.maximum : m_box->maximum(),
@@ -79,6 +82,12 @@ void NumberField::limitTo(double maximum)
 {
     const QSignalBlocker blocker(m_box);
     m_box->setMaximum(std::max(m_box->minimum(), maximum));
+}
+
+void NumberField::setEnabled(bool isEnabled)
+{
+    m_isEnabled = isEnabled;
+    m_box->setEnabled(isEnabled && m_isWritable);
 }
 
 bool NumberField::isHeld() const

@@ -29,8 +29,8 @@ public:
     double value() const;
     FieldGrid grid() const;
 
-    /// Range and value, which is cut to the range. False when something is left as it was: the
-    /// camera did not tell it, or the user is typing.
+    /// Range, access and value, which is cut to the range. False when something is left as it was:
+    /// the camera did not tell it, or the user is typing.
     bool show(const Reading<double>& reading);
     /// As show(), but a value outside the range widens it: what is set differs from it, and emits.
     bool showWhole(const Reading<double>& reading);
@@ -44,11 +44,14 @@ public:
     /// Never below the minimum, which Qt would lower otherwise.
     void limitTo(double maximum);
 
+    /// Lets the user edit, as far as the camera does.
+    void setEnabled(bool isEnabled);
+    bool isWritable() const { return m_isWritable; }
     /// Whether the mouse button is held on it.
     bool isHeld() const;
     /// Whether the user has typed something that is not confirmed yet.
     bool isBeingTyped() const;
-    /// Confirms what is being typed; the field emits.
+    /// Confirms what is being typed.
     void commit();
 
 private:
@@ -56,4 +59,6 @@ private:
 
     QDoubleSpinBox* m_box;
     QSpinBoxMouseEventFilter* m_filter;
+    bool m_isEnabled = true;
+    bool m_isWritable = true; ///< unless the camera tells otherwise
 };

@@ -3,24 +3,18 @@
 #include "features/FeatureNames.h"
 #include "features/NumberConversion.h"
 #include "regions/image/AxisRules.h"
-#include "regions/image/PresetGuard.h"
 #include "regions/image/RegionAxis.h"
 #include "regions/label/RubberBandLabel.h"
 #include "ui_AOIWidget.h"
 #include "widgets/Theme.h"
 
 #include <QApplication>
+#include <QPointer>
 #include <QSignalBlocker>
 
 #include <utility>
 
 namespace Name = FeatureNames;
-
-namespace {
-
-constexpr QColor regionColor(0, 100, 255, 255);
-
-} // namespace
 
 AOIWidget::AOIWidget(const FeatureList& camera, QWidget* parent)
     : InnerPage(camera, parent)
@@ -71,14 +65,14 @@ void AOIWidget::createAxes()
         *featureManager,
         RegionAxisNames{Name::offsetX, Name::width, Name::widthMax, Name::sensorWidth},
         m_ui->spinLeft, m_ui->spinWidth);
-    m_vertical->load();
-    m_horizontal->load();
+    readNext(m_vertical->readAll(m_ui->spinLeft) + m_horizontal->readAll(m_ui->spinLeft));
 }
 
 void AOIWidget::createLabel()
 {
-    m_label = new RubberBandLabel(toInt(m_horizontal->readMaximum()),
-                                  toInt(m_vertical->readMaximum()), regionColor, m_ui->gb_AOI);
+    m_label
+        = new RubberBandLabel(toInt(m_horizontal->readMaximum()), toInt(m_vertical->readMaximum()),
+                              QColor(0, 100, 255, 255), m_ui->gb_AOI);
     m_ui->gb_AOI->layout()->addWidget(m_label);
     connect(m_label, SIGNAL(SendGeometry(int, int, int, int)), this,
             SLOT(OnSendGeometry(int, int, int, int)));
@@ -91,6 +85,10 @@ void AOIWidget::createLabel()
 
 void AOIWidget::connectForm()
 {
+    const auto connectField = [this](QDoubleSpinBox* field, const char* valueSlot) {
+        connect(field, SIGNAL(valueChanged(double)), this, valueSlot);
+        connect(field, SIGNAL(editingFinished()), this, SLOT(OnSpinEditingFinished()));
+    };
     connectField(m_ui->spinTop, SLOT(OnSpinTopValueChanged(double)));
     connectField(m_ui->spinLeft, SLOT(OnSpinLeftValueChanged(double)));
     connectField(m_ui->spinWidth, SLOT(OnSpinWidthValueChanged(double)));
@@ -100,44 +98,37 @@ void AOIWidget::connectForm()
     connect(m_ui->btnQuarter, SIGNAL(clicked()), this, SLOT(OnROIQuarter()));
 }
 
-void AOIWidget::connectField(QDoubleSpinBox* field, const char* valueSlot)
-{
-    connect(field, SIGNAL(valueChanged(double)), this, valueSlot);
-    connect(field, SIGNAL(editingFinished()), this, SLOT(OnSpinEditingFinished()));
-}
-
 // Editing
 
-void AOIWidget::OnSpinTopValueChanged(double value)
-{
-    write(m_vertical, &RegionAxis::writeOffset, value);
-}
-
-void AOIWidget::OnSpinLeftValueChanged(double value)
-{
-    write(m_horizontal, &RegionAxis::writeOffset, value);
-}
-
-void AOIWidget::OnSpinWidthValueChanged(double value)
-{
-    write(m_horizontal, &RegionAxis::writeSize, value);
-}
-
-void AOIWidget::OnSpinHeightValueChanged(double value)
-{
-    write(m_vertical, &RegionAxis::writeSize, value);
-}
-
-void AOIWidget::write(const std::unique_ptr<RegionAxis>& axis, void (RegionAxis::*number)(double),
-                      double value)
+template <typename Write> void AOIWidget::write(const Write& writeNumber)
 {
     // Nothing is written during a drag, whose end sets all four.
     if (!m_ui || isAtWork())
         return;
-    ((*axis).*number)(value);
+    writeNumber();
     readAllNext();
     showRegion();
     checkConsistency();
+}
+
+void AOIWidget::OnSpinTopValueChanged(double value)
+{
+    write([=] { m_vertical->writeOffset(value); });
+}
+
+void AOIWidget::OnSpinLeftValueChanged(double value)
+{
+    write([=] { m_horizontal->writeOffset(value); });
+}
+
+void AOIWidget::OnSpinWidthValueChanged(double value)
+{
+    write([=] { m_horizontal->writeSize(value); });
+}
+
+void AOIWidget::OnSpinHeightValueChanged(double value)
+{
+    write([=] { m_vertical->writeSize(value); });
 }
 
 void AOIWidget::commitTyping()
@@ -201,11 +192,20 @@ void AOIWidget::applyPreset(const Span<double>& horizontal, const Span<double>& 
 {
     if (isAtWork())
         return;
-    {
-        const PresetGuard guard{m_ui->btnFull, m_ui->btnHalf, m_ui->btnQuarter};
-        OnSendGeometry(toInt(vertical.start), toInt(horizontal.start), toInt(horizontal.length),
-                       toInt(vertical.length));
+    const QPointer<QWidget> focus(QApplication::focusWidget()); // which a disabled button loses
+    QVector<QPushButton*> enabled;
+    for (QPushButton* button : {m_ui->btnFull, m_ui->btnHalf, m_ui->btnQuarter}) {
+        // The button's own flag: its parents may be disabled for reasons of their own.
+        if (!button->testAttribute(Qt::WA_ForceDisabled))
+            enabled << button;
+        button->setEnabled(false);
     }
+    OnSendGeometry(toInt(vertical.start), toInt(horizontal.start), toInt(horizontal.length),
+                   toInt(vertical.length));
+    for (QPushButton* button : std::as_const(enabled))
+        button->setEnabled(true);
+    if (focus)
+        focus->setFocus();
     m_label->setEnabled(false);
     m_vertical->forgetMaximum();
 }
@@ -361,5 +361,3 @@ void AOIWidget::showBackgroundAgain()
     QApplication::setOverrideCursor(Qt::WaitCursor);
     showBackground();
 }
-
-void AOIWidget::onPaletteChanged(QEvent*) { }

@@ -7,7 +7,6 @@
 
 #include <memory>
 
-class QDoubleSpinBox;
 class RegionAxis;
 class RubberBandLabel;
 
@@ -47,7 +46,6 @@ public slots:
 protected:
     bool isAtWork() const override;
     Changes refresh(const Changes& changes) override;
-    void onPaletteChanged(QEvent* event) override;
     void showEvent(QShowEvent* event) override;
 
 private:
@@ -55,11 +53,9 @@ private:
     void createAxes();
     void createLabel();
     void connectForm();
-    void connectField(QDoubleSpinBox* field, const char* valueSlot);
     void reserveProblemLines();
 
-    void write(const std::unique_ptr<RegionAxis>& axis, void (RegionAxis::*number)(double),
-               double value);
+    template <typename Write> void write(const Write& writeNumber);
     void applyPreset(const Span<double>& horizontal, const Span<double>& vertical);
     void applyCentredPreset(double factor);
     void commitTyping();

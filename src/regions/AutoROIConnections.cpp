@@ -3,22 +3,20 @@
 #include "features/FeatureNames.h"
 #include "regions/AutoROIWidget.h"
 #include "regions/automatic/AutoRegionCamera.h"
-#include "regions/label/RubberBandLabel.h"
 #include "ui_AutoROIWidget.h"
 
 namespace Name = FeatureNames;
 using Page = AutoROIWidget;
 
-namespace {
-
-constexpr auto valueChanged = QOverload<double>::of(&QDoubleSpinBox::valueChanged);
-
-void connectFields(Page& page, const Ui::AutoROIWidget& form, const AutoRegionCamera& camera)
+void connectForm(Page& page, const Ui::AutoROIWidget& form, const AutoRegionCamera& camera)
 {
-    const auto connectField = [&page](const QDoubleSpinBox* field, void (Page::*slot)(double)) {
-        QObject::connect(field, valueChanged, &page, slot);
-        QObject::connect(field, &QDoubleSpinBox::editingFinished, &page,
-                         &Page::OnSpinEditingFinished);
+    constexpr auto valueChanged = QOverload<double>::of(&QDoubleSpinBox::valueChanged);
+    const auto connect = [&page](auto* sender, auto signal, auto slot) {
+        QObject::connect(sender, signal, &page, slot);
+    };
+    const auto connectField = [&](const QDoubleSpinBox* field, void (Page::*slot)(double)) {
+        connect(field, valueChanged, slot);
+        connect(field, &QDoubleSpinBox::editingFinished, &Page::OnSpinEditingFinished);
     };
     connectField(form.spinTop, &Page::OnSpinTopValueChanged);
     connectField(form.spinLeft, &Page::OnSpinLeftValueChanged);
@@ -29,40 +27,20 @@ void connectFields(Page& page, const Ui::AutoROIWidget& form, const AutoRegionCa
         connectField(form.spinWidth, &Page::OnSpinWidthValueChanged);
         connectField(form.spinHeight, &Page::OnSpinHeightValueChanged);
     }
-}
-
-} // namespace
-
-void connectForm(Page& page, const Ui::AutoROIWidget& form, const AutoRegionCamera& camera)
-{
-    connectFields(page, form, camera);
-    const auto connectTo = [&page](auto* sender, auto signal, auto slot) {
-        QObject::connect(sender, signal, &page, slot);
-    };
     if (camera.has(Name::aoiEnable))
-        connectTo(form.cbEnable, &QCheckBox::stateChanged, &Page::OnEnableStateChanged);
+        connect(form.cbEnable, &QCheckBox::stateChanged, &Page::OnEnableStateChanged);
     if (camera.has(Name::aoiShowArea))
-        connectTo(form.cbShowArea, &QCheckBox::stateChanged, &Page::OnShowAreaStateChanged);
-    connectTo(form.btnFull, &QPushButton::clicked, &Page::OnROIFull);
-    connectTo(form.btnHalf, &QPushButton::clicked, &Page::OnROIHalf);
-    connectTo(form.btnQuarter, &QPushButton::clicked, &Page::OnROIQuarter);
-    connectTo(form.comboIntensityControllerRegion, &QComboBox::currentTextChanged,
-              &Page::OnIntensityControllerRegionChanged);
+        connect(form.cbShowArea, &QCheckBox::stateChanged, &Page::OnShowAreaStateChanged);
+    connect(form.btnFull, &QPushButton::clicked, &Page::OnROIFull);
+    connect(form.btnHalf, &QPushButton::clicked, &Page::OnROIHalf);
+    connect(form.btnQuarter, &QPushButton::clicked, &Page::OnROIQuarter);
+    connect(form.comboIntensityControllerRegion, &QComboBox::currentTextChanged,
+            &Page::OnIntensityControllerRegionChanged);
     if (camera.has(Name::exposureAutoTimebase))
-        connectTo(form.comboExpAutoTimeBase, &QComboBox::currentTextChanged,
-                  &Page::OnExpAutoTimebaseChanged);
-    connectTo(form.spinExpAutoMin, valueChanged, &Page::OnSpinExpAutoMinChanged);
-    connectTo(form.spinExpAutoMax, valueChanged, &Page::OnSpinExpAutoMaxChanged);
-    connectTo(form.btnExpAutoMinCurrent, &QPushButton::clicked,
-              &Page::OnBtnExpAutoMinCurrentClicked);
-    connectTo(form.btnExpAutoMaxCurrent, &QPushButton::clicked,
-              &Page::OnBtnExpAutoMaxCurrentClicked);
-}
-
-void connectLabel(Page& page, const RubberBandLabel& label)
-{
-    QObject::connect(&label, &RubberBandLabel::SendGeometry, &page, &Page::OnSendGeometry);
-    QObject::connect(&label, &RubberBandLabel::UpdateGeometry, &page, &Page::OnUpdateGeometry);
-    QObject::connect(&label, &RubberBandLabel::GeometryChangeStarted, &page,
-                     &Page::OnGeometryChangeStarted);
+        connect(form.comboExpAutoTimeBase, &QComboBox::currentTextChanged,
+                &Page::OnExpAutoTimebaseChanged);
+    connect(form.spinExpAutoMin, valueChanged, &Page::OnSpinExpAutoMinChanged);
+    connect(form.spinExpAutoMax, valueChanged, &Page::OnSpinExpAutoMaxChanged);
+    connect(form.btnExpAutoMinCurrent, &QPushButton::clicked, &Page::OnBtnExpAutoMinCurrentClicked);
+    connect(form.btnExpAutoMaxCurrent, &QPushButton::clicked, &Page::OnBtnExpAutoMaxCurrentClicked);
 }

@@ -2,7 +2,6 @@
 
 class AutoRegionCamera;
 class AutoROIWidget;
-class RubberBandLabel;
 
 namespace Ui {
 class AutoROIWidget;
@@ -11,4 +10,3 @@ class AutoROIWidget;
 /// Connects what the camera has features for.
 void connectForm(AutoROIWidget& page, const Ui::AutoROIWidget& form,
                  const AutoRegionCamera& camera);
-void connectLabel(AutoROIWidget& page, const RubberBandLabel& label);

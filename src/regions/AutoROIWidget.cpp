@@ -19,18 +19,16 @@
 
 namespace Name = FeatureNames;
 
-namespace {
-
-constexpr int trustMs = 250;
-
-} // namespace
-
 AutoROIWidget::AutoROIWidget(const FeatureList& camera, QWidget* parent)
     : InnerPage(camera, parent)
 {
     if (!AutoRegionCamera::hasAutoRegion(*featureManager))
         return;
 
+    const auto setTitle = [this] {
+        setAccessibleName(featureManager->HasFeature(Name::aoiOffsetX) ? tr("Autofunction AOI")
+                                                                       : tr("Autofunction ROI"));
+    };
     setTitle();
     if (installTranslator(QStringLiteral("tabextensionautoaoi")))
         setTitle();
@@ -49,9 +47,7 @@ AutoROIWidget::AutoROIWidget(const FeatureList& camera, QWidget* parent)
     guardFieldsAgainstWheel();
     readNext(showEntries() + m_exposure->refresh());
     connectForm(*this, *m_ui, *m_camera);
-    connectLabel(*this, *m_picture->label());
-    connect(m_picture->label(), &SensorLabel::aboutToDrag, this, &AutoROIWidget::commitTyping);
-    connect(m_picture->label(), &SensorLabel::dragDropped, this, &AutoROIWidget::onDragDropped);
+    connectLabel();
     loadRegion();
     showRegion();
 
@@ -61,12 +57,6 @@ AutoROIWidget::AutoROIWidget(const FeatureList& camera, QWidget* parent)
 }
 
 AutoROIWidget::~AutoROIWidget() = default;
-
-void AutoROIWidget::setTitle()
-{
-    setAccessibleName(featureManager->HasFeature(Name::aoiOffsetX) ? tr("Autofunction AOI")
-                                                                   : tr("Autofunction ROI"));
-}
 
 void AutoROIWidget::createParts()
 {
@@ -82,6 +72,18 @@ void AutoROIWidget::createParts()
                                                   m_ui->spinExpAutoMax);
 }
 
+void AutoROIWidget::connectLabel()
+{
+    using Label = RubberBandLabel;
+    using Page = AutoROIWidget;
+    const Label* const label = m_picture->label();
+    connect(label, &Label::SendGeometry, this, &Page::OnSendGeometry);
+    connect(label, &Label::UpdateGeometry, this, &Page::OnUpdateGeometry);
+    connect(label, &Label::GeometryChangeStarted, this, &Page::OnGeometryChangeStarted);
+    connect(label, &Label::aboutToDrag, this, &Page::commitTyping);
+    connect(label, &Label::dragDropped, this, &Page::onDragDropped);
+}
+
 // Editing
 
 void AutoROIWidget::writeNumber(RegionNumber number, double value)
@@ -94,8 +96,7 @@ void AutoROIWidget::writeNumber(RegionNumber number, double value)
     const AutoRegion wanted = m_view->shown();
     m_writer->write(number, value);
     readAllNext();
-    if (m_camera->usesEdges())
-        showEdgeProblems(*m_ui, *m_camera, wanted);
+    showEdgeProblems(*m_ui, *m_camera, wanted);
     showRegion();
 }
 
@@ -191,12 +192,11 @@ void AutoROIWidget::OnSendGeometry(int top, int left, int width, int height)
     m_picture->showWaitingImage();
     // Also while the region is off: the band lies where it was dropped.
     m_picture->showRegion();
-    if (m_camera->usesEdges()) {
-        showEdgeProblems(*m_ui, *m_camera, m_view->shown());
-    } else if (m_camera->usesSizes()) {
+    showEdgeProblems(*m_ui, *m_camera, m_view->shown());
+    if (m_camera->usesSizes() && !m_camera->usesEdges()) {
         if (!pumpEvents())
             return;
-        QTimer::singleShot(trustMs, this, &AutoROIWidget::OnResetTrustedUpdate);
+        QTimer::singleShot(250, this, &AutoROIWidget::OnResetTrustedUpdate);
     }
     resumeUpdates(false);
     readAllSoon();
@@ -227,13 +227,12 @@ void AutoROIWidget::OnROIQuarter()
     applyPreset([this] { m_writer->presetCentred(0.25); });
 }
 
-template <typename Preset> void AutoROIWidget::applyPreset(Preset&& preset)
+template <typename Preset> void AutoROIWidget::applyPreset(const Preset& preset)
 {
     if (!m_ui || isAtWork())
         return;
     preset();
-    if (m_camera->usesEdges())
-        showEdgeProblems(*m_ui, *m_camera, m_view->shown());
+    showEdgeProblems(*m_ui, *m_camera, m_view->shown());
     showRegion();
     readAllSoon();
 }
@@ -242,26 +241,26 @@ template <typename Preset> void AutoROIWidget::applyPreset(Preset&& preset)
 
 void AutoROIWidget::OnSpinExpAutoMinChanged(double value)
 {
-    if (m_ui && !m_exposure->writeMinimum(value))
-        readNext({Name::exposureAutoMin});
+    if (m_ui)
+        readNext(m_exposure->write(ExposureLimits::Minimum, value));
 }
 
 void AutoROIWidget::OnSpinExpAutoMaxChanged(double value)
 {
-    if (m_ui && !m_exposure->writeMaximum(value))
-        readNext({Name::exposureAutoMax});
+    if (m_ui)
+        readNext(m_exposure->write(ExposureLimits::Maximum, value));
 }
 
 void AutoROIWidget::OnBtnExpAutoMinCurrentClicked()
 {
     if (m_ui)
-        m_exposure->useTimeAsMinimum();
+        m_exposure->useTime(ExposureLimits::Minimum);
 }
 
 void AutoROIWidget::OnBtnExpAutoMaxCurrentClicked()
 {
     if (m_ui)
-        m_exposure->useTimeAsMaximum();
+        m_exposure->useTime(ExposureLimits::Maximum);
 }
 
 void AutoROIWidget::OnExpAutoTimebaseChanged(const QString& timebase)
@@ -318,19 +317,18 @@ Changes AutoROIWidget::refresh(const Changes& changes)
     if (!changes.isEmpty()) {
         const bool isSizeTold
             = changes.names.contains(Name::height) || changes.names.contains(Name::width);
-        const bool isNewSize = isSizeTold && !std::exchange(m_isJustShown, false);
-        const bool isResized = m_camera->followImage(isNewSize);
+        const bool isResized
+            = m_camera->followImage(isSizeTold && !std::exchange(m_isJustShown, false));
         if (isResized) {
             m_picture->followLimits();
             loadRegion();
         }
         const bool readsRegion = isResized || changes.any(Name::autoRegion);
         const bool readsSwitches = changes.any({Name::aoiEnable, Name::aoiShowArea});
-        if (readsRegion || readsSwitches)
+        if (readsRegion || readsSwitches) {
             refreshSwitches();
-        // A region that is switched on is drawn where it is by now.
-        if (readsRegion || readsSwitches)
-            m_view->refresh();
+            m_view->refresh(); // a region that is switched on is drawn where it is by now
+        }
         if (readsRegion && m_camera->isRegionTold())
             checkRegion();
         showRegion();
@@ -351,8 +349,8 @@ void AutoROIWidget::loadRegion()
     m_view->load();
     fitColumns(*m_ui);
     refreshSwitches();
-    m_ui->gb_AutoROI->setEnabled(m_view->isRegionWritable());
-    m_ui->gb_Region->setEnabled(m_view->isRegionWritable());
+    for (QGroupBox* group : {m_ui->gb_AutoROI, m_ui->gb_Region})
+        group->setEnabled(m_view->isRegionWritable());
 }
 
 void AutoROIWidget::refreshSwitches()
@@ -394,5 +392,3 @@ void AutoROIWidget::checkRegion()
     else if (m_camera->usesSizes() && !showSizeProblem(*m_ui, *m_camera) && isVisible())
         OnEnableStateChanged(0);
 }
-
-void AutoROIWidget::onPaletteChanged(QEvent*) { }

@@ -62,17 +62,16 @@ public slots:
 protected:
     bool isAtWork() const override;
     Changes refresh(const Changes& changes) override;
-    void onPaletteChanged(QEvent* event) override;
     void showEvent(QShowEvent* event) override;
 
 private:
-    void setTitle();
     void createParts();
+    void connectLabel();
     void loadRegion();
     void enableControls(bool enabled);
 
     void writeNumber(RegionNumber number, double value);
-    template <typename Preset> void applyPreset(Preset&& preset);
+    template <typename Preset> void applyPreset(const Preset& preset);
     void writeEntry(QComboBox* comboBox, const QString& name, const QString& entry);
     bool pumpEvents();
     void commitTyping();

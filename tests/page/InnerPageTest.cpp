@@ -31,7 +31,6 @@ protected:
         refreshes << changes;
         return untold;
     }
-    void onPaletteChanged(QEvent*) override { }
 };
 
 struct ProbePage

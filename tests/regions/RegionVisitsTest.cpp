@@ -63,7 +63,7 @@ QRect drawn(const AOIPage& p)
 QRect drawn(const AutoROIPage& p)
 {
     const QSize sensor = p.label->sensorSize();
-    const RegionLimits limits{sensor.width(), sensor.height()};
+    const QSizeF limits(sensor);
     QVector<double> bound;
     for (const auto& field : fieldsOf(p))
         bound << p.value(field.second);

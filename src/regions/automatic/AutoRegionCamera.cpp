@@ -7,6 +7,7 @@
 #include "sensor/PixelRect.h"
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace Name = FeatureNames;
@@ -97,18 +98,14 @@ void AutoRegionCamera::write(const QString& name, double value)
 
 AutoRegion AutoRegionCamera::region() const
 {
-    const double left = value(RegionNumber::Left);
-    const double top = value(RegionNumber::Top);
-    if (m_usesEdges)
-        return {spanBetween(left, value(RegionNumber::Right)),
-                spanBetween(top, value(RegionNumber::Bottom))};
-    return {{left, value(RegionNumber::Width)}, {top, value(RegionNumber::Height)}};
+    return regionOf([this](RegionNumber number) { return value(number); });
 }
 
 bool AutoRegionCamera::isRegionTold() const
 {
     const auto four = numbers();
-    return m_limits.width > 0 && std::all_of(four.begin(), four.end(), [this](RegionNumber number) {
+    return m_limits.width() > 0.0
+        && std::all_of(four.begin(), four.end(), [this](RegionNumber number) {
                return !has(number) || m_values.contains(nameOf(number));
            });
 }
@@ -146,10 +143,10 @@ bool AutoRegionCamera::followImage(bool isSizeTold)
         return false;
     }
     m_imageSize = imageSize;
-    return !(std::exchange(m_limits, *limits) == *limits);
+    return std::exchange(m_limits, *limits) != *limits;
 }
 
-std::optional<RegionLimits> AutoRegionCamera::readLimits()
+std::optional<QSizeF> AutoRegionCamera::readLimits()
 {
     using Number = Reading<double>;
     bool isTold = true;
@@ -157,25 +154,23 @@ std::optional<RegionLimits> AutoRegionCamera::readLimits()
         isTold = isTold && (reading.*which || reading.isComplete);
         return (reading.*which).value_or(0.0);
     };
-    const Number width = read(Name::width);
-    const Number height = read(Name::height);
-    const Number aoiWidth = read(Name::aoiWidth);
-    const Number aoiHeight = read(Name::aoiHeight);
-    RegionLimits limits{toInt64(part(width, &Number::value)),
-                        toInt64(part(height, &Number::value))};
-    if (aoiHeight.exists)
-        limits.height = aoiHeightLimit(
-            part(height, &Number::value), part(aoiHeight, &Number::increment),
-            part(height, &Number::minimum), part(read(Name::aoiOffsetX), &Number::minimum));
+    const auto increment
+        = [&](const QString& name) { return part(read(name), &Number::increment); };
+    const auto minimum = [&](const QString& name) { return part(read(name), &Number::minimum); };
+    const auto maximum = [&](const QString& name) { return part(read(name), &Number::maximum); };
+    const Number imageHeight = read(Name::height);
+    double width = part(read(Name::width), &Number::value);
+    double height = part(imageHeight, &Number::value);
+    if (has(Name::aoiHeight))
+        height = aoiHeightLimit(height, increment(Name::aoiHeight),
+                                part(imageHeight, &Number::minimum), minimum(Name::aoiOffsetX));
     else if (has(Name::autoModeHeight))
-        limits.height = toInt64(part(read(Name::autoModeHeight), &Number::maximum));
-    if (aoiWidth.exists)
-        limits.width
-            = aoiWidthLimit(part(width, &Number::value), part(aoiWidth, &Number::increment),
-                            part(read(Name::aoiOffsetY), &Number::minimum));
+        height = maximum(Name::autoModeHeight);
+    if (has(Name::aoiWidth))
+        width = aoiWidthLimit(width, increment(Name::aoiWidth), minimum(Name::aoiOffsetY));
     else if (has(Name::autoModeWidth))
-        limits.width = toInt64(part(read(Name::autoModeWidth), &Number::maximum));
-    return isTold ? std::optional(limits) : std::nullopt;
+        width = maximum(Name::autoModeWidth);
+    return isTold ? std::optional(QSizeF(std::trunc(width), std::trunc(height))) : std::nullopt;
 }
 
 QSize AutoRegionCamera::readSensorSize()

@@ -28,6 +28,18 @@ constexpr std::array<RegionNumber, 6> regionNumbers{RegionNumber::Top,   RegionN
                                                     RegionNumber::Right, RegionNumber::Bottom,
                                                     RegionNumber::Width, RegionNumber::Height};
 
+/// Those of one direction.
+struct AxisNumbers
+{
+    RegionNumber start;
+    RegionNumber end;
+    RegionNumber size;
+};
+constexpr AxisNumbers horizontalNumbers{RegionNumber::Left, RegionNumber::Right,
+                                        RegionNumber::Width};
+constexpr AxisNumbers verticalNumbers{RegionNumber::Top, RegionNumber::Bottom,
+                                      RegionNumber::Height};
+
 /// The camera as far as the region of its automatic functions goes. Cameras describe that region by
 /// "AutofunctionAOI..." or "AutoModeRegion..." (offset and size) or by "DSPSubregion..." (edges);
 /// some have several of them, and each number then has its own order of preference.
@@ -59,11 +71,21 @@ public:
     /// As read last.
     double value(RegionNumber number) const { return m_values.value(nameOf(number)); }
     AutoRegion region() const;
+    /// As region(), of what @p valueOf answers for each of the four.
+    template <typename ValueOf> AutoRegion regionOf(const ValueOf& valueOf) const
+    {
+        const auto span = [&](const AxisNumbers& axis) -> Span<double> {
+            if (m_usesEdges)
+                return spanBetween(valueOf(axis.start), valueOf(axis.end));
+            return {valueOf(axis.start), valueOf(axis.size)};
+        };
+        return {span(horizontalNumbers), span(verticalNumbers)};
+    }
     /// Whether all four numbers and their limits were told some time.
     bool isRegionTold() const;
     /// The offset from which the camera counts the region that the label shows.
     QPointF origin() const;
-    const RegionLimits& limits() const { return m_limits; }
+    const QSizeF& limits() const { return m_limits; }
     /// The region on the label.
     QRect drawn() const;
 
@@ -74,7 +96,7 @@ public:
 
     void readOrigin();
     /// What the camera would allow by now; nothing unless it told all of it.
-    std::optional<RegionLimits> readLimits();
+    std::optional<QSizeF> readLimits();
     Reading<double> read(const QString& name);
     double readValue(const QString& name, const QString& alternative = {});
     void write(const QString& name, double value);
@@ -104,7 +126,7 @@ private:
     bool m_usesSizes;
     QStringList m_originNames; ///< which are not the region's own
     QHash<QString, double> m_values;
-    RegionLimits m_limits;
+    QSizeF m_limits{0.0, 0.0};
     QSizeF m_imageSize; ///< of which they were taken
     QStringList m_untold;
 };

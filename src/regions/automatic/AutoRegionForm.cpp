@@ -15,11 +15,6 @@ namespace Name = FeatureNames;
 
 namespace {
 
-constexpr int groupWidth = 350; ///< until the first refresh
-constexpr int fieldWidthMin = 60;
-constexpr int fieldWidthMax = 90;
-constexpr int exposureFieldWidth = 80;
-
 struct Text
 {
     Q_DECLARE_TR_FUNCTIONS(AutoROIWidget)
@@ -57,15 +52,6 @@ void alignCaptions(std::initializer_list<QLabel*> captions)
 
 void adaptRegionFields(const Ui::AutoROIWidget& form, const AutoRegionCamera& camera)
 {
-    for (QDoubleSpinBox* field : {form.spinTop, form.spinLeft, form.spinRight, form.spinBottom,
-                                  form.spinWidth, form.spinHeight}) {
-        field->setKeyboardTracking(false);
-        field->setMinimumWidth(fieldWidthMin);
-        field->setMaximumWidth(fieldWidthMax);
-        field->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-        field->setEnabled(true);
-        field->setDecimals(0);
-    }
     std::vector<QWidget*> hidden;
     if (camera.has(Name::dspBottom))
         hidden = {form.spinWidth, form.labelWidth, form.spinHeight, form.labelHeight};
@@ -80,9 +66,6 @@ void adaptRegionFields(const Ui::AutoROIWidget& form, const AutoRegionCamera& ca
          {form.horizontalLayout_2, form.horizontalLayout_3, form.horizontalLayout_4,
           form.horizontalLayout_5, form.horizontalLayout_6, form.horizontalLayout_7})
         row->addStretch();
-    form.labelInvalidSettings->hide();
-    for (QPushButton* button : {form.btnFull, form.btnHalf, form.btnQuarter})
-        button->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 }
 
 void adaptSwitches(const Ui::AutoROIWidget& form, const AutoRegionCamera& camera)
@@ -103,15 +86,9 @@ void adaptExposure(const Ui::AutoROIWidget& form, const AutoRegionCamera& camera
     const bool hasMax = camera.has(Name::exposureAutoMax);
     const bool hasTimebase = camera.has(Name::exposureAutoTimebase);
     const bool hasTime = camera.has(Name::exposureTime) || camera.has(Name::exposureTimeAbs);
-    for (QDoubleSpinBox* field : {form.spinExpAutoMin, form.spinExpAutoMax}) {
-        field->setMinimumWidth(exposureFieldWidth);
-        field->setKeyboardTracking(false);
-    }
     form.labelExpAutoMin->setEnabled(hasMin);
-    form.spinExpAutoMin->setEnabled(hasMin);
     form.btnExpAutoMinCurrent->setEnabled(hasMin && hasTime);
     form.labelExpAutoMax->setEnabled(hasMax);
-    form.spinExpAutoMax->setEnabled(hasMax);
     form.btnExpAutoMaxCurrent->setEnabled(hasMax && hasTime);
     form.labelExpAutoTimeBase->setVisible(hasTimebase);
     form.comboExpAutoTimeBase->setVisible(hasTimebase);
@@ -122,7 +99,6 @@ void adaptExposure(const Ui::AutoROIWidget& form, const AutoRegionCamera& camera
 
 void adaptForm(const Ui::AutoROIWidget& form, const AutoRegionCamera& camera)
 {
-    form.gb_AutoROI->setMaximumWidth(groupWidth);
     adaptTexts(form, camera);
     adaptRegionFields(form, camera);
     adaptSwitches(form, camera);
@@ -131,37 +107,29 @@ void adaptForm(const Ui::AutoROIWidget& form, const AutoRegionCamera& camera)
 
 void fitColumns(const Ui::AutoROIWidget& form)
 {
-    const auto fieldWidth = [](std::initializer_list<const QDoubleSpinBox*> fields) {
+    using Fields = std::initializer_list<const QDoubleSpinBox*>;
+    const auto fit = [](QGridLayout* grid, int column, int captionWidth, Fields fields) {
         int width = 0;
         for (const QDoubleSpinBox* field : fields)
             if (!field->isHidden())
                 width = std::max(width,
                                  std::clamp(field->sizeHint().width(), field->minimumWidth(),
                                             field->maximumWidth()));
-        return width;
+        grid->setColumnMinimumWidth(column, captionWidth + width);
     };
-    const auto column = [&](const QHBoxLayout* row, const QLabel* caption,
-                            std::initializer_list<const QDoubleSpinBox*> fields) {
-        return caption->minimumWidth() + row->spacing() + fieldWidth(fields);
-    };
-    form.gridLayout_2->setColumnMinimumWidth(
-        0,
-        column(form.horizontalLayout_2, form.labelLeft,
-               {form.spinLeft, form.spinRight, form.spinWidth}));
-    form.gridLayout_2->setColumnMinimumWidth(
-        1,
-        column(form.horizontalLayout_3, form.labelTop,
-               {form.spinTop, form.spinBottom, form.spinHeight}));
-    form.gridLayout->setColumnMinimumWidth(1,
-                                           fieldWidth({form.spinExpAutoMin, form.spinExpAutoMax}));
+    const int spacing = form.horizontalLayout_2->spacing();
+    fit(form.gridLayout_2, 0, form.labelLeft->minimumWidth() + spacing,
+        {form.spinLeft, form.spinRight, form.spinWidth});
+    fit(form.gridLayout_2, 1, form.labelTop->minimumWidth() + spacing,
+        {form.spinTop, form.spinBottom, form.spinHeight});
+    fit(form.gridLayout, 1, 0, {form.spinExpAutoMin, form.spinExpAutoMax});
 }
 
-void enableRegion(const Ui::AutoROIWidget& form, const AutoRegionView& view, bool enabled)
+void enableRegion(const Ui::AutoROIWidget& form, AutoRegionView& view, bool enabled)
 {
     if (!form.cbShowArea->isHidden())
         form.cbShowArea->setEnabled(enabled);
-    for (const RegionNumber number : regionNumbers)
-        view.field(number).box()->setEnabled(enabled && view.isWritable(number));
+    view.setEnabled(enabled);
     for (QPushButton* button : {form.btnFull, form.btnHalf, form.btnQuarter})
         button->setEnabled(enabled && view.isRegionWritable());
     form.gb_AutoROI->setEnabled(enabled);
@@ -171,6 +139,8 @@ void enableRegion(const Ui::AutoROIWidget& form, const AutoRegionView& view, boo
 void showEdgeProblems(const Ui::AutoROIWidget& form, const AutoRegionCamera& camera,
                       const AutoRegion& edges)
 {
+    if (!camera.usesEdges())
+        return;
     const QString problems = edgeProblems(edges, camera.limits());
     form.labelInvalidSettings->setText(Text::tr("Invalid settings: ") + problems);
     form.labelInvalidSettings->setVisible(!problems.isEmpty());

@@ -15,11 +15,11 @@ void adaptForm(const Ui::AutoROIWidget& form, const AutoRegionCamera& camera);
 /// Gives the fields the room that their ranges need, before messages and gaps get any.
 void fitColumns(const Ui::AutoROIWidget& form);
 
-// What is wrong with edges, and with offset and size that the camera has; the latter answers
-// whether they keep to the limits.
+// What is wrong with edges, where the camera has those, and with its offset and size; the latter
+// answers whether they keep to the limits.
 void showEdgeProblems(const Ui::AutoROIWidget& form, const AutoRegionCamera& camera,
                       const AutoRegion& edges);
 bool showSizeProblem(const Ui::AutoROIWidget& form, const AutoRegionCamera& camera);
 
 /// Lets the user edit the region, as far as the camera does.
-void enableRegion(const Ui::AutoROIWidget& form, const AutoRegionView& view, bool enabled);
+void enableRegion(const Ui::AutoROIWidget& form, AutoRegionView& view, bool enabled);

@@ -10,18 +10,9 @@
 
 #include <utility>
 
-namespace {
-
-QSize sizeOf(const RegionLimits& limits)
-{
-    return {toInt(static_cast<double>(limits.width)), toInt(static_cast<double>(limits.height))};
-}
-
-} // namespace
-
 AutoRegionPicture::AutoRegionPicture(AutoRegionCamera& camera, QLayout& layout)
     : m_camera(camera)
-    , m_label(new RubberBandLabel(sizeOf(camera.limits()).width(), sizeOf(camera.limits()).height(),
+    , m_label(new RubberBandLabel(toInt(camera.limits().width()), toInt(camera.limits().height()),
                                   Qt::darkGreen, nullptr))
 {
     layout.addWidget(m_label);
@@ -49,7 +40,7 @@ void AutoRegionPicture::retryImage()
 
 void AutoRegionPicture::followLimits()
 {
-    const QSize size = sizeOf(m_camera.limits());
+    const QSize size(toInt(m_camera.limits().width()), toInt(m_camera.limits().height()));
     if (m_label->sensorSize() == size)
         return;
     m_label->setSensorSize(size.width(), size.height());

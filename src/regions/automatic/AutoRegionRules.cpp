@@ -21,27 +21,25 @@ double scaledThroughIncrement(double value, double increment)
     return increment > 0.0 ? (value / increment) * increment : value;
 }
 
-bool exceeds(const Span<double>& span, double origin, qint64 limit)
+bool exceeds(const Span<double>& span, double origin, double limit)
 {
-    return static_cast<double>(limit) < (span.start - origin) + span.length;
+    return limit < (span.start - origin) + span.length;
 }
 
-bool isValid(const Span<double>& edges, qint64 limit)
+bool isValid(const Span<double>& edges, double limit)
 {
-    const auto last = static_cast<double>(limit);
-    return edges.length > 0.0 && edges.start < last && edges.end() <= last;
+    return edges.length > 0.0 && edges.start < limit && edges.end() <= limit;
 }
 
 // A camera with two such regions may count one of them from behind the other.
-Span<double> cutBySize(const Span<double>& span, double origin, qint64 limit)
+Span<double> cutBySize(const Span<double>& span, double origin, double limit)
 {
-    const auto last = static_cast<double>(limit);
-    return {std::max(0.0, std::min(span.start - origin, last)), std::min(span.length, last)};
+    return {std::max(0.0, std::min(span.start - origin, limit)), std::min(span.length, limit)};
 }
 
-Span<double> cutByEdges(const Span<double>& span, qint64 limit)
+Span<double> cutByEdges(const Span<double>& span, double limit)
 {
-    const double end = std::min(span.end(), static_cast<double>(limit));
+    const double end = std::min(span.end(), limit);
     return spanBetween(std::min(span.start, end), end);
 }
 
@@ -52,18 +50,18 @@ QRect truncated(const Span<double>& horizontal, const Span<double>& vertical)
 
 } // namespace
 
-qint64 aoiHeightLimit(double height, double increment, double minimumHeight, double minimumOffsetX)
+double aoiHeightLimit(double height, double increment, double minimumHeight, double minimumOffsetX)
 {
     const double wholeHeight = std::trunc(height);
     const int wholeIncrement = toInt(increment);
     const bool offGrid = wholeIncrement > 0 && std::fmod(wholeHeight, wholeIncrement) != 0.0;
     const double remainder = offGrid ? minimumHeight : 0.0;
-    return toInt64(scaledThroughIncrement(wholeHeight - remainder, increment) + minimumOffsetX);
+    return std::trunc(scaledThroughIncrement(wholeHeight - remainder, increment) + minimumOffsetX);
 }
 
-qint64 aoiWidthLimit(double width, double increment, double minimumOffsetY)
+double aoiWidthLimit(double width, double increment, double minimumOffsetY)
 {
-    return toInt64(scaledThroughIncrement(width, increment) + minimumOffsetY);
+    return std::trunc(scaledThroughIncrement(width, increment) + minimumOffsetY);
 }
 
 AutoRegion fromLabel(const QRect& drawn, const QPointF& origin)
@@ -72,16 +70,16 @@ AutoRegion fromLabel(const QRect& drawn, const QPointF& origin)
             {origin.y() + drawn.y(), double(drawn.height())}};
 }
 
-QRect drawnBySize(const AutoRegion& region, const QPointF& origin, const RegionLimits& limits)
+QRect drawnBySize(const AutoRegion& region, const QPointF& origin, const QSizeF& limits)
 {
-    return truncated(cutBySize(region.horizontal, origin.x(), limits.width),
-                     cutBySize(region.vertical, origin.y(), limits.height));
+    return truncated(cutBySize(region.horizontal, origin.x(), limits.width()),
+                     cutBySize(region.vertical, origin.y(), limits.height()));
 }
 
-QRect drawnByEdges(const AutoRegion& region, const RegionLimits& limits)
+QRect drawnByEdges(const AutoRegion& region, const QSizeF& limits)
 {
-    return truncated(cutByEdges(region.horizontal, limits.width),
-                     cutByEdges(region.vertical, limits.height));
+    return truncated(cutByEdges(region.horizontal, limits.width()),
+                     cutByEdges(region.vertical, limits.height()));
 }
 
 double onGrid(double value, double step)
@@ -91,39 +89,37 @@ double onGrid(double value, double step)
     return static_cast<double>(steps * wholeStep);
 }
 
-QString sizeProblem(const AutoRegion& region, const QPointF& origin, const RegionLimits& limits,
+QString sizeProblem(const AutoRegion& region, const QPointF& origin, const QSizeF& limits,
                     const QString& name)
 {
-    if (exceeds(region.vertical, origin.y(), limits.height))
+    if (exceeds(region.vertical, origin.y(), limits.height()))
         return Text::tr("Invalid settings:\nHeight + OffsetY > %1 Height").arg(name);
-    if (exceeds(region.horizontal, origin.x(), limits.width))
+    if (exceeds(region.horizontal, origin.x(), limits.width()))
         return Text::tr("Invalid settings:\nWidth + OffsetX > %1 Width").arg(name);
     return {};
 }
 
-QString edgeProblems(const AutoRegion& region, const RegionLimits& limits)
+QString edgeProblems(const AutoRegion& region, const QSizeF& limits)
 {
-    const auto width = static_cast<double>(limits.width);
-    const auto height = static_cast<double>(limits.height);
     QString problems;
     if (region.vertical.length < 0.0)
         problems += Text::tr("\nTop > Bottom! ");
-    if (region.vertical.start > height)
+    if (region.vertical.start > limits.height())
         problems += Text::tr("\nTop > ROI Height! ");
-    if (region.vertical.end() > height)
+    if (region.vertical.end() > limits.height())
         problems += Text::tr("\nBottom > ROI Height! ");
     if (region.horizontal.length < 0.0)
         problems += Text::tr("Left > Right! ");
-    if (region.horizontal.start > width)
+    if (region.horizontal.start > limits.width())
         problems += Text::tr("Left > ROI Width! ");
-    if (region.horizontal.end() > width)
+    if (region.horizontal.end() > limits.width())
         problems += Text::tr("Right > ROI Width! ");
     return problems;
 }
 
-bool hasValidEdges(const AutoRegion& region, const RegionLimits& limits)
+bool hasValidEdges(const AutoRegion& region, const QSizeF& limits)
 {
-    return isValid(region.horizontal, limits.width) && isValid(region.vertical, limits.height);
+    return isValid(region.horizontal, limits.width()) && isValid(region.vertical, limits.height());
 }
 
 bool writesFarEdgeFirst(const Span<double>& current, const Span<double>& wanted)

@@ -4,11 +4,13 @@
 
 #include <QPointF>
 #include <QRect>
+#include <QSizeF>
 #include <QString>
 
 // The region that the automatic functions evaluate, in image pixels. Some cameras count it from an
 // offset of their own, the origin; the label shows it without. Cameras tell it by offset and size,
-// or by its edges, of which the far one lies behind the region.
+// or by its edges, of which the far one lies behind the region. The limits are its largest size, in
+// whole pixels.
 
 struct AutoRegion
 {
@@ -16,54 +18,37 @@ struct AutoRegion
     Span<double> vertical; ///< of a negative length where edges cross
 };
 
-/// The largest size of the region.
-struct RegionLimits
-{
-    qint64 width = 0;
-    qint64 height = 0;
-};
-
-constexpr bool operator==(const RegionLimits& a, const RegionLimits& b)
-{
-    return a.width == b.width && a.height == b.height;
-}
-
 // Cameras with "AutofunctionAOI..." features derive the limits from the image size. The division by
 // the increment is not truncated; each axis adds the minimum of the other axis's offset, and only
 // the height subtracts the image's minimum when it is no multiple of the increment. The cameras
 // agree with all of this. The other families need no arithmetic: they take the maximum of
 // "AutoModeRegion..." or the image size.
 
-/// @param height of the image
 /// @param increment of "AutofunctionAOIHeight"
-/// @param minimumHeight of the image
-/// @param minimumOffsetX of "AutofunctionAOIOffsetX"
-qint64 aoiHeightLimit(double height, double increment, double minimumHeight, double minimumOffsetX);
+double aoiHeightLimit(double height, double increment, double minimumHeight, double minimumOffsetX);
 
-/// @param width of the image
 /// @param increment of "AutofunctionAOIWidth"
-/// @param minimumOffsetY of "AutofunctionAOIOffsetY"
-qint64 aoiWidthLimit(double width, double increment, double minimumOffsetY);
+double aoiWidthLimit(double width, double increment, double minimumOffsetY);
 
 /// The camera's region for one drawn on the label.
 AutoRegion fromLabel(const QRect& drawn, const QPointF& origin);
 
 /// The region to draw for offset and size, cut to the limits.
-QRect drawnBySize(const AutoRegion& region, const QPointF& origin, const RegionLimits& limits);
+QRect drawnBySize(const AutoRegion& region, const QPointF& origin, const QSizeF& limits);
 /// The region to draw for edges: cut to the limits, never negative.
-QRect drawnByEdges(const AutoRegion& region, const RegionLimits& limits);
+QRect drawnByEdges(const AutoRegion& region, const QSizeF& limits);
 
 /// The whole multiple of @p step, both truncated, at or next below @p value, as it is written.
 double onGrid(double value, double step);
 
 /// What is wrong with offset and size, for the user; empty when they keep to the limits.
 /// @param name of the region to the user, "AOI" or "ROI"
-QString sizeProblem(const AutoRegion& region, const QPointF& origin, const RegionLimits& limits,
+QString sizeProblem(const AutoRegion& region, const QPointF& origin, const QSizeF& limits,
                     const QString& name);
 /// What is wrong with the edges.
-QString edgeProblems(const AutoRegion& region, const RegionLimits& limits);
+QString edgeProblems(const AutoRegion& region, const QSizeF& limits);
 /// Whether the region is not empty and lies within the limits.
-bool hasValidEdges(const AutoRegion& region, const RegionLimits& limits);
+bool hasValidEdges(const AutoRegion& region, const QSizeF& limits);
 
 /// Whether the far edge of an axis (right, bottom) is written before the near one, so that the
 /// camera never sees near and far edge cross.

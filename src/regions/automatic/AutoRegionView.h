@@ -6,9 +6,7 @@
 #include <array>
 
 /// The six fields of the region and what they show of the camera. Nothing here but commit() makes a
-/// field emit.
-///
-/// Fields that the camera has no feature for follow from the others.
+/// field emit. Fields that the camera has no feature for follow from the others.
 class AutoRegionView
 {
 public:
@@ -20,9 +18,10 @@ public:
     NumberField& field(RegionNumber number);
     const NumberField& field(RegionNumber number) const;
     AutoRegion shown() const;
-    // As the camera told last.
-    bool isWritable(RegionNumber number) const;
+    /// As the camera told last.
     bool isRegionWritable() const;
+    /// Lets the user edit, as far as the camera does.
+    void setEnabled(bool isEnabled);
 
     /// Ranges, steps and values from the camera.
     void load();
@@ -37,12 +36,8 @@ public:
     void commit();
 
 private:
-    void show(RegionNumber number, const Reading<double>& reading);
-    void loadExtent(RegionNumber size, RegionNumber nearEdge, RegionNumber farEdge);
-    void loadFarEdge(RegionNumber farEdge, RegionNumber offset, RegionNumber size);
-    void refreshAxis(RegionNumber offset, RegionNumber size, RegionNumber farEdge, qint64 limit);
+    void showDerived(RegionNumber number, const Span<double>& range, double value);
 
     AutoRegionCamera& m_camera;
     std::array<NumberField, regionNumbers.size()> m_fields;
-    std::array<bool, regionNumbers.size()> m_isLocked{};
 };

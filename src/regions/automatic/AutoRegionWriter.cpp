@@ -29,42 +29,32 @@ bool AutoRegionWriter::writeDrawn(const QRect& region)
     m_view.showProvisional(fromLabel(region, m_camera.origin()));
     if (!m_camera.usesEdges())
         return m_camera.usesSizes() && writeSizes(region);
-    writeEdges(region);
+    const AutoRegion drawn = fromLabel(region, {});
+    writeEdges(horizontalNumbers, drawn.horizontal, m_camera.limits().width());
+    writeEdges(verticalNumbers, drawn.vertical, m_camera.limits().height());
     return false;
 }
 
-void AutoRegionWriter::writeEdges(const QRect& region)
+void AutoRegionWriter::writeEdges(const AxisNumbers& axis, const Span<double>& drawn, double limit)
 {
-    const AutoRegion drawn = fromLabel(region, {});
-    writeAxis(RegionNumber::Left, RegionNumber::Right, drawn.horizontal, m_camera.limits().width);
-    writeAxis(RegionNumber::Top, RegionNumber::Bottom, drawn.vertical, m_camera.limits().height);
-}
-
-void AutoRegionWriter::writeAxis(RegionNumber nearEdge, RegionNumber farEdge,
-                                 const Span<double>& drawn, qint64 limit)
-{
-    const auto current = spanBetween(m_camera.readValue(nearEdge), m_camera.readValue(farEdge));
-    const Span<double> wanted
-        = keptApart(drawn, static_cast<double>(limit), m_view.field(nearEdge).grid().step);
+    const auto current = spanBetween(m_camera.readValue(axis.start), m_camera.readValue(axis.end));
+    const Span<double> wanted = keptApart(drawn, limit, m_view.field(axis.start).grid().step);
     if (writesFarEdgeFirst(current, wanted)) {
-        write(farEdge, wanted.end());
-        write(nearEdge, wanted.start);
+        write(axis.end, wanted.end());
+        write(axis.start, wanted.start);
     } else {
-        write(nearEdge, wanted.start);
-        write(farEdge, wanted.end());
+        write(axis.start, wanted.start);
+        write(axis.end, wanted.end());
     }
 }
 
 bool AutoRegionWriter::writeSizes(const QRect& region)
 {
     const QPointF origin = m_camera.origin();
-    const auto snapped = [this](RegionNumber offset, int value) {
-        return snappedUp(value, m_view.field(offset).grid());
-    };
-    const double left = snapped(RegionNumber::Left, region.x());
-    const double top = snapped(RegionNumber::Top, region.y());
-    const double roomRight = static_cast<double>(m_camera.limits().width) - left;
-    const double roomBelow = static_cast<double>(m_camera.limits().height) - top;
+    const double left = snappedUp(region.x(), m_view.field(RegionNumber::Left).grid());
+    const double top = snappedUp(region.y(), m_view.field(RegionNumber::Top).grid());
+    const double roomRight = m_camera.limits().width() - left;
+    const double roomBelow = m_camera.limits().height() - top;
     m_view.field(RegionNumber::Height).limitTo(roomBelow);
     m_view.field(RegionNumber::Width).limitTo(roomRight);
 
@@ -90,22 +80,20 @@ void AutoRegionWriter::settleOffset(RegionNumber offset, double wanted)
 
 void AutoRegionWriter::setFullArea()
 {
-    const RegionLimits current = m_camera.readLimits().value_or(m_camera.limits());
-    growImage(FeatureNames::height, current.height, m_camera.limits().height);
-    growImage(FeatureNames::width, current.width, m_camera.limits().width);
+    const QSizeF current = m_camera.readLimits().value_or(m_camera.limits());
+    growImage(FeatureNames::height, current.height(), m_camera.limits().height());
+    growImage(FeatureNames::width, current.width(), m_camera.limits().width());
     m_camera.readOrigin();
-    const QPointF origin = m_camera.origin();
-    setSizeMaximum(RegionNumber::Width, origin.x() + static_cast<double>(current.width));
-    setSizeMaximum(RegionNumber::Height, origin.y() + static_cast<double>(current.height));
+    setSizeMaximum(RegionNumber::Width, m_camera.origin().x() + current.width());
+    setSizeMaximum(RegionNumber::Height, m_camera.origin().y() + current.height());
 }
 
-void AutoRegionWriter::growImage(const QString& name, qint64 current, qint64 former)
+// Where size and offset bound each other a larger limit may only tell of a smaller offset; the
+// image must not be cut to it.
+void AutoRegionWriter::growImage(const QString& name, double current, double former)
 {
-    // Where size and offset bound each other a larger limit may only tell of a smaller offset; the
-    // image must not be cut to it.
-    const auto size = static_cast<double>(current);
-    if (current > former && !(m_camera.isAutoMode() && size < m_camera.readValue(name)))
-        m_camera.write(name, size);
+    if (current > former && !(m_camera.isAutoMode() && current < m_camera.readValue(name)))
+        m_camera.write(name, current);
 }
 
 // A size that is cut is written: the field emits.
@@ -121,29 +109,25 @@ void AutoRegionWriter::presetFull()
     setFullArea();
     const double left = m_view.field(RegionNumber::Left).grid().minimum;
     const double top = m_view.field(RegionNumber::Top).grid().minimum;
-    const auto width = static_cast<double>(m_camera.limits().width);
-    const auto height = static_cast<double>(m_camera.limits().height);
-    makeRoom({spanBetween(left, width - left), spanBetween(top, height - top)});
-    setEdge(RegionNumber::Left, left);
-    setEdge(RegionNumber::Top, top);
-    m_view.field(RegionNumber::Height).box()->setValue(height);
-    m_view.field(RegionNumber::Width).box()->setValue(width);
-    setEdge(RegionNumber::Right, width - left);
-    setEdge(RegionNumber::Bottom, height - top);
+    const QSizeF limits = m_camera.limits();
+    setStart(horizontalNumbers, spanBetween(left, limits.width() - left));
+    setStart(verticalNumbers, spanBetween(top, limits.height() - top));
+    m_view.field(RegionNumber::Height).box()->setValue(limits.height());
+    m_view.field(RegionNumber::Width).box()->setValue(limits.width());
+    setEdge(RegionNumber::Right, limits.width() - left);
+    setEdge(RegionNumber::Bottom, limits.height() - top);
 }
 
 void AutoRegionWriter::presetCentred(double factor)
 {
     m_view.refresh(); // the fields emit what differs from the camera
     setFullArea();
-    const QPointF origin = m_camera.origin();
-    AutoRegion wanted{centredSpan(static_cast<double>(m_camera.limits().width), factor),
-                      centredSpan(static_cast<double>(m_camera.limits().height), factor)};
-    wanted.horizontal.start += origin.x();
-    wanted.vertical.start += origin.y();
-    makeRoom(wanted);
-    setEdge(RegionNumber::Left, wanted.horizontal.start);
-    setEdge(RegionNumber::Top, wanted.vertical.start);
+    AutoRegion wanted{centredSpan(m_camera.limits().width(), factor),
+                      centredSpan(m_camera.limits().height(), factor)};
+    wanted.horizontal.start += m_camera.origin().x();
+    wanted.vertical.start += m_camera.origin().y();
+    setStart(horizontalNumbers, wanted.horizontal);
+    setStart(verticalNumbers, wanted.vertical);
     write(RegionNumber::Left, wanted.horizontal.start);
     write(RegionNumber::Top, wanted.vertical.start);
     m_view.field(RegionNumber::Height).box()->setValue(wanted.vertical.length);
@@ -156,15 +140,11 @@ void AutoRegionWriter::presetCentred(double factor)
 }
 
 // Near edges are written first; one that would reach the far edge has to wait for it.
-void AutoRegionWriter::makeRoom(const AutoRegion& wanted)
+void AutoRegionWriter::setStart(const AxisNumbers& axis, const Span<double>& wanted)
 {
-    if (!m_camera.usesEdges())
-        return;
-    const AutoRegion current = m_camera.region();
-    if (wanted.horizontal.start >= current.horizontal.end())
-        setEdge(RegionNumber::Right, wanted.horizontal.end());
-    if (wanted.vertical.start >= current.vertical.end())
-        setEdge(RegionNumber::Bottom, wanted.vertical.end());
+    if (m_camera.usesEdges() && wanted.start >= m_camera.value(axis.end))
+        setEdge(axis.end, wanted.end());
+    setEdge(axis.start, wanted.start);
 }
 
 // Cameras may bound edges by each other; the field takes what the camera takes by now.

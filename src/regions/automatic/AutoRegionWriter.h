@@ -26,13 +26,11 @@ public:
     void presetCentred(double factor);
 
 private:
-    void writeEdges(const QRect& region);
+    void writeEdges(const AxisNumbers& axis, const Span<double>& drawn, double limit);
     bool writeSizes(const QRect& region);
-    void writeAxis(RegionNumber nearEdge, RegionNumber farEdge, const Span<double>& drawn,
-                   qint64 limit);
-    void makeRoom(const AutoRegion& wanted);
+    void setStart(const AxisNumbers& axis, const Span<double>& wanted);
     void setEdge(RegionNumber number, double value);
-    void growImage(const QString& name, qint64 current, qint64 former);
+    void growImage(const QString& name, double current, double former);
     void setSizeMaximum(RegionNumber size, double maximum);
     void settleOffset(RegionNumber offset, double wanted);
 

@@ -36,10 +36,10 @@ double exposureLimitToWrite(double value, double increment, int decimals, int sc
 ExposureLimits::ExposureLimits(FeatureManager& manager, QDoubleSpinBox* minimumField,
                                QDoubleSpinBox* maximumField)
     : m_manager(manager)
-    , m_minimum{Name::exposureAutoMin, NumberField(minimumField)}
-    , m_maximum{Name::exposureAutoMax, NumberField(maximumField)}
+    , m_limits{{Name::exposureAutoMin, NumberField(minimumField)},
+               {Name::exposureAutoMax, NumberField(maximumField)}}
 {
-    for (const Limit& limit : {m_minimum, m_maximum}) {
+    for (const Limit& limit : m_limits) {
         const QSignalBlocker blocker(limit.field.box());
         // Also without the feature: the other limit's writes go by the decimals shown here.
         limit.field.box()->setDecimals(manager.IsFloatFeature(limit.featureName) ? 2 : 0);
@@ -49,48 +49,48 @@ ExposureLimits::ExposureLimits(FeatureManager& manager, QDoubleSpinBox* minimumF
 QStringList ExposureLimits::refresh()
 {
     QStringList untold;
-    show(m_minimum, untold);
-    show(m_maximum, untold);
+    for (Limit& limit : m_limits) {
+        if (!show(limit))
+            untold << limit.featureName;
+    }
     return untold;
 }
 
-void ExposureLimits::show(Limit& limit, QStringList& untold)
+bool ExposureLimits::show(Limit& limit)
 {
-    const Reading<double> reading = limit.isLoaded ? readNumber(m_manager, limit.featureName)
-                                                   : readFieldNumber(m_manager, limit.featureName);
-    if (reading.exists && (reading.isComplete || reading.isWritable))
-        limit.field.box()->setEnabled(reading.isWritable);
-    if (!limit.field.showWhole(reading))
-        untold << limit.featureName;
-    if (!limit.isLoaded && reading.isComplete) {
+    if (limit.isLoaded)
+        return limit.field.showWhole(readNumber(m_manager, limit.featureName));
+    const Reading<double> reading = readFieldNumber(m_manager, limit.featureName);
+    limit.isLoaded = reading.isComplete;
+    if (limit.isLoaded)
         limit.field.box()->setSingleStep(std::max(1.0, reading.increment.value_or(1.0)));
-        limit.isLoaded = true;
-    }
+    return limit.field.showWhole(reading);
 }
 
-bool ExposureLimits::write(Limit& limit, double value)
+QStringList ExposureLimits::write(Which which, double value)
 {
+    Limit& limit = m_limits[which];
     const Reading<double> reading = readNumber(m_manager, limit.featureName);
     if (!reading.exists)
-        return true;
-    // The minimum's decimals scale both limits.
-    const double written
-        = exposureLimitToWrite(value, reading.increment.value_or(0.0),
-                               limit.field.box()->decimals(), m_minimum.field.box()->decimals());
-    const double taken = m_manager.SetValue(limit.featureName, written);
-    if (taken >= 0.0)
-        limit.field.showTaken(taken);
-    return taken >= 0.0;
+        return {};
+    const double taken = m_manager.SetValue(
+        limit.featureName,
+        exposureLimitToWrite(value, reading.increment.value_or(0.0), limit.field.box()->decimals(),
+                             m_limits[Minimum].field.box()->decimals()));
+    if (taken < 0.0)
+        return {limit.featureName};
+    limit.field.showTaken(taken);
+    return {};
 }
 
-void ExposureLimits::useTime(const Limit& limit)
+void ExposureLimits::useTime(Which which)
 {
     if (const auto time = readValue(m_manager, Name::exposureTime, Name::exposureTimeAbs))
-        limit.field.box()->setValue(*time);
+        m_limits[which].field.box()->setValue(*time);
 }
 
 void ExposureLimits::commit()
 {
-    m_minimum.field.commit();
-    m_maximum.field.commit();
+    for (Limit& limit : m_limits)
+        limit.field.commit();
 }

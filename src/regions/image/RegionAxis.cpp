@@ -8,45 +8,15 @@
 
 #include <algorithm>
 #include <cmath>
-#include <utility>
 
-namespace {
-
-/// A field follows the access of its feature, unless the camera does not tell it.
-void followAccess(const Reading<double>& reading, const NumberField& field, bool& isWritable)
-{
-    if (reading.isComplete || reading.isWritable)
-        isWritable = reading.isWritable;
-    field.box()->setEnabled(isWritable);
-}
-
-/// Shows what the camera took, or what it had when it does not tell.
-void showTaken(NumberField& field, double& onCamera, double taken)
-{
-    if (taken >= 0.0)
-        onCamera = taken;
-    field.showTaken(onCamera);
-}
-
-} // namespace
-
-RegionAxis::RegionAxis(FeatureManager& manager, RegionAxisNames names, QDoubleSpinBox* offsetField,
-                       QDoubleSpinBox* sizeField)
+RegionAxis::RegionAxis(FeatureManager& manager, const RegionAxisNames& names,
+                       QDoubleSpinBox* offsetField, QDoubleSpinBox* sizeField)
     : m_manager(manager)
-    , m_names(std::move(names))
-    , m_offset(offsetField)
-    , m_size(sizeField)
+    , m_offset{names.offset, NumberField(offsetField)}
+    , m_size{names.size, NumberField(sizeField)}
+    , m_maximumName(names.maximum)
+    , m_sensorName(names.sensor)
 {
-}
-
-void RegionAxis::load()
-{
-    const Reading<double> offset = readOffset();
-    followAccess(offset, m_offset, m_isOffsetWritable);
-    m_offset.showStep(offset);
-    m_hasOffsetStep = offset.isComplete;
-    m_offset.show(offset);
-    showSize();
 }
 
 QStringList RegionAxis::readAll(QDoubleSpinBox* stepField)
@@ -55,41 +25,39 @@ QStringList RegionAxis::readAll(QDoubleSpinBox* stepField)
     forgetMaximum();
     readMaximum();
     if (!m_isMaximumFresh)
-        untold << m_names.maximum;
+        untold << m_maximumName;
     if (!showOffset(stepField))
-        untold << m_names.offset;
+        untold << m_offset.name;
     if (!showSize())
-        untold << m_names.size;
+        untold << m_size.name;
     return untold;
 }
 
 bool RegionAxis::showOffset(QDoubleSpinBox* stepField)
 {
-    const Reading<double> offset = readOffset();
-    if (m_offset.isHeld() || m_offset.isBeingTyped())
+    const Reading<double> offset = read(m_offset);
+    if (m_offset.field.isHeld() || m_offset.field.isBeingTyped())
         return false;
-    followAccess(offset, m_offset, m_isOffsetWritable);
     if (!m_hasOffsetStep) {
-        m_offset.showStep(offset);
+        m_offset.field.showStep(offset);
         m_hasOffsetStep = offset.isComplete;
     }
     const bool isFormatTold = readPixelFormat();
-    if (!needsEven(m_names.offset))
-        return m_offset.show(offset) && isFormatTold;
+    if (!needsEven(m_offset.name))
+        return m_offset.field.show(offset) && isFormatTold;
     const Reading<double> even = evenOffsets(offset);
     if (even.increment)
         stepField->setSingleStep(*even.increment);
-    return m_offset.show(even) && isFormatTold;
+    return m_offset.field.show(even) && isFormatTold;
 }
 
 bool RegionAxis::showSize()
 {
-    const Reading<double> size = readSize();
-    if (m_size.isHeld() || m_size.isBeingTyped())
+    const Reading<double> size = read(m_size);
+    if (m_size.field.isHeld() || m_size.field.isBeingTyped())
         return false;
-    followAccess(size, m_size, m_isSizeWritable);
-    m_size.showStep(size);
-    return m_size.show(size);
+    m_size.field.showStep(size);
+    return m_size.field.show(size);
 }
 
 double RegionAxis::readMaximum()
@@ -103,7 +71,7 @@ double RegionAxis::readMaximum()
 bool RegionAxis::readLargest()
 {
     bool isTold = true;
-    for (const QString& name : {m_names.maximum, m_names.sensor}) {
+    for (const QString& name : {m_maximumName, m_sensorName}) {
         const auto extent = readValue(m_manager, name);
         if (extent.value_or(0.0) >= 1.0) {
             m_maximum = std::trunc(*extent);
@@ -113,16 +81,16 @@ bool RegionAxis::readLargest()
         if (!isTold && m_maximum > 0.0)
             return false;
     }
-    const double largestSize = readSize().maximum.value_or(0.0);
+    const double largestSize = read(m_size).maximum.value_or(0.0);
     if (largestSize < 1.0)
         return false;
-    m_maximum = std::trunc(largestSize + readOffset().value.value_or(m_onCamera.start));
+    m_maximum = std::trunc(largestSize + readOnCamera(m_offset));
     return isTold;
 }
 
 bool RegionAxis::readSensor()
 {
-    const Reading<double> sensor = readNumber(m_manager, m_names.sensor);
+    const Reading<double> sensor = readNumber(m_manager, m_sensorName);
     m_sensor = sensor.value.value_or(m_sensor);
     return sensor.isComplete;
 }
@@ -149,85 +117,87 @@ bool RegionAxis::needsEven(const QString& offset)
     return needsEvenSize(category, m_pixelFormat);
 }
 
-Reading<double> RegionAxis::readOffset()
+Reading<double> RegionAxis::read(Number& number)
 {
-    const Reading<double> offset = readNumber(m_manager, m_names.offset);
-    m_hasOffset = offset.exists;
-    m_isOffsetTold = m_isOffsetTold || offset.value || !offset.exists;
-    m_onCamera.start = offset.value.value_or(m_onCamera.start);
-    return offset;
+    const Reading<double> reading = readNumber(m_manager, number.name);
+    number.exists = reading.exists;
+    number.isTold = number.isTold || reading.value || (!reading.exists && reading.isComplete);
+    number.onCamera = reading.value.value_or(number.onCamera);
+    return reading;
 }
 
-Reading<double> RegionAxis::readSize()
+double RegionAxis::readOnCamera(Number& number)
 {
-    const Reading<double> size = readNumber(m_manager, m_names.size);
-    m_isSizeTold = m_isSizeTold || size.value;
-    m_onCamera.length = size.value.value_or(m_onCamera.length);
-    return size;
-}
-
-Span<double> RegionAxis::inFields() const
-{
-    return {m_offset.value(), m_size.value()};
+    number.onCamera = readValue(m_manager, number.name).value_or(number.onCamera);
+    return number.onCamera;
 }
 
 bool RegionAxis::isWritable() const
 {
-    return m_isSizeWritable && (m_isOffsetWritable || !m_hasOffset);
+    return m_size.field.isWritable() && (m_offset.field.isWritable() || !m_offset.exists);
 }
 
 bool RegionAxis::isBeyondMaximum() const
 {
-    return isTold() && std::max(inFields().end(), m_onCamera.end()) > m_maximum;
+    const double inFields = m_offset.field.value() + m_size.field.value();
+    return isTold() && std::max(inFields, onCamera().end()) > m_maximum;
 }
 
 void RegionAxis::showProvisional(const Span<double>& span)
 {
-    m_offset.showProvisional(span.start);
-    m_size.showProvisional(span.length);
+    m_offset.field.showProvisional(span.start);
+    m_size.field.showProvisional(span.length);
 }
 
 void RegionAxis::widen()
 {
-    m_offset.limitTo(readMaximum());
-    m_size.limitTo(readMaximum());
+    m_offset.field.limitTo(readMaximum());
+    m_size.field.limitTo(readMaximum());
 }
 
 void RegionAxis::commit()
 {
-    m_offset.commit();
-    m_size.commit();
+    m_offset.field.commit();
+    m_size.field.commit();
 }
 
 void RegionAxis::writeOffset(double value)
 {
-    m_onCamera.length = readValue(m_manager, m_names.size).value_or(m_onCamera.length);
-    value = snappedUp(value, m_offset.grid());
-    value = cutToMaximum(value, m_onCamera.length, readMaximum());
-    if (m_hasOffset)
-        showTaken(m_offset, m_onCamera.start, m_manager.SetValue(m_names.offset, value));
+    const double size = readOnCamera(m_size);
+    value = snappedUp(value, m_offset.field.grid());
+    if (m_offset.exists)
+        write(m_offset, cutToMaximum(value, size, readMaximum()));
 }
 
 void RegionAxis::writeSize(double value)
 {
-    m_onCamera.start = readValue(m_manager, m_names.offset).value_or(m_onCamera.start);
+    const double offset = readOnCamera(m_offset);
     readPixelFormat();
-    value = snappedUp(value, m_size.grid());
+    value = snappedUp(value, m_size.field.grid());
     if (needsEven(FeatureNames::offsetX))
         value = raisedToEven(value);
-    value = cutToMaximum(value, m_onCamera.start, readMaximum());
-    showTaken(m_size, m_onCamera.length, m_manager.SetValue(m_names.size, value));
+    write(m_size, cutToMaximum(value, offset, readMaximum()));
+}
+
+// Shows what the camera took, or what it had when it does not tell.
+void RegionAxis::write(Number& number, double value)
+{
+    const double taken = m_manager.SetValue(number.name, value);
+    if (taken >= 0.0)
+        number.onCamera = taken;
+    number.field.showTaken(number.onCamera);
 }
 
 AxisPlan RegionAxis::readPlan(const Span<double>& wanted, double overflowStep)
 {
-    const double offsetMaximum = readOffset().maximum.value_or(m_offset.box()->maximum());
-    readSize();
+    const double offsetMaximum = read(m_offset).maximum.value_or(m_offset.field.box()->maximum());
+    readOnCamera(m_size);
     const double maximum = readMaximum();
-    const Span<double> snapped{snappedUp(wanted.start, m_offset.grid()),
-                               snappedUp(wanted.length, m_size.grid())};
-    const Span<double> span = overflowCorrected(snapped, maximum, m_size.grid(), overflowStep);
-    return {span, writesOffsetFirst(span.start, m_onCamera.length, maximum, offsetMaximum)};
+    const FieldGrid sizeGrid = m_size.field.grid();
+    const Span<double> snapped{snappedUp(wanted.start, m_offset.field.grid()),
+                               snappedUp(wanted.length, sizeGrid)};
+    const Span<double> span = overflowCorrected(snapped, maximum, sizeGrid, overflowStep);
+    return {span, writesOffsetFirst(span.start, m_size.onCamera, maximum, offsetMaximum)};
 }
 
 void RegionAxis::write(const AxisPlan& plan)

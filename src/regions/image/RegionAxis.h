@@ -30,11 +30,9 @@ struct AxisPlan
 class RegionAxis
 {
 public:
-    RegionAxis(FeatureManager& manager, RegionAxisNames names, QDoubleSpinBox* offsetField,
+    RegionAxis(FeatureManager& manager, const RegionAxisNames& names, QDoubleSpinBox* offsetField,
                QDoubleSpinBox* sizeField);
 
-    /// Ranges, steps and values as the camera has them.
-    void load();
     /// Reads the maximum and what both fields show; those that the user works in keep it. Where
     /// sizes have to be even, the offset's increment becomes the step of @p stepField. Answers what
     /// has to be read again.
@@ -51,10 +49,9 @@ public:
     double sensor();
 
     /// As the camera told last.
-    const Span<double>& onCamera() const { return m_onCamera; }
-    Span<double> inFields() const;
+    Span<double> onCamera() const { return {m_offset.onCamera, m_size.onCamera}; }
     /// Whether the camera has told it all.
-    bool isTold() const { return m_isOffsetTold && m_isSizeTold && m_maximum > 0.0; }
+    bool isTold() const { return m_offset.isTold && m_size.isTold && m_maximum > 0.0; }
     bool isWritable() const;
     /// Whether camera or fields reach beyond the maximum size.
     bool isBeyondMaximum() const;
@@ -77,28 +74,33 @@ public:
     void write(const AxisPlan& plan);
 
 private:
+    struct Number
+    {
+        QString name;
+        NumberField field;
+        double onCamera = 0.0;
+        bool exists = false;
+        bool isTold = false; ///< also that it is missing
+    };
+
     bool readLargest();
     bool readPixelFormat();
     bool needsEven(const QString& offset);
-    Reading<double> readOffset();
-    Reading<double> readSize();
+    Reading<double> read(Number& number);
+    double readOnCamera(Number& number);
     bool showOffset(QDoubleSpinBox* stepField);
     bool showSize();
+    void write(Number& number, double value);
 
     FeatureManager& m_manager;
-    RegionAxisNames m_names;
-    NumberField m_offset;
-    NumberField m_size;
-    Span<double> m_onCamera;
+    Number m_offset;
+    Number m_size;
+    QString m_maximumName;
+    QString m_sensorName;
     double m_maximum = 0.0;
     double m_sensor = 0.0;
     bool m_isMaximumFresh = false;
     bool m_hasOffsetStep = false;
-    bool m_hasOffset = false;
-    bool m_isOffsetTold = false;
-    bool m_isSizeTold = false;
-    bool m_isOffsetWritable = false;
-    bool m_isSizeWritable = false;
     QHash<QString, QString> m_categories; ///< they do not change
     QString m_pixelFormat;
 };

@@ -9,10 +9,10 @@ class AutoRegionRulesTest : public QObject
 private slots:
     void limitsAoi()
     {
-        QCOMPARE(aoiHeightLimit(1080.0, 4.0, 16.0, 2.0), qint64(1082));
-        QCOMPARE(aoiHeightLimit(1081.0, 4.0, 16.0, 2.0), qint64(1067));
-        QCOMPARE(aoiHeightLimit(1081.0, 0.0, 16.0, 0.0), qint64(1081));
-        QCOMPARE(aoiWidthLimit(1081.0, 4.0, 3.0), qint64(1084));
+        QCOMPARE(aoiHeightLimit(1080.0, 4.0, 16.0, 2.0), 1082.0);
+        QCOMPARE(aoiHeightLimit(1081.0, 4.0, 16.0, 2.0), 1067.0);
+        QCOMPARE(aoiHeightLimit(1081.0, 0.0, 16.0, 0.0), 1081.0);
+        QCOMPARE(aoiWidthLimit(1081.0, 4.0, 3.0), 1084.0);
     }
 
     void namesProblems()
