@@ -323,15 +323,15 @@ bool MultiROIWidget::isAtWork() const
     return isReady() && (m_label->isDragging() || m_tabs->isEditing());
 }
 
-Changes MultiROIWidget::refresh(const Changes& changes)
+QStringList MultiROIWidget::refresh(const Changes& changes)
 {
     if (!isReady())
         return {};
     const RegionWriter::Call call(*m_writer);
-    Changes untold;
+    QStringList untold;
     const auto readAgainUnless = [&untold](bool isTold, const QStringList& names) {
         if (!isTold)
-            untold.names += names;
+            untold += names;
     };
     if (changes.any(Name::multipleRegionSwitches))
         readAgainUnless(refreshSwitch(), Name::multipleRegionSwitches);
@@ -349,7 +349,8 @@ Changes MultiROIWidget::refresh(const Changes& changes)
     if (isSensorNew)
         m_label->setSensorSize(*sensor);
     // A page that nobody sees leaves the camera's selector alone.
-    untold.all = changes.all && !isVisible();
+    if (changes.all && !isVisible())
+        readAllNext();
     // The camera may notify of what did not change, also because all regions are read.
     if ((changes.all && isVisible()) || isSensorNew)
         m_writer->readAll();

@@ -64,7 +64,7 @@ public slots:
 
 protected:
     bool isAtWork() const override;
-    Changes refresh(const Changes& changes) override;
+    QStringList refresh(const Changes& changes) override;
 
 private:
     static constexpr int mostRegions = 256;

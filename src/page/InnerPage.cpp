@@ -10,12 +10,6 @@
 #include <algorithm>
 #include <utility>
 
-namespace {
-
-constexpr int refreshDelayMs = 200;
-
-} // namespace
-
 bool Changes::any(const QStringList& candidates) const
 {
     return all || std::any_of(candidates.begin(), candidates.end(), [this](const QString& name) {
@@ -52,7 +46,7 @@ InnerPage::InnerPage(const FeatureList& camera, QWidget* parent)
     , m_soonTimer(new QTimer(this))
 {
     m_soonTimer->setSingleShot(true);
-    m_soonTimer->setInterval(refreshDelayMs);
+    m_soonTimer->setInterval(200);
     connect(m_soonTimer, &QTimer::timeout, this, &InnerPage::updateTimer);
 }
 
@@ -67,15 +61,13 @@ InnerPage::~InnerPage()
 
 void InnerPage::guardFieldsAgainstWheel()
 {
-    const auto guard = [this](QWidget* field) {
+    for (QWidget* field : findChildren<QWidget*>()) {
+        if (!qobject_cast<QAbstractSpinBox*>(field) && !qobject_cast<QComboBox*>(field))
+            continue;
         // The default policy lets the wheel itself take the focus.
         field->setFocusPolicy(Qt::StrongFocus);
         field->installEventFilter(this);
-    };
-    for (QWidget* field : findChildren<QAbstractSpinBox*>())
-        guard(field);
-    for (QWidget* field : findChildren<QComboBox*>())
-        guard(field);
+    }
 }
 
 bool InnerPage::eventFilter(QObject* watched, QEvent* event)
@@ -112,9 +104,9 @@ void InnerPage::refreshFeatures()
         return;
     const QPointer<InnerPage> self(this);
     m_isRefreshing = true;
-    const Changes untold = refresh(std::exchange(m_pending, {}));
+    const QStringList untold = refresh(std::exchange(m_pending, {}));
     if (!self)
         return;
     m_isRefreshing = false;
-    m_pending.add(untold);
+    readNext(untold);
 }

@@ -53,7 +53,7 @@ protected:
     /// Shows what the camera holds of @p changes. Answers what has to be read once more, because
     /// the camera did not tell it or a field is being typed in; it stays pending. Called with every
     /// tick, also without changes.
-    virtual Changes refresh(const Changes& changes) = 0;
+    virtual QStringList refresh(const Changes& changes) = 0;
 
     // Cameras need not notify of what the page itself did. With the next refresh, whenever it
     // comes:

@@ -27,6 +27,10 @@ AOIWidget::AOIWidget(const FeatureList& camera, QWidget* parent)
 
     m_ui = std::make_unique<Ui::AOIWidget>();
     m_ui->setupUi(this);
+    const auto setTitle = [this] {
+        setAccessibleName(featureManager->HasFeature(Name::aoiEnable) ? tr("AOI") : tr("ROI"));
+        m_ui->gb_AOI->setTitle(accessibleName());
+    };
     setTitle();
     if (!accessibleName().isEmpty() && installTranslator(QStringLiteral("tabextensionaoi"))) {
         m_ui->retranslateUi(this);
@@ -47,13 +51,6 @@ AOIWidget::AOIWidget(const FeatureList& camera, QWidget* parent)
 }
 
 AOIWidget::~AOIWidget() = default;
-
-void AOIWidget::setTitle()
-{
-    const QString title = featureManager->HasFeature(Name::aoiEnable) ? tr("AOI") : tr("ROI");
-    setAccessibleName(title);
-    m_ui->gb_AOI->setTitle(title);
-}
 
 void AOIWidget::createAxes()
 {
@@ -100,35 +97,28 @@ void AOIWidget::connectForm()
 
 // Editing
 
-template <typename Write> void AOIWidget::write(const Write& writeNumber)
+// Nothing is written during a drag, whose end sets all four.
+void AOIWidget::writeOffset(const std::unique_ptr<RegionAxis>& axis, double value)
 {
-    // Nothing is written during a drag, whose end sets all four.
     if (!m_ui || isAtWork())
         return;
-    writeNumber();
+    axis->writeOffset(value);
+    showWritten();
+}
+
+void AOIWidget::writeSize(const std::unique_ptr<RegionAxis>& axis, double value)
+{
+    if (!m_ui || isAtWork())
+        return;
+    axis->writeSize(value);
+    showWritten();
+}
+
+void AOIWidget::showWritten()
+{
     readAllNext();
     showRegion();
     checkConsistency();
-}
-
-void AOIWidget::OnSpinTopValueChanged(double value)
-{
-    write([=] { m_vertical->writeOffset(value); });
-}
-
-void AOIWidget::OnSpinLeftValueChanged(double value)
-{
-    write([=] { m_horizontal->writeOffset(value); });
-}
-
-void AOIWidget::OnSpinWidthValueChanged(double value)
-{
-    write([=] { m_horizontal->writeSize(value); });
-}
-
-void AOIWidget::OnSpinHeightValueChanged(double value)
-{
-    write([=] { m_vertical->writeSize(value); });
 }
 
 void AOIWidget::commitTyping()
@@ -217,7 +207,7 @@ bool AOIWidget::isAtWork() const
     return m_label && m_label->isDragging();
 }
 
-Changes AOIWidget::refresh(const Changes& changes)
+QStringList AOIWidget::refresh(const Changes& changes)
 {
     if (!m_ui || changes.isEmpty())
         return {};
@@ -235,7 +225,7 @@ Changes AOIWidget::refresh(const Changes& changes)
     enableRegion();
     showRegion();
     checkConsistency();
-    return {false, untold};
+    return untold;
 }
 
 void AOIWidget::showEvent(QShowEvent* event)

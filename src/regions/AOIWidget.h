@@ -28,10 +28,10 @@ public:
     ~AOIWidget() override;
 
 public slots:
-    void OnSpinTopValueChanged(double value);
-    void OnSpinLeftValueChanged(double value);
-    void OnSpinWidthValueChanged(double value);
-    void OnSpinHeightValueChanged(double value);
+    void OnSpinTopValueChanged(double value) { writeOffset(m_vertical, value); }
+    void OnSpinLeftValueChanged(double value) { writeOffset(m_horizontal, value); }
+    void OnSpinWidthValueChanged(double value) { writeSize(m_horizontal, value); }
+    void OnSpinHeightValueChanged(double value) { writeSize(m_vertical, value); }
     void OnSpinEditingFinished() { readAllSoon(); }
     void OnSendGeometry(int top, int left, int width, int height);
     void OnUpdateGeometry(int top, int left, int width, int height);
@@ -45,17 +45,18 @@ public slots:
 
 protected:
     bool isAtWork() const override;
-    Changes refresh(const Changes& changes) override;
+    QStringList refresh(const Changes& changes) override;
     void showEvent(QShowEvent* event) override;
 
 private:
-    void setTitle();
     void createAxes();
     void createLabel();
     void connectForm();
     void reserveProblemLines();
 
-    template <typename Write> void write(const Write& writeNumber);
+    void writeOffset(const std::unique_ptr<RegionAxis>& axis, double value);
+    void writeSize(const std::unique_ptr<RegionAxis>& axis, double value);
+    void showWritten();
     void applyPreset(const Span<double>& horizontal, const Span<double>& vertical);
     void applyCentredPreset(double factor);
     void commitTyping();

@@ -308,7 +308,7 @@ bool AutoROIWidget::isAtWork() const
     return m_picture && m_picture->label()->isDragging();
 }
 
-Changes AutoROIWidget::refresh(const Changes& changes)
+QStringList AutoROIWidget::refresh(const Changes& changes)
 {
     if (!m_ui)
         return {};
@@ -341,7 +341,7 @@ Changes AutoROIWidget::refresh(const Changes& changes)
     if (!changes.isEmpty())
         fitColumns(*m_ui);
     enableControls(!isStreaming());
-    return {false, untold + m_camera->takeUntold()};
+    return untold + m_camera->takeUntold();
 }
 
 void AutoROIWidget::loadRegion()

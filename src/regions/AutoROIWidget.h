@@ -61,7 +61,7 @@ public slots:
 
 protected:
     bool isAtWork() const override;
-    Changes refresh(const Changes& changes) override;
+    QStringList refresh(const Changes& changes) override;
     void showEvent(QShowEvent* event) override;
 
 private:

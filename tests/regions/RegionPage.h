@@ -11,7 +11,6 @@
 
 #include <QDoubleSpinBox>
 #include <QLabel>
-#include <QMetaMethod>
 #include <QPushButton>
 #include <QRubberBand>
 #include <QtTest>
@@ -63,12 +62,6 @@ template <typename Page> struct RegionPage
         page->hide();
         page->show();
     }
-    /// Whether the camera tells of no change.
-    bool isSilent() const
-    {
-        return camera->notifications().mode == sim::NotificationSettings::Mode::Off;
-    }
-
     template <typename Widget> Widget* find(const QString& name) const
     {
         return page->template findChild<Widget*>(name);
@@ -128,12 +121,6 @@ template <typename Page> struct RegionPage
 using AOIPage = RegionPage<AOIWidget>;
 using AutoROIPage = RegionPage<AutoROIWidget>;
 
-inline QRect inFields(const AOIPage& p)
-{
-    return {int(p.field("spinLeft")->value()), int(p.field("spinTop")->value()),
-            int(p.field("spinWidth")->value()), int(p.field("spinHeight")->value())};
-}
-
 inline QString text(const QRect& r)
 {
     return QString("%1 %2 %3 %4").arg(r.y()).arg(r.x()).arg(r.width()).arg(r.height());
@@ -144,22 +131,4 @@ inline std::shared_ptr<QPixmap> picture(Qt::GlobalColor color)
     auto image = std::make_shared<QPixmap>(2592, 1944);
     image->fill(color);
     return image;
-}
-
-/// Calls every slot of a page's own, with default arguments, and shows it.
-inline void useAll(QWidget& page)
-{
-    const QMetaObject* const meta = page.metaObject();
-    for (int i = QWidget::staticMetaObject.methodCount(); i < meta->methodCount(); ++i) {
-        const QMetaMethod method = meta->method(i);
-        QVector<QVariant> values(4);
-        QVector<QGenericArgument> arguments(4);
-        for (int k = 0; k < method.parameterCount(); ++k) {
-            values[k] = QVariant(method.parameterType(k), nullptr);
-            arguments[k] = QGenericArgument(values[k].typeName(), values[k].constData());
-        }
-        QVERIFY2(method.invoke(&page, arguments[0], arguments[1], arguments[2], arguments[3]),
-                 method.methodSignature().constData());
-    }
-    page.show();
 }

@@ -80,18 +80,15 @@ double AutoRegionCamera::readValue(const QString& name, const QString& alternati
     return noted(name, reading).exists ? m_values.value(name) : 0.0;
 }
 
-std::optional<double> AutoRegionCamera::write(RegionNumber number, double value)
+double AutoRegionCamera::write(RegionNumber number, double value)
 {
-    if (!has(number))
-        return value;
     const double taken = m_manager.SetValue(nameOf(number), value);
-    if (taken < 0.0)
-        return {};
-    m_values[nameOf(number)] = taken;
-    return taken;
+    if (taken >= 0.0)
+        m_values[nameOf(number)] = taken;
+    return this->value(number);
 }
 
-void AutoRegionCamera::write(const QString& name, double value)
+void AutoRegionCamera::writeImageSize(const QString& name, double value)
 {
     m_manager.SetValue(name, value);
 }
@@ -184,13 +181,10 @@ int AutoRegionCamera::readSensorExtent(const QString& sensor, const QString& max
 {
     read(sensor);
     read(maximum);
-    const bool hasSensor = m_values.contains(sensor);
-    const bool hasMaximum = m_values.contains(maximum);
-    if (hasSensor && hasMaximum)
-        return toInt(std::min(m_values.value(sensor), m_values.value(maximum)));
-    if (hasSensor || hasMaximum)
-        return toInt(m_values.value(hasSensor ? sensor : maximum));
-    return toInt(read(size).maximum.value_or(0.0) + readValue(offset));
+    if (!m_values.contains(sensor) && !m_values.contains(maximum))
+        return toInt(read(size).maximum.value_or(0.0) + readValue(offset));
+    const double known = m_values.value(sensor, m_values.value(maximum));
+    return toInt(std::min(known, m_values.value(maximum, known)));
 }
 
 QRect AutoRegionCamera::readImageRegion(bool hasImage)
@@ -200,19 +194,13 @@ QRect AutoRegionCamera::readImageRegion(bool hasImage)
     if (!isMultiple || !hasImage)
         return truncatedRect(readValue(Name::offsetX), readValue(Name::offsetY),
                              readValue(Name::width), readValue(Name::height));
-    selectFirstRegion();
+    if (m_manager.GetDataType(Name::subRegionSelector) == Sdk::enumerationType)
+        m_manager.SetStringValue(Name::subRegionSelector, QStringLiteral("Region0"));
+    else
+        m_manager.SetValue(Name::subRegionSelector, 0.0);
     return truncatedRect(
         readValue(Name::subRegionOffsetX, Name::offsetX), readValue(Name::subRegionOffsetY),
         readValue(Name::subRegionWidth, Name::width), readValue(Name::subRegionHeight));
-}
-
-void AutoRegionCamera::selectFirstRegion()
-{
-    const QString selector = Name::subRegionSelector;
-    if (m_manager.GetDataType(selector) == Sdk::enumerationType)
-        m_manager.SetStringValue(selector, QStringLiteral("Region0"));
-    else
-        m_manager.SetValue(selector, 0.0);
 }
 
 QStringList AutoRegionCamera::takeUntold()

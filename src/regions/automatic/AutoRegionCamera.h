@@ -42,10 +42,9 @@ constexpr AxisNumbers verticalNumbers{RegionNumber::Top, RegionNumber::Bottom,
 
 /// The camera as far as the region of its automatic functions goes. Cameras describe that region by
 /// "AutofunctionAOI..." or "AutoModeRegion..." (offset and size) or by "DSPSubregion..." (edges);
-/// some have several of them, and each number then has its own order of preference.
-///
-/// What the camera does not tell keeps its last value, at first 0, and is gathered for another try.
-/// What it lacks is 0 and is not written. Numbers are pixels of the image.
+/// some have several of them, and each number then has its own order of preference. What the camera
+/// does not tell keeps its last value, at first 0, and is gathered for another try; what it lacks
+/// is 0 and is not written.
 class AutoRegionCamera
 {
 public:
@@ -64,9 +63,8 @@ public:
     /// With the maximum on the increment's grid.
     Reading<double> readForField(RegionNumber number);
     double readValue(RegionNumber number) { return readValue(nameOf(number)); }
-    /// Answers what the camera then reports, @p value itself where nothing can be written, or
-    /// nothing when the camera does not tell.
-    std::optional<double> write(RegionNumber number, double value);
+    /// Answers what the camera then reports, or had before when it does not tell.
+    double write(RegionNumber number, double value);
 
     /// As read last.
     double value(RegionNumber number) const { return m_values.value(nameOf(number)); }
@@ -89,9 +87,9 @@ public:
     /// The region on the label.
     QRect drawn() const;
 
-    /// Takes the limits for a new image size only, or when one is told: some cameras bound size and
-    /// offset by each other, and the limits would shrink with each move of the region. Answers
-    /// whether they changed.
+    /// Whether the limits changed. They are read for a new image size only, or when one is told:
+    /// some cameras bound size and offset by each other, and the limits would shrink with each
+    /// move.
     bool followImage(bool isSizeTold);
 
     void readOrigin();
@@ -99,14 +97,14 @@ public:
     std::optional<QSizeF> readLimits();
     Reading<double> read(const QString& name);
     double readValue(const QString& name, const QString& alternative = {});
-    void write(const QString& name, double value);
+    void writeImageSize(const QString& name, double value);
     /// Whether offset and size are those of "AutoModeRegion...".
     bool isAutoMode() const;
 
     /// The sensor area after binning.
     QSize readSensorSize();
-    /// The part of the sensor that a background image shows; empty where the camera does not tell.
-    /// With multiple regions it is the first one's, which becomes the selected one.
+    /// The part of the sensor that a background image shows. With multiple regions it is the first
+    /// one's, which becomes the selected one.
     QRect readImageRegion(bool hasImage);
 
     /// What the camera did not tell since the last call.
@@ -118,7 +116,6 @@ private:
     Reading<double> noted(const QString& name, const Reading<double>& reading);
     int readSensorExtent(const QString& sensor, const QString& maximum, const QString& size,
                          const QString& offset);
-    void selectFirstRegion();
 
     FeatureManager& m_manager;
     std::array<QString, regionNumbers.size()> m_names; ///< empty: the camera has no such number

@@ -22,20 +22,15 @@ struct Text
 
 void adaptTexts(const Ui::AutoROIWidget& form, const AutoRegionCamera& camera)
 {
-    QString title = Text::tr("Autofunction ROI");
-    QString regionTitle = Text::tr("AutoMode Region");
-    if (camera.has(Name::aoiHeight)) {
-        title = Text::tr("Autofunction AOI");
-        regionTitle = title;
-    } else {
-        if (camera.has(Name::autoModeHeight))
-            title = Text::tr("AutoMode ROI");
-        if (camera.has(Name::dspTop))
-            regionTitle = Text::tr("DSPSubregion");
-    }
-    form.gb_AutoROI->setTitle(title);
-    form.gb_Region->setTitle(regionTitle);
-    form.labelTop->setText(camera.has(Name::dspTop) ? Text::tr("Top:") : Text::tr("OffsetY:"));
+    const bool isAoi = camera.has(Name::aoiHeight);
+    const bool hasEdges = camera.usesEdges();
+    const QString aoi = Text::tr("Autofunction AOI");
+    const QString roi = camera.has(Name::autoModeHeight) ? Text::tr("AutoMode ROI")
+                                                         : Text::tr("Autofunction ROI");
+    const QString region = hasEdges ? Text::tr("DSPSubregion") : Text::tr("AutoMode Region");
+    form.gb_AutoROI->setTitle(isAoi ? aoi : roi);
+    form.gb_Region->setTitle(isAoi ? aoi : region);
+    form.labelTop->setText(hasEdges ? Text::tr("Top:") : Text::tr("OffsetY:"));
     form.labelLeft->setText(camera.has(Name::dspLeft) ? Text::tr("Left:") : Text::tr("OffsetX:"));
 }
 
@@ -74,9 +69,10 @@ void adaptSwitches(const Ui::AutoROIWidget& form, const AutoRegionCamera& camera
     form.cbEnable->setVisible(camera.has(Name::aoiEnable));
     form.cbEnable->setChecked(!camera.has(Name::aoiEnable));
     form.cbShowArea->setVisible(camera.has(Name::aoiShowArea));
-    form.labelIntensityControllerRegion->setVisible(camera.has(Name::intensityControllerRegion));
-    form.comboIntensityControllerRegion->setVisible(camera.has(Name::intensityControllerRegion));
-    if (!camera.has(Name::intensityControllerRegion))
+    const bool hasRegions = camera.has(Name::intensityControllerRegion);
+    form.labelIntensityControllerRegion->setVisible(hasRegions);
+    form.comboIntensityControllerRegion->setVisible(hasRegions);
+    if (!hasRegions)
         form.horizontalSpacer->changeSize(0, 0);
 }
 
@@ -148,9 +144,8 @@ void showEdgeProblems(const Ui::AutoROIWidget& form, const AutoRegionCamera& cam
 
 bool showSizeProblem(const Ui::AutoROIWidget& form, const AutoRegionCamera& camera)
 {
-    const QString name
-        = camera.has(Name::aoiHeight) ? QStringLiteral("AOI") : QStringLiteral("ROI");
-    const QString problem = sizeProblem(camera.region(), camera.origin(), camera.limits(), name);
+    const QString problem = sizeProblem(camera.region(), camera.origin(), camera.limits(),
+                                        camera.has(Name::aoiHeight) ? "AOI" : "ROI");
     if (!problem.isEmpty())
         form.labelInvalidSettings->setText(problem);
     form.labelInvalidSettings->setVisible(!problem.isEmpty());

@@ -18,11 +18,9 @@ struct AutoRegion
     Span<double> vertical; ///< of a negative length where edges cross
 };
 
-// Cameras with "AutofunctionAOI..." features derive the limits from the image size. The division by
-// the increment is not truncated; each axis adds the minimum of the other axis's offset, and only
-// the height subtracts the image's minimum when it is no multiple of the increment. The cameras
-// agree with all of this. The other families need no arithmetic: they take the maximum of
-// "AutoModeRegion..." or the image size.
+// Cameras with "AutofunctionAOI..." features derive the limits from the image size, and agree with
+// all of this: the division by the increment is not truncated; each axis adds the minimum of the
+// other axis's offset, and only the height subtracts the image's minimum.
 
 /// @param increment of "AutofunctionAOIHeight"
 double aoiHeightLimit(double height, double increment, double minimumHeight, double minimumOffsetX);

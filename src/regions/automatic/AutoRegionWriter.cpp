@@ -16,9 +16,8 @@ AutoRegionWriter::AutoRegionWriter(AutoRegionCamera& camera, AutoRegionView& vie
 
 void AutoRegionWriter::write(RegionNumber number, double value)
 {
-    if (!m_camera.has(number))
-        return;
-    m_view.field(number).showTaken(m_camera.write(number, value).value_or(m_camera.value(number)));
+    if (m_camera.has(number))
+        m_view.field(number).showTaken(m_camera.write(number, value));
 }
 
 // Drawn regions
@@ -93,7 +92,7 @@ void AutoRegionWriter::setFullArea()
 void AutoRegionWriter::growImage(const QString& name, double current, double former)
 {
     if (current > former && !(m_camera.isAutoMode() && current < m_camera.readValue(name)))
-        m_camera.write(name, current);
+        m_camera.writeImageSize(name, current);
 }
 
 // A size that is cut is written: the field emits.

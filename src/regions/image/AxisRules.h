@@ -10,7 +10,6 @@ class QString;
 
 /// Cameras that keep their offset among the image format features demand even sizes for pixel
 /// formats that share colour among neighbours.
-/// @param offsetCategory the category path of "OffsetX"
 bool needsEvenSize(const QString& offsetCategory, const QString& pixelFormat);
 
 /// The even number at or next above @p value.
@@ -26,11 +25,8 @@ double cutToMaximum(double value, double otherValue, double maximum);
 /// The part of the span that lies on the sensor.
 Span<double> onSensor(const Span<double>& span, double maximum);
 
-/// A span that reaches beyond the maximum size is cut there and moved back by one step; any other
+/// A span that reaches beyond the maximum size is cut there and moved back by @p step; any other
 /// stays. Snapping, and corner drags, take a region that far.
-/// @param sizeField the grid of the axis's size
-/// @param step by which the offset moves: of the height field vertically, of the left field
-///     horizontally
 Span<double> overflowCorrected(const Span<double>& span, double maximum, const FieldGrid& sizeField,
                                double step);
 

@@ -68,7 +68,6 @@ public:
     void writeSize(double value);
 
     /// Reads all that decides about a write of both; nothing is written yet.
-    /// @param overflowStep see overflowCorrected()
     AxisPlan readPlan(const Span<double>& wanted, double overflowStep);
     /// Writes both, in the order that keeps the camera's region within the maximum all the time.
     void write(const AxisPlan& plan);
