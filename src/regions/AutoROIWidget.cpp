@@ -6,7 +6,6 @@
 #include "regions/automatic/AutoRegionPicture.h"
 #include "regions/automatic/AutoRegionView.h"
 #include "regions/automatic/AutoRegionWriter.h"
-#include "regions/automatic/ExposureLimits.h"
 #include "regions/label/RubberBandLabel.h"
 #include "ui_AutoROIWidget.h"
 #include "widgets/SilentFields.h"
@@ -32,12 +31,8 @@ AutoROIWidget::AutoROIWidget(const FeatureList& camera, QWidget* parent)
     setTitle();
     if (installTranslator(QStringLiteral("tabextensionautoaoi")))
         setTitle();
-    observedFeatures << Name::height << Name::width << Name::dspTop << Name::dspLeft
-                     << Name::dspRight << Name::dspBottom << Name::aoiHeight << Name::aoiWidth
-                     << Name::aoiOffsetX << Name::aoiOffsetY << Name::autoModeHeight
-                     << Name::autoModeWidth << Name::autoModeOffsetX << Name::autoModeOffsetY
-                     << Name::aoiEnable << Name::aoiShowArea << Name::exposureAutoMin
-                     << Name::exposureAutoMax << Name::exposureAutoTimebase
+    observedFeatures << Name::height << Name::width << Name::autoRegion << Name::aoiEnable
+                     << Name::aoiShowArea << Name::exposureLimits
                      << Name::intensityControllerRegion;
 
     m_ui = std::make_unique<Ui::AutoROIWidget>();
@@ -132,14 +127,14 @@ void AutoROIWidget::OnShowAreaStateChanged(int state)
 
 void AutoROIWidget::OnIntensityControllerRegionChanged(const QString& region)
 {
-    if (m_ui && m_camera->has(Name::intensityControllerRegion))
+    if (m_ui)
         writeEntry(m_ui->comboIntensityControllerRegion, Name::intensityControllerRegion, region);
 }
 
 // A camera that does not tell what it took is asked again.
 void AutoROIWidget::writeEntry(QComboBox* comboBox, const QString& name, const QString& entry)
 {
-    if (!showEntry(comboBox, featureManager->SetStringValue(name, entry)))
+    if (m_camera->has(name) && !showEntry(comboBox, featureManager->SetStringValue(name, entry)))
         readNext({name});
 }
 
@@ -217,14 +212,9 @@ void AutoROIWidget::OnROIFull()
     applyPreset([this] { m_writer->presetFull(); });
 }
 
-void AutoROIWidget::OnROIHalf()
+void AutoROIWidget::applyCentredPreset(double factor)
 {
-    applyPreset([this] { m_writer->presetCentred(0.5); });
-}
-
-void AutoROIWidget::OnROIQuarter()
-{
-    applyPreset([this] { m_writer->presetCentred(0.25); });
+    applyPreset([=] { m_writer->presetCentred(factor); });
 }
 
 template <typename Preset> void AutoROIWidget::applyPreset(const Preset& preset)
@@ -239,28 +229,16 @@ template <typename Preset> void AutoROIWidget::applyPreset(const Preset& preset)
 
 // Exposure
 
-void AutoROIWidget::OnSpinExpAutoMinChanged(double value)
+void AutoROIWidget::writeLimit(ExposureLimits::Which which, double value)
 {
     if (m_ui)
-        readNext(m_exposure->write(ExposureLimits::Minimum, value));
+        readNext(m_exposure->write(which, value));
 }
 
-void AutoROIWidget::OnSpinExpAutoMaxChanged(double value)
+void AutoROIWidget::useTime(ExposureLimits::Which which)
 {
     if (m_ui)
-        readNext(m_exposure->write(ExposureLimits::Maximum, value));
-}
-
-void AutoROIWidget::OnBtnExpAutoMinCurrentClicked()
-{
-    if (m_ui)
-        m_exposure->useTime(ExposureLimits::Minimum);
-}
-
-void AutoROIWidget::OnBtnExpAutoMaxCurrentClicked()
-{
-    if (m_ui)
-        m_exposure->useTime(ExposureLimits::Maximum);
+        m_exposure->useTime(which);
 }
 
 void AutoROIWidget::OnExpAutoTimebaseChanged(const QString& timebase)
@@ -349,8 +327,8 @@ void AutoROIWidget::loadRegion()
     m_view->load();
     fitColumns(*m_ui);
     refreshSwitches();
-    for (QGroupBox* group : {m_ui->gb_AutoROI, m_ui->gb_Region})
-        group->setEnabled(m_view->isRegionWritable());
+    m_ui->gb_AutoROI->setEnabled(m_view->isRegionWritable());
+    m_ui->gb_Region->setEnabled(m_view->isRegionWritable());
 }
 
 void AutoROIWidget::refreshSwitches()

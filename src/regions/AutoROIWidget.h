@@ -2,6 +2,7 @@
 
 #include "page/InnerPage.h"
 #include "regions/automatic/AutoRegionCamera.h"
+#include "regions/automatic/ExposureLimits.h"
 
 #include <QPixmap>
 
@@ -10,7 +11,6 @@
 class AutoRegionView;
 class AutoRegionPicture;
 class AutoRegionWriter;
-class ExposureLimits;
 class QComboBox;
 
 namespace Ui {
@@ -46,14 +46,14 @@ public slots:
     /// Lets the image and the size fields grow to what the camera allows now.
     void SetFullArea();
     void OnROIFull();
-    void OnROIHalf();
-    void OnROIQuarter();
+    void OnROIHalf() { applyCentredPreset(0.5); }
+    void OnROIQuarter() { applyCentredPreset(0.25); }
     void OnResetTrustedUpdate() { m_isTrusted = false; }
-    void OnSpinExpAutoMinChanged(double value);
-    void OnSpinExpAutoMaxChanged(double value);
+    void OnSpinExpAutoMinChanged(double value) { writeLimit(ExposureLimits::Minimum, value); }
+    void OnSpinExpAutoMaxChanged(double value) { writeLimit(ExposureLimits::Maximum, value); }
     void OnExpAutoTimebaseChanged(const QString& timebase);
-    void OnBtnExpAutoMinCurrentClicked();
-    void OnBtnExpAutoMaxCurrentClicked();
+    void OnBtnExpAutoMinCurrentClicked() { useTime(ExposureLimits::Minimum); }
+    void OnBtnExpAutoMaxCurrentClicked() { useTime(ExposureLimits::Maximum); }
     void OnIntensityControllerRegionChanged(const QString& region);
     /// The controls follow one call late; the next refresh catches up.
     void camIsStreaming(bool streaming);
@@ -72,6 +72,9 @@ private:
 
     void writeNumber(RegionNumber number, double value);
     template <typename Preset> void applyPreset(const Preset& preset);
+    void applyCentredPreset(double factor);
+    void writeLimit(ExposureLimits::Which which, double value);
+    void useTime(ExposureLimits::Which which);
     void writeEntry(QComboBox* comboBox, const QString& name, const QString& entry);
     bool pumpEvents();
     void commitTyping();

@@ -83,8 +83,13 @@ void AutoRegionWriter::setFullArea()
     growImage(FeatureNames::height, current.height(), m_camera.limits().height());
     growImage(FeatureNames::width, current.width(), m_camera.limits().width());
     m_camera.readOrigin();
-    setSizeMaximum(RegionNumber::Width, m_camera.origin().x() + current.width());
-    setSizeMaximum(RegionNumber::Height, m_camera.origin().y() + current.height());
+    // A size that is cut is written: the field emits.
+    const auto limitTo = [this](RegionNumber size, double maximum) {
+        QDoubleSpinBox* const field = m_view.field(size).box();
+        field->setMaximum(std::max(field->minimum(), maximum));
+    };
+    limitTo(RegionNumber::Width, m_camera.origin().x() + current.width());
+    limitTo(RegionNumber::Height, m_camera.origin().y() + current.height());
 }
 
 // Where size and offset bound each other a larger limit may only tell of a smaller offset; the
@@ -93,13 +98,6 @@ void AutoRegionWriter::growImage(const QString& name, double current, double for
 {
     if (current > former && !(m_camera.isAutoMode() && current < m_camera.readValue(name)))
         m_camera.writeImageSize(name, current);
-}
-
-// A size that is cut is written: the field emits.
-void AutoRegionWriter::setSizeMaximum(RegionNumber size, double maximum)
-{
-    QDoubleSpinBox* const field = m_view.field(size).box();
-    field->setMaximum(std::max(field->minimum(), maximum));
 }
 
 void AutoRegionWriter::presetFull()

@@ -31,7 +31,6 @@ private:
     void setStart(const AxisNumbers& axis, const Span<double>& wanted);
     void setEdge(RegionNumber number, double value);
     void growImage(const QString& name, double current, double former);
-    void setSizeMaximum(RegionNumber size, double maximum);
     void settleOffset(RegionNumber offset, double wanted);
 
     AutoRegionCamera& m_camera;
