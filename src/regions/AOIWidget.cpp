@@ -47,7 +47,6 @@ AOIWidget::AOIWidget(const FeatureList& camera, QWidget* parent)
     readMultipleRegions();
     enableRegion();
     showRegion();
-    checkConsistency();
 }
 
 AOIWidget::~AOIWidget() = default;
@@ -103,7 +102,8 @@ void AOIWidget::writeOffset(const std::unique_ptr<RegionAxis>& axis, double valu
     if (!m_ui || isAtWork())
         return;
     axis->writeOffset(value);
-    showWritten();
+    readAllNext();
+    showRegion();
 }
 
 void AOIWidget::writeSize(const std::unique_ptr<RegionAxis>& axis, double value)
@@ -111,14 +111,8 @@ void AOIWidget::writeSize(const std::unique_ptr<RegionAxis>& axis, double value)
     if (!m_ui || isAtWork())
         return;
     axis->writeSize(value);
-    showWritten();
-}
-
-void AOIWidget::showWritten()
-{
     readAllNext();
     showRegion();
-    checkConsistency();
 }
 
 void AOIWidget::commitTyping()
@@ -142,7 +136,6 @@ void AOIWidget::OnSendGeometry(int top, int left, int width, int height)
         m_horizontal->write(horizontal);
     }
     showRegion();
-    checkConsistency();
     readAllSoon();
 }
 
@@ -224,7 +217,6 @@ QStringList AOIWidget::refresh(const Changes& changes)
         showBackgroundAgain();
     enableRegion();
     showRegion();
-    checkConsistency();
     return untold;
 }
 
@@ -264,6 +256,7 @@ void AOIWidget::showRegion()
         if (m_background)
             showBackgroundAgain();
     }
+    checkConsistency();
     if (!m_horizontal->isTold() || !m_vertical->isTold())
         return;
     const Span<double> vertical = onSensor(m_vertical->onCamera(), height);

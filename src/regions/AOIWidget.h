@@ -56,7 +56,6 @@ private:
 
     void writeOffset(const std::unique_ptr<RegionAxis>& axis, double value);
     void writeSize(const std::unique_ptr<RegionAxis>& axis, double value);
-    void showWritten();
     void applyPreset(const Span<double>& horizontal, const Span<double>& vertical);
     void applyCentredPreset(double factor);
     void commitTyping();

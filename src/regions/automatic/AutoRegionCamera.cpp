@@ -47,11 +47,6 @@ std::vector<RegionNumber> AutoRegionCamera::numbers() const
     return {RegionNumber::Top, RegionNumber::Left, RegionNumber::Width, RegionNumber::Height};
 }
 
-const QString& AutoRegionCamera::nameOf(RegionNumber number) const
-{
-    return m_names[static_cast<std::size_t>(number)];
-}
-
 Reading<double> AutoRegionCamera::readForField(RegionNumber number)
 {
     const QString& name = nameOf(number);
@@ -201,9 +196,4 @@ QRect AutoRegionCamera::readImageRegion(bool hasImage)
     return truncatedRect(
         readValue(Name::subRegionOffsetX, Name::offsetX), readValue(Name::subRegionOffsetY),
         readValue(Name::subRegionWidth, Name::width), readValue(Name::subRegionHeight));
-}
-
-QStringList AutoRegionCamera::takeUntold()
-{
-    return std::exchange(m_untold, {});
 }

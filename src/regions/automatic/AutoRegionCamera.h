@@ -11,6 +11,7 @@
 
 #include <array>
 #include <optional>
+#include <utility>
 #include <vector>
 
 class FeatureManager;
@@ -108,11 +109,11 @@ public:
     QRect readImageRegion(bool hasImage);
 
     /// What the camera did not tell since the last call.
-    QStringList takeUntold();
+    QStringList takeUntold() { return std::exchange(m_untold, {}); }
     int untoldCount() const { return m_untold.size(); }
 
 private:
-    const QString& nameOf(RegionNumber number) const;
+    const QString& nameOf(RegionNumber number) const { return m_names[std::size_t(number)]; }
     Reading<double> noted(const QString& name, const Reading<double>& reading);
     int readSensorExtent(const QString& sensor, const QString& maximum, const QString& size,
                          const QString& offset);

@@ -12,16 +12,6 @@ AutoRegionView::AutoRegionView(AutoRegionCamera& camera, const Boxes& boxes)
 {
 }
 
-NumberField& AutoRegionView::field(RegionNumber number)
-{
-    return m_fields[static_cast<std::size_t>(number)];
-}
-
-const NumberField& AutoRegionView::field(RegionNumber number) const
-{
-    return m_fields[static_cast<std::size_t>(number)];
-}
-
 AutoRegion AutoRegionView::shown() const
 {
     return m_camera.regionOf([this](RegionNumber number) { return field(number).value(); });

@@ -15,8 +15,8 @@ public:
 
     AutoRegionView(AutoRegionCamera& camera, const Boxes& boxes);
 
-    NumberField& field(RegionNumber number);
-    const NumberField& field(RegionNumber number) const;
+    NumberField& field(RegionNumber number) { return m_fields[std::size_t(number)]; }
+    const NumberField& field(RegionNumber number) const { return m_fields[std::size_t(number)]; }
     AutoRegion shown() const;
     /// As the camera told last.
     bool isRegionWritable() const;
