@@ -13,22 +13,21 @@ constexpr int mostVainLooks = 8;
 
 void ModeWatch::selecting(bool isOther)
 {
-    m_isSelecting = true;
-    m_hasEcho = false;
+    m_mayEcho = true;
     m_selections += isOther ? 1 : 0;
 }
 
 void ModeWatch::reported()
 {
-    if (m_isSelecting && !std::exchange(m_hasEcho, true))
+    if (std::exchange(m_mayEcho, false))
         return;
     ++m_reports;
+    m_quietSeconds = -1;
 }
 
 bool ModeWatch::isLookDue()
 {
-    const bool isQuiet = std::exchange(m_reportsBefore, m_reports) == m_reports;
-    m_quietSeconds = isQuiet ? m_quietSeconds + 1 : 0;
+    ++m_quietSeconds;
     if (m_reports == 0) {
         if (m_quietSeconds >= longestEcho)
             rest();
@@ -73,7 +72,6 @@ void ModeWatch::lookBegins()
 void ModeWatch::looked(bool found)
 {
     m_vainLooks = found ? 0 : m_vainLooks + 1;
-    m_reportsBefore = m_reports;
     m_quietSeconds = 0;
 }
 

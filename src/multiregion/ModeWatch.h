@@ -12,7 +12,7 @@ public:
     // Around each selecting of a region by the page.
     /// @param isOther another region than before
     void selecting(bool isOther);
-    void selected() { m_isSelecting = false; }
+    void selected() { m_mayEcho = false; }
 
     /// The camera has notified of a region's mode.
     void reported();
@@ -28,10 +28,8 @@ private:
     bool isEcho() const;
     void rest();
 
-    bool m_isSelecting = false;
-    bool m_hasEcho = false; ///< this selecting has had its own
+    bool m_mayEcho = false; ///< a selecting is under way that has not had its own
     int m_reports = 0;      ///< since the last look
-    int m_reportsBefore = 0;
     int m_quietSeconds = 0;
     int m_selections = 0; ///< since the last look began
     int m_vainLooks = 0;  ///< in a row

@@ -120,8 +120,8 @@ std::optional<QRect> RegionActivation::placement(int region, Qt::Orientation axi
     const std::optional<SizeRange> size = current ? m_camera.readSizeRange(axis) : std::nullopt;
     if (!sensor || !size)
         return std::nullopt;
-    const QRect placed = placedRegion(
-        axis, {static_cast<double>(lengthOf(*sensor, axis)), *first, *before, *current, *size});
+    const QRect placed
+        = placedRegion(axis, {lengthOf(*sensor, axis), *first, *before, *current, *size});
     if (placed.isNull())
         m_writer.log(Text::tr("Region%1 cannot be activated into a valid configuration due to the "
                               "minimum size.")
@@ -181,9 +181,7 @@ void RegionActivation::applyDefaults(const QColor& color)
     if (!width || !height)
         return;
     const DefaultLayout layout
-        = defaultLayout(m_tabs.mode(),
-                        {static_cast<double>(sensor->width()),
-                         static_cast<double>(sensor->height()), *width, *height, m_tabs.count()});
+        = defaultLayout(m_tabs.mode(), {*sensor, *width, *height, m_tabs.count()});
     if (!layout.message.isEmpty())
         m_writer.log(layout.message);
     for (auto it = layout.regions.cbegin(); it != layout.regions.cend(); ++it) {

@@ -25,12 +25,9 @@ const QString onEntry = QStringLiteral("On");
 const QString offEntry = QStringLiteral("Off");
 const QString regionEntry = QStringLiteral("Region%1");
 
-/// Far beyond any sensor, and still an int when added up.
-constexpr double largestSize = 1 << 29;
-
 int wholePixels(std::optional<double> value, int missing)
 {
-    return value.value_or(0.0) > 0.0 ? toInt(std::min(*value, largestSize)) : missing;
+    return value.value_or(0.0) > 0.0 ? toInt(std::min(*value, double{largestCoordinate})) : missing;
 }
 
 /// 0 for what the camera does not have.
@@ -76,7 +73,7 @@ struct AxisReading
     {
         AxisLimits limits;
         limits.minimum = wholePixels(size.minimum, 1);
-        limits.maximum = wholePixels(size.maximum, toInt(largestSize));
+        limits.maximum = wholePixels(size.maximum, largestCoordinate);
         limits.increment = wholePixels(size.increment, 1);
         limits.offsetIncrement = wholePixels(offset.increment, 1);
         return limits;

@@ -31,7 +31,7 @@ RegionTabs::RegionTabs(const Ui::MultiROIWidget& form, MultiRubberBandLabel* lab
     m_form.tabRegions->clear();
 }
 
-const RegionTabs::Tab& RegionTabs::add(RegionTableWidget* table, const QColor& color)
+void RegionTabs::add(RegionTableWidget* table, const QColor& color)
 {
     const int region = count();
     const QString title = Text::tr("Region%1").arg(region);
@@ -54,7 +54,6 @@ const RegionTabs::Tab& RegionTabs::add(RegionTableWidget* table, const QColor& c
                      &RegionTableWidget::onRegionRangeChanged);
     QObject::connect(m_label, &Label::highlightSelectedRegion, tab.label,
                      &RegionLabelWidget::highlightIfSelected);
-    return m_tabs.back();
 }
 
 bool RegionTabs::isEditing() const

@@ -167,6 +167,7 @@ void RegionWriter::readUntold()
 void RegionWriter::readRegion(int region)
 {
     const CameraLink::ManyReads many(m_link);
+    // A valid region is on: follow() shows it where it was not shown before.
     if (!selectUnlessLost(region) || follow(region))
         return;
     // Tables of other inactive regions are filled when they are seen.

@@ -67,22 +67,6 @@ private slots:
         QCOMPARE(open.tabs->currentIndex(), 0);
     }
 
-    /// Six regions as tiles: rows and columns are those of the region, whatever master is named.
-    void keepsOtherRowsApart()
-    {
-        const MultiROIPage open("multi-region-6", "Tile");
-        open.loadDefaults();
-        open.page->saveNewRegionGeometry(4, {40, 1600, 160, 160});
-        open.page->saveNewRegionGeometry(5, {400, 1600, 160, 160});
-        const QRect first = open.onCamera(0);
-        open.page->setFeatureValue(5, 0, "SubRegionOffsetY", 1700);
-        QCOMPARE(open.onCamera(0), first);
-        QCOMPARE(open.onCamera(4).y(), 1700);
-        QCOMPARE(open.onCamera(5).y(), 1700);
-        open.settle();
-        QCOMPARE(open.contradiction(), QString());
-    }
-
     void refusals()
     {
         MultiROIPage open("multi-region", "Free");

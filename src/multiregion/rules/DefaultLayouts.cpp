@@ -37,8 +37,8 @@ int lastPixel(const QRect& rect, Qt::Orientation axis)
 
 Regions freeLayout(const LayoutRequest& request, int count)
 {
-    const double w = request.sensorWidth;
-    const double h = request.sensorHeight;
+    const double w = request.sensor.width();
+    const double h = request.sensor.height();
     const QRect places[mostRegions] = {
         truncatedRect(0.0, 0.2 * h, w / 3.0, h / 3.0),
         truncatedRect(0.85 * w, 0.0, 0.15 * w, h),
@@ -57,8 +57,8 @@ Regions freeLayout(const LayoutRequest& request, int count)
 Regions stripLayout(const LayoutRequest& request, int count, Qt::Orientation axis)
 {
     const bool horizontal = axis == Qt::Horizontal;
-    const double along = horizontal ? request.sensorWidth : request.sensorHeight;
-    const double across = horizontal ? request.sensorHeight : request.sensorWidth;
+    const double along = lengthOf(request.sensor, axis);
+    const double across = lengthOf(request.sensor.transposed(), axis);
     const SizeRange& alongRange = horizontal ? request.width : request.height;
     const SizeRange& acrossRange = horizontal ? request.height : request.width;
 
@@ -88,8 +88,8 @@ Regions stripLayout(const LayoutRequest& request, int count, Qt::Orientation axi
 /// Two columns. The rows are counted by the regions, though it takes half as many.
 Regions tileLayout(const LayoutRequest& request, int count)
 {
-    const double w = request.sensorWidth;
-    const double h = request.sensorHeight;
+    const double w = request.sensor.width();
+    const double h = request.sensor.height();
     const int rows = fits(count, h, request.height.minimum) ? count / 2 : count / 2 - 1;
     if (rows < 1)
         return {};
@@ -123,8 +123,8 @@ struct Text
 
 DefaultLayout defaultLayout(const QString& mode, const LayoutRequest& request)
 {
-    const bool hasSensor = request.sensorWidth > 0.0 && request.sensorHeight > 0.0;
-    const int count = hasSensor ? std::clamp(request.regionCount, 0, mostRegions) : 0;
+    const int count
+        = !request.sensor.isEmpty() ? std::clamp(request.regionCount, 0, mostRegions) : 0;
     switch (arrangementMode(mode)) {
     case ArrangementMode::Vertical:
         return {stripLayout(request, count, Qt::Vertical), {}};

@@ -9,8 +9,7 @@
 /// What a default layout depends on, as read from the camera.
 struct LayoutRequest
 {
-    double sensorWidth = 0.0;
-    double sensorHeight = 0.0;
+    QSize sensor;
     SizeRange width;
     SizeRange height;
     int regionCount = 0;

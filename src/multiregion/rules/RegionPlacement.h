@@ -15,8 +15,8 @@ struct SizeRange
 /// another along an axis.
 struct PlacementRequest
 {
-    double sensorSize = 0.0; ///< along the axis
-    QRect first;             ///< region 0, whose place across the axis is taken over
+    int sensorSize = 0; ///< along the axis
+    QRect first;        ///< region 0, whose place across the axis is taken over
     QRect predecessor;
     QRect current; ///< the region itself
     SizeRange size;
