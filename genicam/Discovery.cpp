@@ -55,20 +55,13 @@ ArvDevice* openDevice(const std::string& idOrAddress, std::string& reason)
     return device;
 }
 
-FakeCamera::FakeCamera()
-    : m_camera(arv_gv_fake_camera_new(address, "GV01"))
+std::shared_ptr<void> hostFakeCamera()
 {
     countCriticals();
-}
-
-FakeCamera::~FakeCamera()
-{
-    g_object_unref(m_camera);
-}
-
-bool FakeCamera::isRunning() const
-{
-    return arv_gv_fake_camera_is_running(m_camera);
+    GObjectPtr<ArvGvFakeCamera> camera(arv_gv_fake_camera_new(fakeCameraAddress, "GV01"));
+    if (!arv_gv_fake_camera_is_running(camera.get()))
+        return nullptr;
+    return camera;
 }
 
 } // namespace genicam

@@ -4,9 +4,8 @@
 #include <string>
 #include <vector>
 
-// Both block: call them from a thread of their own.
+// What finds or opens cameras blocks: call it from a thread of its own.
 typedef struct _ArvDevice ArvDevice;
-typedef struct _ArvGvFakeCamera ArvGvFakeCamera;
 
 namespace genicam {
 
@@ -28,21 +27,8 @@ std::vector<FoundCamera> findCameras();
 ArvDevice* openDevice(const std::string& idOrAddress, std::string& reason);
 
 /// A GigE Vision camera without hardware, as long as this lives: one a machine, bound to the
-/// loopback interface.
-class FakeCamera
-{
-public:
-    static constexpr const char* address = "127.0.0.1";
-
-    FakeCamera();
-    ~FakeCamera();
-    FakeCamera(const FakeCamera&) = delete;
-    FakeCamera& operator=(const FakeCamera&) = delete;
-
-    bool isRunning() const;
-
-private:
-    ArvGvFakeCamera* m_camera;
-};
+/// loopback interface. Null when its port is taken.
+std::shared_ptr<void> hostFakeCamera();
+constexpr const char* fakeCameraAddress = "127.0.0.1";
 
 } // namespace genicam

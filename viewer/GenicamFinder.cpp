@@ -50,13 +50,14 @@ void GenicamFinder::search()
 void GenicamFinder::open(const QString& id)
 {
     const bool isFake = id == fakeId;
-    const QString obstacle = isFake ? startFake() : QString();
-    if (!obstacle.isEmpty()) {
-        emit failed(id, obstacle);
+    if (isFake && !m_fake)
+        m_fake = genicam::hostFakeCamera();
+    if (isFake && !m_fake) {
+        emit failed(id, tr("The port of the camera without hardware is taken on this computer."));
         return;
     }
     const std::string address
-        = isFake ? genicam::FakeCamera::address : id.mid(prefix.size()).toStdString();
+        = isFake ? genicam::fakeCameraAddress : id.mid(prefix.size()).toStdString();
     const std::string vendor = m_isPresentedAsSupported ? supportedVendor : "";
     run([this, id, address, vendor] {
         std::string reason;
@@ -74,16 +75,6 @@ void GenicamFinder::open(const QString& id)
 QString GenicamFinder::idWithoutHardware() const
 {
     return fakeId;
-}
-
-QString GenicamFinder::startFake()
-{
-    if (!m_fake)
-        m_fake = std::make_unique<genicam::FakeCamera>();
-    if (m_fake->isRunning())
-        return {};
-    m_fake.reset();
-    return tr("The port of the camera without hardware is taken on this computer.");
 }
 
 void GenicamFinder::tell(const std::function<void()>& event)

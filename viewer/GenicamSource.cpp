@@ -20,13 +20,6 @@ Plain read(const genicam::GenicamCamera& camera, const char* name, Plain missing
     return feature && feature->GetValue(value) == ZebErrorSuccess ? value : missing;
 }
 
-/// Far above any sensor, far below what overflows an int.
-int pixels(std::int64_t value)
-{
-    constexpr std::int64_t limit = 1 << 24;
-    return static_cast<int>(qBound(-limit, value, limit));
-}
-
 int readPixels(const genicam::GenicamCamera& camera, const char* name, int missing = 0)
 {
     return pixels(read(camera, name, std::int64_t{missing}));

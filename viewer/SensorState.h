@@ -5,6 +5,15 @@
 #include <QString>
 #include <QVector>
 
+#include <cstdint>
+
+/// Far above any sensor, far below what overflows an int.
+inline int pixels(std::int64_t value)
+{
+    constexpr std::int64_t limit = 1 << 24;
+    return static_cast<int>(qBound(-limit, value, limit));
+}
+
 /// What decides how a camera's frame looks, read at one moment.
 struct SensorState
 {

@@ -9,13 +9,6 @@ namespace {
 
 constexpr int frameInterval = 40;
 
-/// Far above any sensor, far below what overflows an int.
-int pixels(std::int64_t value)
-{
-    constexpr std::int64_t limit = 1 << 24;
-    return static_cast<int>(qBound(-limit, value, limit));
-}
-
 SensorState sensorState(const sim::Snapshot& snapshot)
 {
     SensorState state;

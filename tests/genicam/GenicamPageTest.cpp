@@ -25,16 +25,11 @@ struct Page
 {
     explicit Page(bool isHosted, const std::string& vendor = "Brontax")
     {
-        GenicamCamera::Options options;
-        options.vendorPrefix = vendor;
-        if (isHosted)
-            hosted = std::make_unique<HostedCamera>();
-        else
-            device = std::make_shared<ByteArrayDevice>();
-        if (hosted && !hosted->isRunning())
+        const GenicamCamera::Options options{vendor, [](bool) {}};
+        if (isHosted && !hosted.isRunning())
             return;
-        ArvDevice* const opened = hosted ? hosted->open() : ByteArrayDevice::open(device);
-        camera = std::make_unique<GenicamCamera>(opened, options);
+        camera = std::make_unique<GenicamCamera>(
+            isHosted ? HostedCamera::open() : ByteArrayDevice::open(device), options);
         const auto list = camera->features();
         page = std::make_unique<ImageFormatWidget>(
             TabExtensionInterface::FeatureList::create(list.begin(), list.end()), nullptr);
@@ -75,8 +70,8 @@ struct Page
     }
 
     const MessageHandlerGuard guard;
-    std::unique_ptr<HostedCamera> hosted;
-    std::shared_ptr<ByteArrayDevice> device;
+    HostedCamera hosted;
+    const std::shared_ptr<ByteArrayDevice> device = std::make_shared<ByteArrayDevice>();
     std::unique_ptr<GenicamCamera> camera;
     std::unique_ptr<ImageFormatWidget> page;
 };
