@@ -194,7 +194,7 @@ void distortCamera(Session& session)
 
 void reopen(Session& session)
 {
-    session.closePage(session.random.oneIn(2) ? Session::AsItIs : Session::Hidden);
+    session.closePage(!session.random.oneIn(2));
     session.pass(session.random.pick({0, 30}));
     session.openPage();
 }

@@ -70,7 +70,7 @@ private:
     }
     void compare(const QString& what, const QString& shown, const std::string& held)
     {
-        if (shown != QString::fromStdString(held))
+        if (shown.toStdString() != held)
             add(what, shown, QString::fromStdString(held));
     }
     void compare(const QString& what, double shown, double held, double tolerance)
@@ -79,111 +79,104 @@ private:
             add(what, QString::number(shown), QString::number(held));
     }
 
-    void compareRegionFields();
-    void compareBoundFields();
-    void compareBand();
-    void compareBands();
-    void compareTables();
+    void compareRegionFields()
+    {
+        for (const QDoubleSpinBox* const box : usable<QDoubleSpinBox>(m_session)) {
+            for (const auto& [page, name, features] : fields) {
+                QStringList held = QString(features).split(' ');
+                while (!held.isEmpty() && !m_camera.has(held.first().toStdString()))
+                    held.removeFirst();
+                if (box->objectName() == name && isOn(page, box) && !held.isEmpty())
+                    compare(box->objectName() + " of " + page, box->value(),
+                            m_camera.feature(held.first().toStdString()).number(),
+                            std::pow(10.0, -box->decimals()));
+            }
+        }
+    }
+
+    // Fields that are named after a feature, with three letters before.
+    void compareBoundFields()
+    {
+        for (const QWidget* const widget : usable<QWidget>(m_session)) {
+            const QString name = widget->objectName();
+            const std::string feature = name.mid(3).toStdString();
+            if (!m_camera.has(feature))
+                continue;
+            const std::string held = m_camera.feature(feature).text();
+            if (const auto* const box = qobject_cast<const QSpinBox*>(widget))
+                compare(name, QString::number(box->value()), held);
+            else if (const auto* const list = qobject_cast<const QComboBox*>(widget))
+                compare(name, list->currentText(), held);
+            else if (const auto* const check = qobject_cast<const QCheckBox*>(widget))
+                compare(name, check->isChecked(), m_camera.feature(feature).isOn(), 0.0);
+        }
+    }
+
+    // The single region's band ends with the picture, which keeps the rounded aspect ratio of the
+    // size at which it was chosen.
+    void compareBand()
+    {
+        for (const QLabel* const label : usable<QLabel>(m_session)) {
+            const auto* const band = label->findChild<QRubberBand*>();
+            if (!isOn("AOIWidget", label) || !band || m_state.regions.empty()
+                || m_state.maximum.isEmpty())
+                continue;
+            const auto& region = m_state.regions.front();
+            const auto sensorWidth = double(m_state.maximum.width);
+            const double ratio = sensorWidth / double(m_state.maximum.height);
+            const double width
+                = std::min(double(label->width()), std::floor(label->height() * ratio + 0.5));
+            const double scale = width / sensorWidth;
+            const QSize picture = label->pixmap(Qt::ReturnByValue).size();
+            const auto compareLength = [&](const char* what, int shown, double length, int room) {
+                compare(what, shown, std::min(length * scale, double(room)), 2.0);
+            };
+            compare("the band's left", band->x(), double(region.x) * scale, 1.0);
+            compare("the band's top", band->y(), double(region.y) * scale, 1.0);
+            compareLength("the band's width", band->width(), double(region.width),
+                          picture.width() - band->x());
+            compareLength("the band's height", band->height(), double(region.height),
+                          picture.height() - band->y());
+        }
+    }
+
+    // Each region that is switched on has its band, and no other has one.
+    void compareBands()
+    {
+        for (const QLabel* const label : usable<QLabel>(m_session)) {
+            if (!label->inherits("MultiRubberBandLabel") || !m_state.hasMultipleRegions)
+                continue;
+            int shown = 0;
+            for (const QRubberBand* const band : label->findChildren<QRubberBand*>())
+                shown += band->inherits("RectangleRubberBand") && band->isVisible() ? 1 : 0;
+            compare("the number of bands", shown, double(m_state.regions.size()), 0.0);
+        }
+    }
+
+    void compareTables()
+    {
+        for (const QAbstractItemView* const table : usable<QAbstractItemView>(m_session)) {
+            const QTabWidget* tabs = nullptr;
+            for (const QWidget* parent = table; parent && !tabs; parent = parent->parentWidget())
+                tabs = qobject_cast<const QTabWidget*>(parent);
+            if (!table->inherits("RegionTableWidget") || !tabs)
+                continue;
+            const int region = tabs->currentIndex();
+            const QAbstractItemModel* const model = table->model();
+            for (int row = 0; row < model->rowCount(); ++row) {
+                const QString name = model->index(row, 0).data().toString();
+                if (m_camera.has(name.toStdString()))
+                    compare(QString("%1 of region %2").arg(name).arg(region),
+                            model->index(row, 1).data().toString(),
+                            m_camera.feature(name.toStdString()).valueAt(region).toText());
+            }
+        }
+    }
 
     Session& m_session;
     const sim::Camera& m_camera;
     const sim::Snapshot m_state;
 };
-
-void Comparison::compareRegionFields()
-{
-    for (const QDoubleSpinBox* const box : usable<QDoubleSpinBox>(m_session)) {
-        for (const auto& [page, name, features] : fields) {
-            QStringList held = QString(features).split(' ');
-            while (!held.isEmpty() && !m_camera.has(held.first().toStdString()))
-                held.removeFirst();
-            if (box->objectName() == name && isOn(page, box) && !held.isEmpty())
-                compare(box->objectName() + " of " + page, box->value(),
-                        m_camera.feature(held.first().toStdString()).number(),
-                        std::pow(10.0, -box->decimals()));
-        }
-    }
-}
-
-// Fields that are named after a feature, with three letters before.
-void Comparison::compareBoundFields()
-{
-    for (const QWidget* const widget : usable<QWidget>(m_session)) {
-        const QString name = widget->objectName();
-        const std::string feature = name.mid(3).toStdString();
-        if (!m_camera.has(feature))
-            continue;
-        const std::string held = m_camera.feature(feature).text();
-        if (const auto* const box = qobject_cast<const QSpinBox*>(widget))
-            compare(name, QString::number(box->value()), held);
-        else if (const auto* const list = qobject_cast<const QComboBox*>(widget))
-            compare(name, list->currentText(), held);
-        else if (const auto* const check = qobject_cast<const QCheckBox*>(widget))
-            compare(name, check->isChecked(), m_camera.feature(feature).isOn(), 0.0);
-    }
-}
-
-// The page of the single region: its band covers the camera's region, to the pixel, but ends with
-// the picture, which keeps the rounded aspect ratio of the size at which it was chosen.
-void Comparison::compareBand()
-{
-    for (const QLabel* const label : usable<QLabel>(m_session)) {
-        const auto* const band = label->findChild<QRubberBand*>();
-        if (!isOn("AOIWidget", label) || !band || m_state.regions.empty()
-            || m_state.maximum.isEmpty())
-            continue;
-        const auto& region = m_state.regions.front();
-        const auto sensorWidth = double(m_state.maximum.width);
-        const double ratio = sensorWidth / double(m_state.maximum.height);
-        const double width
-            = std::min(double(label->width()), std::floor(label->height() * ratio + 0.5));
-        const double scale = width / sensorWidth;
-        const QSize picture = label->pixmap(Qt::ReturnByValue).size();
-        const auto compareLength = [&](const char* what, int shown, double length, int room) {
-            compare(what, shown, std::min(length * scale, double(room)), 2.0);
-        };
-        compare("the band's left", band->x(), double(region.x) * scale, 1.0);
-        compare("the band's top", band->y(), double(region.y) * scale, 1.0);
-        compareLength("the band's width", band->width(), double(region.width),
-                      picture.width() - band->x());
-        compareLength("the band's height", band->height(), double(region.height),
-                      picture.height() - band->y());
-    }
-}
-
-// Each region that is switched on has its band, and no other has one.
-void Comparison::compareBands()
-{
-    for (const QLabel* const label : usable<QLabel>(m_session)) {
-        if (!label->inherits("MultiRubberBandLabel") || !m_state.hasMultipleRegions)
-            continue;
-        int shown = 0;
-        for (const QRubberBand* const band : label->findChildren<QRubberBand*>())
-            shown += band->inherits("RectangleRubberBand") && band->isVisible() ? 1 : 0;
-        compare("the number of bands", shown, double(m_state.regions.size()), 0.0);
-    }
-}
-
-// The table of the region whose tab is open: a name and a value in each row.
-void Comparison::compareTables()
-{
-    for (const QAbstractItemView* const table : usable<QAbstractItemView>(m_session)) {
-        const QTabWidget* tabs = nullptr;
-        for (const QWidget* parent = table; parent && !tabs; parent = parent->parentWidget())
-            tabs = qobject_cast<const QTabWidget*>(parent);
-        if (!table->inherits("RegionTableWidget") || !tabs)
-            continue;
-        const int region = tabs->currentIndex();
-        const QAbstractItemModel* const model = table->model();
-        for (int row = 0; row < model->rowCount(); ++row) {
-            const QString name = model->index(row, 0).data().toString();
-            if (m_camera.has(name.toStdString()))
-                compare(QString("%1 of region %2").arg(name).arg(region),
-                        model->index(row, 1).data().toString(),
-                        m_camera.feature(name.toStdString()).valueAt(region).toText());
-        }
-    }
-}
 
 } // namespace
 
@@ -234,14 +227,12 @@ void Invariants::checkAtRest(Session& session)
     if (session.camera().notifications().mode != Mode::Off)
         session.misbehaviour().writeFromOutside();
     session.pass(settlingTime);
-    // To read one of several regions it has to be selected, and a region of the automatic function
-    // outside the picture switches the function off.
+    // Reading selects regions; a region outside the picture switches the automatic function off.
     const QString writes = session.takeWrites({"SubRegionSelector", "AutofunctionAOIEnable"});
     if (!writes.isEmpty())
         session.find("a refresh wrote " + writes);
     QStringList findings = Comparison(session).findings;
-    // A busy machine may let the camera's threads wait, and a camera that seemed lost is asked
-    // again after seconds.
+    // Threads may have to wait, and a camera that seemed lost is asked again after seconds.
     for (int looks = 0; looks < 10 && session.hasThreads() && !findings.isEmpty(); ++looks) {
         session.camera().flushNotifications();
         session.pass(4 * settlingTime);

@@ -7,12 +7,9 @@ namespace Invariants {
 
 /// No region reaches beyond the sensor.
 void checkRegions(Session& session);
-
 /// How many pairs of the camera's regions overlap.
 int countOverlaps(Session& session);
-
-/// Lets the page come to rest and looks whether it shows what the camera holds, and whether it has
-/// written anything meanwhile.
+/// At rest the page shows what the camera holds, and has written nothing.
 void checkAtRest(Session& session);
 
 } // namespace Invariants

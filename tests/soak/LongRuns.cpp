@@ -1,23 +1,71 @@
 #include "LongRuns.h"
 
 #include "Host.h"
-#include "ProcessState.h"
 #include "Report.h"
 #include "VirtualTime.h"
 #include "Watchdog.h"
 
 #include "simulator/Camera.h"
 
+#include <QAbstractEventDispatcher>
 #include <QApplication>
+#include <QDir>
 #include <QEventLoop>
+#include <QFile>
 #include <QPixmapCache>
 #include <QTimer>
+#include <QTranslator>
 
 #include <array>
+
+#include <malloc.h>
+#include <unistd.h>
 
 namespace {
 
 constexpr std::int64_t toleratedGrowth = 1 << 20;
+
+/// What the process holds; memory in bytes.
+struct Holdings
+{
+    std::int64_t memory = 0;
+    std::map<std::string, int> counts;
+};
+
+/// Of the application's objects and of all widgets.
+int timerCount()
+{
+    QObjectList objects = qApp->findChildren<QObject*>();
+    for (QWidget* const widget : QApplication::allWidgets())
+        objects.append(widget);
+    int count = 0;
+    for (QObject* const object : qAsConst(objects))
+        count += QAbstractEventDispatcher::instance()->registeredTimers(object).size();
+    return count;
+}
+
+Holdings lookAndPrint(const std::string& title)
+{
+    malloc_trim(0);
+    Holdings held;
+    QFile pages("/proc/self/statm");
+    if (pages.open(QIODevice::ReadOnly))
+        held.memory = pages.readAll().split(' ').value(1).toLongLong() * sysconf(_SC_PAGESIZE);
+    const QDir descriptors("/proc/self/fd");
+    const auto everything = QDir::NoDotAndDotDot | QDir::AllEntries | QDir::System;
+    held.counts = {{"descriptors", descriptors.entryList(everything).size()},
+                   {"timers", timerCount()},
+                   {"translators", qApp->findChildren<QTranslator*>().size()},
+                   {"widgets", QApplication::allWidgets().size()},
+                   {"cursors", QApplication::overrideCursor() ? 1 : 0}};
+    const auto heap = mallinfo2();
+    std::printf("%s: memory %lld KiB, heap in use %zu KiB", title.c_str(),
+                static_cast<long long>(held.memory >> 10), (heap.uordblks + heap.hblkhd) >> 10);
+    for (const auto& [name, count] : held.counts)
+        std::printf(", %s %d", name.c_str(), count);
+    std::puts("");
+    return held;
+}
 
 /// A camera that keeps no list of its calls, which would count as the module's memory.
 std::unique_ptr<sim::Camera> quietCamera(const std::string& model)
@@ -68,16 +116,6 @@ void wait(double seconds)
     loop.exec();
 }
 
-/// The part of the time that this thread runs while its event loop does.
-double busyShare(double seconds)
-{
-    using Seconds = std::chrono::duration<double>;
-    const Seconds busy = Watchdog::guiTime();
-    const Seconds real = VirtualTime::real();
-    wait(seconds);
-    return (Watchdog::guiTime() - busy) / (VirtualTime::real() - real);
-}
-
 } // namespace
 
 void LongRuns::openAndClose(TabExtensionInterface& module, Report& report, int count)
@@ -87,15 +125,14 @@ void LongRuns::openAndClose(TabExtensionInterface& module, Report& report, int c
     // Qt's cache of pictures names them after palettes, of which each page has its own: it fills,
     // and keeps the names of what it drops until a timer of half a minute comes by.
     QPixmapCache::setCacheLimit(0);
-    ProcessState before;
-    ProcessState after;
+    Holdings before;
+    Holdings after;
     for (int i = 1; i <= count; ++i) {
         Watchdog::beat();
         openAndCloseOne(module, report, models[static_cast<std::size_t>(i) % models.size()]);
         if (i % firstLook != 0 && i != count)
             continue;
-        after = ProcessState::now();
-        after.print("after " + std::to_string(i) + " cameras");
+        after = lookAndPrint("after " + std::to_string(i) + " cameras");
         if (i <= firstLook)
             before = after;
     }
@@ -121,16 +158,17 @@ void LongRuns::storm(TabExtensionInterface& module, Report& report, double minut
         }
     });
     wait(5.0);
-    const ProcessState before = ProcessState::now();
-    const double busy = busyShare(minutes * 60.0);
-    const ProcessState after = ProcessState::now();
+    const Holdings before = lookAndPrint("before");
+    const std::chrono::duration<double> worked = Watchdog::guiTime();
+    const std::chrono::duration<double> begin = VirtualTime::real();
+    wait(minutes * 60.0);
+    const double busy = (Watchdog::guiTime() - worked) / (VirtualTime::real() - begin);
+    const Holdings after = lookAndPrint("after");
     ends = true;
     source.join();
 
     report["notifications"] += camera->notificationCount();
     report["SDK calls"] += camera->journal().count();
-    before.print("before");
-    after.print("after");
     std::printf("GUI thread busy: %.2f %%\n", 100.0 * busy);
     if (busy > busyLimit)
         report.find("the GUI thread is too busy");

@@ -7,12 +7,10 @@ struct Report;
 /// Runs that look for what grows.
 namespace LongRuns {
 
-/// Opens and closes a camera @p count times; what the process holds after the hundredth and after
-/// the last has to be the same.
+/// The process holds the same after the hundredth camera and after the last.
 void openAndClose(TabExtensionInterface& module, Report& report, int count);
 
-/// Shows a page while its camera notifies 1000 times a second; tells how busy the GUI thread is and
-/// whether memory grows.
+/// A camera notifies 1000 times a second: how busy is the GUI thread, and does memory grow?
 void storm(TabExtensionInterface& module, Report& report, double minutes);
 
 } // namespace LongRuns

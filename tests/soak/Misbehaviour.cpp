@@ -60,17 +60,9 @@ Failure someFailure(Failure::Kind kind, Random& random)
 
 Occurrence aWhile(Random& random, int latestStart, int shortest, int longest)
 {
-    Occurrence result
-        = Occurrence::from(static_cast<std::uint64_t>(random.between(1, latestStart)));
+    auto result = Occurrence::from(static_cast<std::uint64_t>(random.between(1, latestStart)));
     result.count = static_cast<std::uint64_t>(random.between(shortest, longest));
     return result;
-}
-
-// What the camera stores in place of the written value has to be a value of the camera's still.
-Operations operationsFor(Failure::Kind kind)
-{
-    return kind == Failure::Kind::Substitute ? Operations::all().without(Operation::SetValue)
-                                             : Operations::all();
 }
 
 std::vector<std::string> namesOf(const sim::Camera& camera)
@@ -89,6 +81,7 @@ std::vector<std::string> namesOf(const sim::Camera& camera)
 
 Misbehaviour::Misbehaviour(sim::Camera& camera, Random& random)
     : m_camera(camera)
+    , m_failures(camera.failures())
     , m_random(random)
     , m_names(namesOf(camera))
 {
@@ -108,31 +101,26 @@ bool Misbehaviour::tire()
 {
     const int fault = m_random.below(6);
     if (fault == 0)
-        m_camera.failures().add(FailureInjector::anyFeature, Operations::writes(),
-                                Failure::refuse(), Occurrence::randomly(0.1, m_random.next()));
+        m_failures.add(FailureInjector::anyFeature, Operations::writes(), Failure::refuse(),
+                       Occurrence::randomly(0.1, m_random.next()));
     for (const std::string& name : m_names) {
         if (fault == 1 && name != "DeviceVendorName")
-            m_camera.failures().add(name, cameraReads, Failure::refuse(),
-                                    Occurrence::randomly(0.02, m_random.next()));
+            m_failures.add(name, cameraReads, Failure::refuse(),
+                           Occurrence::randomly(0.02, m_random.next()));
     }
-    if (fault == 2)
-        slowOneDown();
-    return fault <= 2;
-}
-
-void Misbehaviour::slowOneDown()
-{
     std::vector<std::string> present;
     for (const char* name : {"PixelFormat", "BinningHorizontal", "ReverseX", "OffsetY", "Width",
                              "AutofunctionAOIWidth", "ExposureAutoMax", "SubRegionWidth"}) {
         if (m_camera.has(name))
             present.emplace_back(name);
     }
-    const Occurrence while_ = aWhile(m_random, 20, 2, 40);
-    Failure failure = Failure::refuse();
-    failure.delay = std::chrono::milliseconds(120);
-    if (!present.empty())
-        m_camera.failures().add(m_random.pick(present), cameraReads, failure, while_);
+    if (fault == 2 && !present.empty()) {
+        const Occurrence while_ = aWhile(m_random, 20, 2, 40);
+        Failure failure = Failure::refuse();
+        failure.delay = std::chrono::milliseconds(120);
+        m_failures.add(m_random.pick(present), cameraReads, failure, while_);
+    }
+    return fault <= 2;
 }
 
 void Misbehaviour::spoil(bool withObservers)
@@ -144,40 +132,39 @@ void Misbehaviour::spoil(bool withObservers)
         const auto kind = static_cast<Failure::Kind>(k);
         if (kind == Failure::Kind::Lose || m_random.oneIn(2))
             continue;
+        // What the camera stores in place of the written value has to be a value of its own.
+        const auto operations = kind == Failure::Kind::Substitute
+            ? Operations::all().without(Operation::SetValue)
+            : Operations::all();
         const bool isSlow = kind == Failure::Kind::None;
         const double probability = isSlow ? 0.00002 : m_random.pick({0.0002, 0.002, 0.01, 0.05});
-        m_camera.failures().add(FailureInjector::anyFeature, operationsFor(kind).without(kept),
-                                someFailure(kind, m_random),
-                                Occurrence::randomly(probability, m_random.next()));
+        m_failures.add(FailureInjector::anyFeature, operations.without(kept),
+                       someFailure(kind, m_random),
+                       Occurrence::randomly(probability, m_random.next()));
     }
     if (m_random.oneIn(4)) {
         for (const char* selector : {"SubRegionSelector", "BinningSelector"})
-            m_camera.failures().add(
-                selector, Operations::writes(), Failure::refuse(),
-                Occurrence::randomly(m_random.pick({0.1, 1.0}), m_random.next()));
+            m_failures.add(selector, Operations::writes(), Failure::refuse(),
+                           Occurrence::randomly(m_random.pick({0.1, 1.0}), m_random.next()));
     }
     // Some features are gone for a while, and are refused when they are back.
     for (int i = m_random.below(4); i > 0; --i) {
         const Occurrence while_ = aWhile(m_random, 200, 1, 500);
         const std::string& name = anyFeature();
-        m_camera.failures().add(name, Operations::all().without(kept),
-                                Failure::refuse(ZebErrorNotFound), while_);
-        m_camera.failures().add(name, Operations::writes(), Failure::refuse(),
-                                Occurrence::from(while_.first + while_.count));
+        m_failures.add(name, Operations::all().without(kept), Failure::refuse(ZebErrorNotFound),
+                       while_);
+        m_failures.add(name, Operations::writes(), Failure::refuse(),
+                       Occurrence::from(while_.first + while_.count));
     }
 }
 
 void Misbehaviour::distort()
 {
     const std::string& name = anyFeature();
-    if (m_random.oneIn(2))
+    if (m_random.oneIn(2)) {
         distortNumbers(name);
-    else
-        distortDescription(name);
-}
-
-void Misbehaviour::distortDescription(const std::string& name)
-{
+        return;
+    }
     const int what = m_random.below(4);
     const std::string text = oddText(m_random);
     m_camera.modify(name, [&](sim::FeatureDescription& feature) {
@@ -213,9 +200,9 @@ void Misbehaviour::distortNumbers(const std::string& name)
                                                             {5.0, -5.0}});
     const auto increment = m_random.pick<sim::Value>(
         {0, -1, 1000000, largest, smallest, double(NAN), infinity, 1e-300});
-    m_camera.failures().add(name, Operation::GetRange, Failure::range(bounds.first, bounds.second));
+    m_failures.add(name, Operation::GetRange, Failure::range(bounds.first, bounds.second));
     if (m_random.oneIn(2))
-        m_camera.failures().add(name, Operation::GetIncrement, Failure::value(increment));
+        m_failures.add(name, Operation::GetIncrement, Failure::value(increment));
     m_camera.announce(name);
 }
 

@@ -13,15 +13,13 @@ class Misbehaviour
 public:
     Misbehaviour(sim::Camera& camera, Random& random);
 
-    /// What an honest camera may do, or nothing, which is answered by false: some writes or reads
-    /// are refused, or reads of one feature take their time and fail for a while.
+    /// What an honest camera may do, or nothing, which is answered by false.
     bool tire();
-    /// Every operation goes wrong now and then, in every way but the loss of the camera.
-    /// Registering and unregistering are left alone, unless @p withObservers.
+    /// Every operation goes wrong now and then; that of observers only @p withObservers.
     void spoil(bool withObservers);
-    /// Something about one feature becomes odd: its range, entries, texts or access.
+    /// One feature's range, entries, texts or access become odd.
     void distort();
-    /// Another client writes something legal, as far as the feature has legal values.
+    /// Another client writes something legal.
     void writeFromOutside();
 
     /// Empty when the page observes nothing now.
@@ -29,11 +27,10 @@ public:
 
 private:
     const std::string& anyFeature() { return m_random.pick(m_names); }
-    void slowOneDown();
     void distortNumbers(const std::string& name);
-    void distortDescription(const std::string& name);
 
     sim::Camera& m_camera;
+    sim::FailureInjector& m_failures;
     Random& m_random;
     const std::vector<std::string> m_names;
 };

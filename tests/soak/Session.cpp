@@ -2,7 +2,6 @@
 
 #include "Actions.h"
 #include "Invariants.h"
-#include "ProcessState.h"
 #include "VirtualTime.h"
 #include "Watchdog.h"
 
@@ -14,6 +13,10 @@
 #include <QEventLoop>
 #include <QFileDialog>
 #include <QLineEdit>
+#include <QRegularExpression>
+#include <QTranslator>
+
+#include <sys/resource.h>
 
 namespace {
 
@@ -31,10 +34,11 @@ std::string anyModel(Random& random)
     return name != "multi-region-256" || random.oneIn(8) ? name : random.pick(names);
 }
 
-void mix(std::uint64_t& digest, const std::string& text)
+std::int64_t largestMemory()
 {
-    for (const char c : text)
-        digest = (digest ^ static_cast<unsigned char>(c)) * 0x100000001B3u;
+    rusage usage{};
+    getrusage(RUSAGE_SELF, &usage);
+    return usage.ru_maxrss * 1024;
 }
 
 } // namespace
@@ -47,21 +51,16 @@ Session::Session(const Run& run, std::uint64_t seed, const std::string& model)
 {
     Watchdog::setPlace(seed, 0, m_action);
     prepareCamera(model.empty() ? anyModel(random) : model);
-    m_translations = random.pick({TranslationFiles::Built, TranslationFiles::Built,
-                                  TranslationFiles::Missing, TranslationFiles::Broken});
-    m_run.translations.use(m_translations);
+    const int folder = random.pick({0, 0, 1, 2});
+    m_isTranslated = folder == 0;
+    QDir::setCurrent(m_run.translationFolders[folder]);
+    qDeleteAll(qApp->findChildren<QTranslator*>()); // or else the first page's would serve all
     VirtualTime::start(m_hasThreads ? VirtualTime::Pace::Fast : VirtualTime::Pace::Exact);
     QApplication::setPalette(QPalette(Qt::lightGray));
     m_host = std::make_unique<Host>();
     m_host->lastFrame = QPixmap(320, 200);
     connect(&m_dialogTimer, &QTimer::timeout, this, &Session::answerDialog);
     m_dialogTimer.start(dialogInterval);
-}
-
-Session::~Session()
-{
-    m_run.report["sessions run"] += 1;
-    m_run.report["sessions without threads"] += m_hasThreads ? 0 : 1;
 }
 
 void Session::prepareCamera(const std::string& model)
@@ -100,7 +99,7 @@ void Session::prepareCamera(const std::string& model)
 
 void Session::run()
 {
-    const std::int64_t memory = ProcessState::largestMemory();
+    const std::int64_t memory = largestMemory();
     openPage();
     const int steps = random.between(10, 80);
     for (m_step = 1; m_step <= steps && m_page; ++m_step) {
@@ -116,13 +115,15 @@ void Session::run()
     if (random.oneIn(5) && !m_isHonest)
         closeCamera(); // before its page
     if (m_page)
-        closePage(random.oneIn(2) ? AsItIs : Hidden);
+        closePage(!random.oneIn(2));
     m_dialogTimer.stop();
     closeCamera();
     m_host.reset();
     QCoreApplication::processEvents();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     checkRest(memory);
+    m_run.report["sessions run"] += 1;
+    m_run.report["sessions without threads"] += m_hasThreads ? 0 : 1;
 }
 
 void Session::checkRest(std::int64_t memoryBefore)
@@ -133,7 +134,7 @@ void Session::checkRest(std::int64_t memoryBefore)
         QApplication::restoreOverrideCursor();
     if (!QApplication::topLevelWidgets().isEmpty())
         find("a window is left");
-    const std::int64_t growth = ProcessState::largestMemory() - memoryBefore;
+    const std::int64_t growth = largestMemory() - memoryBefore;
     if (growth > mostMemory)
         find(QString("it took %1 MiB").arg(growth >> 20));
 }
@@ -159,12 +160,10 @@ void Session::step()
     m_action = action.name;
     Watchdog::setPlace(m_seed, m_step, m_action);
     m_run.report["user actions"] += 1;
-    if (m_run.isVerbose) {
-        std::fprintf(stderr, "%d %s, %zu calls before\n", m_step, m_action,
-                     m_camera->journal().count());
-    }
+    if (m_run.isVerbose)
+        std::fprintf(stderr, "%d %s\n", m_step, m_action);
     const bool isTimed = m_isLost && action.isShort;
-    const std::chrono::nanoseconds begin = Watchdog::guiTime();
+    const auto begin = Watchdog::guiTime();
     action.perform(*this);
     if (isTimed)
         checkLostTime(begin);
@@ -217,7 +216,8 @@ void Session::openPage()
         delete page;
         return;
     }
-    if (!TranslationFiles::areShown(m_translations))
+    const char* const text = "Pixel Format: ";
+    if (m_isTranslated == (QCoreApplication::translate("ImageFormatWidget", text) == text))
         find("the texts are not those of the translation files");
     // A region told by its edges that is invalid gives way to the whole picture.
     const QString writes = takeWrites({"SubRegionSelector", "DSPSubregionLeft", "DSPSubregionTop",
@@ -240,14 +240,14 @@ void Session::checkRefusal(const QWidget& page)
         find("the camera was refused");
 }
 
-void Session::closePage(Closing closing)
+void Session::closePage(bool isHiddenFirst)
 {
     if (!m_page)
         return;
     const std::chrono::nanoseconds begin = Watchdog::guiTime();
     Watchdog::beat();
     const QPointer<QWidget> page = m_page;
-    if (closing == Hidden && m_host)
+    if (isHiddenFirst && m_host)
         m_host->hide();
     delete page.data();
     if (m_isLost && m_camera)
@@ -285,12 +285,9 @@ void Session::burst(bool isLarge)
 QString Session::takeWrites(const QStringList& ignored)
 {
     account();
-    QStringList writes;
-    const QStringList all = std::exchange(m_writes, {});
-    for (const QString& write : all) {
-        if (!ignored.contains(write.section('=', 0, 0)))
-            writes.append(write);
-    }
+    QStringList writes = std::exchange(m_writes, {});
+    for (const QString& feature : ignored)
+        writes = writes.filter(QRegularExpression("^(?!" + feature + "=)"));
     return writes.join(", ");
 }
 
@@ -298,21 +295,27 @@ QString Session::takeWrites(const QStringList& ignored)
 void Session::account()
 {
     sim::Journal& journal = m_camera->journal();
+    const auto mix = [this](const std::string& text) {
+        for (const char c : text)
+            m_digest = (m_digest ^ static_cast<unsigned char>(c)) * 0x100000001B3u;
+    };
     for (const sim::JournalEntry& entry : journal.writes()) {
-        m_writes.append(QString::fromStdString(entry.feature + '=' + entry.value.toText()));
-        mix(m_digest, entry.feature + '=' + entry.value.toText());
+        const std::string write = entry.feature + '=' + entry.value.toText();
+        m_writes.append(QString::fromStdString(write));
+        mix(write);
     }
-    mix(m_digest, std::to_string(journal.count()));
+    mix(std::to_string(journal.count()));
     m_run.report["SDK calls"] += journal.count();
     journal.clear();
 }
 
 void Session::find(const QString& text)
 {
-    const auto seed = QString::number(m_seed);
     m_run.report.find(QString("seed %1, step %2 (%3), camera %4: %5\n"
                               "  replay with: scripts/soak --replay %1")
-                          .arg(seed, QString::number(m_step), m_action, m_model.c_str(), text));
+                          .arg(m_seed)
+                          .arg(m_step)
+                          .arg(m_action, m_model.c_str(), text));
 }
 
 // A dialog is on: somebody answers, refuses, waits, or closes the page under it.

@@ -4,7 +4,6 @@
 #include "Misbehaviour.h"
 #include "Random.h"
 #include "Report.h"
-#include "TranslationFiles.h"
 
 #include "simulator/Camera.h"
 
@@ -15,8 +14,7 @@
 #include <memory>
 #include <thread>
 
-/// One camera, opened through the module as a viewer does it, used, and closed; all of it follows
-/// from the seed. A session without threads of the camera's own replays call by call.
+/// One camera, opened through the module as a viewer does it, used, and closed, by the seed.
 class Session : public QObject
 {
 public:
@@ -24,18 +22,16 @@ public:
     struct Run
     {
         TabExtensionInterface& module;
-        const QStringList& pictures; ///< paths
-        const TranslationFiles& translations;
+        const QStringList& pictures;           ///< paths
+        const QStringList& translationFolders; ///< built, missing, broken
         Report& report;
         bool isVerbose = false;
     };
 
     /// Without the name of a model the seed decides.
     Session(const Run& run, std::uint64_t seed, const std::string& model = {});
-    ~Session() override;
-
     void run();
-    /// Sums up the calls that the camera got: equal for equal seeds, when no thread takes part.
+    /// Of the calls that the camera got: equal for equal seeds, when no thread takes part.
     std::uint64_t digest() const { return m_digest; }
     bool hasThreads() const { return m_hasThreads; }
 
@@ -54,15 +50,11 @@ public:
     void resize(int width, int height); ///< the window and its page
     void resizeByChance(int least, int mostWidth, int mostHeight);
     void openPage();
-    enum Closing {
-        AsItIs,
-        Hidden
-    };
-    void closePage(Closing closing = AsItIs);
+    void closePage(bool isHiddenFirst = false);
     void loseCamera(); ///< perhaps
-    /// Notifies from four threads of another's making; a session without threads does nothing.
+    /// Notifies from four threads, where the session may have any.
     void burst(bool isLarge);
-    /// What the module wrote since the last call, but for @p ignored; names and values, as a list.
+    /// What the module wrote since the last call, but for @p ignored features.
     QString takeWrites(const QStringList& ignored = {});
     void find(const QString& text);
 
@@ -94,6 +86,6 @@ private:
     bool m_countsObservers = true;
     int m_step = 0;
     const char* m_action = "opening";
-    TranslationFiles::Kind m_translations = TranslationFiles::Built;
+    bool m_isTranslated = true;
     std::uint64_t m_digest = 0;
 };

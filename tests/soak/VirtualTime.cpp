@@ -17,6 +17,7 @@ constexpr std::int64_t perSecond = 1'000'000'000;
 /// Coarse timers are aligned to the second, so each session starts at a whole number of them.
 constexpr std::int64_t startGrid = 1000 * perSecond;
 constexpr std::int64_t fastSpeed = 10;
+constexpr auto qtCore = "libQt5Core.so";
 
 // The clock showed base when the real time was realBase, in nanoseconds; all the owner's alone.
 std::int64_t base = 0;
@@ -30,11 +31,6 @@ bool isIn(const char* library, void* caller)
     dl_find_object object{};
     return _dl_find_object(caller, &object) == 0
         && std::strstr(object.dlfo_link_map->l_name, library);
-}
-
-bool isQt(void* caller)
-{
-    return isIn("libQt5Core.so", caller);
 }
 
 timespec fromNanoseconds(std::int64_t time)
@@ -79,19 +75,21 @@ std::chrono::nanoseconds VirtualTime::slept()
     return std::chrono::nanoseconds(sleepTime.load());
 }
 
+#define SHOWN __attribute__((visibility("default")))
+
 extern "C" {
 
-__attribute__((visibility("default"))) int clock_gettime(clockid_t clock, timespec* time) noexcept
+SHOWN int clock_gettime(clockid_t clock, timespec* time) noexcept
 {
     void* const caller = __builtin_return_address(0);
     if (!isOwner || clock != CLOCK_MONOTONIC
-        || !(isQt(caller) || (speed == 0 && isIn("libstdc++.so", caller))))
+        || !(isIn(qtCore, caller) || (speed == 0 && isIn("libstdc++.so", caller))))
         return static_cast<int>(syscall(SYS_clock_gettime, clock, time));
     *time = fromNanoseconds(now());
     return 0;
 }
 
-__attribute__((visibility("default"))) int nanosleep(const timespec* time, timespec* rest)
+SHOWN int nanosleep(const timespec* time, timespec* rest)
 {
     if (isOwner) {
         sleepTime += toNanoseconds(*time);
@@ -100,11 +98,10 @@ __attribute__((visibility("default"))) int nanosleep(const timespec* time, times
     return static_cast<int>(syscall(SYS_nanosleep, time, rest));
 }
 
-__attribute__((visibility("default"))) int ppoll(pollfd* descriptors, nfds_t count,
-                                                 const timespec* timeout, const sigset_t* mask)
+SHOWN int ppoll(pollfd* descriptors, nfds_t count, const timespec* timeout, const sigset_t* mask)
 {
     static const auto real = reinterpret_cast<decltype(&ppoll)>(dlsym(RTLD_NEXT, "ppoll"));
-    if (!isOwner || !timeout || !isQt(__builtin_return_address(0)))
+    if (!isOwner || !timeout || !isIn(qtCore, __builtin_return_address(0)))
         return real(descriptors, count, timeout, mask);
     const std::int64_t wanted = toNanoseconds(*timeout);
     const timespec wait = fromNanoseconds(speed == 0 ? 0 : wanted / speed);

@@ -3,17 +3,17 @@
 #include "VirtualTime.h"
 
 #include <array>
+#include <atomic>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
+#include <thread>
 
 #include <pthread.h>
 #include <time.h>
 #include <unistd.h>
 
-#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-extern "C" void __sanitizer_set_death_callback(void (*callback)());
-#endif
+extern "C" __attribute__((weak)) void __sanitizer_set_death_callback(void (*callback)());
 
 namespace {
 
@@ -41,31 +41,35 @@ void tellPlace()
         std::abort();
 }
 
-[[maybe_unused]] void onSignal(int number)
+void onSignal(int number)
 {
     std::signal(number, SIG_DFL);
     tellPlace();
     std::raise(number);
 }
 
-} // namespace
-
-Watchdog::Watchdog()
+void watch()
 {
-    beat();
-    m_thread = std::thread(&Watchdog::watch, this);
-#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-    __sanitizer_set_death_callback(tellPlace);
-#else
-    for (const int number : {SIGSEGV, SIGABRT, SIGFPE, SIGBUS, SIGILL})
-        std::signal(number, onSignal);
-#endif
+    while (Watchdog::guiTime() - lastBeat.load() <= longestHang
+           && VirtualTime::real() - lastRealBeat.load() <= longestLock)
+        std::this_thread::sleep_for(std::chrono::milliseconds(100));
+    std::fputs("\nThe GUI thread hangs.", stderr);
+    std::abort();
 }
 
-Watchdog::~Watchdog()
+} // namespace
+
+void Watchdog::start()
 {
-    m_ends = true;
-    m_thread.join();
+    beat();
+    std::thread(watch).detach();
+    std::signal(SIGABRT, onSignal);
+    if (__sanitizer_set_death_callback) {
+        __sanitizer_set_death_callback(tellPlace);
+        return;
+    }
+    for (const int number : {SIGSEGV, SIGFPE, SIGBUS, SIGILL})
+        std::signal(number, onSignal);
 }
 
 void Watchdog::beat()
@@ -90,18 +94,4 @@ std::chrono::nanoseconds Watchdog::guiTime()
     clock_gettime(clock, &time);
     return std::chrono::seconds(time.tv_sec) + std::chrono::nanoseconds(time.tv_nsec)
         + VirtualTime::slept();
-}
-
-void Watchdog::watch()
-{
-    for (; !m_ends; std::this_thread::sleep_for(std::chrono::milliseconds(100))) {
-        if (guiTime() - lastBeat.load() <= longestHang
-            && VirtualTime::real() - lastRealBeat.load() <= longestLock)
-            continue;
-        std::fputs("\nThe GUI thread hangs.", stderr);
-#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-        tellPlace();
-#endif
-        std::abort();
-    }
 }

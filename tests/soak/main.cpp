@@ -1,5 +1,5 @@
 #include "LongRuns.h"
-#include "PictureFiles.h"
+#include "SampleFiles.h"
 #include "Session.h"
 #include "VirtualTime.h"
 #include "Watchdog.h"
@@ -31,12 +31,11 @@ public:
     Report report;
 };
 
-// The first page of a process installs translations and loads fonts, icons and styles. A session is
-// to replay alone as it ran after others.
+// The first page of a process loads fonts, icons and styles; a session is to replay alone.
 void warmUp(const Session::Run& run)
 {
     Report ignored;
-    const Session::Run first{run.module, run.pictures, run.translations, ignored};
+    const Session::Run first{run.module, run.pictures, run.translationFolders, ignored};
     for (const char* model : {"aoi", "multi-region"})
         Session(first, 0, model).run();
 }
@@ -47,9 +46,8 @@ void runSessions(const Session::Run& run, const QCommandLineParser& options)
     const std::chrono::duration<double, std::ratio<60>> length(options.value("minutes").toDouble());
     const auto end = VirtualTime::real() + length;
     const std::uint64_t firstSeed = options.value("seed").toULongLong();
-    const std::uint64_t count = options.value("sessions").toULongLong();
-    for (std::uint64_t i = 0;
-         VirtualTime::real() < end && i < count && run.report.findings < enoughFindings; ++i) {
+    for (std::uint64_t i = 0; VirtualTime::real() < end && run.report.findings < enoughFindings;
+         ++i) {
         const std::uint64_t seed = Random(firstSeed + i * 0xD1B54A32D192ED03u).next();
         Session session(run, seed);
         session.run();
@@ -85,10 +83,8 @@ void addOptions(QCommandLineParser& parser)
 {
     parser.addHelpOption();
     parser.addOptions({
-        {"module", "The built module.", "PATH", MODULE_PATH},
         {"minutes", "How long to run.", "N", "1"},
         {"seed", "The seed of all sessions.", "S", "1"},
-        {"sessions", "Ends after so many sessions.", "N", "1000000000"},
         {"replay", "Runs the one session with this seed.", "SEED"},
         {"cameras", "Opens and closes so many cameras instead.", "N"},
         {"storm", "Sends 1000 notifications a second for so many minutes instead.", "MINUTES"},
@@ -110,13 +106,13 @@ int main(int argc, char** argv)
     addOptions(options);
     options.process(application);
 
-    QPluginLoader loader(options.value("module"));
+    QPluginLoader loader(MODULE_PATH);
     auto* const module = qobject_cast<TabExtensionInterface*>(loader.instance());
     if (!module) {
         std::fprintf(stderr, "%s\n", qPrintable(loader.errorString()));
         return EXIT_FAILURE;
     }
-    const Watchdog watchdog;
+    Watchdog::start();
     Report& report = application.report;
     if (options.isSet("cameras")) {
         LongRuns::openAndClose(*module, report, options.value("cameras").toInt());
@@ -124,8 +120,8 @@ int main(int argc, char** argv)
         LongRuns::storm(*module, report, options.value("storm").toDouble());
     } else {
         const QStringList pictures = writePictureFiles(home.path());
-        const TranslationFiles translations(home.path());
-        const Session::Run run{*module, pictures, translations, report, options.isSet("verbose")};
+        const QStringList folders = writeTranslationFolders(home.path());
+        const Session::Run run{*module, pictures, folders, report, options.isSet("verbose")};
         warmUp(run);
         if (options.isSet("replay"))
             replay(run, options.value("replay").toULongLong());
