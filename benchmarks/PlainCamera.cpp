@@ -1,6 +1,5 @@
 #include "PlainCamera.h"
 
-#include "features/FeatureWrapping.h"
 #include "simulator/Camera.h"
 #include "simulator/models/FeatureBlocks.h"
 
@@ -253,7 +252,7 @@ PlainCamera::~PlainCamera() = default;
 
 FeatureManager::Wrappers PlainCamera::wrappers() const
 {
-    return wrapFeatures(*m_features);
+    return FeatureManager::wrap(*m_features);
 }
 
 ZebCPP::FeaturePtr PlainCamera::feature(const char* name) const

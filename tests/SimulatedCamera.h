@@ -1,6 +1,6 @@
 #pragma once
 
-#include "features/FeatureWrapping.h"
+#include "features/FeatureManager.h"
 
 #include "simulator/Camera.h"
 
@@ -16,5 +16,5 @@ inline QSharedPointer<QVector<ZebCPP::FeaturePtr>> featureList(const sim::Camera
 
 inline FeatureManager::Wrappers wrappers(const sim::Camera& camera)
 {
-    return wrapFeatures(*featureList(camera));
+    return FeatureManager::wrap(*featureList(camera));
 }

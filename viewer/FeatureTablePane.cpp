@@ -2,7 +2,6 @@
 
 #include "CameraSession.h"
 #include "UserInput.h"
-#include "features/FeatureWrapping.h"
 #include "featuretable/FeaturesTableWidget.h"
 
 #include <QLineEdit>
@@ -56,7 +55,7 @@ void FeatureTablePane::setSession(CameraSession* session)
 
 void FeatureTablePane::openTable(const TabExtensionInterface::FeatureList& features)
 {
-    m_features = wrapFeatures(*features);
+    m_features = FeatureManager::wrap(*features);
     m_manager = std::make_unique<FeatureManager>(m_features);
     m_table = std::make_unique<FeaturesTableWidget>(m_manager->GetFeatureNames(), m_manager.get(),
                                                     this);

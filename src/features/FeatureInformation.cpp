@@ -55,7 +55,7 @@ QString intervalText(const QString& increment)
 
 QString integerText(FeatureReader& feature)
 {
-    const Reading<int64_t> reading = feature.integer(limits);
+    const Reading<int64_t> reading = feature.read<int64_t>(limits);
     QString text;
     if (reading.minimum)
         text += rangeText(QStringLiteral("Integer"), QString::number(qlonglong{*reading.minimum}),
@@ -68,7 +68,7 @@ QString integerText(FeatureReader& feature)
 // The two precisions differ; users compare these texts with those of other tools.
 QString floatText(FeatureReader& feature)
 {
-    const Reading<double> reading = feature.floating(limits);
+    const Reading<double> reading = feature.read<double>(limits);
     QString text;
     if (reading.minimum)
         text += rangeText(QStringLiteral("Float"), QString::number(*reading.minimum, 'g', 9),

@@ -6,22 +6,25 @@
 
 #include <QDebug>
 
+#include <algorithm>
 #include <utility>
 
 namespace {
 
 constexpr std::size_t usualNameLength = 63; ///< longer names cost an allocation
 constexpr double missingNumber = -1.0;
+constexpr int valueAndLimits
+    = FeatureReader::Value | FeatureReader::Range | FeatureReader::Increment;
 
 double untold(FeatureReader& reader)
 {
     return reader.dataType() == Sdk::booleanType ? 0.0 : missingNumber;
 }
 
-bool isNumber(FeatureReader& reader)
+/// Of integers and floats.
+Reading<double> limitedNumber(FeatureReader reader, int parts)
 {
-    const ZebFeatureDataType type = reader.dataType();
-    return type == Sdk::integerType || type == Sdk::floatType;
+    return reader.dataType() == Sdk::booleanType ? Reading<double>() : reader.number(parts);
 }
 
 double answer(const Reading<double>& reading, double& minimum, double& maximum)
@@ -29,6 +32,12 @@ double answer(const Reading<double>& reading, double& minimum, double& maximum)
     minimum = reading.minimum.value_or(missingNumber);
     maximum = reading.maximum.value_or(missingNumber);
     return reading.value.value_or(missingNumber);
+}
+
+double answer(const Reading<double>& reading, double& minimum, double& maximum, double& increment)
+{
+    increment = reading.increment.value_or(missingNumber);
+    return answer(reading, minimum, maximum);
 }
 
 } // namespace
@@ -40,6 +49,15 @@ FeatureManager::FeatureManager(const Wrappers& features, std::shared_ptr<CameraL
 }
 
 FeatureManager::~FeatureManager() = default;
+
+FeatureManager::Wrappers FeatureManager::wrap(const QVector<ZebCPP::FeaturePtr>& features)
+{
+    auto wrappers = Wrappers::create();
+    wrappers->reserve(features.size());
+    for (const ZebCPP::FeaturePtr& feature : features)
+        wrappers->append(std::make_shared<ZebFeatureWrapper>(feature));
+    return wrappers;
+}
 
 template <typename Visit> bool FeatureManager::walk(const QString& what, Visit&& visit) const
 {
@@ -73,53 +91,44 @@ template <typename Visit> bool FeatureManager::walk(const QString& what, Visit&&
     return true;
 }
 
-FeatureReader FeatureManager::read(const QString& name) const
-{
-    const std::string wanted = name.toStdString();
-    ZebFeatureWrapperPtr found;
-    const auto take = [&](const ZebFeatureWrapperPtr& feature, const std::string& candidate) {
-        if (candidate == wanted)
-            found = feature;
-        return found != nullptr;
-    };
-    const bool isKnown = walk(name, take);
-    return {found, name, m_link, isKnown};
-}
-
 FeatureReader FeatureManager::readFirst(const QStringList& candidates) const
 {
-    FeatureReader reader(nullptr, {}, m_link, true);
-    for (const QString& candidate : candidates) {
-        if (!reader && reader.isKnown())
-            reader = read(candidate);
-    }
-    return reader;
+    std::vector<std::string> wanted;
+    for (const QString& candidate : candidates)
+        wanted.push_back(candidate.toStdString());
+    ZebFeatureWrapperPtr found;
+    auto end = wanted.end(); // the first of those that are no longer wanted
+    const auto take = [&](const ZebFeatureWrapperPtr& feature, const std::string& name) {
+        const auto candidate = std::find(wanted.begin(), end, name);
+        if (candidate != end) {
+            found = feature;
+            end = candidate;
+        }
+        return end == wanted.begin();
+    };
+    if (!walk(candidates.value(0), take))
+        return {nullptr, {}, m_link, false};
+    return {found, candidates.value(static_cast<int>(end - wanted.begin())), m_link};
 }
 
 FeatureReader FeatureManager::Read(const QString& name, const QString& alternative1,
-                                   const QString& alternative2)
+                                   const QString& alternative2) const
 {
-    FeatureReader reader = read(name);
+    QStringList candidates{name};
     for (const QString* alternative : {&alternative1, &alternative2}) {
-        if (!reader && reader.isKnown() && !alternative->isEmpty())
-            reader = read(*alternative);
+        if (!alternative->isEmpty())
+            candidates.append(*alternative);
     }
-    return reader;
+    return readFirst(candidates);
 }
 
-ZebFeatureWrapperPtr FeatureManager::Find(const QString& name, const QString& alternative1,
-                                          const QString& alternative2)
+QVector<FeatureReader> FeatureManager::FindAll(const QStringList& names) const
 {
-    return Read(name, alternative1, alternative2).feature();
-}
-
-QVector<FeatureManager::Found> FeatureManager::FindAll(const QStringList& names) const
-{
-    QVector<Found> found;
+    QVector<FeatureReader> found;
     walk(QStringLiteral("all"), [&](const ZebFeatureWrapperPtr& feature, const std::string& text) {
         const QString name = QString::fromStdString(text);
         if (names.contains(name))
-            found.append({feature, name});
+            found.append({feature, name, m_link});
         return false;
     });
     return found;
@@ -150,9 +159,8 @@ bool FeatureManager::IsReadable(const QString& name)
 
 double FeatureManager::GetIncrement(const QString& name, const QString& alternative)
 {
-    return Read(name, alternative)
-        .number(FeatureReader::Increment)
-        .increment.value_or(missingNumber);
+    const auto reading = limitedNumber(Read(name, alternative), FeatureReader::Increment);
+    return reading.increment.value_or(missingNumber);
 }
 
 QString FeatureManager::GetExistingName(const QStringList& candidates)
@@ -178,12 +186,8 @@ double FeatureManager::GetValueState(const QString& name, const QString& alterna
     FeatureReader reader = Read(name, alternative1, alternative2);
     if (!reader)
         return missingNumber;
-    Reading<double> reading;
-    if (isNumber(reader))
-        reading = reader.number();
-    writable = isNumber(reader) ? reading.isWritable : reader.isWritable();
-    increment = reading.increment.value_or(missingNumber);
-    return answer(reading, minimum, maximum);
+    writable = reader.isWritable();
+    return answer(limitedNumber(reader, valueAndLimits), minimum, maximum, increment);
 }
 
 double FeatureManager::GetValueRange(const QString& name, const QString& alternative1,
@@ -191,23 +195,16 @@ double FeatureManager::GetValueRange(const QString& name, const QString& alterna
                                      double& increment)
 {
     FeatureReader reader = Read(name, alternative1, alternative2);
-    if (!reader)
-        return missingNumber;
-    constexpr int parts = FeatureReader::Value | FeatureReader::Range | FeatureReader::Increment;
-    const Reading<double> reading
-        = isNumber(reader) ? reader.fieldNumber(parts) : Reading<double>();
-    increment = reading.increment.value_or(missingNumber);
-    return answer(reading, minimum, maximum);
+    return reader ? answer(reader.fieldNumber(valueAndLimits), minimum, maximum, increment)
+                  : missingNumber;
 }
 
 double FeatureManager::GetValueLimits(const QString& name, const QString& alternative1,
                                       const QString& alternative2, double& minimum, double& maximum)
 {
     FeatureReader reader = Read(name, alternative1, alternative2);
-    if (!reader)
-        return missingNumber;
     constexpr int parts = FeatureReader::Value | FeatureReader::Range;
-    return answer(isNumber(reader) ? reader.number(parts) : Reading<double>(), minimum, maximum);
+    return reader ? answer(limitedNumber(reader, parts), minimum, maximum) : missingNumber;
 }
 
 QString FeatureManager::GetWritableStringValue(const QString& name)
@@ -224,7 +221,7 @@ QStringList FeatureManager::GetEnumEntries(const QString& name, const QString& a
 bool FeatureManager::HasFeature(const QString& name, const QString& alternative1,
                                 const QString& alternative2)
 {
-    return Find(name, alternative1, alternative2) != nullptr;
+    return bool(Read(name, alternative1, alternative2));
 }
 
 bool FeatureManager::IsFeatureWritable(const QString& name, const QString& alternative1,
@@ -242,10 +239,10 @@ bool FeatureManager::IsFloatFeature(const QString& name, const QString& alternat
 QString FeatureManager::SetStringValue(const QString& name, const QString& alternative1,
                                        const QString& alternative2, const QString& value)
 {
-    const auto feature = Find(name, alternative1, alternative2);
+    const FeatureReader feature = Read(name, alternative1, alternative2);
     if (!feature)
         return {};
-    FeatureWriting::writeText(*feature, value);
+    feature->SetValue(value.toStdString().c_str());
     return GetStringValue(name);
 }
 
@@ -253,14 +250,16 @@ double FeatureManager::SetValue(const QString& name, const QString& alternative1
                                 const QString& alternative2, double value)
 {
     FeatureReader reader = Read(name, alternative1, alternative2);
-    if (!reader)
+    const ZebFeatureDataType type = reader.dataType();
+    if (type != Sdk::integerType && type != Sdk::floatType && type != Sdk::booleanType)
         return value;
-    return FeatureWriting::writeNumber(reader, name, value).value.value_or(untold(reader));
+    FeatureWriting::writeNumber(reader, name, value);
+    return reader.value().value_or(untold(reader));
 }
 
 bool FeatureManager::RunCommand(const QString& name)
 {
-    const auto feature = Find(name);
+    const FeatureReader feature = Read(name);
     return feature && feature->RunCommand() == Sdk::success;
 }
 
@@ -271,7 +270,7 @@ QString FeatureManager::GetCategory(const QString& name)
 
 bool FeatureManager::IsValueAvailable(const QString& name, const QString& value)
 {
-    const auto feature = Find(name);
+    const FeatureReader feature = Read(name);
     bool available = false;
     return feature
         && feature->IsValueAvailable(value.toStdString().c_str(), available) == Sdk::success
@@ -280,7 +279,7 @@ bool FeatureManager::IsValueAvailable(const QString& name, const QString& value)
 
 QStringList FeatureManager::GetSelectedFeatureNames(const QString& name)
 {
-    const auto selector = Find(name);
+    const FeatureReader selector = Read(name);
     std::vector<ZebCPP::FeaturePtr> selected;
     if (!selector || selector->GetSelectedFeatures(selected) != Sdk::success)
         return {};
@@ -304,7 +303,7 @@ ZebFeatureDataType FeatureManager::GetDataType(const QString& name)
 
 QString FeatureManager::GetRepresentation(const QString& name)
 {
-    const auto feature = Find(name);
+    const FeatureReader feature = Read(name);
     if (!feature) {
         qDebug()
             << "Error: FeatureManager::GetRepresentation() - cannot get ZebFeatureWrapperPtr for "
@@ -344,5 +343,5 @@ QStringList FeatureManager::GetFeatureNames()
 bool FeatureManager::SetVariantValue(const QString& name, const QVariant& value)
 {
     FeatureReader reader = Read(name);
-    return reader && FeatureWriting::writeVariant(reader, name, value);
+    return FeatureWriting::writeVariant(reader, name, value);
 }

@@ -22,11 +22,8 @@ class FeatureManager
 public:
     using Wrappers = QSharedPointer<QVector<ZebFeatureWrapperPtr>>;
 
-    struct Found
-    {
-        ZebFeatureWrapperPtr feature;
-        QString name;
-    };
+    /// A wrapper for each of a camera's features, in their order.
+    static Wrappers wrap(const QVector<ZebCPP::FeaturePtr>& features);
 
     /// Managers of one camera share its link.
     explicit FeatureManager(const Wrappers& features,
@@ -182,15 +179,11 @@ public:
     /// the camera took the value.
     virtual bool SetVariantValue(const QString& name, const QVariant& value);
 
-    /// Empty when no name matches.
-    virtual ZebFeatureWrapperPtr Find(const QString& name, const QString& alternative1 = {},
-                                      const QString& alternative2 = {});
     /// One look-up for all that is read of a feature.
-    virtual FeatureReader Read(const QString& name, const QString& alternative1 = {},
-                               const QString& alternative2 = {});
-
-    /// All of those names, in the camera's order.
-    QVector<Found> FindAll(const QStringList& names) const;
+    FeatureReader Read(const QString& name, const QString& alternative1 = {},
+                       const QString& alternative2 = {}) const;
+    /// All features of those names, in the camera's order, by one look-up.
+    QVector<FeatureReader> FindAll(const QStringList& names) const;
 
     const Wrappers& features() const { return m_features; }
     const std::shared_ptr<CameraLink>& link() const { return m_link; }
@@ -199,7 +192,6 @@ private:
     /// Goes over the features and their names until @p visit answers true. False when a camera that
     /// does not answer ended it, of which the link hears as of a read of @p what.
     template <typename Visit> bool walk(const QString& what, Visit&& visit) const;
-    FeatureReader read(const QString& name) const;
     FeatureReader readFirst(const QStringList& candidates) const;
 
     Wrappers m_features;

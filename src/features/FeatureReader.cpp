@@ -2,6 +2,30 @@
 
 #include <utility>
 
+namespace {
+
+template <typename Type> constexpr bool isNumber = false;
+template <> constexpr bool isNumber<std::int64_t> = true;
+template <> constexpr bool isNumber<double> = true;
+
+template <typename From> std::optional<double> toNumber(const std::optional<From>& number)
+{
+    return number ? std::make_optional(static_cast<double>(*number)) : std::nullopt;
+}
+
+template <typename From> Reading<double> toNumbers(const Reading<From>& reading)
+{
+    return {toNumber(reading.value),
+            toNumber(reading.minimum),
+            toNumber(reading.maximum),
+            toNumber(reading.increment),
+            reading.exists,
+            reading.isWritable,
+            reading.isComplete};
+}
+
+} // namespace
+
 FeatureReader::FeatureReader(ZebFeatureWrapperPtr feature, const QString& name,
                              std::shared_ptr<CameraLink> link, bool isKnown)
     : m_feature(std::move(feature))
@@ -13,19 +37,20 @@ FeatureReader::FeatureReader(ZebFeatureWrapperPtr feature, const QString& name,
 
 template <typename Call> bool FeatureReader::ask(Call&& call)
 {
-    return m_feature && !m_link->isClosed()
-        && m_link->hear(m_name, [&] { return call(*m_feature); }) == Sdk::success;
+    if (!m_feature || m_link->isClosed())
+        return false;
+    const CameraLink::Clock::time_point begin = CameraLink::Clock::now();
+    const ZebErrorType result = call(*m_feature);
+    m_link->told(m_name, result, CameraLink::since(begin));
+    return result == Sdk::success;
 }
 
 ZebFeatureDataType FeatureReader::dataType()
 {
-    if (m_type || !m_feature)
-        return m_type.value_or(Sdk::unknownType);
     auto type = Sdk::unknownType;
-    if (m_feature->GetDataType(type) != Sdk::success)
-        return Sdk::unknownType;
-    m_type = type;
-    return type;
+    if (!m_type && m_feature && m_feature->GetDataType(type) == Sdk::success)
+        m_type = type;
+    return m_type.value_or(Sdk::unknownType);
 }
 
 QString FeatureReader::text(TextGetter getter) const
@@ -47,15 +72,24 @@ QStringList FeatureReader::entries() const
     return entries;
 }
 
+template <typename Type> bool FeatureReader::isOf()
+{
+    if constexpr (std::is_same_v<Type, QString>)
+        return m_feature != nullptr;
+    constexpr auto own = std::is_same_v<Type, bool> ? Sdk::booleanType
+        : std::is_same_v<Type, double>              ? Sdk::floatType
+                                                    : Sdk::integerType;
+    return dataType() == own;
+}
+
 template <typename Type> std::optional<Type> FeatureReader::valueOf()
 {
     Type value{};
-    if (!ask([&](ZebFeatureWrapper& feature) { return feature.GetValue(value); }))
-        return std::nullopt;
-    return value;
+    const auto get = [&value](ZebFeatureWrapper& feature) { return feature.GetValue(value); };
+    return ask(get) ? std::make_optional(value) : std::nullopt;
 }
 
-std::optional<QString> FeatureReader::textValue()
+template <> std::optional<QString> FeatureReader::valueOf<QString>()
 {
     const auto text = valueOf<std::string>();
     return text ? std::make_optional(QString::fromStdString(*text)) : std::nullopt;
@@ -64,45 +98,11 @@ std::optional<QString> FeatureReader::textValue()
 std::optional<bool> FeatureReader::flag(FlagGetter getter)
 {
     bool flag = false;
-    if (!ask([&](ZebFeatureWrapper& feature) { return (feature.*getter)(flag); }))
-        return std::nullopt;
-    return flag;
+    const auto get = [&](ZebFeatureWrapper& feature) { return (feature.*getter)(flag); };
+    return ask(get) ? std::make_optional(flag) : std::nullopt;
 }
 
-/// What no read can tell: that there is no such feature, or none of the type.
-template <typename Type> Reading<Type> FeatureReader::nothing() const
-{
-    Reading<Type> reading;
-    reading.exists = m_feature != nullptr;
-    reading.isComplete = m_feature ? m_type.has_value() : m_isKnown;
-    return reading;
-}
-
-template <typename Type>
-Reading<Type> FeatureReader::readingOf(std::optional<Type> value, int parts)
-{
-    Reading<Type> reading;
-    reading.exists = m_feature != nullptr;
-    reading.value = std::move(value);
-    if (isGivenUp(reading, parts))
-        return reading;
-    reading.isComplete = (parts & Value) == 0 || reading.value
-        || !flag(&ZebFeatureWrapper::IsReadable).value_or(true);
-    if ((parts & Access) != 0) {
-        const auto isWritable = flag(&ZebFeatureWrapper::IsWritable);
-        reading.isWritable = isWritable.value_or(false);
-        reading.isComplete = reading.isComplete && isWritable;
-    }
-    return reading;
-}
-
-/// A camera that lets the value wait and then fails is not asked for the rest.
-template <typename Type>
-bool FeatureReader::isGivenUp(const Reading<Type>& reading, int parts) const
-{
-    return (parts & Value) != 0 && !reading.value && m_link->isDoubtful();
-}
-
+/// False when the camera keeps back a part that it has.
 template <typename Number> bool FeatureReader::readLimits(Reading<Number>& reading, int parts)
 {
     Number minimum{};
@@ -123,91 +123,60 @@ template <typename Number> bool FeatureReader::readLimits(Reading<Number>& readi
             || !flag(&ZebFeatureWrapper::HasIncrement).value_or(true));
 }
 
-template <typename Number> Reading<Number> FeatureReader::typed(int parts)
+template <typename Type> Reading<Type> FeatureReader::read(int parts)
 {
-    auto reading
-        = readingOf((parts & Value) != 0 ? valueOf<Number>() : std::optional<Number>(), parts);
-    if (!isGivenUp(reading, parts))
-        reading.isComplete = readLimits(reading, parts) && reading.isComplete;
+    Reading<Type> reading;
+    reading.exists = m_feature != nullptr;
+    if (!isOf<Type>()) {
+        // That there is no such feature, or none of the type, is known as well.
+        reading.isComplete = m_feature ? m_type.has_value() : m_isKnown;
+        return reading;
+    }
+    bool isComplete = true;
+    if ((parts & Value) != 0) {
+        reading.value = valueOf<Type>();
+        if (!reading.value && m_link->isDoubtful())
+            return reading;
+        isComplete = reading.value || !flag(&ZebFeatureWrapper::IsReadable).value_or(true);
+    }
+    if ((parts & Access) != 0) {
+        const auto isWritable = flag(&ZebFeatureWrapper::IsWritable);
+        reading.isWritable = isWritable.value_or(false);
+        isComplete = isComplete && isWritable;
+    }
+    if constexpr (isNumber<Type>)
+        isComplete = readLimits(reading, parts) && isComplete;
+    reading.isComplete = isComplete;
     return reading;
 }
 
-Reading<std::int64_t> FeatureReader::integer(int parts)
-{
-    return dataType() == Sdk::integerType ? typed<std::int64_t>(parts) : nothing<std::int64_t>();
-}
-
-Reading<double> FeatureReader::floating(int parts)
-{
-    return dataType() == Sdk::floatType ? typed<double>(parts) : nothing<double>();
-}
-
-namespace {
-
-template <typename To, typename From> std::optional<To> converted(const std::optional<From>& number)
-{
-    return number ? std::make_optional(static_cast<To>(*number)) : std::nullopt;
-}
-
-template <typename From> Reading<double> toNumbers(const Reading<From>& reading)
-{
-    return {converted<double>(reading.value),
-            converted<double>(reading.minimum),
-            converted<double>(reading.maximum),
-            converted<double>(reading.increment),
-            reading.exists,
-            reading.isWritable,
-            reading.isComplete};
-}
-
-} // namespace
+template Reading<std::int64_t> FeatureReader::read(int);
+template Reading<double> FeatureReader::read(int);
+template Reading<bool> FeatureReader::read(int);
+template Reading<QString> FeatureReader::read(int);
 
 Reading<double> FeatureReader::number(int parts)
 {
     switch (dataType()) {
     case Sdk::integerType:
-        return toNumbers(integer(parts));
+        return toNumbers(read<std::int64_t>(parts));
     case Sdk::booleanType:
-        return toNumbers(readingOf(valueOf<bool>(), parts));
+        return toNumbers(read<bool>(parts));
     default:
-        return floating(parts);
+        return read<double>(parts);
     }
 }
 
 Reading<double> FeatureReader::fieldNumber(int parts)
 {
     if (dataType() == Sdk::integerType) {
-        Reading<std::int64_t> reading = integer(parts);
+        auto reading = read<std::int64_t>(parts);
         if (reading.maximum && reading.increment.value_or(0) > 0)
             reading.maximum = *reading.maximum / *reading.increment * *reading.increment;
         return toNumbers(reading);
     }
-    Reading<double> reading = number(parts);
+    auto reading = read<double>(parts);
     if (dataType() == Sdk::floatType && !(reading.increment.value_or(0.0) > 0.0))
         reading.increment = 0.01;
     return reading;
-}
-
-Reading<bool> FeatureReader::boolean()
-{
-    if (dataType() == Sdk::booleanType)
-        return readingOf(valueOf<bool>(), Value | Access);
-    if (dataType() != Sdk::integerType)
-        return nothing<bool>();
-    const auto value = valueOf<std::int64_t>();
-    return readingOf(value ? std::make_optional(*value > 0) : std::nullopt, Value | Access);
-}
-
-Reading<QString> FeatureReader::textReading()
-{
-    return m_feature ? readingOf(textValue(), Value | Access) : nothing<QString>();
-}
-
-bool FeatureReader::askValue()
-{
-    const ZebFeatureDataType type = dataType();
-    if (type == Sdk::enumerationType || type == Sdk::stringType)
-        return textValue() || true;
-    value();
-    return type == Sdk::integerType || type == Sdk::floatType || type == Sdk::booleanType;
 }

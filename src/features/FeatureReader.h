@@ -25,11 +25,12 @@ public:
 
     /// With a missing @p feature, @p isKnown tells that the camera has none by that name.
     FeatureReader(ZebFeatureWrapperPtr feature, const QString& name,
-                  std::shared_ptr<CameraLink> link, bool isKnown);
+                  std::shared_ptr<CameraLink> link, bool isKnown = true);
 
     explicit operator bool() const { return m_feature != nullptr; }
     ZebFeatureWrapper* operator->() const { return m_feature.get(); }
     const ZebFeatureWrapperPtr& feature() const { return m_feature; }
+    const QString& name() const { return m_name; }
     bool isKnown() const { return m_isKnown; }
 
     // From the SDK's memory; empty, or the unknown type, when it fails.
@@ -37,30 +38,25 @@ public:
     QString text(TextGetter getter) const;
     QStringList entries() const;
 
-    // From the camera. Each is empty for a type that it does not fit.
-    /// Of an integer or a float, or of a boolean as 0 or 1.
+    // From the camera, Whole or a set of parts. A value that fails slowly ends the reading.
+    /// Of an integer, a double or a bool as the camera has it, of a QString for any type of
+    /// feature; otherwise empty.
+    template <typename Type> Reading<Type> read(int parts = Whole);
+    /// Integers, floats and, by their value and access alone, booleans as 0 or 1.
+    Reading<double> number(int parts = Whole);
+    /// As it fits an input field: the maximum of an integer lies on a whole multiple of its
+    /// increment, counted from 0 as writes are; a float without an increment gets 0.01.
+    Reading<double> fieldNumber(int parts = Whole);
     std::optional<double> value() { return number(Value).value; }
-    std::optional<QString> textValue();
+    std::optional<QString> textValue() { return read<QString>(Value).value; }
     std::optional<bool> flag(FlagGetter getter);
     bool isWritable() { return flag(&ZebFeatureWrapper::IsWritable).value_or(false); }
-    // With a set of Part. Booleans are numbers by their value and access, 0 or 1.
-    Reading<double> number(int parts = Whole);
-    Reading<double> fieldNumber(int parts = Whole);
-    Reading<std::int64_t> integer(int parts = Whole);
-    Reading<double> floating(int parts = Whole);
-    Reading<bool> boolean();
-    Reading<QString> textReading();
-    /// Asks for the value, of whatever type; false when nothing was asked.
-    bool askValue();
 
 private:
     template <typename Call> bool ask(Call&& call);
+    template <typename Type> bool isOf();
     template <typename Type> std::optional<Type> valueOf();
-    template <typename Number> Reading<Number> typed(int parts);
-    template <typename Type> Reading<Type> readingOf(std::optional<Type> value, int parts);
     template <typename Number> bool readLimits(Reading<Number>& reading, int parts);
-    template <typename Type> bool isGivenUp(const Reading<Type>& reading, int parts) const;
-    template <typename Type> Reading<Type> nothing() const;
 
     ZebFeatureWrapperPtr m_feature;
     QString m_name;

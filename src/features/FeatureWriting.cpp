@@ -13,8 +13,6 @@ namespace FeatureWriting {
 
 namespace {
 
-constexpr int limits = FeatureReader::Range | FeatureReader::Increment;
-
 template <typename Number> Number clamped(Number value, Number minimum, Number maximum)
 {
     if (value < minimum)
@@ -29,57 +27,43 @@ bool isTaken(ZebErrorType result, const char* where, const QString& name)
     return result == Sdk::success;
 }
 
-Result writeInteger(FeatureReader& feature, const QString& name, int64_t value)
+bool writeInteger(FeatureReader& feature, const QString& name, int64_t value)
 {
-    bool taken = false;
-    if (feature.isWritable()) {
-        const Reading<int64_t> reading = feature.integer(limits);
-        int64_t maximum = reading.maximum.value_or(-1);
-        const int64_t increment = reading.increment.value_or(-1);
-        if (increment > 0) {
-            maximum = maximum / increment * increment;
-            value = value / increment * increment;
-        }
-        value = clamped(value, reading.minimum.value_or(-1), maximum);
-        taken = isTaken(feature->SetValue(value), "Error: FeatureManager::SetValue:Int: ", name);
+    if (!feature.isWritable())
+        return false;
+    const auto reading = feature.read<int64_t>(FeatureReader::Range | FeatureReader::Increment);
+    int64_t maximum = reading.maximum.value_or(-1);
+    const int64_t increment = reading.increment.value_or(-1);
+    if (increment > 0) {
+        maximum = maximum / increment * increment;
+        value = value / increment * increment;
     }
-    return {feature.value(), taken};
+    value = clamped(value, reading.minimum.value_or(-1), maximum);
+    return isTaken(feature->SetValue(value), "Error: FeatureManager::SetValue:Int: ", name);
 }
 
-// A float that the camera refuses is written once more, as its present value on the increment.
-void writeAlignedPresentValue(FeatureReader& feature, const QString& name)
+bool writeFloat(FeatureReader& feature, const QString& name, double value)
 {
+    if (!feature.isWritable())
+        return false;
+    const auto range = feature.read<double>(FeatureReader::Range);
+    value = clamped(value, range.minimum.value_or(-1.0), range.maximum.value_or(-1.0));
+    if (feature->SetValue(value) == Sdk::success)
+        return true;
     const double present = feature.value().value_or(-1.0);
-    const double increment = feature.floating(FeatureReader::Increment).increment.value_or(-1.0);
-    if (!(increment > 0.0))
-        return;
-    const double aligned = static_cast<double>(toUInt64(present / increment)) * increment;
-    isTaken(feature->SetValue(aligned), "Error: FeatureManager::SetValue:Double: ", name);
-}
-
-Result writeFloat(FeatureReader& feature, const QString& name, double value)
-{
-    bool taken = false;
-    if (feature.isWritable()) {
-        const Reading<double> reading = feature.floating(FeatureReader::Range);
-        value = clamped(value, reading.minimum.value_or(-1.0), reading.maximum.value_or(-1.0));
-        taken = feature->SetValue(value) == Sdk::success;
-        if (!taken)
-            writeAlignedPresentValue(feature, name);
+    const double increment
+        = feature.read<double>(FeatureReader::Increment).increment.value_or(-1.0);
+    if (increment > 0.0) {
+        const double aligned = static_cast<double>(toUInt64(present / increment)) * increment;
+        isTaken(feature->SetValue(aligned), "Error: FeatureManager::SetValue:Double: ", name);
     }
-    return {feature.value(), taken};
+    return false;
 }
 
-Result writeBoolean(FeatureReader& feature, const QString& name, bool value)
+bool writeBoolean(FeatureReader& feature, const QString& name, bool value)
 {
-    const bool taken = feature.isWritable()
+    return feature.isWritable()
         && isTaken(feature->SetValue(value), "Error: FeatureManager::SetValue:Bool: ", name);
-    return {feature.value(), taken};
-}
-
-bool writeBytes(ZebFeatureWrapper& feature, const QByteArray& bytes)
-{
-    return feature.SetValue(std::vector<uint8_t>(bytes.begin(), bytes.end())) == Sdk::success;
 }
 
 // Whole numbers keep all 64 bits; only what is a floating-point number goes through a double.
@@ -104,7 +88,7 @@ bool isTrue(const QVariant& value)
 
 } // namespace
 
-Result writeNumber(FeatureReader& feature, const QString& name, double value)
+bool writeNumber(FeatureReader& feature, const QString& name, double value)
 {
     switch (feature.dataType()) {
     case Sdk::integerType:
@@ -114,40 +98,38 @@ Result writeNumber(FeatureReader& feature, const QString& name, double value)
     case Sdk::booleanType:
         return writeBoolean(feature, name, value > 0.0);
     default:
-        return {value, false};
+        return false;
     }
-}
-
-bool writeText(ZebFeatureWrapper& feature, const QString& value)
-{
-    return feature.SetValue(value.toStdString().c_str()) == Sdk::success;
 }
 
 bool writeVariant(FeatureReader& feature, const QString& name, const QVariant& value)
 {
     const ZebFeatureDataType type = feature.dataType();
-    if (!feature.isWritable() || (!value.isValid() && type != Sdk::commandType))
+    if (!feature || (!value.isValid() && type != Sdk::commandType))
         return false;
-
     bool isNumber = true;
     switch (type) {
     case Sdk::integerType: {
         const int64_t integer = toInteger(value, &isNumber);
-        return isNumber && writeInteger(feature, name, integer).taken;
+        return isNumber && writeInteger(feature, name, integer);
     }
     case Sdk::floatType: {
         const double number = value.toDouble(&isNumber);
-        return isNumber && writeFloat(feature, name, number).taken;
+        return isNumber && writeFloat(feature, name, number);
     }
     case Sdk::booleanType:
-        return writeBoolean(feature, name, isTrue(value)).taken;
+        return writeBoolean(feature, name, isTrue(value));
     case Sdk::enumerationType:
     case Sdk::stringType:
-        return writeText(*feature.feature(), value.toString());
+        return feature.isWritable()
+            && feature->SetValue(value.toString().toStdString().c_str()) == Sdk::success;
     case Sdk::commandType:
-        return feature->RunCommand() == Sdk::success;
-    case Sdk::rawType:
-        return writeBytes(*feature.feature(), value.toByteArray());
+        return feature.isWritable() && feature->RunCommand() == Sdk::success;
+    case Sdk::rawType: {
+        const QByteArray bytes = value.toByteArray();
+        return feature.isWritable()
+            && feature->SetValue(std::vector<uint8_t>(bytes.begin(), bytes.end())) == Sdk::success;
+    }
     default:
         return false;
     }

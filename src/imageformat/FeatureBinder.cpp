@@ -70,7 +70,7 @@ bool FeatureBinder::write(QWidget* field, const QVariant& value)
     const QString name = featureOf(field);
     FeatureReader feature = m_manager.Read(name);
     if (feature && qobject_cast<QComboBox*>(field))
-        FeatureWriting::writeText(*feature.feature(), value.toString());
+        feature->SetValue(value.toString().toStdString().c_str());
     else if (feature)
         FeatureWriting::writeNumber(feature, name, value.toDouble());
     // The box is in the middle of telling what was chosen, so it keeps its entries.
@@ -90,7 +90,7 @@ bool FeatureBinder::showReading(QWidget* field, FeatureReader& feature, Entries 
     };
 
     if (auto* const comboBox = qobject_cast<QComboBox*>(field)) {
-        bool isComplete = take(feature.textReading());
+        bool isComplete = take(feature.read<QString>());
         if (entries == Entries::Refilled) {
             const QStringList offered = feature.entries();
             isComplete = isComplete && !offered.isEmpty();

@@ -42,7 +42,7 @@ double readCount(FeatureManager& manager, bool isEnumerated)
 {
     if (isEnumerated)
         return manager.GetEnumEntries(Name::subRegionSelector).size();
-    const auto maximum = readNumber(manager, Name::subRegionSelector).maximum;
+    const auto maximum = manager.Read(Name::subRegionSelector).number().maximum;
     return maximum ? std::max(0.0, *maximum + 1.0) : 0.0;
 }
 
@@ -63,8 +63,8 @@ const AxisNames& namesOf(Qt::Orientation axis)
 struct AxisReading
 {
     explicit AxisReading(FeatureManager& manager, Qt::Orientation axis)
-        : offset(readNumber(manager, namesOf(axis).offset, namesOf(axis).olderOffset))
-        , size(readFieldNumber(manager, namesOf(axis).size, namesOf(axis).olderSize))
+        : offset(manager.Read(namesOf(axis).offset, namesOf(axis).olderOffset).number())
+        , size(manager.Read(namesOf(axis).size, namesOf(axis).olderSize).fieldNumber())
     {
     }
 
@@ -124,7 +124,7 @@ QString RegionCamera::failureOf(int region) const
 std::optional<int> RegionCamera::readSelected() const
 {
     if (!m_isEnumerated) {
-        const auto region = readValue(m_manager, Name::subRegionSelector);
+        const auto region = m_manager.Read(Name::subRegionSelector).value();
         return region ? std::optional<int>(toInt(*region)) : std::nullopt;
     }
     const QString entry = m_manager.GetStringValue(Name::subRegionSelector);
@@ -135,7 +135,7 @@ std::optional<int> RegionCamera::readSelected() const
 
 std::optional<bool> RegionCamera::readOn() const
 {
-    const Reading<QString> mode = readText(m_manager, Name::subRegionMode);
+    const Reading<QString> mode = m_manager.Read(Name::subRegionMode).read<QString>();
     return mode.isComplete ? std::optional<bool>(mode.value == onEntry) : std::nullopt;
 }
 
@@ -170,7 +170,7 @@ std::optional<QSize> RegionCamera::readSize() const
 std::optional<SizeRange> RegionCamera::readSizeRange(Qt::Orientation axis) const
 {
     const Reading<double> size
-        = readFieldNumber(m_manager, namesOf(axis).size, namesOf(axis).olderSize);
+        = m_manager.Read(namesOf(axis).size, namesOf(axis).olderSize).fieldNumber();
     if (!size.isComplete)
         return std::nullopt;
     const auto known

@@ -32,7 +32,7 @@ RegionSettings::RegionSettings(const Ui::MultiROIWidget& form, FeatureManager& m
 std::optional<bool> RegionSettings::refreshSwitch()
 {
     const Reading<double> enabled
-        = readNumber(m_manager, Name::multipleRegionEnable, Name::multipleRegionsEnable);
+        = m_manager.Read(Name::multipleRegionEnable, Name::multipleRegionsEnable).number();
     if (!enabled.isComplete)
         return std::nullopt;
     const bool isEnabled = enabled.value.value_or(0.0) > 0.0;
@@ -51,7 +51,8 @@ std::optional<QString> RegionSettings::refreshArrangement()
 {
     QComboBox* const box = m_form.cmbMultipleRegionArrangement;
     if (m_hasArrangement) {
-        const Reading<QString> entry = readText(m_manager, Name::multipleRegionArrangement);
+        const Reading<QString> entry
+            = m_manager.Read(Name::multipleRegionArrangement).read<QString>();
         if (!entry.isComplete)
             return std::nullopt;
         const QString text = entry.value.value_or(QString());

@@ -2,7 +2,6 @@
 
 #include "features/CameraLink.h"
 #include "features/FeatureNames.h"
-#include "features/FeatureWrapping.h"
 #include "page/ChangedNames.h"
 #include "page/FeatureObservation.h"
 #include "page/TENotSupported.h"
@@ -53,7 +52,7 @@ BaseTabPluginWidget::BaseTabPluginWidget(const FeatureList& features, QWidget* p
         featureManager = std::make_unique<FeatureManager>(shared.features(), shared.link());
     } else {
         featureManager = std::make_unique<FeatureManager>(
-            features ? wrapFeatures(*features) : FeatureManager::Wrappers::create());
+            features ? FeatureManager::wrap(*features) : FeatureManager::Wrappers::create());
     }
     m_observation = std::make_unique<FeatureObservation>(*featureManager);
     if (!BaseTabPluginWidget::isVendorSupported(featureManager.get())) {
@@ -133,8 +132,12 @@ bool BaseTabPluginWidget::isCameraLost()
     const QStringList names = observedFeatures + QStringList{FeatureNames::deviceVendorName};
     const int first = link.questions();
     for (int i = 0; link.isDue() && i < names.size(); ++i) {
-        if (featureManager->Read(names.at((first + i) % names.size())).askValue())
-            break;
+        FeatureReader feature = featureManager->Read(names.at((first + i) % names.size()));
+        const ZebFeatureDataType type = feature.dataType();
+        if (type == Sdk::enumerationType || type == Sdk::stringType)
+            feature.textValue();
+        else
+            feature.value();
     }
     if (!link.isLost())
         return false;

@@ -26,15 +26,15 @@ ZebErrorType FeatureObservation::start(const QStringList& names,
     const auto found = m_manager.FindAll(names);
     // What is left of an earlier observation is registered again, or waits for the next stop.
     const auto former = std::exchange(m_registrations, found);
-    for (const FeatureManager::Found& each : former) {
-        if (!this->names().contains(each.name))
+    for (const FeatureReader& each : former) {
+        if (!this->names().contains(each.name()))
             m_registrations.append(each);
     }
     ZebErrorType result = Sdk::success;
     CameraLink::Milliseconds failing{0};
-    for (const FeatureManager::Found& each : found) {
+    for (const FeatureReader& each : found) {
         const auto begin = CameraLink::Clock::now();
-        result = each.feature->RegisterObserver(m_observer);
+        result = each->RegisterObserver(m_observer);
         log("Could not register feature observer. Error code: ", result);
         if (result != Sdk::success)
             failing += CameraLink::since(begin);
@@ -49,13 +49,13 @@ ZebErrorType FeatureObservation::stop()
     m_isRunning = false;
     ZebErrorType result = Sdk::success;
     const auto registrations = std::exchange(m_registrations, {});
-    for (const FeatureManager::Found& each : registrations) {
+    for (const FeatureReader& each : registrations) {
         if (!m_manager.link()->mayPart()) {
             m_registrations.append(each);
             continue;
         }
         const auto begin = CameraLink::Clock::now();
-        result = each.feature->UnregisterObserver(m_observer);
+        result = each->UnregisterObserver(m_observer);
         m_manager.link()->parted(result, CameraLink::since(begin));
         log("Could not unregister feature observer. Error code: ", result);
         if (result != Sdk::success)
@@ -67,7 +67,7 @@ ZebErrorType FeatureObservation::stop()
 QStringList FeatureObservation::names() const
 {
     QStringList names;
-    for (const FeatureManager::Found& each : m_registrations)
-        names.append(each.name);
+    for (const FeatureReader& each : m_registrations)
+        names.append(each.name());
     return names;
 }

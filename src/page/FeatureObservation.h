@@ -28,6 +28,6 @@ public:
 private:
     FeatureManager& m_manager;
     ZebCPP::IFeatureObserverPtr m_observer;
-    QVector<FeatureManager::Found> m_registrations;
+    QVector<FeatureReader> m_registrations;
     bool m_isRunning = false;
 };

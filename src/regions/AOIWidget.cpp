@@ -230,7 +230,7 @@ void AOIWidget::showEvent(QShowEvent* event)
 void AOIWidget::readMultipleRegions()
 {
     const Reading<double> isEnabled
-        = readNumber(*featureManager, Name::multipleRegionEnable, Name::multipleRegionsEnable);
+        = featureManager->Read(Name::multipleRegionEnable, Name::multipleRegionsEnable).number();
     if (isEnabled.value)
         onMultipleRegionsEnabled(*isEnabled.value > 0.0);
     if (!isEnabled.isComplete)

@@ -1,7 +1,7 @@
 #include "features/CameraLink.h"
 #include "DataTable.h"
 #include "SimulatedCamera.h"
-#include "features/Reading.h"
+#include "features/FeatureManager.h"
 
 #include <QStringList>
 
@@ -84,7 +84,7 @@ private slots:
             sim::Camera camera({sim::integerFeature("Width", 1), sim::integerFeature("Height", 1),
                                 sim::integerFeature("OffsetX", 1)});
             FeatureManager manager(wrappers(camera));
-            QVERIFY(readNumber(manager, "Width").isComplete);
+            QVERIFY(manager.Read("Width").number().isComplete);
             isWhole ? camera.lose(slow) : camera.loseValues(slow);
             camera.journal().record(sim::Operations::fromCamera() | Operation::GetName);
             camera.journal().clear();
@@ -98,16 +98,16 @@ private slots:
             {
                 const CameraLink::ManyReads manyReads(*manager.link());
                 for (const char* name : {"Width", "Height", "OffsetX"}) {
-                    const auto reading = readNumber(manager, name);
+                    const auto reading = manager.Read(name).number();
                     QVERIFY(!reading.isComplete && !reading.value && !reading.maximum);
                 }
             }
             QVERIFY(manager.link()->isLost());
             QCOMPARE(calls(), readingCalls);
-            QVERIFY(!writeNumber(manager, "OffsetX", 2));
+            manager.SetValue("OffsetX", 2);
             QCOMPARE(calls(), editCalls);
             camera.recover();
-            QCOMPARE(writeNumber(manager, "OffsetX", 2).value_or(-1), 2.0);
+            QCOMPARE(manager.SetValue("OffsetX", 2), 2.0);
             QVERIFY(!manager.link()->isLost());
         });
         row("names are told", false, 2, 2);
@@ -127,7 +127,7 @@ private slots:
                  sim::booleanFeature("ReverseX", true)});
             FeatureManager manager(wrappers(camera));
             camera.failures().add("*", refused, Failure::refuse());
-            const auto reading = readNumber(manager, name);
+            const auto reading = manager.Read(name).number();
             QCOMPARE(reading.isComplete, isComplete);
             QStringList texts;
             for (const auto& number :

@@ -40,19 +40,19 @@ template <typename Type> bool take(const Reading<Type>& reading, FeatureInfo& in
 bool readValue(FeatureReader& feature, FeatureInfo& info)
 {
     const ZebFeatureDataType type = feature.dataType();
-    if (type == Sdk::unknownType && !feature.floating().isComplete)
+    if (type == Sdk::unknownType && !feature.read<double>().isComplete)
         return false;
     info.isRaw = false;
     switch (type) {
     case Sdk::integerType:
-        return take(feature.integer(), info);
+        return take(feature.read<std::int64_t>(), info);
     case Sdk::floatType:
-        return take(feature.floating(), info);
+        return take(feature.read<double>(), info);
     case Sdk::booleanType:
-        return take(feature.boolean(), info);
+        return take(feature.read<bool>(), info);
     case Sdk::enumerationType:
     case Sdk::stringType:
-        return take(feature.textReading(), info);
+        return take(feature.read<QString>(), info);
     case Sdk::commandType:
         info.isCommand = true;
         break;

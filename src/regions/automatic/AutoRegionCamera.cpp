@@ -50,12 +50,12 @@ std::vector<RegionNumber> AutoRegionCamera::numbers() const
 Reading<double> AutoRegionCamera::readForField(RegionNumber number)
 {
     const QString& name = nameOf(number);
-    return noted(name, readFieldNumber(m_manager, name));
+    return noted(name, m_manager.Read(name).fieldNumber());
 }
 
 Reading<double> AutoRegionCamera::read(const QString& name)
 {
-    return noted(name, readNumber(m_manager, name));
+    return noted(name, m_manager.Read(name).number());
 }
 
 Reading<double> AutoRegionCamera::noted(const QString& name, const Reading<double>& reading)
@@ -69,9 +69,7 @@ Reading<double> AutoRegionCamera::noted(const QString& name, const Reading<doubl
 
 double AutoRegionCamera::readValue(const QString& name, const QString& alternative)
 {
-    if (const auto value = ::readValue(m_manager, name, alternative))
-        return m_values[name] = *value;
-    const Reading<double> reading = readNumber(m_manager, name, alternative);
+    const auto reading = m_manager.Read(name, alternative).number(FeatureReader::Value);
     return noted(name, reading).exists ? m_values.value(name) : 0.0;
 }
 

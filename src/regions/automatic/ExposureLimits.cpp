@@ -59,8 +59,8 @@ QStringList ExposureLimits::refresh()
 bool ExposureLimits::show(Limit& limit)
 {
     if (limit.isLoaded)
-        return limit.field.showWhole(readNumber(m_manager, limit.featureName));
-    const Reading<double> reading = readFieldNumber(m_manager, limit.featureName);
+        return limit.field.showWhole(m_manager.Read(limit.featureName).number());
+    const Reading<double> reading = m_manager.Read(limit.featureName).fieldNumber();
     limit.isLoaded = reading.isComplete;
     if (limit.isLoaded)
         limit.field.box()->setSingleStep(std::max(1.0, reading.increment.value_or(1.0)));
@@ -70,7 +70,7 @@ bool ExposureLimits::show(Limit& limit)
 QStringList ExposureLimits::write(Which which, double value)
 {
     Limit& limit = m_limits[which];
-    const Reading<double> reading = readNumber(m_manager, limit.featureName);
+    const Reading<double> reading = m_manager.Read(limit.featureName).number();
     if (!reading.exists)
         return {};
     const double taken = m_manager.SetValue(
@@ -85,7 +85,7 @@ QStringList ExposureLimits::write(Which which, double value)
 
 void ExposureLimits::useTime(Which which)
 {
-    if (const auto time = readValue(m_manager, Name::exposureTime, Name::exposureTimeAbs))
+    if (const auto time = m_manager.Read(Name::exposureTime, Name::exposureTimeAbs).value())
         m_limits[which].field.box()->setValue(*time);
 }
 

@@ -72,12 +72,12 @@ bool RegionAxis::readLargest()
 {
     bool isTold = true;
     for (const QString& name : {m_maximumName, m_sensorName}) {
-        const auto extent = readValue(m_manager, name);
-        if (extent.value_or(0.0) >= 1.0) {
-            m_maximum = std::trunc(*extent);
+        const Reading<double> extent = m_manager.Read(name).number(FeatureReader::Value);
+        if (extent.value.value_or(0.0) >= 1.0) {
+            m_maximum = std::trunc(*extent.value);
             return isTold;
         }
-        isTold = isTold && (extent || readNumber(m_manager, name).isComplete);
+        isTold = isTold && extent.isComplete;
         if (!isTold && m_maximum > 0.0)
             return false;
     }
@@ -90,7 +90,7 @@ bool RegionAxis::readLargest()
 
 bool RegionAxis::readSensor()
 {
-    const Reading<double> sensor = readNumber(m_manager, m_sensorName);
+    const Reading<double> sensor = m_manager.Read(m_sensorName).number();
     m_sensor = sensor.value.value_or(m_sensor);
     return sensor.isComplete;
 }
@@ -103,7 +103,7 @@ double RegionAxis::sensor()
 
 bool RegionAxis::readPixelFormat()
 {
-    const Reading<QString> format = readText(m_manager, FeatureNames::pixelFormat);
+    const Reading<QString> format = m_manager.Read(FeatureNames::pixelFormat).read<QString>();
     if (format.value)
         m_pixelFormat = *format.value;
     return format.isComplete;
@@ -119,7 +119,7 @@ bool RegionAxis::needsEven(const QString& offset)
 
 Reading<double> RegionAxis::read(Number& number)
 {
-    const Reading<double> reading = readNumber(m_manager, number.name);
+    const Reading<double> reading = m_manager.Read(number.name).number();
     number.exists = reading.exists;
     number.isTold = number.isTold || reading.value || (!reading.exists && reading.isComplete);
     number.onCamera = reading.value.value_or(number.onCamera);
@@ -128,7 +128,7 @@ Reading<double> RegionAxis::read(Number& number)
 
 double RegionAxis::readOnCamera(Number& number)
 {
-    number.onCamera = readValue(m_manager, number.name).value_or(number.onCamera);
+    number.onCamera = m_manager.Read(number.name).value().value_or(number.onCamera);
     return number.onCamera;
 }
 
