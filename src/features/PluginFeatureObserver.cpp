@@ -18,8 +18,8 @@ QString stringValue(ZebCPP::Feature& feature)
     std::string text;
     const auto fetch
         = [&feature](char* buffer, uint32_t& length) { return feature.GetValue(buffer, length); };
-    return TwoCallPattern::readText(text, fetch) == Sdk::success ? QString::fromStdString(text)
-                                                                 : QString();
+    return TwoCallPattern::read(text, fetch) == Sdk::success ? QString::fromStdString(text)
+                                                             : QString();
 }
 
 QString valueText(ZebCPP::Feature& feature, ZebFeatureDataType type)
@@ -59,7 +59,7 @@ try {
     std::string name;
     const auto fetchName
         = [&feature](char* buffer, uint32_t& length) { return feature->GetName(buffer, length); };
-    if (TwoCallPattern::readText(name, fetchName) != Sdk::success)
+    if (TwoCallPattern::read(name, fetchName) != Sdk::success)
         return;
     auto type = Sdk::unknownType;
     if (feature->GetDataType(type) != Sdk::success)

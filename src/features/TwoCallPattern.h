@@ -18,16 +18,16 @@
 namespace TwoCallPattern {
 
 constexpr std::uint32_t maximumTextBytes = 16u << 20;
-constexpr std::uint32_t maximumRawBytes = 256u << 20;
 
 /// Texts up to this length, such as names, are fetched without an allocation.
 constexpr std::uint32_t shortTextBytes = 128;
 
-template <typename Item> constexpr std::uint32_t maximumListItems = maximumTextBytes / sizeof(Item);
+template <typename Item> constexpr std::uint32_t maximumItems = maximumTextBytes / sizeof(Item);
+template <> inline constexpr std::uint32_t maximumItems<std::uint8_t> = 256u << 20; ///< raw values
 
 /// @p fetch is called as fetch(char* buffer, std::uint32_t& length). On success @p text holds the
 /// characters before the first NUL; on failure it is left alone.
-template <typename Fetch> ZebErrorType readText(std::string& text, Fetch&& fetch) noexcept
+template <typename Fetch> ZebErrorType read(std::string& text, Fetch&& fetch) noexcept
 try {
     std::uint32_t length = 0;
     auto* const noBuffer = static_cast<char*>(nullptr);
@@ -40,22 +40,15 @@ try {
     if (length > maximumTextBytes)
         return Sdk::resources;
 
-    if (length <= shortTextBytes) {
-        std::array<char, shortTextBytes> buffer;
-        char* const end = buffer.data() + length;
-        std::fill(buffer.data(), end, '\0');
-        const ZebErrorType result = fetch(buffer.data(), length);
-        // Byte by byte: wider reads of what the camera has just written in parts would wait for it.
-        if (result == Sdk::success)
-            text.assign(buffer.data(), std::find(buffer.data(), end, '\0'));
-        return result;
-    }
-    std::string buffer(length, '\0');
-    const ZebErrorType result = fetch(buffer.data(), length);
-    if (result == Sdk::success) {
-        buffer.resize(std::min(buffer.find('\0'), buffer.size()));
-        text = std::move(buffer);
-    }
+    std::array<char, shortTextBytes> shortBuffer;
+    std::string longBuffer(length > shortTextBytes ? length : 0, '\0');
+    char* const buffer = longBuffer.empty() ? shortBuffer.data() : longBuffer.data();
+    char* const end = buffer + length;
+    std::fill(buffer, end, '\0');
+    const ZebErrorType result = fetch(buffer, length);
+    // Byte by byte: wider reads of what the camera has just written in parts would wait for it.
+    if (result == Sdk::success)
+        text.assign(buffer, std::find(buffer, end, '\0'));
     return result;
 } catch (...) {
     return Sdk::resources;
@@ -64,7 +57,7 @@ try {
 /// @p fetch is called as fetch(Item* buffer, std::uint32_t capacity, std::uint32_t& count); @p
 /// items is assigned on success only.
 template <typename Item, typename Fetch>
-ZebErrorType readList(std::vector<Item>& items, std::uint32_t maximumItems, Fetch&& fetch) noexcept
+ZebErrorType readList(std::vector<Item>& items, Fetch&& fetch) noexcept
 try {
     std::uint32_t count = 0;
     auto* const noBuffer = static_cast<Item*>(nullptr);
@@ -74,7 +67,7 @@ try {
         items.clear();
         return Sdk::success;
     }
-    if (count > maximumItems)
+    if (count > maximumItems<Item>)
         return Sdk::resources;
 
     std::vector<Item> buffer(count);
@@ -91,13 +84,12 @@ try {
 
 /// The common form of readList(): the capacity is passed in through the count itself.
 template <typename Item, typename Fetch>
-ZebErrorType readList(std::vector<Item>& items, Fetch&& fetch) noexcept
+ZebErrorType read(std::vector<Item>& items, Fetch&& fetch) noexcept
 {
-    return readList(items, maximumListItems<Item>,
-                    [&fetch](Item* buffer, std::uint32_t capacity, std::uint32_t& count) {
-                        count = capacity;
-                        return fetch(buffer, count);
-                    });
+    return readList(items, [&fetch](Item* buffer, std::uint32_t capacity, std::uint32_t& count) {
+        count = capacity;
+        return fetch(buffer, count);
+    });
 }
 
 } // namespace TwoCallPattern

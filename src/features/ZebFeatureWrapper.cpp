@@ -1,31 +1,17 @@
 #include "features/ZebFeatureWrapper.h"
 
-#include "features/SdkValues.h"
-#include "features/TwoCallPattern.h"
-
-#include <algorithm>
 #include <limits>
 #include <utility>
 
 ZebFeatureWrapper::~ZebFeatureWrapper() = default;
 
-ZebErrorType ZebFeatureWrapper::readText(TextGetter getter, std::string& text)
-{
-    return forward([&](ZebCPP::Feature& feature) {
-        return TwoCallPattern::readText(text, [&](char* buffer, uint32_t& length) {
-            return (feature.*getter)(buffer, length);
-        });
-    });
-}
-
 ZebErrorType ZebFeatureWrapper::GetValue(std::vector<uint8_t>& value, uint32_t& sizeFilled)
 {
-    return forward([&](ZebCPP::Feature& feature) {
-        const auto fetch = [&feature](uint8_t* buffer, uint32_t capacity, uint32_t& filled) {
-            return feature.GetValue(buffer, capacity, filled);
+    return forward([&](Raw& sdk) {
+        const auto get = [&](uint8_t* buffer, uint32_t capacity, uint32_t& filled) {
+            return sdk.GetValue(buffer, capacity, filled);
         };
-        const ZebErrorType result
-            = TwoCallPattern::readList(value, TwoCallPattern::maximumRawBytes, fetch);
+        const ZebErrorType result = TwoCallPattern::readList(value, get);
         if (result == Sdk::success)
             sizeFilled = static_cast<uint32_t>(value.size());
         return result;
@@ -40,7 +26,8 @@ ZebErrorType ZebFeatureWrapper::GetValue(std::vector<uint8_t>& value)
 
 ZebErrorType ZebFeatureWrapper::GetValue(std::string& value)
 {
-    const ZebErrorType result = readText(&ZebCPP::Feature::GetValue, value);
+    const ZebErrorType result
+        = fetch(value, [](Raw& sdk, auto&&... to) { return sdk.GetValue(to...); });
     if (result != Sdk::success)
         value.clear();
     return result;
@@ -48,12 +35,11 @@ ZebErrorType ZebFeatureWrapper::GetValue(std::string& value)
 
 ZebErrorType ZebFeatureWrapper::GetValues(std::vector<std::string>& values)
 {
-    return forward([&](ZebCPP::Feature& feature) {
+    return forward([&](Raw& sdk) {
         std::vector<const char*> texts;
-        const ZebErrorType result
-            = TwoCallPattern::readList(texts, [&](const char** items, uint32_t& count) {
-                  return feature.GetValues(items, count);
-              });
+        const auto get
+            = [&](const char** items, uint32_t& count) { return sdk.GetValues(items, count); };
+        const ZebErrorType result = TwoCallPattern::read(texts, get);
         if (result == Sdk::success) {
             std::vector<std::string> copies;
             copies.reserve(texts.size());
@@ -67,46 +53,33 @@ ZebErrorType ZebFeatureWrapper::GetValues(std::vector<std::string>& values)
 
 ZebErrorType ZebFeatureWrapper::GetValues(std::vector<int64_t>& values)
 {
-    return forward([&](ZebCPP::Feature& feature) {
-        return TwoCallPattern::readList(values, [&](int64_t* items, uint32_t& count) {
-            return feature.GetValues(items, count);
-        });
-    });
+    return fetch(values, [](Raw& sdk, auto&&... to) { return sdk.GetValues(to...); });
 }
 
 ZebErrorType ZebFeatureWrapper::GetEntries(std::vector<ZebCPP::EnumEntry>& entries)
 {
-    return forward([&](ZebCPP::Feature& feature) {
-        return TwoCallPattern::readList(entries, [&](ZebCPP::EnumEntry* items, uint32_t& count) {
-            return feature.GetEntries(items, count);
-        });
-    });
+    return fetch(entries, [](Raw& sdk, auto&&... to) { return sdk.GetEntries(to...); });
 }
 
 ZebErrorType ZebFeatureWrapper::SetValue(const std::vector<uint8_t>& value)
 {
     if (value.empty() || value.size() > std::numeric_limits<uint32_t>::max())
         return Sdk::badParameter;
-    return forward([&](auto& feature) {
-        return feature.SetValue(value.data(), static_cast<uint32_t>(value.size()));
-    });
+    return forward(
+        [&](Raw& sdk) { return sdk.SetValue(value.data(), static_cast<uint32_t>(value.size())); });
 }
 
 ZebErrorType ZebFeatureWrapper::GetSelectedFeatures(std::vector<ZebCPP::FeaturePtr>& features)
 {
-    return forward([&](ZebCPP::Feature& feature) {
-        return TwoCallPattern::readList(features, [&](ZebCPP::FeaturePtr* items, uint32_t& count) {
-            return feature.GetSelectedFeatures(items, count);
-        });
-    });
+    return fetch(features, [](Raw& sdk, auto&&... to) { return sdk.GetSelectedFeatures(to...); });
 }
 
 ZebErrorType ZebFeatureWrapper::GetValidValueSet(std::vector<int64_t>& values)
 {
-    return forward([&](ZebCPP::Feature& feature) {
-        const auto fetch = [&feature](int64_t* buffer, uint32_t capacity, uint32_t& count) {
-            return feature.GetValidValueSet(buffer, capacity, &count);
+    return forward([&](Raw& sdk) {
+        const auto get = [&](int64_t* buffer, uint32_t capacity, uint32_t& count) {
+            return sdk.GetValidValueSet(buffer, capacity, &count);
         };
-        return TwoCallPattern::readList(values, TwoCallPattern::maximumListItems<int64_t>, fetch);
+        return TwoCallPattern::readList(values, get);
     });
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "features/SdkValues.h"
+#include "features/TwoCallPattern.h"
 
 #include <ZebCPP/ZebCPP.h>
 
@@ -34,25 +35,34 @@ public:
     /// Raw bytes; @p sizeFilled is how many of them the camera filled.
     virtual ZebErrorType GetValue(std::vector<uint8_t>& value, uint32_t& sizeFilled);
     virtual ZebErrorType GetValue(std::vector<uint8_t>& value);
-    virtual ZebErrorType GetValue(bool& value) { return pass<bool&>(&Raw::GetValue, value); }
+    virtual ZebErrorType GetValue(bool& value)
+    {
+        return forward([&](Raw& sdk) { return sdk.GetValue(value); });
+    }
     /// Unlike the other texts, @p value is emptied when the call fails.
     virtual ZebErrorType GetValue(std::string& value);
-    virtual ZebErrorType GetValue(double& value) { return pass<double&>(&Raw::GetValue, value); }
-    virtual ZebErrorType GetValue(int64_t& value) { return pass<int64_t&>(&Raw::GetValue, value); }
+    virtual ZebErrorType GetValue(double& value)
+    {
+        return forward([&](Raw& sdk) { return sdk.GetValue(value); });
+    }
+    virtual ZebErrorType GetValue(int64_t& value)
+    {
+        return forward([&](Raw& sdk) { return sdk.GetValue(value); });
+    }
     virtual ZebErrorType GetValues(std::vector<std::string>& values);
     virtual ZebErrorType GetValues(std::vector<int64_t>& values);
     virtual ZebErrorType GetEntry(ZebCPP::EnumEntry& entry, const char* entryName)
     {
-        return pass<ZebCPP::EnumEntry&, const char*>(&Raw::GetEntry, entry, entryName);
+        return forward([&](Raw& sdk) { return sdk.GetEntry(entry, entryName); });
     }
     virtual ZebErrorType GetEntries(std::vector<ZebCPP::EnumEntry>& entries);
     virtual ZebErrorType GetRange(int64_t& minimum, int64_t& maximum)
     {
-        return pass<int64_t&, int64_t&>(&Raw::GetRange, minimum, maximum);
+        return forward([&](Raw& sdk) { return sdk.GetRange(minimum, maximum); });
     }
     virtual ZebErrorType GetRange(double& minimum, double& maximum)
     {
-        return pass<double&, double&>(&Raw::GetRange, minimum, maximum);
+        return forward([&](Raw& sdk) { return sdk.GetRange(minimum, maximum); });
     }
 
     /// An empty vector answers Sdk::badParameter without reaching the camera.
@@ -61,96 +71,113 @@ public:
     virtual ZebErrorType SetValue(std::nullptr_t) = delete;
     virtual ZebErrorType SetValue(const char* value)
     {
-        return pass<const char*>(&Raw::SetValue, value);
+        return forward([&](Raw& sdk) { return sdk.SetValue(value); });
     }
-    virtual ZebErrorType SetValue(bool value) { return pass<bool>(&Raw::SetValue, value); }
-    virtual ZebErrorType SetValue(double value) { return pass<double>(&Raw::SetValue, value); }
-    virtual ZebErrorType SetValue(int64_t value) { return pass<int64_t>(&Raw::SetValue, value); }
+    virtual ZebErrorType SetValue(bool value)
+    {
+        return forward([&](Raw& sdk) { return sdk.SetValue(value); });
+    }
+    virtual ZebErrorType SetValue(double value)
+    {
+        return forward([&](Raw& sdk) { return sdk.SetValue(value); });
+    }
+    virtual ZebErrorType SetValue(int64_t value)
+    {
+        return forward([&](Raw& sdk) { return sdk.SetValue(value); });
+    }
 
     virtual ZebErrorType HasIncrement(bool& hasIncrement)
     {
-        return pass<bool&>(&Raw::HasIncrement, hasIncrement);
+        return forward([&](Raw& sdk) { return sdk.HasIncrement(hasIncrement); });
     }
     virtual ZebErrorType GetIncrement(double& increment)
     {
-        return pass<double&>(&Raw::GetIncrement, increment);
+        return forward([&](Raw& sdk) { return sdk.GetIncrement(increment); });
     }
     virtual ZebErrorType GetIncrement(int64_t& increment)
     {
-        return pass<int64_t&>(&Raw::GetIncrement, increment);
+        return forward([&](Raw& sdk) { return sdk.GetIncrement(increment); });
     }
     virtual ZebErrorType IsValueAvailable(int64_t value, bool& available)
     {
-        return pass<int64_t, bool&>(&Raw::IsValueAvailable, value, available);
+        return forward([&](Raw& sdk) { return sdk.IsValueAvailable(value, available); });
     }
     virtual ZebErrorType IsValueAvailable(std::nullptr_t, bool& available) = delete;
     virtual ZebErrorType IsValueAvailable(const char* value, bool& available)
     {
-        return pass<const char*, bool&>(&Raw::IsValueAvailable, value, available);
+        return forward([&](Raw& sdk) { return sdk.IsValueAvailable(value, available); });
     }
-    virtual ZebErrorType RunCommand() { return pass<>(&Raw::RunCommand); }
+    virtual ZebErrorType RunCommand()
+    {
+        return forward([&](Raw& sdk) { return sdk.RunCommand(); });
+    }
     virtual ZebErrorType IsCommandDone(bool& done)
     {
-        return pass<bool&>(&Raw::IsCommandDone, done);
+        return forward([&](Raw& sdk) { return sdk.IsCommandDone(done); });
     }
 
-    virtual ZebErrorType GetName(std::string& name) { return readText(&Raw::GetName, name); }
+    virtual ZebErrorType GetName(std::string& name)
+    {
+        return fetch(name, [](Raw& sdk, auto&&... to) { return sdk.GetName(to...); });
+    }
     virtual ZebErrorType GetDisplayName(std::string& displayName)
     {
-        return readText(&Raw::GetDisplayName, displayName);
+        return fetch(displayName, [](Raw& sdk, auto&&... to) { return sdk.GetDisplayName(to...); });
     }
     virtual ZebErrorType GetDataType(ZebFeatureDataType& dataType)
     {
-        return pass<ZebFeatureDataType&>(&Raw::GetDataType, dataType);
+        return forward([&](Raw& sdk) { return sdk.GetDataType(dataType); });
     }
     virtual ZebErrorType GetFlags(ZebFeatureFlagsType& flags)
     {
-        return pass<ZebFeatureFlagsType&>(&Raw::GetFlags, flags);
+        return forward([&](Raw& sdk) { return sdk.GetFlags(flags); });
     }
     virtual ZebErrorType GetCategory(std::string& category)
     {
-        return readText(&Raw::GetCategory, category);
+        return fetch(category, [](Raw& sdk, auto&&... to) { return sdk.GetCategory(to...); });
     }
-    virtual ZebErrorType GetUnit(std::string& unit) { return readText(&Raw::GetUnit, unit); }
+    virtual ZebErrorType GetUnit(std::string& unit)
+    {
+        return fetch(unit, [](Raw& sdk, auto&&... to) { return sdk.GetUnit(to...); });
+    }
     virtual ZebErrorType GetRepresentation(std::string& representation)
     {
-        return readText(&Raw::GetRepresentation, representation);
+        return fetch(representation,
+                     [](Raw& sdk, auto&&... to) { return sdk.GetRepresentation(to...); });
     }
     virtual ZebErrorType GetVisibility(ZebFeatureVisibilityType& visibility)
     {
-        return pass<ZebFeatureVisibilityType&>(&Raw::GetVisibility, visibility);
+        return forward([&](Raw& sdk) { return sdk.GetVisibility(visibility); });
     }
     virtual ZebErrorType GetToolTip(std::string& toolTip)
     {
-        return readText(&Raw::GetToolTip, toolTip);
+        return fetch(toolTip, [](Raw& sdk, auto&&... to) { return sdk.GetToolTip(to...); });
     }
     virtual ZebErrorType GetDescription(std::string& description)
     {
-        return readText(&Raw::GetDescription, description);
+        return fetch(description, [](Raw& sdk, auto&&... to) { return sdk.GetDescription(to...); });
     }
     virtual ZebErrorType GetSelectedFeatures(std::vector<ZebCPP::FeaturePtr>& features);
     virtual ZebErrorType GetValidValueSet(std::vector<int64_t>& values);
     virtual ZebErrorType IsReadable(bool& readable)
     {
-        return pass<bool&>(&Raw::IsReadable, readable);
+        return forward([&](Raw& sdk) { return sdk.IsReadable(readable); });
     }
     virtual ZebErrorType IsWritable(bool& writable)
     {
-        return pass<bool&>(&Raw::IsWritable, writable);
+        return forward([&](Raw& sdk) { return sdk.IsWritable(writable); });
     }
 
     virtual ZebErrorType RegisterObserver(const ZebCPP::IFeatureObserverPtr& observer)
     {
-        return pass<const ZebCPP::IFeatureObserverPtr&>(&Raw::RegisterObserver, observer);
+        return forward([&](Raw& sdk) { return sdk.RegisterObserver(observer); });
     }
     virtual ZebErrorType UnregisterObserver(const ZebCPP::IFeatureObserverPtr& observer)
     {
-        return pass<const ZebCPP::IFeatureObserverPtr&>(&Raw::UnregisterObserver, observer);
+        return forward([&](Raw& sdk) { return sdk.UnregisterObserver(observer); });
     }
 
 private:
-    using TextGetter = ZebErrorType (Raw::*)(char*, uint32_t&);
-
     // The SDK is foreign code: neither an exception of its own nor a feature that was handed over
     // as a null pointer may leave these operations in any way but as a result code.
     template <typename Call> ZebErrorType forward(Call&& call) noexcept
@@ -159,13 +186,14 @@ private:
     } catch (...) {
         return Sdk::resources;
     }
-    /// Calls the overload of those parameters.
-    template <typename... Parameters>
-    ZebErrorType pass(ZebErrorType (Raw::*operation)(Parameters...), Parameters... arguments)
+    /// A text or a list.
+    template <typename Output, typename Get> ZebErrorType fetch(Output& output, Get&& get) noexcept
     {
-        return forward([&](Raw& feature) { return (feature.*operation)(arguments...); });
+        return forward([&](Raw& sdk) {
+            const auto call = [&](auto* buffer, uint32_t& size) { return get(sdk, buffer, size); };
+            return TwoCallPattern::read(output, call);
+        });
     }
-    ZebErrorType readText(TextGetter getter, std::string& text);
 
     ZebCPP::FeaturePtr m_feature;
 };

@@ -120,16 +120,17 @@ void ImageFormatWidget::guardAgainstWheel(QWidget* field)
 
 void ImageFormatWidget::bindFields()
 {
+    const QStringList existing = featureManager->GetFeatureNames();
     const auto comboBoxes = findChildren<QComboBox*>();
     for (QComboBox* const comboBox : comboBoxes) {
         guardAgainstWheel(comboBox);
-        if (bind(comboBox))
+        if (bind(comboBox, existing))
             connect(comboBox, &QComboBox::currentTextChanged, this,
                     &ImageFormatWidget::OnChangeComboboxSelection);
     }
     const auto spinBoxes = findChildren<QSpinBox*>();
     for (QSpinBox* const spinBox : spinBoxes) {
-        if (!bind(spinBox))
+        if (!bind(spinBox, existing))
             continue;
         guardAgainstWheel(spinBox);
         connect(spinBox, QOverload<int>::of(&QSpinBox::valueChanged), this,
@@ -140,19 +141,19 @@ void ImageFormatWidget::bindFields()
         checkBox->installEventFilter(this);
         // Two spellings of the feature are in use; one form serves both.
         if (FeatureBinder::featureOf(checkBox) == Name::multipleRegionEnable
-            && !featureManager->HasFeature(Name::multipleRegionEnable)
-            && featureManager->HasFeature(Name::multipleRegionsEnable))
+            && !existing.contains(Name::multipleRegionEnable)
+            && existing.contains(Name::multipleRegionsEnable))
             checkBox->setObjectName(QStringLiteral("chkMultipleRegionsEnable"));
-        if (bind(checkBox))
+        if (bind(checkBox, existing))
             connect(checkBox, &QCheckBox::stateChanged, this, &ImageFormatWidget::OnChangeCheckbox);
     }
 }
 
 // The region pages' fields without a feature are theirs to disable.
-bool ImageFormatWidget::bind(QWidget* field)
+bool ImageFormatWidget::bind(QWidget* field, const QStringList& existing)
 {
     const QString feature = FeatureBinder::featureOf(field);
-    const bool isBound = m_binder->bind(field);
+    const bool isBound = existing.contains(feature) && m_binder->bind(field);
     if (isBound) {
         observedFeatures.append(feature);
     } else if (m_ui->frmImageFormat->isAncestorOf(field)) {

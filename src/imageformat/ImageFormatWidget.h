@@ -46,7 +46,7 @@ private:
     void connectImageSource();
     void addRegionPages();
     void bindFields();
-    bool bind(QWidget* field);
+    bool bind(QWidget* field, const QStringList& existing);
     void guardAgainstWheel(QWidget* field);
     void write(const QMetaObject& fieldType, const QVariant& value);
     void resetImageSource();

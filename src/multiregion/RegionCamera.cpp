@@ -38,11 +38,11 @@ std::optional<double> readKnown(FeatureManager& manager, const QString& name,
     return reading.isComplete ? std::optional<double>(reading.value.value_or(0.0)) : std::nullopt;
 }
 
-double readCount(FeatureManager& manager, bool isEnumerated)
+double readCount(FeatureReader& selector)
 {
-    if (isEnumerated)
-        return manager.GetEnumEntries(Name::subRegionSelector).size();
-    const auto maximum = manager.Read(Name::subRegionSelector).number().maximum;
+    if (selector.dataType() == Sdk::enumerationType)
+        return selector.entries().size();
+    const auto maximum = selector.number().maximum;
     return maximum ? std::max(0.0, *maximum + 1.0) : 0.0;
 }
 
@@ -86,9 +86,14 @@ struct AxisReading
 } // namespace
 
 RegionCamera::RegionCamera(FeatureManager* manager)
-    : m_manager(*manager)
-    , m_isEnumerated(manager->GetDataType(Name::subRegionSelector) == Sdk::enumerationType)
-    , m_count(readCount(*manager, m_isEnumerated))
+    : RegionCamera(*manager, manager->Read(Name::subRegionSelector))
+{
+}
+
+RegionCamera::RegionCamera(FeatureManager& manager, FeatureReader selector)
+    : m_manager(manager)
+    , m_isEnumerated(selector.dataType() == Sdk::enumerationType)
+    , m_count(readCount(selector))
 {
 }
 

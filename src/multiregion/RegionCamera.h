@@ -10,6 +10,7 @@
 #include <optional>
 
 class FeatureManager;
+class FeatureReader;
 class QVariant;
 
 /// A region as the camera has it, sensor pixels.
@@ -63,6 +64,8 @@ public:
     std::optional<QSize> readSensorSize() const;
 
 private:
+    RegionCamera(FeatureManager& manager, FeatureReader selector);
+
     FeatureManager& m_manager;
     const bool m_isEnumerated; ///< the selector
     const double m_count;

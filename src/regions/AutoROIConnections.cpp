@@ -1,11 +1,9 @@
 #include "regions/AutoROIConnections.h"
 
-#include "features/FeatureNames.h"
 #include "regions/AutoROIWidget.h"
 #include "regions/automatic/AutoRegionCamera.h"
 #include "ui_AutoROIWidget.h"
 
-namespace Name = FeatureNames;
 using Page = AutoROIWidget;
 
 void connectForm(Page& page, const Ui::AutoROIWidget& form, const AutoRegionCamera& camera)
@@ -20,23 +18,23 @@ void connectForm(Page& page, const Ui::AutoROIWidget& form, const AutoRegionCame
     };
     connectField(form.spinTop, &Page::OnSpinTopValueChanged);
     connectField(form.spinLeft, &Page::OnSpinLeftValueChanged);
-    if (camera.has(Name::dspBottom)) {
+    if (camera.has(RegionNumber::Bottom)) {
         connectField(form.spinRight, &Page::OnSpinRightValueChanged);
         connectField(form.spinBottom, &Page::OnSpinBottomValueChanged);
     } else if (camera.usesSizes()) {
         connectField(form.spinWidth, &Page::OnSpinWidthValueChanged);
         connectField(form.spinHeight, &Page::OnSpinHeightValueChanged);
     }
-    if (camera.has(Name::aoiEnable))
+    if (!form.cbEnable->isHidden())
         connect(form.cbEnable, &QCheckBox::stateChanged, &Page::OnEnableStateChanged);
-    if (camera.has(Name::aoiShowArea))
+    if (!form.cbShowArea->isHidden())
         connect(form.cbShowArea, &QCheckBox::stateChanged, &Page::OnShowAreaStateChanged);
     connect(form.btnFull, &QPushButton::clicked, &Page::OnROIFull);
     connect(form.btnHalf, &QPushButton::clicked, &Page::OnROIHalf);
     connect(form.btnQuarter, &QPushButton::clicked, &Page::OnROIQuarter);
     connect(form.comboIntensityControllerRegion, &QComboBox::currentTextChanged,
             &Page::OnIntensityControllerRegionChanged);
-    if (camera.has(Name::exposureAutoTimebase))
+    if (!form.comboExpAutoTimeBase->isHidden())
         connect(form.comboExpAutoTimeBase, &QComboBox::currentTextChanged,
                 &Page::OnExpAutoTimebaseChanged);
     connect(form.spinExpAutoMin, valueChanged, &Page::OnSpinExpAutoMinChanged);

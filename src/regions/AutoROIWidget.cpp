@@ -346,7 +346,7 @@ QStringList AutoROIWidget::showEntries()
 {
     QStringList untold;
     const auto show = [&](const QString& name, QComboBox* comboBox) {
-        if (m_camera->has(name) && !fillComboBox(name, comboBox, false))
+        if (!comboBox->isHidden() && !fillComboBox(name, comboBox, false))
             untold << name;
     };
     show(Name::exposureAutoTimebase, m_ui->comboExpAutoTimeBase);

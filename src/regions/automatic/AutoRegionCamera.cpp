@@ -14,17 +14,24 @@ namespace Name = FeatureNames;
 
 AutoRegionCamera::AutoRegionCamera(FeatureManager& manager)
     : m_manager(manager)
-    , m_names{manager.GetExistingName({Name::dspTop, Name::aoiOffsetY, Name::autoModeOffsetY}),
-              manager.GetExistingName({Name::dspLeft, Name::aoiOffsetX, Name::autoModeOffsetX}),
-              manager.GetExistingName({Name::dspRight}),
-              manager.GetExistingName({Name::dspBottom}),
-              manager.GetExistingName({Name::aoiWidth, Name::autoModeWidth}),
-              manager.GetExistingName({Name::aoiHeight, Name::autoModeHeight})}
-    , m_usesEdges(manager.HasFeature(Name::dspTop))
-    , m_usesSizes(manager.HasFeature(Name::aoiHeight, Name::autoModeHeight))
 {
+    const QStringList existing = featureNames();
+    const auto first = [&existing](std::initializer_list<QString> candidates) {
+        const auto found
+            = std::find_if(candidates.begin(), candidates.end(),
+                           [&](const QString& name) { return existing.contains(name); });
+        return found == candidates.end() ? QString() : *found;
+    };
+    m_names = {first({Name::dspTop, Name::aoiOffsetY, Name::autoModeOffsetY}),
+               first({Name::dspLeft, Name::aoiOffsetX, Name::autoModeOffsetX}),
+               first({Name::dspRight}),
+               first({Name::dspBottom}),
+               first({Name::aoiWidth, Name::autoModeWidth}),
+               first({Name::aoiHeight, Name::autoModeHeight})};
+    m_usesEdges = nameOf(RegionNumber::Top) == Name::dspTop;
+    m_usesSizes = has(RegionNumber::Height);
     for (const QString& name : {Name::autoModeOffsetX, Name::autoModeOffsetY})
-        if (manager.HasFeature(name) && name != nameOf(RegionNumber::Left)
+        if (existing.contains(name) && name != nameOf(RegionNumber::Left)
             && name != nameOf(RegionNumber::Top))
             m_originNames << name;
 }
@@ -38,6 +45,11 @@ bool AutoRegionCamera::hasAutoRegion(FeatureManager& manager)
 bool AutoRegionCamera::has(const QString& name) const
 {
     return m_manager.HasFeature(name);
+}
+
+QStringList AutoRegionCamera::featureNames() const
+{
+    return m_manager.GetFeatureNames();
 }
 
 std::vector<RegionNumber> AutoRegionCamera::numbers() const

@@ -54,6 +54,8 @@ public:
     static bool hasAutoRegion(FeatureManager& manager);
 
     bool has(const QString& name) const;
+    /// All that the camera has by now, for who asks for many.
+    QStringList featureNames() const;
     bool usesEdges() const { return m_usesEdges; }
     bool usesSizes() const { return m_usesSizes; }
 
@@ -120,8 +122,8 @@ private:
 
     FeatureManager& m_manager;
     std::array<QString, regionNumbers.size()> m_names; ///< empty: the camera has no such number
-    bool m_usesEdges;
-    bool m_usesSizes;
+    bool m_usesEdges = false;
+    bool m_usesSizes = false;
     QStringList m_originNames; ///< which are not the region's own
     QHash<QString, double> m_values;
     QSizeF m_limits{0.0, 0.0};

@@ -20,18 +20,18 @@ struct Text
     Q_DECLARE_TR_FUNCTIONS(AutoROIWidget)
 };
 
-void adaptTexts(const Ui::AutoROIWidget& form, const AutoRegionCamera& camera)
+void adaptTexts(const Ui::AutoROIWidget& form, const QStringList& names, bool hasEdges)
 {
-    const bool isAoi = camera.has(Name::aoiHeight);
-    const bool hasEdges = camera.usesEdges();
+    const bool isAoi = names.contains(Name::aoiHeight);
     const QString aoi = Text::tr("Autofunction AOI");
-    const QString roi = camera.has(Name::autoModeHeight) ? Text::tr("AutoMode ROI")
-                                                         : Text::tr("Autofunction ROI");
+    const QString roi = names.contains(Name::autoModeHeight) ? Text::tr("AutoMode ROI")
+                                                             : Text::tr("Autofunction ROI");
     const QString region = hasEdges ? Text::tr("DSPSubregion") : Text::tr("AutoMode Region");
     form.gb_AutoROI->setTitle(isAoi ? aoi : roi);
     form.gb_Region->setTitle(isAoi ? aoi : region);
     form.labelTop->setText(hasEdges ? Text::tr("Top:") : Text::tr("OffsetY:"));
-    form.labelLeft->setText(camera.has(Name::dspLeft) ? Text::tr("Left:") : Text::tr("OffsetX:"));
+    form.labelLeft->setText(names.contains(Name::dspLeft) ? Text::tr("Left:")
+                                                          : Text::tr("OffsetX:"));
 }
 
 /// Lines up the fields behind them.
@@ -48,7 +48,7 @@ void alignCaptions(std::initializer_list<QLabel*> captions)
 void adaptRegionFields(const Ui::AutoROIWidget& form, const AutoRegionCamera& camera)
 {
     std::vector<QWidget*> hidden;
-    if (camera.has(Name::dspBottom))
+    if (camera.has(RegionNumber::Bottom))
         hidden = {form.spinWidth, form.labelWidth, form.spinHeight, form.labelHeight};
     else if (camera.usesSizes())
         hidden = {form.spinBottom, form.labelBottom, form.spinRight, form.labelRight};
@@ -63,25 +63,26 @@ void adaptRegionFields(const Ui::AutoROIWidget& form, const AutoRegionCamera& ca
         row->addStretch();
 }
 
-void adaptSwitches(const Ui::AutoROIWidget& form, const AutoRegionCamera& camera)
+void adaptSwitches(const Ui::AutoROIWidget& form, const QStringList& names)
 {
     // Without a switch the region is always on.
-    form.cbEnable->setVisible(camera.has(Name::aoiEnable));
-    form.cbEnable->setChecked(!camera.has(Name::aoiEnable));
-    form.cbShowArea->setVisible(camera.has(Name::aoiShowArea));
-    const bool hasRegions = camera.has(Name::intensityControllerRegion);
+    form.cbEnable->setVisible(names.contains(Name::aoiEnable));
+    form.cbEnable->setChecked(!names.contains(Name::aoiEnable));
+    form.cbShowArea->setVisible(names.contains(Name::aoiShowArea));
+    const bool hasRegions = names.contains(Name::intensityControllerRegion);
     form.labelIntensityControllerRegion->setVisible(hasRegions);
     form.comboIntensityControllerRegion->setVisible(hasRegions);
     if (!hasRegions)
         form.horizontalSpacer->changeSize(0, 0);
 }
 
-void adaptExposure(const Ui::AutoROIWidget& form, const AutoRegionCamera& camera)
+void adaptExposure(const Ui::AutoROIWidget& form, const QStringList& names)
 {
-    const bool hasMin = camera.has(Name::exposureAutoMin);
-    const bool hasMax = camera.has(Name::exposureAutoMax);
-    const bool hasTimebase = camera.has(Name::exposureAutoTimebase);
-    const bool hasTime = camera.has(Name::exposureTime) || camera.has(Name::exposureTimeAbs);
+    const bool hasMin = names.contains(Name::exposureAutoMin);
+    const bool hasMax = names.contains(Name::exposureAutoMax);
+    const bool hasTimebase = names.contains(Name::exposureAutoTimebase);
+    const bool hasTime
+        = names.contains(Name::exposureTime) || names.contains(Name::exposureTimeAbs);
     form.labelExpAutoMin->setEnabled(hasMin);
     form.btnExpAutoMinCurrent->setEnabled(hasMin && hasTime);
     form.labelExpAutoMax->setEnabled(hasMax);
@@ -95,10 +96,11 @@ void adaptExposure(const Ui::AutoROIWidget& form, const AutoRegionCamera& camera
 
 void adaptForm(const Ui::AutoROIWidget& form, const AutoRegionCamera& camera)
 {
-    adaptTexts(form, camera);
+    const QStringList names = camera.featureNames();
+    adaptTexts(form, names, camera.usesEdges());
     adaptRegionFields(form, camera);
-    adaptSwitches(form, camera);
-    adaptExposure(form, camera);
+    adaptSwitches(form, names);
+    adaptExposure(form, names);
 }
 
 void fitColumns(const Ui::AutoROIWidget& form)

@@ -39,11 +39,6 @@ ExposureLimits::ExposureLimits(FeatureManager& manager, QDoubleSpinBox* minimumF
     , m_limits{{Name::exposureAutoMin, NumberField(minimumField)},
                {Name::exposureAutoMax, NumberField(maximumField)}}
 {
-    for (const Limit& limit : m_limits) {
-        const QSignalBlocker blocker(limit.field.box());
-        // Also without the feature: the other limit's writes go by the decimals shown here.
-        limit.field.box()->setDecimals(manager.IsFloatFeature(limit.featureName) ? 2 : 0);
-    }
 }
 
 QStringList ExposureLimits::refresh()
@@ -58,9 +53,13 @@ QStringList ExposureLimits::refresh()
 
 bool ExposureLimits::show(Limit& limit)
 {
+    FeatureReader feature = m_manager.Read(limit.featureName);
     if (limit.isLoaded)
-        return limit.field.showWhole(m_manager.Read(limit.featureName).number());
-    const Reading<double> reading = m_manager.Read(limit.featureName).fieldNumber();
+        return limit.field.showWhole(feature.number());
+    const QSignalBlocker blocker(limit.field.box());
+    // Also without the feature: the other limit's writes go by the decimals shown here.
+    limit.field.box()->setDecimals(feature.dataType() == Sdk::floatType ? 2 : 0);
+    const Reading<double> reading = feature.fieldNumber();
     limit.isLoaded = reading.isComplete;
     if (limit.isLoaded)
         limit.field.box()->setSingleStep(std::max(1.0, reading.increment.value_or(1.0)));
