@@ -28,15 +28,6 @@ public:
 
     /// Two features in a row that failed after 100 ms or more make a loss; any answer ends it.
     void told(const QString& feature, ZebErrorType result, Milliseconds duration);
-    /// Makes a call and takes its result.
-    template <typename Call> ZebErrorType hear(const QString& feature, Call&& call)
-    {
-        const Clock::time_point begin = Clock::now();
-        const ZebErrorType result = call();
-        told(feature, result, since(begin));
-        return result;
-    }
-
     bool isLost() const { return m_isLost; }
     /// The last that was heard is a call which failed slowly.
     bool isDoubtful() const { return m_isDoubtful; }

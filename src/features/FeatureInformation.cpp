@@ -13,9 +13,8 @@ QString descriptionText(const QString& description)
 {
     if (description.isEmpty())
         return QStringLiteral("N/A<br/>");
-    QString text = description;
-    text.replace(QLatin1Char('.'), QLatin1String(".<br/>"), Qt::CaseSensitive);
-    return QLatin1String("<br/>") + text;
+    return QLatin1String("<br/>")
+        + QString(description).replace(QLatin1Char('.'), QLatin1String(".<br/>"));
 }
 
 constexpr std::array visibilityNames{"UNKNOWN", "BEGINNER", "EXPERT", "GURU", "INVISIBLE"};
@@ -32,9 +31,8 @@ QString nameOf(int number, const std::array<const char*, count>& names, const ch
 QString visibilityText(FeatureReader& feature)
 {
     auto visibility = Sdk::unknownVisibility;
-    if (feature->GetVisibility(visibility) != Sdk::success)
-        visibility = Sdk::unknownVisibility;
-    return nameOf(visibility, visibilityNames, "N/A") + QLatin1String("<br/>");
+    const bool isTold = feature->GetVisibility(visibility) == Sdk::success;
+    return nameOf(isTold ? visibility : 0, visibilityNames, "N/A") + QLatin1String("<br/>");
 }
 
 QString typeText(const QString& typeName)
@@ -42,40 +40,38 @@ QString typeText(const QString& typeName)
     return QLatin1String("<b>Type:</b> ") + typeName + QLatin1String("<br/>");
 }
 
-QString rangeText(const QString& typeName, const QString& minimum, const QString& maximum)
+/// What is not told is empty.
+QString limitsText(const QString& typeName, const QString& minimum, const QString& maximum,
+                   const QString& increment)
 {
-    return typeText(typeName) + QLatin1String("<b>Minimum:</b> ") + minimum
-        + QLatin1String("<br/><b>Maximum:</b> ") + maximum + QLatin1String("<br/>");
-}
-
-QString intervalText(const QString& increment)
-{
-    return QLatin1String("<b>Interval:</b> ") + increment + QLatin1String("<br/>");
+    QString text;
+    if (!minimum.isEmpty())
+        text += typeText(typeName) + QLatin1String("<b>Minimum:</b> ") + minimum
+            + QLatin1String("<br/><b>Maximum:</b> ") + maximum + QLatin1String("<br/>");
+    if (!increment.isEmpty())
+        text += QLatin1String("<b>Interval:</b> ") + increment + QLatin1String("<br/>");
+    return text;
 }
 
 QString integerText(FeatureReader& feature)
 {
-    const Reading<int64_t> reading = feature.read<int64_t>(limits);
-    QString text;
-    if (reading.minimum)
-        text += rangeText(QStringLiteral("Integer"), QString::number(qlonglong{*reading.minimum}),
-                          QString::number(qlonglong{*reading.maximum}));
-    if (reading.increment.value_or(1) != 1)
-        text += intervalText(QString::number(qlonglong{*reading.increment}));
-    return text;
+    const auto reading = feature.read<int64_t>(limits);
+    const auto text = [](const std::optional<int64_t>& number) {
+        return number ? QString::number(qlonglong{*number}) : QString();
+    };
+    return limitsText(QStringLiteral("Integer"), text(reading.minimum), text(reading.maximum),
+                      reading.increment == 1 ? QString() : text(reading.increment));
 }
 
-// The two precisions differ; users compare these texts with those of other tools.
+// The two precisions of the range differ; users compare these texts with those of other tools.
 QString floatText(FeatureReader& feature)
 {
-    const Reading<double> reading = feature.read<double>(limits);
-    QString text;
-    if (reading.minimum)
-        text += rangeText(QStringLiteral("Float"), QString::number(*reading.minimum, 'g', 9),
-                          QString::number(*reading.maximum, 'g', 12));
-    if (reading.increment)
-        text += intervalText(QString::number(*reading.increment, 'f', 10));
-    return text;
+    const auto reading = feature.read<double>(limits);
+    const auto text = [](const std::optional<double>& number, char format, int precision) {
+        return number ? QString::number(*number, format, precision) : QString();
+    };
+    return limitsText(QStringLiteral("Float"), text(reading.minimum, 'g', 9),
+                      text(reading.maximum, 'g', 12), text(reading.increment, 'f', 10));
 }
 
 // Told of what is written or changes by itself, or is readable and nothing else.

@@ -5,40 +5,32 @@
 
 namespace {
 
-// Reads one type of value and formats it; empty when the camera does not give it.
-template <typename Value, typename Format>
-QString formatValue(ZebCPP::Feature& feature, Format&& format)
+bool isTold(ZebErrorType result)
 {
-    Value value{};
-    return feature.GetValue(value) == Sdk::success ? format(value) : QString();
+    return result == Sdk::success;
 }
 
-QString stringValue(ZebCPP::Feature& feature)
-{
-    std::string text;
-    const auto fetch
-        = [&feature](char* buffer, uint32_t& length) { return feature.GetValue(buffer, length); };
-    return TwoCallPattern::read(text, fetch) == Sdk::success ? QString::fromStdString(text)
-                                                             : QString();
-}
-
+/// Empty when the camera does not give the value.
 QString valueText(ZebCPP::Feature& feature, ZebFeatureDataType type)
 try {
+    std::int64_t integer = 0;
+    double number = 0.0;
+    bool flag = false;
+    std::string text;
+    const auto fetch
+        = [&](char* buffer, uint32_t& length) { return feature.GetValue(buffer, length); };
     switch (type) {
     case Sdk::integerType:
-        return formatValue<int64_t>(feature, [](int64_t value) {
-            return QString::number(static_cast<qlonglong>(value), 10);
-        });
+        return isTold(feature.GetValue(integer)) ? QString::number(qlonglong{integer}) : QString();
     case Sdk::floatType:
-        return formatValue<double>(feature,
-                                   [](double value) { return QString::number(value, 'g', 6); });
+        return isTold(feature.GetValue(number)) ? QString::number(number, 'g', 6) : QString();
     case Sdk::enumerationType:
     case Sdk::stringType:
-        return stringValue(feature);
+        return isTold(TwoCallPattern::read(text, fetch)) ? QString::fromStdString(text) : QString();
     case Sdk::booleanType:
-        return formatValue<bool>(feature, [](bool value) {
-            return value ? QStringLiteral("true") : QStringLiteral("false");
-        });
+        if (!isTold(feature.GetValue(flag)))
+            return {};
+        return flag ? QStringLiteral("true") : QStringLiteral("false");
     case Sdk::commandType:
         return QStringLiteral("[COMMAND]");
     case Sdk::rawType:
@@ -59,13 +51,9 @@ try {
     std::string name;
     const auto fetchName
         = [&feature](char* buffer, uint32_t& length) { return feature->GetName(buffer, length); };
-    if (TwoCallPattern::read(name, fetchName) != Sdk::success)
-        return;
     auto type = Sdk::unknownType;
-    if (feature->GetDataType(type) != Sdk::success)
-        return;
-
-    emit setChangedFeature(QString::fromStdString(name), valueText(*feature, type));
+    if (isTold(TwoCallPattern::read(name, fetchName)) && isTold(feature->GetDataType(type)))
+        emit setChangedFeature(QString::fromStdString(name), valueText(*feature, type));
 } catch (...) {
     // The SDK called, from a thread of its own: what its reads throw is not to come back to it.
 }

@@ -5,14 +5,16 @@
 #include "page/ChangedNames.h"
 #include "page/FeatureObservation.h"
 #include "page/TENotSupported.h"
-#include "page/Translators.h"
 #include "widgets/SilentFields.h"
 
 #include <QApplication>
 #include <QDebug>
 #include <QEvent>
+#include <QHash>
+#include <QLocale>
 #include <QPalette>
 #include <QTimer>
+#include <QTranslator>
 
 #ifdef Q_OS_WIN
 #include <qt_windows.h>
@@ -75,9 +77,10 @@ BaseTabPluginWidget::BaseTabPluginWidget(const FeatureList& features, QWidget* p
     connect(refreshTimer, SIGNAL(timeout()), this, SLOT(updateTimer()));
     changedFeatures = &m_changes->list();
 
-    connect(qApp, &QGuiApplication::paletteChanged, this,
-            &BaseTabPluginWidget::onApplicationPaletteChanged);
-    m_built = true;
+    connect(qApp, &QGuiApplication::paletteChanged, this, [this] {
+        QEvent event(QEvent::PaletteChange);
+        onPaletteChanged(&event);
+    });
 }
 
 BaseTabPluginWidget::~BaseTabPluginWidget()
@@ -231,15 +234,10 @@ bool BaseTabPluginWidget::hasFeatures() const
 
 void BaseTabPluginWidget::changeEvent(QEvent* event)
 {
-    if (event->type() == QEvent::PaletteChange && m_built)
+    // The style sheet of the constructor changes the palette before there is a derived page.
+    if (event->type() == QEvent::PaletteChange && changedFeatures)
         onPaletteChanged(event);
     QWidget::changeEvent(event);
-}
-
-void BaseTabPluginWidget::onApplicationPaletteChanged()
-{
-    QEvent event(QEvent::PaletteChange);
-    onPaletteChanged(&event);
 }
 
 bool BaseTabPluginWidget::isDarkMode()
@@ -272,10 +270,25 @@ bool BaseTabPluginWidget::fillComboBox(const QString& featureName, QComboBox* co
 
 QTranslator* BaseTabPluginWidget::loadTranslator(const QString& baseName)
 {
-    return Translators::load(baseName);
+    auto translator = std::make_unique<QTranslator>();
+    const QString locale = QLocale::system().name();
+    const QString prefix = QLatin1String("qm/") + baseName + QLatin1Char('_');
+    if (!translator->load(prefix + locale))
+        static_cast<void>(translator->load(prefix + locale.left(2)));
+    return translator.release();
 }
 
 bool BaseTabPluginWidget::installTranslator(const QString& baseName)
 {
-    return Translators::install(baseName);
+    // Held weakly: a translator ends with the application that it is a child of.
+    static QHash<QString, QPointer<QTranslator>> installed;
+    if (installed.value(baseName))
+        return false;
+    std::unique_ptr<QTranslator> translator(loadTranslator(baseName));
+    if (translator->isEmpty())
+        return false;
+    translator->setParent(qApp);
+    QCoreApplication::installTranslator(translator.get());
+    installed.insert(baseName, translator.release());
+    return true;
 }

@@ -105,12 +105,10 @@ private:
     void refreshWhileAnswered();
     void startUpdates(bool markChanged);
     void stopUpdates();
-    void onApplicationPaletteChanged();
 
     QPointer<BaseTabPluginWidget> m_outerPage;
     std::shared_ptr<ChangedNames> m_changes;
     std::unique_ptr<FeatureObservation> m_observation;
     bool m_wasLost = false; ///< the camera did not answer when the page was to be refreshed
-    bool m_built = false;
     int m_suspensions = 0;
 };

@@ -50,19 +50,6 @@ private slots:
     }
     void countsAsLost() { runRow(); }
 
-    void isAskedEachSecond()
-    {
-        CameraLink link;
-        QVERIFY(!link.isDue());
-        link.told("A", Sdk::notFound, slow);
-        link.told("B", Sdk::notFound, slow);
-        QVERIFY(!link.isDue());
-        QTRY_VERIFY_WITH_TIMEOUT(link.isDue(), 1500);
-        link.told("A", Sdk::notFound, slow);
-        QVERIFY(!link.isDue() && link.isLost());
-        QCOMPARE(link.questions(), 1);
-    }
-
     /// The time that goes into failing calls is counted from the first of them.
     void partsForOneSecond()
     {
