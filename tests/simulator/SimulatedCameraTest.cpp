@@ -76,7 +76,6 @@ private slots:
         });
         row("on the grid", 0.7, true, 0.7);
         row("off the grid", 0.74, false, 0.7);
-        row("above", 3.0, false, 2.0);
         row("not a number", double(NAN), false, 0.1);
         row("infinite", double(INFINITY), false, 2.0);
     }

@@ -33,7 +33,7 @@ QPointer<QWidget> typeIntoField(Session& session)
         return {};
     field->setFocus(Qt::MouseFocusReason);
     field->selectAll();
-    typeText(field, anyNumber(session.random));
+    typeText(field.data(), anyNumber(session.random));
     return field.data();
 }
 
@@ -51,14 +51,14 @@ void stepField(Session& session)
 {
     const QPointer<QAbstractSpinBox> field = anyUsable<QAbstractSpinBox>(session);
     for (int i = session.random.between(1, 5); i > 0 && field; --i)
-        sendKey(field, session.random.pick<int>({Qt::Key_Up, Qt::Key_Down, Qt::Key_PageUp}));
+        sendKey(field.data(), session.random.pick<int>({Qt::Key_Up, Qt::Key_Down, Qt::Key_PageUp}));
 }
 
 void clickButton(Session& session)
 {
     const QPointer<QAbstractButton> button = anyUsable<QAbstractButton>(session);
     for (int i = session.random.pick({1, 1, 2}); i > 0 && button && button->isEnabled(); --i)
-        click(button, session.random.oneIn(2) ? button->rect().center() : QPoint(6, 6));
+        click(button.data(), session.random.oneIn(2) ? button->rect().center() : QPoint(6, 6));
 }
 
 void chooseEntry(Session& session)
@@ -73,7 +73,8 @@ void chooseEntry(Session& session)
         session.pass(60);
     }
     for (int i = random.between(1, 3); i > 0 && box; --i) {
-        sendKey(box, random.pick<int>({Qt::Key_Down, Qt::Key_Down, Qt::Key_Up, Qt::Key_Home}));
+        sendKey(box.data(),
+                random.pick<int>({Qt::Key_Down, Qt::Key_Down, Qt::Key_Up, Qt::Key_Home}));
         session.pass(0);
     }
     if (box)
@@ -103,13 +104,12 @@ void scroll(Session& session)
 /// Null when none opens.
 QPointer<QWidget> openCell(Session& session)
 {
-    Random& random = session.random;
     const QPointer<QTableView> table = anyUsable<QTableView>(session);
-    if (!table || !table->model() || table->model()->rowCount() == 0)
+    const auto* const model = table ? table->model() : nullptr;
+    if (!model || model->rowCount() == 0)
         return {};
-    const auto* const model = table->model();
-    const QModelIndex cell
-        = model->index(random.below(model->rowCount()), model->columnCount() - 1);
+    const int row = session.random.below(model->rowCount());
+    const QModelIndex cell = model->index(row, model->columnCount() - 1);
     table->scrollTo(cell);
     const QPoint position = table->visualRect(cell).center();
     click(table->viewport(), position);
@@ -141,15 +141,12 @@ void editCell(Session& session)
 // The list of the pictures behind the regions: the last entry opens the file dialog.
 void pickPicture(Session& session)
 {
-    for (QComboBox* const box : usable<QComboBox>(session)) {
-        if (!box->inherits("ImageReaderWidget"))
-            continue;
-        const QPointer<QComboBox> list = box;
-        list->setFocus(Qt::MouseFocusReason);
-        sendKey(list, session.random.oneIn(4) ? Qt::Key_Home : Qt::Key_End);
-        session.pass(0);
+    auto* const list = session.page()->findChild<QComboBox*>("imageReaderWidget");
+    if (!list || !list->isVisible() || !list->isEnabled())
         return;
-    }
+    list->setFocus(Qt::MouseFocusReason);
+    sendKey(list, session.random.oneIn(4) ? Qt::Key_Home : Qt::Key_End);
+    session.pass(0);
 }
 
 void sendFrame(Session& session)
@@ -186,12 +183,6 @@ void writeFromOutside(Session& session)
         session.misbehaviour().writeFromOutside();
 }
 
-void distortCamera(Session& session)
-{
-    if (!session.isHonest())
-        session.misbehaviour().distort();
-}
-
 void reopen(Session& session)
 {
     session.closePage(!session.random.oneIn(2));
@@ -219,7 +210,11 @@ const Action actions[]{
     {"streaming", 4, stream},
     {"a frame", 3, sendFrame},
     {"another client", 8, writeFromOutside},
-    {"distorting the camera", 4, distortCamera},
+    {"distorting the camera", 4,
+     [](Session& s) {
+         if (!s.isHonest())
+             s.misbehaviour().distort();
+     }},
     {"a burst", 1, [](Session& s) { s.burst(s.random.oneIn(3)); }},
     {"losing the camera", 1, [](Session& s) { s.loseCamera(); }},
 };

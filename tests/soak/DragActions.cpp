@@ -43,16 +43,12 @@ QPoint anyPoint(Random& random, const QSize& size)
             random.between(-beyond, size.height() + beyond)};
 }
 
-QPoint bandCenter(Random& random, const QLabel& picture)
-{
-    return random.pick(picture.findChildren<QRubberBand*>())->geometry().center();
-}
-
 // Mostly at an edge, a corner or the middle of a band, and a little beside it.
-QPoint pressPoint(Random& random, const QLabel& picture)
+QPoint pressPoint(Random& random, const QLabel& picture, bool isInside)
 {
-    const auto bands = picture.findChildren<QRubberBand*>();
-    const QRect band = random.pick(bands)->geometry();
+    const QRect band = random.pick(picture.findChildren<QRubberBand*>())->geometry();
+    if (isInside)
+        return band.center();
     if (random.oneIn(6))
         return anyPoint(random, picture.size());
     const auto along = [&random](int from, int length) {
@@ -102,8 +98,7 @@ const Disturbance disturbances[]{
      }},
 };
 
-// A tile may lie over another while its neighbour is off; and a camera that refuses one of several
-// writes keeps what comes of it.
+// A tile may lie over another while its neighbour is off, and a refused write may leave an overlap.
 bool mustNotOverlap(Session& session)
 {
     const char* const arrangement = "MultipleRegionArrangement";
@@ -119,8 +114,7 @@ void dragRegion(Session& session)
     const QPointer<QLabel> picture = anyPicture(session);
     if (!picture)
         return;
-    // What was typed and not entered yet is written before the drag begins, or when its field is
-    // left.
+    // What was typed is written before the drag begins, or when its field is left.
     const bool isTyped = random.oneIn(4);
     if (isTyped)
         leaveTyped(session);
@@ -129,7 +123,7 @@ void dragRegion(Session& session)
     session.pass(0);
     if (!picture || !picture->isVisible() || !picture->isEnabled())
         return;
-    const QPoint from = isTyped ? bandCenter(random, *picture) : pressPoint(random, *picture);
+    const QPoint from = pressPoint(random, *picture, isTyped);
     sendMouse(picture, QEvent::MouseMove, from, Qt::NoButton);
     if (!picture)
         return;
@@ -151,9 +145,7 @@ void dragRegion(Session& session)
         isDropped = isDropped || disturbance.effect == Effect::Mouse;
     }
     const auto findWrites = [&session](const char* text) {
-        // A region that lies outside switches the automatic function off when it is noticed; and a
-        // press beside the regions starts no drag, so that they are read on, one selected after
-        // the other.
+        // A region outside switches the function off; a press beside all lets them be read on.
         const QString writes = session.takeWrites({"AutofunctionAOIEnable", "SubRegionSelector"});
         if (session.isHonest() && session.page() && !writes.isEmpty())
             session.find(QString(text).arg(writes));

@@ -2,10 +2,8 @@
 
 class Session;
 
-/// Presses somewhere on a region's picture, moves, and releases; in between the window may resize,
-/// hide or close, time may pass and the camera may change. Nothing may be written meanwhile.
+/// Drags on a region's picture, with disturbances; nothing may be written before the release.
 void dragRegion(Session& session);
 
-/// Drags a line that regions share; meanwhile the same frame comes again, or the window resizes.
-/// The line stays where the mouse is.
+/// Drags a line that regions share, which stays where the mouse is whatever comes meanwhile.
 void dragLine(Session& session);

@@ -201,10 +201,9 @@ void Invariants::checkRegions(Session& session)
         return;
     for (const sim::Snapshot::Region& region : state.regions) {
         // A region that a new binning left outside is invalid, and the camera says so.
-        if (!region.isValid)
-            continue;
-        if (region.x < 0 || region.y < 0 || region.x + region.width > state.maximum.width
-            || region.y + region.height > state.maximum.height)
+        if (region.isValid
+            && (region.x < 0 || region.y < 0 || region.x + region.width > state.maximum.width
+                || region.y + region.height > state.maximum.height))
             session.find(QString("region %1 is beyond the sensor").arg(region.number));
     }
 }

@@ -26,14 +26,6 @@ constexpr std::chrono::milliseconds longestLostStep{2000};
 constexpr std::int64_t mostMemory = (std::int64_t{1} << 30) + (std::int64_t{1} << 29);
 constexpr int dialogInterval = 40;
 
-// Of the one with hundreds of regions a session takes as long as dozens of others.
-std::string anyModel(Random& random)
-{
-    const auto names = sim::modelNames();
-    const std::string name = random.pick(names);
-    return name != "multi-region-256" || random.oneIn(8) ? name : random.pick(names);
-}
-
 std::int64_t largestMemory()
 {
     rusage usage{};
@@ -50,7 +42,12 @@ Session::Session(const Run& run, std::uint64_t seed, const std::string& model)
     , m_dialogTimer(this)
 {
     Watchdog::setPlace(seed, 0, m_action);
-    prepareCamera(model.empty() ? anyModel(random) : model);
+    const auto models = sim::modelNames();
+    m_model = model.empty() ? random.pick(models) : model;
+    // With hundreds of regions a session takes as long as dozens of others.
+    if (m_model == "multi-region-256" && !random.oneIn(8))
+        m_model = random.pick(models);
+    prepareCamera();
     const int folder = random.pick({0, 0, 1, 2});
     m_isTranslated = folder == 0;
     QDir::setCurrent(m_run.translationFolders[folder]);
@@ -63,10 +60,9 @@ Session::Session(const Run& run, std::uint64_t seed, const std::string& model)
     m_dialogTimer.start(dialogInterval);
 }
 
-void Session::prepareCamera(const std::string& model)
+void Session::prepareCamera()
 {
     using Settings = sim::NotificationSettings;
-    m_model = model;
     m_isHonest = random.oneIn(2);
     m_hasThreads = random.oneIn(3);
 
@@ -81,7 +77,7 @@ void Session::prepareCamera(const std::string& model)
     options.notifications.onRegistration = random.oneIn(3);
     options.notifications.lateAfterUnregistration = m_hasThreads && random.oneIn(3);
     options.notifications.cascades = m_isHonest || random.oneIn(2);
-    m_camera = sim::createCamera(model, options);
+    m_camera = sim::createCamera(m_model, options);
     m_camera->journal().record(sim::Operations::writes());
     m_misbehaviour = std::make_unique<Misbehaviour>(*m_camera, random);
 
@@ -122,6 +118,8 @@ void Session::run()
     QCoreApplication::processEvents();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     checkRest(memory);
+    if (m_run.isVerbose)
+        std::fprintf(stderr, "digest %llx\n", static_cast<unsigned long long>(m_digest));
     m_run.report["sessions run"] += 1;
     m_run.report["sessions without threads"] += m_hasThreads ? 0 : 1;
 }
@@ -212,7 +210,7 @@ void Session::openPage()
     }
     m_run.report[result == 0 ? "pages opened" : "pages refused"] += 1;
     if (result != 0) {
-        checkRefusal(*page);
+        checkRefusal();
         delete page;
         return;
     }
@@ -231,9 +229,9 @@ void Session::openPage()
     pass(random.pick({0, 30, 1300}));
 }
 
-void Session::checkRefusal(const QWidget& page)
+void Session::checkRefusal()
 {
-    if (page.layout() || !page.children().isEmpty() || !page.accessibleName().isEmpty())
+    if (m_page->layout() || !m_page->children().isEmpty() || !m_page->accessibleName().isEmpty())
         find("a refused page is not as it was");
     if (m_isHonest && m_camera->has("Height") && m_camera->has("Width")
         && m_camera->feature("DeviceVendorName").text().rfind("Brontax", 0) == 0)
@@ -246,10 +244,9 @@ void Session::closePage(bool isHiddenFirst)
         return;
     const std::chrono::nanoseconds begin = Watchdog::guiTime();
     Watchdog::beat();
-    const QPointer<QWidget> page = m_page;
-    if (isHiddenFirst && m_host)
+    if (isHiddenFirst)
         m_host->hide();
-    delete page.data();
+    delete m_page.data();
     if (m_isLost && m_camera)
         checkLostTime(begin);
     if (m_camera && m_countsObservers && m_camera->observerCount() != 0)
@@ -322,7 +319,8 @@ void Session::find(const QString& text)
 void Session::answerDialog()
 {
     Watchdog::beat();
-    if (QWidget* const popup = QApplication::activePopupWidget(); popup && random.oneIn(2)) {
+    auto* const popup = QApplication::activePopupWidget();
+    if (popup && random.oneIn(2)) {
         popup->close();
         return;
     }

@@ -59,10 +59,10 @@ public:
     void find(const QString& text);
 
 private:
-    void prepareCamera(const std::string& model);
+    void prepareCamera();
     void closeCamera();
     void step();
-    void checkRefusal(const QWidget& page);
+    void checkRefusal();
     void checkRest(std::int64_t memoryBefore);
     void answerDialog();
     void checkLostTime(std::chrono::nanoseconds begin);

@@ -32,9 +32,8 @@ inline void leaveField()
         field->clearFocus();
 }
 
-inline void sendKey(QWidget* widget, int key, const QString& text = {})
+inline void sendKey(const QPointer<QWidget>& target, int key, const QString& text = {})
 {
-    const QPointer<QWidget> target = widget;
     for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
         QKeyEvent event(type, key, Qt::NoModifier, text);
         if (target)
@@ -42,19 +41,15 @@ inline void sendKey(QWidget* widget, int key, const QString& text = {})
     }
 }
 
-inline void typeText(QWidget* widget, const QString& text)
+inline void typeText(const QPointer<QWidget>& target, const QString& text)
 {
-    const QPointer<QWidget> target = widget;
-    for (const QChar character : text) {
-        if (target)
-            sendKey(target, character.toUpper().unicode(), QString(character));
-    }
+    for (const QChar character : text)
+        sendKey(target, character.toUpper().unicode(), QString(character));
 }
 
-inline void click(QWidget* widget, const QPoint& position)
+inline void click(const QPointer<QWidget>& target, const QPoint& position)
 {
-    const QPointer<QWidget> target = widget;
-    sendMouse(widget, QEvent::MouseButtonPress, position);
+    sendMouse(target, QEvent::MouseButtonPress, position);
     if (target)
         release(target, position);
 }

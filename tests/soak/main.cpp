@@ -60,14 +60,6 @@ void runSessions(const Session::Run& run, const QCommandLineParser& options)
     }
 }
 
-void replay(const Session::Run& run, std::uint64_t seed)
-{
-    Session session(run, seed);
-    session.run();
-    std::fprintf(stderr, "digest %016llx%s\n", static_cast<unsigned long long>(session.digest()),
-                 session.hasThreads() ? ", with threads" : "");
-}
-
 // What people and earlier runs have set must not reach a run.
 void isolate(const QTemporaryDir& home)
 {
@@ -77,20 +69,6 @@ void isolate(const QTemporaryDir& home)
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("QT_NO_GLIB", "1");
     qputenv("QT_HASH_SEED", "0");
-}
-
-void addOptions(QCommandLineParser& parser)
-{
-    parser.addHelpOption();
-    parser.addOptions({
-        {"minutes", "How long to run.", "N", "1"},
-        {"seed", "The seed of all sessions.", "S", "1"},
-        {"replay", "Runs the one session with this seed.", "SEED"},
-        {"cameras", "Opens and closes so many cameras instead.", "N"},
-        {"storm", "Sends 1000 notifications a second for so many minutes instead.", "MINUTES"},
-        {"check-replay", "Runs each session without threads twice and compares the SDK calls."},
-        {"verbose", "Names each action."},
-    });
 }
 
 } // namespace
@@ -103,7 +81,16 @@ int main(int argc, char** argv)
     SoakApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
     QCommandLineParser options;
-    addOptions(options);
+    options.addHelpOption();
+    options.addOptions({
+        {"minutes", "How long to run.", "N", "1"},
+        {"seed", "The seed of all sessions.", "S", "1"},
+        {"replay", "Runs the one session with this seed.", "SEED"},
+        {"cameras", "Opens and closes so many cameras instead.", "N"},
+        {"storm", "Sends 1000 notifications a second for so many minutes instead.", "MINUTES"},
+        {"check-replay", "Runs each session without threads twice and compares the SDK calls."},
+        {"verbose", "Names each action."},
+    });
     options.process(application);
 
     QPluginLoader loader(MODULE_PATH);
@@ -124,7 +111,7 @@ int main(int argc, char** argv)
         const Session::Run run{*module, pictures, folders, report, options.isSet("verbose")};
         warmUp(run);
         if (options.isSet("replay"))
-            replay(run, options.value("replay").toULongLong());
+            Session(run, options.value("replay").toULongLong()).run();
         else
             runSessions(run, options);
     }

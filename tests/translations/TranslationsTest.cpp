@@ -74,12 +74,9 @@ QString loss(const Message& message)
     const QString& translation = message.translation;
     if (!message.isFinished || translation.isEmpty())
         return "is not translated";
-    for (const char* kept : {"%(\\d+|s)", "\\n", "\\t"})
+    for (const char* kept : {"%(\\d+|s)", "\\n", "\\t", "^\\s*", "\\s*$"})
         if (sortedMatches(source, kept) != sortedMatches(translation, kept))
             return QStringLiteral("differs in its %1").arg(QLatin1String(kept));
-    for (const char* blanks : {"^\\s*", "\\s*$"})
-        if (sortedMatches(source, blanks) != sortedMatches(translation, blanks))
-            return "differs in its outer blanks";
     // Names of the camera's features and entries, which are the same in every language.
     const QStringList quoted = sortedMatches(source, "(?<=')[\\w%]+(?=')");
     for (const QString& name : quoted)
@@ -120,7 +117,7 @@ private slots:
             QSKIP("The system's locale comes from Windows, not from the environment.");
 #endif
             QProcess process;
-            QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+            auto environment = QProcessEnvironment::systemEnvironment();
             for (const char* variable : {"LC_ALL", "LC_MESSAGES", "LANG"})
                 environment.insert(variable, locale);
             environment.remove("LANGUAGE");
@@ -133,7 +130,6 @@ private slots:
                      process.readAll().constData());
         });
         row("German", "de_DE.UTF-8", "de");
-        row("German of Austria", "de_AT.UTF-8", "de");
         row("French of Canada", "fr_CA.UTF-8", "fr");
         row("Japanese", "ja_JP.UTF-8", "ja");
         row("Simplified Chinese", "zh_CN.UTF-8", "zh_CN");

@@ -83,7 +83,6 @@ private slots:
             QVERIFY2(difference(frame, expected) < 1.0,
                      "the wrong part of the sensor, or mirrored wrongly");
         });
-        row("upright", false, false);
         row("x", true, false);
         row("y", false, true);
         row("both", true, true);
