@@ -7,9 +7,9 @@ namespace genicam {
 
 namespace {
 
-constexpr std::size_t memory = 256 * 1024 * 1024;
-constexpr std::size_t largestPayload = 1024 * 1024 * 1024;
-constexpr std::uint64_t patience = 100 * 1000; // microseconds
+constexpr std::size_t memory = std::size_t{256} * 1024 * 1024;
+constexpr std::size_t largestPayload = std::size_t{1024} * 1024 * 1024;
+constexpr std::uint64_t patience = std::uint64_t{100} * 1000; // microseconds
 
 } // namespace
 
