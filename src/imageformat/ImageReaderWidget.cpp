@@ -73,7 +73,7 @@ void ImageReaderWidget::chooseFile()
 {
     const QPointer<ImageReaderWidget> self(this);
     const QPointer<QFileDialog> dialog = new QFileDialog(this, QString(), QString(), QString());
-    m_dialog = dialog;
+    m_dialog = dialog.data();
     dialog->setNameFilter(PictureFile::filter(QImageWriter::supportedImageFormats()));
     dialog->setFileMode(QFileDialog::ExistingFile);
     const bool accepted = dialog->exec() == QDialog::Accepted;
@@ -93,7 +93,8 @@ void ImageReaderWidget::chooseFile()
 
 void ImageReaderWidget::closeDialog()
 {
-    const QPointer<QFileDialog> dialog = std::exchange(m_dialog, nullptr);
+    QFileDialog* const dialog = m_dialog;
+    m_dialog.clear();
     if (!dialog)
         return;
     // What the dialog itself asks lies on the stack: neither may be deleted before that has
