@@ -91,7 +91,7 @@ Samples unpack(const std::uint8_t* data, std::size_t size, std::size_t count, co
         const std::size_t high
             = format.packing == Pairs ? (i / 2 * 3 + i % 2 * 2) * 8 : i * distance + bits - 8;
         const std::uint8_t* const byte = data + high / 8;
-        const unsigned pair = byte[0] | (high % 8 ? byte[1] << 8 : 0U);
+        const unsigned pair = byte[0] | (high % 8 ? byte[1] * 256U : 0U);
         samples[i] = static_cast<std::uint8_t>(pair >> high % 8);
     }
     return samples;

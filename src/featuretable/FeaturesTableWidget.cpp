@@ -21,7 +21,11 @@ namespace {
 /// A value cell: display value and FeatureInfo are stored, the accessible text follows from them.
 class FeatureValueItem : public QTableWidgetItem
 {
+    Q_DISABLE_COPY(FeatureValueItem)
+
 public:
+    FeatureValueItem() = default;
+
     QVariant data(int role) const override
     {
         if (role != Qt::AccessibleTextRole)

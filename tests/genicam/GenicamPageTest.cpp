@@ -14,6 +14,7 @@
 #include <QDoubleSpinBox>
 #include <QElapsedTimer>
 #include <QRubberBand>
+#include <QTabWidget>
 #include <QtTest>
 
 using genicam::GenicamCamera;

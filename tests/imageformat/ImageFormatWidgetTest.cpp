@@ -207,7 +207,7 @@ private slots:
         QSignalSpy log(p.page.get(), &ImageFormatWidget::loggingMessage);
         QTemporaryFile file;
         QVERIFY(file.open());
-        QTimer::singleShot(50, [&file] {
+        QTimer::singleShot(50, p.page.get(), [&file] {
             QWidget* const dialog = QApplication::activeModalWidget();
             dialog->findChild<QLineEdit*>()->setText(file.fileName());
             QMetaObject::invokeMethod(dialog, "accept");

@@ -109,7 +109,7 @@ private slots:
                 whenDialogOpens([&](QFileDialog* dialog) {
                     dialog->findChild<QLineEdit*>()->setText(m_folder.filePath("picture.png"));
                     reset();
-                    static_cast<QDialog*>(dialog)->accept();
+                    QMetaObject::invokeMethod(dialog, "accept");
                 });
             bool isLeft = false;
             QTimer::singleShot(200, &selector, [&isLeft] {

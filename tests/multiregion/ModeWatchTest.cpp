@@ -17,7 +17,7 @@ private slots:
     {
         const DataTable row([](int echoes, int latency, int jitter, int longestWait) {
             for (int run = 0; run < 300; ++run) {
-                QRandomGenerator random(run);
+                QRandomGenerator random(static_cast<quint32>(run));
                 ModeWatch watch;
                 std::map<int, int> reports; ///< by tenths of a second
                 const auto report = [&](int time, int count) {

@@ -94,7 +94,7 @@ private slots:
         row("disabled", true, [](Probe* label) { label->setEnabled(false); });
         row("hidden", true, [](Probe* label) { label->hide(); });
         row("sensor lost", true, [](Probe* label) { label->setSensor({-1, -1}); });
-        row("menu", true, [this](Probe* label) {
+        row("menu", true, [](Probe* label) {
             auto* menu = new QMenu(label);
             menu->addAction("action");
             menu->popup(label->mapToGlobal({10, 10}));

@@ -30,10 +30,10 @@ QVariant EnumerationEditor::enteredValue()
 // An entry passed by keys or wheel is told as one chosen from the list is.
 bool EnumerationEditor::eventFilter(QObject* watched, QEvent* event)
 {
-    if (DelegateWidget::eventFilter(watched, event))
-        return true;
-    if (event->type() != QEvent::KeyPress && event->type() != QEvent::Wheel)
-        return false;
+    const bool steps = event->type() == QEvent::KeyPress || event->type() == QEvent::Wheel;
+    const bool isHandled = DelegateWidget::eventFilter(watched, event);
+    if (isHandled || !steps)
+        return isHandled;
     const QScopedValueRollback stepping(m_isStepping, true);
     watched->event(event);
     return true;

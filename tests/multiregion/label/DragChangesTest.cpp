@@ -113,8 +113,8 @@ private slots:
             if (between(0, 1))
                 dragged.band.setSize(labelRect(stored, scale).size());
             const ShownRegion neighbour{1, other, labelRect(other, scale), {}};
-            const QRect result
-                = changesAfterBandDrag({dragged, neighbour}, {}, scale, 0).first().rectangle;
+            const auto changes = changesAfterBandDrag({dragged, neighbour}, {}, scale, 0);
+            const QRect result = changes.first().rectangle;
             QVERIFY(result == stored || QRect(QPoint(), scale.sensor).contains(result));
             if (!overlap(stored, other) && !overlap(dragged.band, neighbour.band))
                 QVERIFY2(!overlap(result, other), qPrintable(text(result) + " " + text(other)));

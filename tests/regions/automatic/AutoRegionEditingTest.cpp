@@ -204,7 +204,7 @@ private slots:
     /// What is not told is no invalid region, and none of width 0.
     void waitsUntilTheRegionIsTold()
     {
-        for (const QString family : {"AutofunctionAOI", dsp}) {
+        for (const QString& family : {QString("AutofunctionAOI"), QString(dsp)}) {
             const std::string name = features(family).at(2).toStdString();
             const AutoROIPage p(family == dsp ? "dsp" : "aoi", [&](sim::Camera& camera) {
                 camera.failures().add(name, sim::Operation::GetValue, sim::Failure::refuse());

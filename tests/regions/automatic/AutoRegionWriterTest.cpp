@@ -34,9 +34,10 @@ private slots:
             QStringList writes;
             for (const sim::JournalEntry& write : camera->journal().writes()) {
                 QCOMPARE(write.result, ZebErrorSuccess);
+                static const QRegularExpression prefix(
+                    "^(AutofunctionAOI|AutoModeRegion|DSPSubregion)");
                 writes << QString::fromStdString(write.feature + ' ' + write.value.toText())
-                              .remove(QRegularExpression("^(AutofunctionAOI|AutoModeRegion|DSPSub"
-                                                         "region)"));
+                              .remove(prefix);
             }
             QCOMPARE(writes.join(", "), expected);
         });
