@@ -29,6 +29,8 @@ public:
     ~InnerPage() override;
 
     bool eventFilter(QObject* watched, QEvent* event) override;
+    /// A wrapped warning must not make all that is around the page as high as it would like to be.
+    bool hasHeightForWidth() const override { return false; }
 
 protected:
     /// No refresh while it lives: a question to the user, or work on many values. What was to be

@@ -220,13 +220,6 @@ QStringList AOIWidget::refresh(const Changes& changes)
     return untold;
 }
 
-void AOIWidget::showEvent(QShowEvent* event)
-{
-    if (m_ui)
-        reserveProblemLines();
-    InnerPage::showEvent(event);
-}
-
 void AOIWidget::readMultipleRegions()
 {
     const Reading<double> isEnabled
@@ -282,17 +275,6 @@ QString AOIWidget::problemText(bool isTooWide, bool isTooHigh)
     if (isTooHigh)
         text += tr("\n\tOffsetY + Height > Maximum Height! ");
     return text;
-}
-
-// The text comes and goes during a drag, and must not resize the picture beneath the mouse.
-void AOIWidget::reserveProblemLines()
-{
-    QLabel* const label = m_ui->labelInvalidSettings;
-    QSizePolicy policy = label->sizePolicy();
-    policy.setRetainSizeWhenHidden(true);
-    label->setSizePolicy(policy);
-    label->setFixedHeight(
-        label->fontMetrics().size(Qt::TextExpandTabs, problemText(true, true)).height());
 }
 
 // The viewer

@@ -46,13 +46,11 @@ public slots:
 protected:
     bool isAtWork() const override;
     QStringList refresh(const Changes& changes) override;
-    void showEvent(QShowEvent* event) override;
 
 private:
     void createAxes();
     void createLabel();
     void connectForm();
-    void reserveProblemLines();
 
     void writeOffset(const std::unique_ptr<RegionAxis>& axis, double value);
     void writeSize(const std::unique_ptr<RegionAxis>& axis, double value);
