@@ -8,11 +8,9 @@
 #include "regions/AOIWidget.h"
 #include "regions/AutoROIWidget.h"
 #include "ui_ImageFormatWidget.h"
-#include "widgets/WheelGuard.h"
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QEvent>
 #include <QSpinBox>
 
 #include <algorithm>
@@ -111,13 +109,6 @@ template <typename Page> Page* ImageFormatWidget::addRegionPage()
     return page.release();
 }
 
-void ImageFormatWidget::guardAgainstWheel(QWidget* field)
-{
-    // With the default policy the wheel itself would give the field its focus.
-    field->setFocusPolicy(Qt::StrongFocus);
-    field->installEventFilter(this);
-}
-
 void ImageFormatWidget::bindFields()
 {
     const QStringList existing = featureManager->GetFeatureNames();
@@ -199,7 +190,7 @@ void ImageFormatWidget::write(const QMetaObject& fieldType, const QVariant& valu
     }
     const QString feature = FeatureBinder::featureOf(field);
     if (!m_binder->write(static_cast<QWidget*>(field), value))
-        OnFeatureChanged(feature, {});
+        readAgain({feature});
     // A stored background image no longer matches the sensor.
     if (Name::pictureGeometry.contains(feature))
         resetImageSource();
@@ -229,20 +220,10 @@ void ImageFormatWidget::refreshFeatures()
     const auto fields = m_binder->boundTo(names);
     for (QWidget* const field : fields) {
         if (!m_binder->show(field))
-            OnFeatureChanged(FeatureBinder::featureOf(field), {});
+            readAgain({FeatureBinder::featureOf(field)});
     }
     if (geometry() != formerGeometry)
         resetImageSource();
-}
-
-bool ImageFormatWidget::eventFilter(QObject* watched, QEvent* event)
-{
-    if (isUnfocusedFieldWheel(watched, event)) {
-        // Ignored, so that it goes on to the scroll area.
-        event->ignore();
-        return true;
-    }
-    return BaseTabPluginWidget::eventFilter(watched, event);
 }
 
 void ImageFormatWidget::updateIcon()

@@ -21,8 +21,6 @@ public:
     ImageFormatWidget(const FeatureList& camera, QWidget* parent);
     ~ImageFormatWidget() override;
 
-    bool eventFilter(QObject* watched, QEvent* event) override;
-
 signals:
     /// For the region pages, whenever the viewer reports that streaming started or stopped.
     void acquisitionRunning(bool running);
@@ -47,7 +45,6 @@ private:
     void addRegionPages();
     void bindFields();
     bool bind(QWidget* field, const QStringList& existing);
-    void guardAgainstWheel(QWidget* field);
     void write(const QMetaObject& fieldType, const QVariant& value);
     void resetImageSource();
     void updateIcon();

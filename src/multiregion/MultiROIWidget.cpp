@@ -188,7 +188,7 @@ void MultiROIWidget::onArrangementModeChanged(int index)
     const RegionWriter::Call call(*m_writer);
     m_settings->writeArrangement(index);
     if (!refreshArrangement())
-        readNext({Name::multipleRegionArrangement});
+        readAgain({Name::multipleRegionArrangement});
     // The camera may have moved regions to fit.
     m_writer->readAll();
 }
@@ -315,7 +315,7 @@ void MultiROIWidget::onEnableToggled(bool enabled)
     m_settings->writeSwitch(enabled);
     m_enabled.reset(); // a refused switch is told too
     if (!refreshSwitch())
-        readNext(Name::multipleRegionSwitches);
+        readAgain(Name::multipleRegionSwitches);
 }
 
 bool MultiROIWidget::isAtWork() const

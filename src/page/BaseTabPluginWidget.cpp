@@ -6,6 +6,7 @@
 #include "page/FeatureObservation.h"
 #include "page/TENotSupported.h"
 #include "widgets/SilentFields.h"
+#include "widgets/WheelGuard.h"
 
 #include <QApplication>
 #include <QDebug>
@@ -165,6 +166,21 @@ void BaseTabPluginWidget::refreshWhileAnswered()
     refreshFeatures();
     if (page && link->isLost())
         m_wasLost = true;
+}
+
+void BaseTabPluginWidget::guardAgainstWheel(QWidget* field)
+{
+    // With the default policy the wheel itself would give the field its focus.
+    field->setFocusPolicy(Qt::StrongFocus);
+    field->installEventFilter(this);
+}
+
+bool BaseTabPluginWidget::eventFilter(QObject* watched, QEvent* event)
+{
+    if (!isUnfocusedFieldWheel(watched, event))
+        return QWidget::eventFilter(watched, event);
+    event->ignore(); // so that it goes on to the scroll area
+    return true;
 }
 
 void BaseTabPluginWidget::showEvent(QShowEvent* event)

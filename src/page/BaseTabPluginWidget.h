@@ -72,6 +72,10 @@ protected:
     /// The camera does not answer any more. Tells the outer page; the outermost tells the viewer.
     virtual void reportLoss(const QString& message);
 
+    /// The field takes the wheel only while it has the focus; without it the page scrolls.
+    void guardAgainstWheel(QWidget* field);
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
     void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;
     void changeEvent(QEvent* event) override;

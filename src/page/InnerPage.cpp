@@ -1,10 +1,7 @@
 #include "page/InnerPage.h"
 
-#include "widgets/WheelGuard.h"
-
 #include <QAbstractSpinBox>
 #include <QComboBox>
-#include <QEvent>
 #include <QTimer>
 
 #include <algorithm>
@@ -17,13 +14,6 @@ bool Changes::any(const QStringList& candidates) const
            });
 }
 
-void Changes::add(const Changes& more)
-{
-    all = all || more.all;
-    names += more.names;
-    names.removeDuplicates();
-}
-
 InnerPage::Busy::Busy(InnerPage* page)
     : m_page(page)
 {
@@ -32,7 +22,8 @@ InnerPage::Busy::Busy(InnerPage* page)
 
 InnerPage::Busy::~Busy()
 {
-    if (!m_page || --m_page->m_busy > 0 || m_page->m_pending.isEmpty())
+    if (!m_page || --m_page->m_busy > 0
+        || (!m_page->m_readsAll && m_page->changedFeatures->isEmpty()))
         return;
     // Once the events under way are done with. A page that nobody sees leaves the camera alone.
     QTimer::singleShot(0, m_page, [page = m_page.data()] {
@@ -62,26 +53,14 @@ InnerPage::~InnerPage()
 void InnerPage::guardFieldsAgainstWheel()
 {
     for (QWidget* field : findChildren<QWidget*>()) {
-        if (!qobject_cast<QAbstractSpinBox*>(field) && !qobject_cast<QComboBox*>(field))
-            continue;
-        // The default policy lets the wheel itself take the focus.
-        field->setFocusPolicy(Qt::StrongFocus);
-        field->installEventFilter(this);
+        if (qobject_cast<QAbstractSpinBox*>(field) || qobject_cast<QComboBox*>(field))
+            guardAgainstWheel(field);
     }
-}
-
-bool InnerPage::eventFilter(QObject* watched, QEvent* event)
-{
-    if (isUnfocusedFieldWheel(watched, event)) {
-        event->ignore();
-        return true;
-    }
-    return BaseTabPluginWidget::eventFilter(watched, event);
 }
 
 void InnerPage::readSoon(const QStringList& names)
 {
-    readNext(names);
+    readAgain(names);
     m_soonTimer->start();
 }
 
@@ -99,14 +78,17 @@ void InnerPage::showEvent(QShowEvent* event)
 
 void InnerPage::refreshFeatures()
 {
-    readNext(*changedFeatures);
-    if (m_isRefreshing || isBusy() || isAtWork())
+    const Changes changes{m_readsAll, *changedFeatures};
+    if (m_isRefreshing || isBusy() || isAtWork()) {
+        readAgain(changes.names);
         return;
+    }
     const QPointer<InnerPage> self(this);
     m_isRefreshing = true;
-    const QStringList untold = refresh(std::exchange(m_pending, {}));
+    m_readsAll = false;
+    const QStringList untold = refresh(changes);
     if (!self)
         return;
     m_isRefreshing = false;
-    readNext(untold);
+    readAgain(untold);
 }

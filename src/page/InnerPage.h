@@ -15,11 +15,10 @@ struct Changes
     bool isEmpty() const { return !all && names.isEmpty(); }
     /// Whether one of @p candidates has to be read.
     bool any(const QStringList& candidates) const;
-    void add(const Changes& more);
 };
 
-/// Base of the three region pages: keeps what is still to be read, from notifications and from what
-/// the page itself did, until the user is not at work and the camera has told it.
+/// Base of the three region pages: what is to be read, after notifications and after what the page
+/// itself did, waits until the user is not at work and the camera has told it.
 class InnerPage : public BaseTabPluginWidget
 {
     Q_OBJECT
@@ -28,7 +27,6 @@ public:
     InnerPage(const FeatureList& camera, QWidget* parent);
     ~InnerPage() override;
 
-    bool eventFilter(QObject* watched, QEvent* event) override;
     /// A wrapped warning must not make all that is around the page as high as it would like to be.
     bool hasHeightForWidth() const override { return false; }
 
@@ -57,15 +55,13 @@ protected:
     /// tick, also without changes.
     virtual QStringList refresh(const Changes& changes) = 0;
 
-    // Cameras need not notify of what the page itself did. With the next refresh, whenever it
-    // comes:
-    void readNext(const QStringList& names) { m_pending.add({false, names}); }
-    void readAllNext() { m_pending.add({true, {}}); }
+    // Cameras need not notify of what the page itself did: with the next refresh, as readAgain(),
+    void readAllNext() { m_readsAll = true; }
     // and in 200 ms:
     void readSoon(const QStringList& names);
     void readAllSoon();
 
-    /// Keeps the wheel from changing fields without focus. To be called when the form is built.
+    /// To be called when the form is built.
     void guardFieldsAgainstWheel();
 
     bool isRefreshing() const { return m_isRefreshing; }
@@ -78,7 +74,7 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
-    Changes m_pending{true, {}};
+    bool m_readsAll = true;
     QTimer* m_soonTimer;
     int m_busy = 0;
     bool m_isRefreshing = false;

@@ -61,7 +61,7 @@ void AOIWidget::createAxes()
         *featureManager,
         RegionAxisNames{Name::offsetX, Name::width, Name::widthMax, Name::sensorWidth},
         m_ui->spinLeft, m_ui->spinWidth);
-    readNext(m_vertical->readAll(m_ui->spinLeft) + m_horizontal->readAll(m_ui->spinLeft));
+    readAgain(m_vertical->readAll(m_ui->spinLeft) + m_horizontal->readAll(m_ui->spinLeft));
 }
 
 void AOIWidget::createLabel()
@@ -214,7 +214,7 @@ QStringList AOIWidget::refresh(const Changes& changes)
         readMultipleRegions();
     // Only when they were not told: a picture is scaled for them.
     if (changes.names.contains(Name::sensorWidth))
-        showBackgroundAgain();
+        showBackground();
     enableRegion();
     showRegion();
     return untold;
@@ -227,7 +227,7 @@ void AOIWidget::readMultipleRegions()
     if (isEnabled.value)
         onMultipleRegionsEnabled(*isEnabled.value > 0.0);
     if (!isEnabled.isComplete)
-        readNext({Name::multipleRegionEnable});
+        readAgain({Name::multipleRegionEnable});
 }
 
 // A region takes all four numbers.
@@ -247,7 +247,7 @@ void AOIWidget::showRegion()
     if (m_label->sensorSize() != sensor) {
         m_label->setSensorSize(sensor.width(), sensor.height());
         if (m_background)
-            showBackgroundAgain();
+            showBackground();
     }
     checkConsistency();
     if (!m_horizontal->isTold() || !m_vertical->isTold())
@@ -309,20 +309,15 @@ void AOIWidget::setBackgroundImage(std::shared_ptr<QPixmap> image)
     m_horizontal->forgetMaximum();
     m_vertical->forgetMaximum();
     showBackground();
+    QApplication::restoreOverrideCursor(); // that of whoever chose the image
 }
 
 void AOIWidget::showBackground()
 {
+    QApplication::setOverrideCursor(Qt::WaitCursor); // which the label takes back
     const bool isTold = m_horizontal->readSensor();
     if (!m_vertical->readSensor() || !isTold)
-        readNext({Name::sensorWidth});
+        readAgain({Name::sensorWidth});
     m_label->showBackground(m_background,
                             {toInt(m_horizontal->sensor()), toInt(m_vertical->sensor())}, {});
-}
-
-// Showing an image takes back the cursor of whoever chose it; nobody did.
-void AOIWidget::showBackgroundAgain()
-{
-    QApplication::setOverrideCursor(Qt::WaitCursor);
-    showBackground();
 }

@@ -61,7 +61,6 @@ private:
     void enableRegion();
     void readMultipleRegions();
     void showBackground();
-    void showBackgroundAgain();
     void showRegion();
     void checkConsistency();
     static QString problemText(bool isTooWide, bool isTooHigh);

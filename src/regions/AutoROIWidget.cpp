@@ -1,7 +1,6 @@
 #include "regions/AutoROIWidget.h"
 
 #include "features/FeatureNames.h"
-#include "regions/AutoROIConnections.h"
 #include "regions/automatic/AutoRegionForm.h"
 #include "regions/automatic/AutoRegionPicture.h"
 #include "regions/automatic/AutoRegionView.h"
@@ -40,8 +39,8 @@ AutoROIWidget::AutoROIWidget(const FeatureList& camera, QWidget* parent)
     createParts();
     adaptForm(*m_ui, *m_camera);
     guardFieldsAgainstWheel();
-    readNext(showEntries() + m_exposure->refresh());
-    connectForm(*this, *m_ui, *m_camera);
+    readAgain(showEntries() + m_exposure->refresh());
+    connectForm();
     connectLabel();
     loadRegion();
     showRegion();
@@ -65,6 +64,46 @@ void AutoROIWidget::createParts()
     m_picture = std::make_unique<AutoRegionPicture>(*m_camera, *m_ui->gb_AutoROI->layout());
     m_exposure = std::make_unique<ExposureLimits>(*featureManager, m_ui->spinExpAutoMin,
                                                   m_ui->spinExpAutoMax);
+}
+
+/// Connects what the camera has features for.
+void AutoROIWidget::connectForm()
+{
+    using Page = AutoROIWidget;
+    constexpr auto valueChanged = QOverload<double>::of(&QDoubleSpinBox::valueChanged);
+    const auto connect = [this](auto* sender, auto signal, auto slot) {
+        QObject::connect(sender, signal, this, slot);
+    };
+    const auto connectField = [&](const QDoubleSpinBox* field, void (Page::*slot)(double)) {
+        connect(field, valueChanged, slot);
+        connect(field, &QDoubleSpinBox::editingFinished, &Page::OnSpinEditingFinished);
+    };
+    connectField(m_ui->spinTop, &Page::OnSpinTopValueChanged);
+    connectField(m_ui->spinLeft, &Page::OnSpinLeftValueChanged);
+    if (m_camera->has(RegionNumber::Bottom)) {
+        connectField(m_ui->spinRight, &Page::OnSpinRightValueChanged);
+        connectField(m_ui->spinBottom, &Page::OnSpinBottomValueChanged);
+    } else if (m_camera->usesSizes()) {
+        connectField(m_ui->spinWidth, &Page::OnSpinWidthValueChanged);
+        connectField(m_ui->spinHeight, &Page::OnSpinHeightValueChanged);
+    }
+    if (!m_ui->cbEnable->isHidden())
+        connect(m_ui->cbEnable, &QCheckBox::stateChanged, &Page::OnEnableStateChanged);
+    if (!m_ui->cbShowArea->isHidden())
+        connect(m_ui->cbShowArea, &QCheckBox::stateChanged, &Page::OnShowAreaStateChanged);
+    constexpr auto clicked = &QPushButton::clicked;
+    constexpr auto chosen = &QComboBox::currentTextChanged;
+    connect(m_ui->btnFull, clicked, &Page::OnROIFull);
+    connect(m_ui->btnHalf, clicked, &Page::OnROIHalf);
+    connect(m_ui->btnQuarter, clicked, &Page::OnROIQuarter);
+    connect(m_ui->comboIntensityControllerRegion, chosen,
+            &Page::OnIntensityControllerRegionChanged);
+    if (!m_ui->comboExpAutoTimeBase->isHidden())
+        connect(m_ui->comboExpAutoTimeBase, chosen, &Page::OnExpAutoTimebaseChanged);
+    connect(m_ui->spinExpAutoMin, valueChanged, &Page::OnSpinExpAutoMinChanged);
+    connect(m_ui->spinExpAutoMax, valueChanged, &Page::OnSpinExpAutoMaxChanged);
+    connect(m_ui->btnExpAutoMinCurrent, clicked, &Page::OnBtnExpAutoMinCurrentClicked);
+    connect(m_ui->btnExpAutoMaxCurrent, clicked, &Page::OnBtnExpAutoMaxCurrentClicked);
 }
 
 void AutoROIWidget::connectLabel()
@@ -122,7 +161,7 @@ void AutoROIWidget::OnShowAreaStateChanged(int state)
     if (!m_ui)
         return;
     showChecked(m_ui->cbShowArea, shown > 0.0);
-    readNext({Name::aoiShowArea});
+    readAgain({Name::aoiShowArea});
 }
 
 void AutoROIWidget::OnIntensityControllerRegionChanged(const QString& region)
@@ -135,7 +174,7 @@ void AutoROIWidget::OnIntensityControllerRegionChanged(const QString& region)
 void AutoROIWidget::writeEntry(QComboBox* comboBox, const QString& name, const QString& entry)
 {
     if (m_camera->has(name) && !showEntry(comboBox, featureManager->SetStringValue(name, entry)))
-        readNext({name});
+        readAgain({name});
 }
 
 // False when the page was deleted meanwhile.
@@ -232,7 +271,7 @@ template <typename Preset> void AutoROIWidget::applyPreset(const Preset& preset)
 void AutoROIWidget::writeLimit(ExposureLimits::Which which, double value)
 {
     if (m_ui)
-        readNext(m_exposure->write(which, value));
+        readAgain(m_exposure->write(which, value));
 }
 
 void AutoROIWidget::useTime(ExposureLimits::Which which)
@@ -246,7 +285,7 @@ void AutoROIWidget::OnExpAutoTimebaseChanged(const QString& timebase)
     if (!m_ui || !m_camera->has(Name::exposureAutoTimebase))
         return;
     writeEntry(m_ui->comboExpAutoTimeBase, Name::exposureAutoTimebase, timebase);
-    readNext(m_exposure->refresh());
+    readAgain(m_exposure->refresh());
 }
 
 // The viewer and the camera
@@ -270,7 +309,7 @@ void AutoROIWidget::setBackgroundImage(std::shared_ptr<QPixmap> image)
     if (!m_ui)
         return;
     m_picture->setImage(std::move(image));
-    readNext(m_camera->takeUntold());
+    readAgain(m_camera->takeUntold());
 }
 
 // What the page shows of the camera

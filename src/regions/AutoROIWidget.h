@@ -66,6 +66,7 @@ protected:
 
 private:
     void createParts();
+    void connectForm();
     void connectLabel();
     void loadRegion();
     void enableControls(bool enabled);

@@ -19,7 +19,7 @@ public:
 
     using InnerPage::busy;
     using InnerPage::readAllSoon;
-    using InnerPage::readNext;
+    using InnerPage::readAgain;
     using InnerPage::readSoon;
 
     QList<Changes> refreshes;
@@ -126,7 +126,7 @@ private slots:
         {
             const auto outer = p.page.busy();
             const auto inner = p.page.busy();
-            p.page.readNext({"Height"});
+            p.page.readAgain({"Height"});
             p.page.updateTimer();
         }
         QVERIFY(p.page.refreshes.isEmpty());

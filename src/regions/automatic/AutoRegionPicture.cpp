@@ -24,6 +24,7 @@ void AutoRegionPicture::setImage(std::shared_ptr<QPixmap> image)
     m_imageWaits = m_label->isDragging();
     if (!m_imageWaits)
         showImage();
+    QGuiApplication::restoreOverrideCursor(); // that of whoever chose the image
 }
 
 void AutoRegionPicture::showWaitingImage()
@@ -35,7 +36,7 @@ void AutoRegionPicture::showWaitingImage()
 void AutoRegionPicture::retryImage()
 {
     if (!m_isPlaceTold)
-        showImageAgain();
+        showImage();
 }
 
 void AutoRegionPicture::followLimits()
@@ -44,18 +45,12 @@ void AutoRegionPicture::followLimits()
     if (m_label->sensorSize() == size)
         return;
     m_label->setSensorSize(size.width(), size.height());
-    showImageAgain();
-}
-
-// Showing an image takes back the cursor of whoever chose it; nobody did.
-void AutoRegionPicture::showImageAgain()
-{
-    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
     showImage();
 }
 
 void AutoRegionPicture::showImage()
 {
+    QGuiApplication::setOverrideCursor(Qt::WaitCursor); // which the label takes back
     const int untoldBefore = m_camera.untoldCount();
     const QRect region = m_camera.readImageRegion(m_image != nullptr);
     const QSize sensor = m_camera.readSensorSize();

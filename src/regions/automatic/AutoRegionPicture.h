@@ -30,7 +30,6 @@ public:
 
 private:
     void showImage();
-    void showImageAgain();
 
     AutoRegionCamera& m_camera;
     RubberBandLabel* m_label;
