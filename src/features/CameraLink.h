@@ -6,15 +6,12 @@
 
 #include <chrono>
 
-/// Whether the camera still answers; all pages and tables of a camera share one.
+/// Whether the camera still answers; all pages and tables of a camera share one. One that was
+/// unplugged lets every call wait before it fails.
 ///
-/// A camera that was unplugged lets every call wait before it fails, and a refresh makes hundreds:
-/// it would hold up the viewer for minutes. The link stops no call. What makes many calls asks it,
-/// or lets ManyReads ask; an edit, its read-back and the end of an observation never do. It hears
-/// of what comes from the camera: values, ranges, increments, access. Names, types and descriptions
-/// come from the SDK's memory and answer when the camera is long gone.
-///
-/// For the GUI thread only.
+/// The link stops no call: what makes many calls asks it, an edit never does. It hears of values,
+/// ranges, increments and access; names and types answer when the camera is long gone. For the GUI
+/// thread only.
 class CameraLink
 {
 public:

@@ -9,14 +9,11 @@
 #include <QVariant>
 #include <QVector>
 
-/// Typed access to the features of one camera by name.
+/// Typed access to the features of one camera by name. Alternative names are tried in order when
+/// the one before is missing; they are compared byte by byte, and the first feature of that name
+/// wins.
 ///
-/// Most operations take one or two alternative names, tried in order when the one before is
-/// missing, so that one page serves cameras of different generations. Names are compared byte by
-/// byte; the first feature of that name wins.
-///
-/// Nothing throws. What is missing or cannot be read has a fixed value: -1 for numbers, false,
-/// empty texts, data type unknown.
+/// Nothing throws. What is missing or cannot be read is -1 for numbers, else false, empty, unknown.
 class FeatureManager
 {
 public:
@@ -153,9 +150,8 @@ public:
                                    const QString& alternative2, const QString& value);
 
     /// Writes a number, clamped to the range, and answers the value in effect afterwards; integers
-    /// and the integer's maximum are first aligned to the increment, counted from 0. A boolean is
-    /// set by any value above 0. What is not writable is only read back; without the feature, or
-    /// when it is no number, the answer is @p value.
+    /// and their maximum are first aligned to the increment, counted from 0. A boolean is set by
+    /// any value above 0. Without the feature, or when it is no number, the answer is @p value.
     virtual double SetValue(const QString& name, double value) { return SetValue(name, {}, value); }
     virtual double SetValue(const QString& name, const QString& alternative, double value)
     {

@@ -4,10 +4,9 @@
 #include <limits>
 #include <type_traits>
 
-/// Conversions from double that the language leaves undefined outside the target's range.
-///
-/// The value is truncated toward zero; what lies outside the target saturates at its nearest bound,
-/// NaN becomes 0. Cameras report all of these: unset ranges come as infinities or as 2^63.
+/// Truncates toward zero; what lies outside the target, which the language leaves undefined,
+/// saturates at its nearest bound, NaN becomes 0. Cameras report unset ranges as infinities or
+/// 2^63.
 template <typename Integer> constexpr Integer saturatingCast(double value)
 {
     static_assert(std::is_integral_v<Integer>);

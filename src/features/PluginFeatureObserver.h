@@ -5,10 +5,8 @@
 #include <QObject>
 #include <QString>
 
-/// Turns the SDK's change notifications into a Qt signal.
-///
-/// The signal is emitted on the thread that the SDK notifies on. The object has no state, so
-/// notifications may come from several threads at once.
+/// Turns the SDK's change notifications into a Qt signal, emitted on the SDK's thread. Having no
+/// state, it may be notified by several threads at once.
 class PluginFeatureObserver : public QObject, public ZebCPP::IFeatureObserver
 {
     Q_OBJECT

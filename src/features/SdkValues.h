@@ -22,10 +22,6 @@ constexpr auto commandType = static_cast<ZebFeatureDataType>(6);
 constexpr auto rawType = static_cast<ZebFeatureDataType>(7);
 
 constexpr auto unknownVisibility = static_cast<ZebFeatureVisibilityType>(0);
-constexpr auto beginner = static_cast<ZebFeatureVisibilityType>(1);
-constexpr auto expert = static_cast<ZebFeatureVisibilityType>(2);
-constexpr auto guru = static_cast<ZebFeatureVisibilityType>(3);
-constexpr auto invisible = static_cast<ZebFeatureVisibilityType>(4);
 
 constexpr auto readFlag = static_cast<ZebFeatureFlagsType>(1);
 constexpr std::uint32_t writeOrVolatileFlags = 0x1A; ///< write, volatile, modify-write

@@ -12,9 +12,8 @@
 #include <vector>
 
 /// The SDK's way to fetch texts and lists: ask for the length with a null buffer, then fill a
-/// buffer of that length. A camera may change between the two calls, so the second length is only
-/// believed up to what was allocated; and lengths beyond the limits below are taken for nonsense
-/// and answered with Sdk::resources. Nothing here throws.
+/// buffer of that length. A camera may change between the two calls: the second length is believed
+/// up to what was allocated. Lengths beyond the limits answer Sdk::resources. Nothing throws.
 namespace TwoCallPattern {
 
 constexpr std::uint32_t maximumTextBytes = 16u << 20;

@@ -5,9 +5,7 @@
 
 /// Draws the feature names. Their dark green is meant for light backgrounds and is lightened on a
 /// dark one. Every name asks for the width of the longest, so that the column keeps its width while
-/// rows are scrolled or filtered, and the view has to measure visible rows only.
-///
-/// To be installed when the names are in the model; they are measured once for each font.
+/// rows are scrolled or filtered. To be installed when the names are in the model.
 class FeatureNameDelegate : public QStyledItemDelegate
 {
     Q_OBJECT

@@ -15,13 +15,9 @@ class FeatureManager;
 class MyTableWidget;
 
 /// A table of camera features: names in the first column, values in the second, which are edited in
-/// place and written to the camera. The owner reports changed features through updateFeatures().
-///
-/// A double click on a cell begins the editing. An open editor is never overwritten.
-///
-/// Pending rows are to be named in a later updateFeatures(): what the camera did not tell stays as
-/// it is shown, a row whose editor is open was passed over, and of a value that was written the
-/// camera may have made another.
+/// place and written to the camera. The owner reports changed features through updateFeatures(),
+/// and names pending rows again: what the camera did not tell stays as it is shown, a row whose
+/// editor is open was passed over, and of a written value the camera may have made another.
 ///
 /// Slots of its signals may close the editor, but must not delete the table, which is still in the
 /// midst of the editor's commit: deleteLater() does.
@@ -42,7 +38,6 @@ public:
     /// Commits what an open editor holds, as far as it is acceptable, and closes it.
     void finishEditing();
 
-    /// The rows to be read again.
     QStringList pendingFeatures() const { return m_pending; }
 
     /// Shows the rows whose name, display name or description contains @p filter, all when empty.

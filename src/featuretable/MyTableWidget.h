@@ -3,10 +3,8 @@
 #include <QTableWidget>
 
 /// A table that searches for typed text in the first column only: while a value is current, typing
-/// does not move the selection.
-///
-/// Qt sets the pixels of grid lines one by one, which takes as long as all else that is painted. So
-/// the table has lines of no style, which keep their place, and paints them itself.
+/// does not move the selection. It paints its grid lines itself: Qt sets their pixels one by one,
+/// which takes as long as all else that is painted.
 class MyTableWidget : public QTableWidget
 {
     Q_OBJECT

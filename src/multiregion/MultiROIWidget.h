@@ -20,11 +20,8 @@ namespace Ui {
 class MultiROIWidget;
 }
 
-/// The page of the camera's multiple regions: keeps the sensor area, the tables and the camera in
-/// step. Only the page writes to the camera.
-///
-/// A camera without multiple regions leaves the accessible name empty; such a page is to be
-/// deleted.
+/// The page of the camera's multiple regions. A camera without them leaves the accessible name
+/// empty; such a page is to be deleted.
 class MultiROIWidget : public InnerPage
 {
     Q_OBJECT

@@ -4,22 +4,12 @@
 #include "multiregion/RegionTabs.h"
 #include "multiregion/RegionWriter.h"
 #include "multiregion/rules/DefaultLayouts.h"
+#include "multiregion/rules/RegionText.h"
 #include "sensor/Span.h"
 #include "widgets/OverrideCursor.h"
 
-#include <QCoreApplication>
-
 #include <mutex>
 #include <utility>
-
-namespace {
-
-struct Text
-{
-    Q_DECLARE_TR_FUNCTIONS(MultiROIWidget)
-};
-
-} // namespace
 
 RegionActivation::RegionActivation(RegionCamera& camera, RegionTabs& tabs, RegionWriter& writer,
                                    Ask ask)
@@ -123,9 +113,10 @@ std::optional<QRect> RegionActivation::placement(int region, Qt::Orientation axi
     const QRect placed
         = placedRegion(axis, {lengthOf(*sensor, axis), *first, *before, *current, *size});
     if (placed.isNull())
-        m_writer.log(Text::tr("Region%1 cannot be activated into a valid configuration due to the "
-                              "minimum size.")
-                         .arg(region));
+        m_writer.log(
+            RegionText::tr("Region%1 cannot be activated into a valid configuration due to the "
+                           "minimum size.")
+                .arg(region));
     return placed;
 }
 

@@ -5,9 +5,8 @@
 #include "features/NumberConversion.h"
 #include "features/Reading.h"
 #include "features/SdkValues.h"
+#include "multiregion/rules/RegionText.h"
 #include "sensor/PixelRect.h"
-
-#include <QCoreApplication>
 
 #include <algorithm>
 #include <mutex>
@@ -15,11 +14,6 @@
 namespace Name = FeatureNames;
 
 namespace {
-
-struct Text
-{
-    Q_DECLARE_TR_FUNCTIONS(MultiROIWidget)
-};
 
 const QString onEntry = QStringLiteral("On");
 const QString offEntry = QStringLiteral("Off");
@@ -122,8 +116,8 @@ RegionCamera::Selection RegionCamera::select(int region)
 QString RegionCamera::failureOf(int region) const
 {
     return m_isEnumerated
-        ? Text::tr("Set 'SubRegionSelector' = '%1' failed!").arg(regionEntry.arg(region))
-        : Text::tr("Set 'SubRegionSelector' = %1 failed!").arg(region);
+        ? RegionText::tr("Set 'SubRegionSelector' = '%1' failed!").arg(regionEntry.arg(region))
+        : RegionText::tr("Set 'SubRegionSelector' = %1 failed!").arg(region);
 }
 
 std::optional<int> RegionCamera::readSelected() const

@@ -1,63 +1,55 @@
 #include "multiregion/RegionQuestions.h"
 
-#include <QCoreApplication>
+#include "multiregion/rules/RegionText.h"
+
 #include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
 
 namespace {
 
-struct Text
+using Box = QMessageBox;
+
+struct BoxContent
 {
-    Q_DECLARE_TR_FUNCTIONS(MultiROIWidget)
+    Box::Icon icon;
+    QString title;
+    QString text;
+    Box::StandardButtons buttons;
 };
 
-QString textOf(Question question, const QString& mode)
+BoxContent contentFor(Question question, const QString& mode)
 {
+    const QString off = RegionText::tr("Deactivate Region");
     const bool isColumn = question == Question::ColumnOff || question == Question::ColumnOn;
-    const QString part = isColumn ? Text::tr("column") : Text::tr("row");
+    const QString part = isColumn ? RegionText::tr("column") : RegionText::tr("row");
     switch (question) {
+    case Question::LoadDefaults:
+        return {Box::Question, RegionText::tr("Load Default Configuration"),
+                RegionText::tr("Overwrite the current region settings?"), Box::Yes | Box::No};
+    case Question::RowOrColumnOff:
+        return {Box::Question, off,
+                RegionText::tr("Currently selected Arrangement Mode 'Tile' requires deactivation "
+                               "of either a row or a column.\nWhat would you deactivate?"),
+                Box::NoButton};
     case Question::SubsequentOff:
-        return Text::tr("Currently selected Arrangement Mode '%1' requires deactivation of all "
-                        "subsequent regions.")
-            .arg(mode);
+        return {Box::Information, off,
+                RegionText::tr("Currently selected Arrangement Mode '%1' requires deactivation of "
+                               "all subsequent regions.")
+                    .arg(mode),
+                Box::Ok | Box::Cancel};
     case Question::ColumnOff:
     case Question::RowOff:
-        return Text::tr("Currently selected Arrangement Mode '%1' requires deactivation of the "
-                        "whole %2.")
-            .arg(mode, part);
-    case Question::RowOrColumnOff:
-        return Text::tr("Currently selected Arrangement Mode 'Tile' requires deactivation of "
-                        "either a row or a column.\nWhat would you deactivate?");
-    case Question::ColumnOn:
-    case Question::RowOn:
-        return Text::tr("Arrangement Mode '%1' requires activation of the whole %2.")
-            .arg(mode, part);
+        return {Box::Information, off,
+                RegionText::tr("Currently selected Arrangement Mode '%1' requires deactivation of "
+                               "the whole %2.")
+                    .arg(mode, part),
+                Box::Ok | Box::Cancel};
     default:
-        return Text::tr("Overwrite the current region settings?");
-    }
-}
-
-QString titleOf(Question question)
-{
-    if (question == Question::LoadDefaults)
-        return Text::tr("Load Default Configuration");
-    const bool isOn = question == Question::ColumnOn || question == Question::RowOn;
-    return isOn ? Text::tr("Activate Region") : Text::tr("Deactivate Region");
-}
-
-QMessageBox::StandardButtons buttonsOf(Question question)
-{
-    switch (question) {
-    case Question::RowOrColumnOff:
-        return QMessageBox::NoButton;
-    case Question::LoadDefaults:
-        return QMessageBox::Yes | QMessageBox::No;
-    case Question::ColumnOn:
-    case Question::RowOn:
-        return QMessageBox::Ok;
-    default:
-        return QMessageBox::Ok | QMessageBox::Cancel;
+        return {Box::Information, RegionText::tr("Activate Region"),
+                RegionText::tr("Arrangement Mode '%1' requires activation of the whole %2.")
+                    .arg(mode, part),
+                Box::Ok};
     }
 }
 
@@ -65,17 +57,16 @@ QMessageBox::StandardButtons buttonsOf(Question question)
 
 Answer askUser(Question question, const QString& mode, QWidget* parent)
 {
+    const BoxContent content = contentFor(question, mode);
+    const QPointer<Box> box
+        = new Box(content.icon, content.title, content.text, content.buttons, parent);
     const bool isLoad = question == Question::LoadDefaults;
-    const bool isChoice = question == Question::RowOrColumnOff;
-    const QPointer<QMessageBox> box
-        = new QMessageBox(isLoad || isChoice ? QMessageBox::Question : QMessageBox::Information,
-                          titleOf(question), textOf(question, mode), buttonsOf(question), parent);
-    const QAbstractButton* accepting = box->button(isLoad ? QMessageBox::Yes : QMessageBox::Ok);
+    const QAbstractButton* accepting = box->button(isLoad ? Box::Yes : Box::Ok);
     const QAbstractButton* column = nullptr;
-    if (isChoice) {
-        accepting = box->addButton(Text::tr("Row"), QMessageBox::YesRole);
-        column = box->addButton(Text::tr("Column"), QMessageBox::NoRole);
-        box->setEscapeButton(box->addButton(Text::tr("Cancel"), QMessageBox::RejectRole));
+    if (question == Question::RowOrColumnOff) {
+        accepting = box->addButton(RegionText::tr("Row"), Box::YesRole);
+        column = box->addButton(RegionText::tr("Column"), Box::NoRole);
+        box->setEscapeButton(box->addButton(RegionText::tr("Cancel"), Box::RejectRole));
     }
     box->exec();
     const QAbstractButton* const clicked = box ? box->clickedButton() : nullptr;

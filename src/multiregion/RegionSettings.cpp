@@ -2,21 +2,11 @@
 
 #include "features/FeatureManager.h"
 #include "features/FeatureNames.h"
+#include "multiregion/rules/RegionText.h"
 #include "ui_MultiROIWidget.h"
 #include "widgets/SilentFields.h"
 
-#include <QCoreApplication>
-
 namespace Name = FeatureNames;
-
-namespace {
-
-struct Text
-{
-    Q_DECLARE_TR_FUNCTIONS(MultiROIWidget)
-};
-
-} // namespace
 
 RegionSettings::RegionSettings(const Ui::MultiROIWidget& form, FeatureManager& manager)
     : m_form(form)
@@ -83,10 +73,10 @@ bool RegionSettings::testCompatibility()
         || valueOf(Name::reverseY) != 0.0;
     if (!isTold && !isIncompatible)
         return false;
-    m_form.lblWarning->setText(isIncompatible
-                                   ? Text::tr("Multi ROI widget cannot be used in combination with "
-                                              "Binning or ReverseX/Y.")
-                                   : QString());
+    m_form.lblWarning->setText(
+        isIncompatible ? RegionText::tr("Multi ROI widget cannot be used in combination with "
+                                        "Binning or ReverseX/Y.")
+                       : QString());
     m_form.frameWarning->setVisible(isIncompatible);
     m_form.frame->setVisible(!isIncompatible);
     m_form.grpROI->setVisible(!isIncompatible);

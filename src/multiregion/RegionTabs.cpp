@@ -4,22 +4,13 @@
 #include "multiregion/RegionLabelWidget.h"
 #include "multiregion/RegionTableWidget.h"
 #include "multiregion/label/MultiRubberBandLabel.h"
+#include "multiregion/rules/RegionText.h"
 #include "multiregion/rules/ToggleRules.h"
 #include "ui_MultiROIWidget.h"
 #include "widgets/RoundButton.h"
 
-#include <QCoreApplication>
 #include <QSignalBlocker>
 #include <QTabBar>
-
-namespace {
-
-struct Text
-{
-    Q_DECLARE_TR_FUNCTIONS(MultiROIWidget)
-};
-
-} // namespace
 
 RegionTabs::RegionTabs(const Ui::MultiROIWidget& form, MultiRubberBandLabel* label)
     : m_form(form)
@@ -34,7 +25,7 @@ RegionTabs::RegionTabs(const Ui::MultiROIWidget& form, MultiRubberBandLabel* lab
 void RegionTabs::add(RegionTableWidget* table, const QColor& color)
 {
     const int region = count();
-    const QString title = Text::tr("Region%1").arg(region);
+    const QString title = RegionText::tr("Region%1").arg(region);
     QTabBar* const bar = m_form.tabRegions->tabBar();
     Tab tab{new RoundButton(region, false, bar), table,
             new RegionLabelWidget(region, QRect(), color, m_form.scrollRegionLabelsContents)};

@@ -2,19 +2,9 @@
 
 #include "multiregion/RegionCamera.h"
 #include "multiregion/RegionTabs.h"
-
-#include <QCoreApplication>
+#include "multiregion/rules/RegionText.h"
 
 #include <utility>
-
-namespace {
-
-struct Text
-{
-    Q_DECLARE_TR_FUNCTIONS(MultiROIWidget)
-};
-
-} // namespace
 
 RegionWriter::RegionWriter(RegionCamera& camera, RegionTabs& tabs, CameraLink& link, Hold hold)
     : m_camera(camera)
@@ -125,7 +115,7 @@ void RegionWriter::setFeature(const QVector<int>& regions, const QString& name,
     bool isLost = false;
     for (const int region : regions) {
         if (isLost || !select(region) || !m_camera.writeFeature(name, value)) {
-            log(Text::tr("SubRegion: %1, Saving feature '%2' to value=%3 failed.")
+            log(RegionText::tr("SubRegion: %1, Saving feature '%2' to value=%3 failed.")
                     .arg(QString::number(region), name, value.toString()));
             isLost = m_link.isLost();
         }

@@ -20,15 +20,11 @@ class QTranslator;
 
 /// Common base of all pages: opens the camera's features to the page, refuses cameras of other
 /// vendors, and gathers change notifications, which it hands to the page once a second while the
-/// page is visible, not suspended, and the camera answers.
+/// page is visible, not suspended, and the camera answers. A page within another page of the same
+/// camera shares its wrappers and its link.
 ///
-/// The SDK may notify on any thread, also on the GUI thread in the middle of a write or of a
-/// registration. Names noted while the base works on its list are refreshed next time.
-///
-/// A page within another page of the same camera shares its wrappers and its link. While the camera
-/// does not answer, pages show what they showed, and the outermost says so once.
-///
-/// Constructing a page silences Qt's log output for the whole process.
+/// The SDK may notify on any thread, also on the GUI thread in the middle of a write. Constructing
+/// a page silences Qt's log output for the whole process.
 class BaseTabPluginWidget : public QWidget
 {
     Q_OBJECT

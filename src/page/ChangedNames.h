@@ -6,9 +6,8 @@
 #include <memory>
 
 /// The names of the features that changed since a page's last refresh. While the list is held,
-/// whatever is noted on this thread (a camera that notifies within a write or a registration) waits
-/// in a side list, so that it neither deadlocks nor is lost. It outlives the page, which may end in
-/// its own refresh.
+/// whatever is noted on this thread waits in a side list, so that it neither deadlocks nor is lost.
+/// It outlives the page, which may end in its own refresh.
 class ChangedNames
 {
 public:

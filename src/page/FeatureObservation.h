@@ -3,12 +3,9 @@
 #include "features/FeatureManager.h"
 #include "features/PluginFeatureObserver.h"
 
-/// A page's observer on the features of a camera that may have gone.
-///
-/// What was registered is remembered, feature by feature: a camera that has forgotten its names, or
-/// a viewer that has emptied its list, is left without an observer all the same. A registration
-/// that the camera reports as failed may have been made, and one that it refuses to end is ended
-/// later, with the next stop.
+/// A page's observer on the features of a camera that may have gone: each that was registered is
+/// let go, whatever the viewer's list holds by then. A registration that the camera reports as
+/// failed may have been made, and one that it refuses to end is ended with the next stop.
 class FeatureObservation
 {
 public:

@@ -14,11 +14,11 @@ namespace Ui {
 class AOIWidget;
 }
 
-/// The page of the image region: number fields, presets, and the region on the sensor area.
+/// The page of the image region: number fields, presets, and the region on the sensor area. During
+/// a drag nothing is written.
 ///
 /// A camera without an image size leaves the accessible name empty and the page without a form;
-/// such a page is to be deleted. The camera accepts every value that the page writes beside those
-/// it has at that moment; during a drag nothing is written.
+/// such a page is to be deleted.
 class AOIWidget : public InnerPage
 {
     Q_OBJECT

@@ -18,10 +18,10 @@ class AutoROIWidget;
 }
 
 /// The page of the region that the camera's automatic functions evaluate, and of the limits of
-/// automatic exposure. The form follows the camera's way of telling that region.
+/// automatic exposure. During a drag nothing is written.
 ///
 /// A camera without such a region leaves the accessible name empty and the page without a form;
-/// such a page is to be deleted. During a drag nothing is written.
+/// such a page is to be deleted.
 class AutoROIWidget : public InnerPage
 {
     Q_OBJECT

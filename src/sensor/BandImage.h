@@ -11,8 +11,7 @@ class QWidget;
 
 /// A style's rubber band, drawn once and small: any band consists of its corners, of its edges
 /// drawn out and of an inside of one colour. The style's own way takes longer the larger the band
-/// is, however little of it is painted. Where translucent colours overlap, the two differ by up to
-/// two in 255.
+/// is, however little of it is painted.
 ///
 /// There is nothing to draw out for a style that gives the inside more than one colour, and on
 /// screens whose pixels are no whole fraction of the logical ones.

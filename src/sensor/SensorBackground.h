@@ -25,11 +25,9 @@ struct SensorPicture
 };
 
 /// What a label shows of the sensor below its bands: the placeholder, which is no more than a
-/// colour and a size and needs no memory, or a picture.
-///
-/// A picture is composed when it is first asked for, and kept as large as it is to be, or as large
-/// as a label can show: most labels are never resized, so a smaller first size comes straight from
-/// the image where the copy would lose pixels.
+/// colour and a size, or a picture. A picture is composed when it is first asked for, and kept no
+/// larger than a label can show: most labels are never resized, so a smaller first size comes
+/// straight from the image where the copy would lose pixels.
 class SensorBackground
 {
 public:

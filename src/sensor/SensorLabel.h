@@ -5,8 +5,7 @@
 #include <QLabel>
 
 /// The sensor area, a tinted placeholder or a picture in the label's top left corner, scaled to
-/// fit, with bands on it that are dragged with the mouse. What is dragged is the matter of those
-/// who derive.
+/// fit, with bands on it that are dragged with the mouse.
 ///
 /// Pages may be deleted in a receiver of any signal. After one only what the receiver could not
 /// delete is used, and signals that tell of what Qt does to the label wait for the event loop.

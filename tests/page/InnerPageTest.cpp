@@ -18,8 +18,8 @@ public:
     }
 
     using InnerPage::busy;
-    using InnerPage::readAllSoon;
     using InnerPage::readAgain;
+    using InnerPage::readAllSoon;
     using InnerPage::readSoon;
 
     QList<Changes> refreshes;

@@ -9,12 +9,10 @@
 /// nothing of the camera: it asks to be committed through its signals, each of the first four once.
 ///
 /// A value is new when the user acted on a control, or confirmed what is shown with Return, and it
-/// differs from the camera's. So a value outside its range, which is shown clamped, is corrected by
-/// Return but not by looking at it, and one that the camera refused can be tried again.
+/// differs from the camera's.
 ///
 /// Return, leaving the editor (by Tab from the last control too) and hiding it finish the editing,
-/// Escape cancels it. Where the value is final with one act (an entry, a toggle, a click), that act
-/// finishes it as well.
+/// Escape cancels it. An act that makes the value final (an entry, a toggle, a click) finishes it.
 class DelegateWidget : public QWidget
 {
     Q_OBJECT

@@ -6,11 +6,9 @@
 
 class FeatureSlider;
 
-/// A numeric field that may have a slider. Moves of the slider go to the field at once and are
-/// announced at most 20 times a second; its release finishes the editing. The last value always
-/// arrives, unless Escape cancels it: what was written until then stays, nothing more is written.
-///
-/// A narrow cell shows the field alone.
+/// A numeric field that may have a slider; a narrow cell shows the field alone. Moves of the slider
+/// go to the field at once and are announced at most 20 times a second; its release finishes the
+/// editing. The last value always arrives, unless Escape cancels it.
 class SliderEditor : public DelegateWidget
 {
     Q_OBJECT

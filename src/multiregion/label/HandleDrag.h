@@ -58,10 +58,8 @@ struct BandSizeLimits
     QSize maximum{-1, -1};
 };
 
-/// The band after the grabbed edges have gone to @p point.
-///
-/// Left and top are bounded by the image and the minimum, not by the maximum. The top right corner
-/// bounds its right edge by the image alone: the band may collapse to less than the minimum, also
-/// to a negative width.
+/// The band after the grabbed edges have gone to @p point. Left and top are bounded by the image
+/// and the minimum, not by the maximum. The top right corner bounds its right edge by the image
+/// alone: the band may collapse to less than the minimum, also to a negative width.
 QRect resizedRegionBand(const QRect& band, const HandleGrab& grab, const QPoint& point,
                         const BandSizeLimits& limits);

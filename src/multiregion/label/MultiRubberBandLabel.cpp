@@ -75,12 +75,6 @@ QColor MultiRubberBandLabel::shownColor(int regionNo) const
     return region.band ? region.band->shownColor() : region.color;
 }
 
-std::optional<int> MultiRubberBandLabel::regionUnder(const QPoint& point) const
-{
-    const RectangleRubberBand* band = m_bands.bandAt(point);
-    return band ? std::optional(band->regionNo()) : std::nullopt;
-}
-
 void MultiRubberBandLabel::announceRegions()
 {
     if (signalsBlocked())

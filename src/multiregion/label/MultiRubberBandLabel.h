@@ -9,11 +9,9 @@
 #include <QTimer>
 
 /// The sensor area with a band for each active region, which the user selects, moves and resizes
-/// with the mouse, and with the lines that regions of one row or column share.
-///
-/// Region rectangles come in and go out in sensor pixels, points are label pixels. The label keeps
-/// the rectangles and places the bands from them. A drag moves bands only and reports at its end;
-/// what is told meanwhile waits for it.
+/// with the mouse, and with the lines that regions of one row or column share. Region rectangles
+/// are sensor pixels, points are label pixels. A drag moves bands only and reports at its end; what
+/// is told meanwhile waits for it.
 class MultiRubberBandLabel : public BandSurroundings
 {
     Q_OBJECT
@@ -34,8 +32,6 @@ public:
     QRect regionRectangle(int regionNo) const { return m_regions.at(regionNo).rectangle; }
     bool isRegionShown(int regionNo) const { return m_regions.at(regionNo).band; }
 
-    /// The shown region under a point.
-    std::optional<int> regionUnder(const QPoint& point) const;
     std::optional<int> intersecting(int region, const QRect& band) const override
     {
         return m_regions.intersecting(region, band);

@@ -2,10 +2,9 @@
 
 #include "features/NumberConversion.h"
 #include "multiregion/rules/ArrangementMode.h"
+#include "multiregion/rules/RegionText.h"
 #include "sensor/PixelRect.h"
 #include "sensor/Span.h"
-
-#include <QCoreApplication>
 
 #include <algorithm>
 
@@ -114,11 +113,6 @@ Regions tileLayout(const LayoutRequest& request, int count)
     return regions;
 }
 
-struct Text
-{
-    Q_DECLARE_TR_FUNCTIONS(MultiROIWidget)
-};
-
 } // namespace
 
 DefaultLayout defaultLayout(const QString& mode, const LayoutRequest& request)
@@ -134,14 +128,15 @@ DefaultLayout defaultLayout(const QString& mode, const LayoutRequest& request)
         if (request.regionCount % 2 == 0)
             return {tileLayout(request, count), {}};
         return {{},
-                Text::tr("Unknown Arrangement Mode '%1', no default settings for %2 regions "
-                         "available.")
+                RegionText::tr("Unknown Arrangement Mode '%1', no default settings for %2 regions "
+                               "available.")
                     .arg(mode, QString::number(request.regionCount))};
     case ArrangementMode::Free:
         break;
     }
     if (mode == QLatin1String("Free"))
         return {freeLayout(request, count), {}};
-    return {{},
-            Text::tr("Unknown Arrangement Mode '%1', no default settings available.").arg(mode)};
+    return {
+        {},
+        RegionText::tr("Unknown Arrangement Mode '%1', no default settings available.").arg(mode)};
 }

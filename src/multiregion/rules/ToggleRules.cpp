@@ -1,6 +1,6 @@
 #include "multiregion/rules/ToggleRules.h"
 
-#include <QCoreApplication>
+#include "multiregion/rules/RegionText.h"
 
 #include <algorithm>
 
@@ -46,11 +46,6 @@ Toggle stripOff(int region, const QVector<bool>& active)
     return switchOff(regions, Question::SubsequentOff);
 }
 
-struct Text
-{
-    Q_DECLARE_TR_FUNCTIONS(MultiROIWidget)
-};
-
 /// Why the inactive region cannot be activated; empty when it can.
 QString obstacle(ArrangementMode mode, const QVector<bool>& checked, int region)
 {
@@ -58,15 +53,16 @@ QString obstacle(ArrangementMode mode, const QVector<bool>& checked, int region)
     case ArrangementMode::Horizontal:
     case ArrangementMode::Vertical:
         if (!checked[region - 1])
-            return Text::tr("Regions must be activated continuously, ascending from Region0.");
+            return RegionText::tr(
+                "Regions must be activated continuously, ascending from Region0.");
         break;
     case ArrangementMode::Tile:
         // Regions 1 and 2 start a column and a row, in any order.
         if (region >= 3 && !std::all_of(checked.begin() + 1, checked.begin() + region, [](bool on) {
                 return on;
             }))
-            return Text::tr("Regions must share a common line space (activate all preceding "
-                            "regions first).");
+            return RegionText::tr("Regions must share a common line space (activate all preceding "
+                                  "regions first).");
         break;
     case ArrangementMode::Free:
         break;

@@ -41,11 +41,10 @@ constexpr AxisNumbers horizontalNumbers{RegionNumber::Left, RegionNumber::Right,
 constexpr AxisNumbers verticalNumbers{RegionNumber::Top, RegionNumber::Bottom,
                                       RegionNumber::Height};
 
-/// The camera as far as the region of its automatic functions goes. Cameras describe that region by
+/// The camera as far as the region of its automatic functions goes, which it describes by
 /// "AutofunctionAOI..." or "AutoModeRegion..." (offset and size) or by "DSPSubregion..." (edges);
-/// some have several of them, and each number then has its own order of preference. What the camera
-/// does not tell keeps its last value, at first 0, and is gathered for another try; what it lacks
-/// is 0 and is not written.
+/// with several of them each number has its own order of preference. What the camera does not tell
+/// keeps its last value, at first 0; what it lacks is 0 and is not written.
 class AutoRegionCamera
 {
 public:

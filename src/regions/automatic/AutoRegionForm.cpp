@@ -5,8 +5,6 @@
 #include "regions/automatic/AutoRegionView.h"
 #include "ui_AutoROIWidget.h"
 
-#include <QCoreApplication>
-
 #include <algorithm>
 #include <initializer_list>
 #include <vector>
@@ -15,23 +13,20 @@ namespace Name = FeatureNames;
 
 namespace {
 
-struct Text
-{
-    Q_DECLARE_TR_FUNCTIONS(AutoROIWidget)
-};
-
 void adaptTexts(const Ui::AutoROIWidget& form, const QStringList& names, bool hasEdges)
 {
     const bool isAoi = names.contains(Name::aoiHeight);
-    const QString aoi = Text::tr("Autofunction AOI");
-    const QString roi = names.contains(Name::autoModeHeight) ? Text::tr("AutoMode ROI")
-                                                             : Text::tr("Autofunction ROI");
-    const QString region = hasEdges ? Text::tr("DSPSubregion") : Text::tr("AutoMode Region");
+    const QString aoi = AutoRegionText::tr("Autofunction AOI");
+    const QString roi = names.contains(Name::autoModeHeight)
+        ? AutoRegionText::tr("AutoMode ROI")
+        : AutoRegionText::tr("Autofunction ROI");
+    const QString region
+        = hasEdges ? AutoRegionText::tr("DSPSubregion") : AutoRegionText::tr("AutoMode Region");
     form.gb_AutoROI->setTitle(isAoi ? aoi : roi);
     form.gb_Region->setTitle(isAoi ? aoi : region);
-    form.labelTop->setText(hasEdges ? Text::tr("Top:") : Text::tr("OffsetY:"));
-    form.labelLeft->setText(names.contains(Name::dspLeft) ? Text::tr("Left:")
-                                                          : Text::tr("OffsetX:"));
+    form.labelTop->setText(hasEdges ? AutoRegionText::tr("Top:") : AutoRegionText::tr("OffsetY:"));
+    form.labelLeft->setText(names.contains(Name::dspLeft) ? AutoRegionText::tr("Left:")
+                                                          : AutoRegionText::tr("OffsetX:"));
 }
 
 /// Lines up the fields behind them.
@@ -140,7 +135,7 @@ void showEdgeProblems(const Ui::AutoROIWidget& form, const AutoRegionCamera& cam
     if (!camera.usesEdges())
         return;
     const QString problems = edgeProblems(edges, camera.limits());
-    form.labelInvalidSettings->setText(Text::tr("Invalid settings: ") + problems);
+    form.labelInvalidSettings->setText(AutoRegionText::tr("Invalid settings: ") + problems);
     form.labelInvalidSettings->setVisible(!problems.isEmpty());
 }
 

@@ -3,17 +3,10 @@
 #include "features/NumberConversion.h"
 #include "sensor/PixelRect.h"
 
-#include <QCoreApplication>
-
 #include <algorithm>
 #include <cmath>
 
 namespace {
-
-struct Text
-{
-    Q_DECLARE_TR_FUNCTIONS(AutoROIWidget)
-};
 
 /// Differs from @p value by floating-point rounding only.
 double scaledThroughIncrement(double value, double increment)
@@ -93,9 +86,9 @@ QString sizeProblem(const AutoRegion& region, const QPointF& origin, const QSize
                     const QString& name)
 {
     if (exceeds(region.vertical, origin.y(), limits.height()))
-        return Text::tr("Invalid settings:\nHeight + OffsetY > %1 Height").arg(name);
+        return AutoRegionText::tr("Invalid settings:\nHeight + OffsetY > %1 Height").arg(name);
     if (exceeds(region.horizontal, origin.x(), limits.width()))
-        return Text::tr("Invalid settings:\nWidth + OffsetX > %1 Width").arg(name);
+        return AutoRegionText::tr("Invalid settings:\nWidth + OffsetX > %1 Width").arg(name);
     return {};
 }
 
@@ -103,17 +96,17 @@ QString edgeProblems(const AutoRegion& region, const QSizeF& limits)
 {
     QString problems;
     if (region.vertical.length < 0.0)
-        problems += Text::tr("\nTop > Bottom! ");
+        problems += AutoRegionText::tr("\nTop > Bottom! ");
     if (region.vertical.start > limits.height())
-        problems += Text::tr("\nTop > ROI Height! ");
+        problems += AutoRegionText::tr("\nTop > ROI Height! ");
     if (region.vertical.end() > limits.height())
-        problems += Text::tr("\nBottom > ROI Height! ");
+        problems += AutoRegionText::tr("\nBottom > ROI Height! ");
     if (region.horizontal.length < 0.0)
-        problems += Text::tr("Left > Right! ");
+        problems += AutoRegionText::tr("Left > Right! ");
     if (region.horizontal.start > limits.width())
-        problems += Text::tr("Left > ROI Width! ");
+        problems += AutoRegionText::tr("Left > ROI Width! ");
     if (region.horizontal.end() > limits.width())
-        problems += Text::tr("Right > ROI Width! ");
+        problems += AutoRegionText::tr("Right > ROI Width! ");
     return problems;
 }
 

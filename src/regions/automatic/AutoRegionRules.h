@@ -2,6 +2,7 @@
 
 #include "sensor/Span.h"
 
+#include <QCoreApplication>
 #include <QPointF>
 #include <QRect>
 #include <QSizeF>
@@ -12,15 +13,20 @@
 // or by its edges, of which the far one lies behind the region. The limits are its largest size, in
 // whole pixels.
 
+struct AutoRegionText
+{
+    Q_DECLARE_TR_FUNCTIONS(AutoROIWidget)
+};
+
 struct AutoRegion
 {
     Span<double> horizontal;
     Span<double> vertical; ///< of a negative length where edges cross
 };
 
-// Cameras with "AutofunctionAOI..." features derive the limits from the image size, and agree with
-// all of this: the division by the increment is not truncated; each axis adds the minimum of the
-// other axis's offset, and only the height subtracts the image's minimum.
+// Cameras with "AutofunctionAOI..." features agree with all of this: the division by the increment
+// is not truncated; each axis adds the minimum of the other axis's offset, and only the height
+// subtracts the image's minimum.
 
 /// @param increment of "AutofunctionAOIHeight"
 double aoiHeightLimit(double height, double increment, double minimumHeight, double minimumOffsetX);

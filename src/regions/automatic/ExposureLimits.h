@@ -6,16 +6,14 @@
 
 class FeatureManager;
 
-/// The value that is written for an auto-exposure limit typed as @p value, in the camera's unit.
-/// With an increment and decimals half a unit of the last one is added, in single precision, as the
-/// cameras have come to expect.
+/// The value that is written for an auto-exposure limit typed as @p value. With an increment and
+/// decimals half a unit of the last one is added, in single precision, as the cameras expect.
 /// @param decimals of the limit's own field
 /// @param scaleDecimals of the minimum's field, which scales the maximum too
 double exposureLimitToWrite(double value, double increment, int decimals, int scaleDecimals);
 
-/// The limits of automatic exposure and their fields, in the camera's unit. The camera's ranges
-/// bound the fields; nothing keeps the minimum below the maximum. What the camera reports is shown
-/// without a signal, for every write adds half a unit.
+/// The limits of automatic exposure and their fields, in the camera's unit; nothing keeps the
+/// minimum below the maximum.
 class ExposureLimits
 {
 public:

@@ -7,12 +7,9 @@
 
 #include <optional>
 
-/// A rectangular rubber band that its parent paints.
-///
-/// Qt paints all of a translucent widget that moves, and all that is below it. Of a band that
-/// covers half a large picture little more than the frame changes, so the band takes no part in
-/// Qt's painting: the parent calls paint() at the end of its own, and the band updates the parts of
-/// the parent that its moves have changed.
+/// A rectangular rubber band that its parent paints: Qt would paint all of a translucent widget
+/// that moves, and all that is below it, where little more than the frame changes. The parent calls
+/// paint() at the end of its own, and the band updates what its moves have changed of the parent.
 class LabelBand : public QRubberBand
 {
     Q_OBJECT

@@ -9,11 +9,10 @@
 
 class LabelBand;
 
-/// The sensor area with one region on it, which the user moves and resizes with the mouse.
-///
-/// Regions are sensor pixels; signals and setRegion() pass them in the order top, left, width,
-/// height. A drag only moves the band: the region changes at its end. What is set meanwhile shows
-/// if the drag has no result. A label that is resized during a drag keeps the band on its region.
+/// The sensor area with one region on it, which the user moves and resizes with the mouse. Regions
+/// are sensor pixels; signals and setRegion() pass them in the order top, left, width, height. A
+/// drag only moves the band: the region changes at its end. What is set meanwhile shows if the drag
+/// has no result.
 class RubberBandLabel : public SensorLabel
 {
     Q_OBJECT
