@@ -1,11 +1,11 @@
 #include "LivePane.h"
 
 #include "CameraSession.h"
+#include "ElidedLabel.h"
 #include "FrameGeometry.h"
 #include "LivePicture.h"
 
 #include <QHBoxLayout>
-#include <QLabel>
 #include <QPushButton>
 
 namespace {
@@ -37,10 +37,7 @@ QString describe(const CameraSource& camera)
         parts << describeExposure(state.exposureTime);
     if (const QString stream = camera.streamText(); !stream.isEmpty())
         parts << stream;
-    // The line breaks between the parts only.
-    for (QString& part : parts)
-        part.replace(QLatin1Char(' '), QChar::Nbsp);
-    return parts.join(QChar(QChar::Nbsp) + QStringLiteral("· "));
+    return parts.join(QStringLiteral(" · "));
 }
 
 } // namespace
@@ -48,23 +45,23 @@ QString describe(const CameraSource& camera)
 LivePane::LivePane(QWidget* parent)
     : QWidget(parent)
     , m_picture(new LivePicture(this))
-    , m_caption(new QLabel(this))
+    , m_caption(new ElidedLabel(this))
     , m_start(new QPushButton(tr("&Start"), this))
     , m_stop(new QPushButton(tr("S&top"), this))
 {
     m_start->setObjectName(QStringLiteral("btnStart"));
     m_stop->setObjectName(QStringLiteral("btnStop"));
     m_caption->setObjectName(QStringLiteral("lblFrame"));
-    m_caption->setWordWrap(true);
     connect(m_start, &QPushButton::clicked, this, [this] { m_session->setStreaming(true); });
     connect(m_stop, &QPushButton::clicked, this, [this] { m_session->setStreaming(false); });
 
     auto* controls = new QHBoxLayout;
-    controls->addWidget(m_caption, 1);
     controls->addWidget(m_start);
     controls->addWidget(m_stop);
+    controls->addStretch();
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(m_picture, 1);
+    layout->addWidget(m_caption);
     layout->addLayout(controls);
     setSession(nullptr);
 }

@@ -4,8 +4,8 @@
 #include <QWidget>
 
 class CameraSession;
+class ElidedLabel;
 class LivePicture;
-class QLabel;
 class QPushButton;
 
 /// The live picture with a line that describes it, and Start and Stop.
@@ -25,7 +25,7 @@ private:
 
     QPointer<CameraSession> m_session;
     LivePicture* m_picture;
-    QLabel* m_caption;
+    ElidedLabel* m_caption;
     QPushButton* m_start;
     QPushButton* m_stop;
 };

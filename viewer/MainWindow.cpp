@@ -4,6 +4,7 @@
 #include "CameraListPane.h"
 #include "CameraSession.h"
 #include "DarkPalette.h"
+#include "DockLayout.h"
 #include "FeatureTablePane.h"
 #include "FeatureWritePane.h"
 #include "LivePane.h"
@@ -17,18 +18,35 @@
 #include <QLabel>
 #include <QMenuBar>
 #include <QPainter>
+#include <QScreen>
+#include <QSettings>
 #include <QStackedWidget>
 #include <QStyle>
 #include <QStyleFactory>
 #include <QTabWidget>
 
+#include <utility>
+
+namespace {
+
+/// What the screen has room for, with a frame around it, and no more than the page makes use of.
+QSize firstSize(const QScreen& screen)
+{
+    constexpr QSize largest(1600, 1000);
+    return largest.boundedTo(screen.availableSize() * 15 / 16);
+}
+
+} // namespace
+
 MainWindow::MainWindow(const QString& modulePath, std::unique_ptr<CameraFinder> finder)
     : m_plugin(std::make_unique<PluginHost>(modulePath))
     , m_finder(std::move(finder))
+    , m_docks(new DockLayout(*this))
     , m_centre(new QStackedWidget(this))
     , m_pages(new QTabWidget)
 {
     setWindowTitle(tr("Camera viewer"));
+    resize(firstSize(*screen()));
     createPanes();
     createMenus();
     if (m_finder)
@@ -168,23 +186,26 @@ void MainWindow::setDark(bool dark)
     QApplication::setPalette(dark ? darkPalette() : QApplication::style()->standardPalette());
 }
 
+void MainWindow::rememberLayout()
+{
+    m_remembersLayout = true;
+    m_isLaidOut = m_docks->restore(QSettings());
+}
+
 void MainWindow::showEvent(QShowEvent* event)
 {
     QMainWindow::showEvent(event);
-    resizeDocks({m_camerasDock, m_liveDock}, {width() * 37 / 100, width() * 37 / 100},
-                Qt::Horizontal);
-    resizeDocks({m_logDock, m_outsideDock}, {width() * 2 / 5, width() / 5}, Qt::Horizontal);
-    resizeDocks({m_camerasDock, m_liveDock}, {height() * 3 / 10, height() * 7 / 10}, Qt::Vertical);
-    resizeDocks({m_logDock, m_outsideDock}, {height() / 5, height() / 5}, Qt::Vertical);
+    if (!std::exchange(m_isLaidOut, true))
+        m_docks->resizeRows();
 }
 
-QDockWidget* MainWindow::addPane(QWidget* pane, const QString& title, Qt::DockWidgetArea area)
+void MainWindow::closeEvent(QCloseEvent* event)
 {
-    auto* dock = new QDockWidget(title, this);
-    dock->setObjectName(pane->metaObject()->className() + QStringLiteral("Dock"));
-    dock->setWidget(pane);
-    addDockWidget(area, dock);
-    return dock;
+    if (m_remembersLayout) {
+        QSettings settings;
+        m_docks->save(settings);
+    }
+    QMainWindow::closeEvent(event);
 }
 
 void MainWindow::createPanes()
@@ -201,14 +222,12 @@ void MainWindow::createPanes()
     m_log = new LogPane;
     m_outside = new FeatureWritePane;
     m_features = new FeatureTablePane;
-    setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
-    m_camerasDock = addPane(m_cameras, tr("Cameras"), Qt::LeftDockWidgetArea);
-    m_liveDock = addPane(m_live, tr("Live picture"), Qt::LeftDockWidgetArea);
-    m_featuresDock = addPane(m_features, tr("Camera features"), Qt::LeftDockWidgetArea);
-    tabifyDockWidget(m_liveDock, m_featuresDock);
-    m_liveDock->raise();
-    m_logDock = addPane(m_log, tr("Log"), Qt::BottomDockWidgetArea);
-    m_outsideDock = addPane(m_outside, tr("Another client"), Qt::BottomDockWidgetArea);
+    m_docks->add(m_cameras, tr("Cameras"), 0);
+    m_docks->add(m_live, tr("Live picture"), 1);
+    m_featuresDock = m_docks->add(m_features, tr("Camera features"), 1);
+    m_docks->add(m_log, tr("Log"), 2);
+    m_docks->add(m_outside, tr("Another client"), 2);
+    m_docks->reset();
 
     connect(m_cameras, &CameraListPane::openRequested, this, &MainWindow::openCamera);
     connect(m_features, &FeatureTablePane::logged, m_log, &LogPane::append);
@@ -226,8 +245,14 @@ void MainWindow::createMenus()
                     QKeySequence(int(Qt::CTRL) + int(Qt::Key_Q)));
 
     QMenu* view = menuBar()->addMenu(tr("&View"));
-    for (QDockWidget* dock : {m_camerasDock, m_liveDock, m_featuresDock, m_logDock, m_outsideDock})
+    const auto docks = m_docks->docks();
+    for (QDockWidget* dock : docks)
         view->addAction(dock->toggleViewAction());
+    view->addSeparator();
+    view->addAction(tr("&First layout"), m_docks, &DockLayout::reset);
+    view->addAction(tr("&Next pane"), m_docks, &DockLayout::focusNext, Qt::Key_F6);
+    view->addAction(tr("&Previous pane"), m_docks, &DockLayout::focusPrevious,
+                    QKeySequence(int(Qt::SHIFT) + int(Qt::Key_F6)));
     view->addSeparator();
     QAction* dark = view->addAction(tr("&Dark colours"));
     dark->setCheckable(true);

@@ -10,6 +10,7 @@ class CameraFinder;
 class CameraListPane;
 class CameraSession;
 class CameraSource;
+class DockLayout;
 class FeatureTablePane;
 class FeatureWritePane;
 class LivePane;
@@ -46,6 +47,9 @@ public:
     /// The window as it is shown, with a dialog that lies on it.
     QPixmap screenshot();
 
+    /// The layout is taken from where the last window left it, and this one leaves it there.
+    void rememberLayout();
+
     /// Fusion in light or dark colours.
     static void setDark(bool dark);
 
@@ -55,9 +59,9 @@ signals:
 
 protected:
     void showEvent(QShowEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
 
 private:
-    QDockWidget* addPane(QWidget* pane, const QString& title, Qt::DockWidgetArea area);
     void createPanes();
     void createMenus();
     void connectFinder();
@@ -71,6 +75,9 @@ private:
     QString m_opening; ///< the ID of a camera that is asked for
     QAction* m_presented = nullptr;
     std::unique_ptr<CameraSession> m_session;
+    DockLayout* m_docks;
+    bool m_isLaidOut = false; ///< by an earlier show, or as the last window was
+    bool m_remembersLayout = false;
     QStackedWidget* m_centre;
     QTabWidget* m_pages;
     CameraListPane* m_cameras;
@@ -78,9 +85,5 @@ private:
     LogPane* m_log;
     FeatureWritePane* m_outside;
     FeatureTablePane* m_features;
-    QDockWidget* m_camerasDock;
-    QDockWidget* m_liveDock;
-    QDockWidget* m_outsideDock;
     QDockWidget* m_featuresDock;
-    QDockWidget* m_logDock;
 };

@@ -56,7 +56,7 @@ void addOptions(QCommandLineParser& parser)
         {"camera", text("Open this camera: a name of the list, or genicam:ADDRESS."), "NAME"},
         {"plugin", text("Load the module from this file instead of plugins/ beside the program."),
          "PATH"},
-        {"size", text("Size of the window, 1400x900 when not given."), "WxH"},
+        {"size", text("Size of the window; with it, nothing is remembered."), "WxH"},
         {"present-as-supported",
          text("Tell the page a vendor that it supports, whoever made the camera.")},
         {"dark", text("Use dark colours.")},

@@ -17,7 +17,7 @@ struct ViewerOptions
     QString camera;
     QString modulePath;
     QString screenshot;
-    QSize size{1400, 900};
+    QSize size;         ///< empty: as the last window, or by the screen
     int quitAfter = -1; ///< milliseconds, or -1 to stay
     QVector<ScriptAction> actions;
     QString error; ///< what is wrong with the command line, or empty

@@ -101,7 +101,7 @@ std::unique_ptr<QCoreApplication> createApplication(int& argc, char** argv)
 {
     const bool printsOnly = std::any_of(argv, argv + argc, [](const char* argument) {
         return qstrcmp(argument, "--list-cameras") == 0 || qstrcmp(argument, "--help") == 0
-            || qstrcmp(argument, "-h") == 0;
+            || qstrcmp(argument, "--help-all") == 0 || qstrcmp(argument, "-h") == 0;
     });
     if (printsOnly)
         return std::make_unique<QCoreApplication>(argc, argv);
@@ -146,6 +146,7 @@ int main(int argc, char** argv)
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     const auto application = createApplication(argc, argv);
+    QCoreApplication::setOrganizationName(QStringLiteral("tabextensionimgfmt"));
     QCoreApplication::setApplicationName(QStringLiteral("viewer"));
 
     const ViewerOptions options = parseOptions(QCoreApplication::arguments());
@@ -168,7 +169,11 @@ int main(int argc, char** argv)
     MainWindow::setDark(options.dark);
     MainWindow window(options.modulePath, createFinder());
     window.setPresentedAsSupported(options.presentAsSupported);
-    window.resize(options.size);
+    const bool isScripted = !options.actions.isEmpty() || !options.screenshot.isEmpty();
+    if (!options.size.isEmpty())
+        window.resize(options.size);
+    else if (!isScripted)
+        window.rememberLayout();
     window.show();
     if (!options.camera.isEmpty())
         window.openCamera(options.camera);
@@ -183,7 +188,7 @@ int main(int argc, char** argv)
     else
         script.start();
     // What is run by a script asks the network when the script says so.
-    if (options.actions.isEmpty() && options.screenshot.isEmpty())
+    if (!isScripted)
         window.searchCameras();
     if (options.quitAfter >= 0)
         QTimer::singleShot(options.quitAfter, application.get(), &QCoreApplication::quit);
