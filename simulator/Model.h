@@ -15,8 +15,7 @@ class Camera;
 /// A named kind of camera.
 struct Model
 {
-    std::string name;        ///< lower case, for a command line
-    std::string description; ///< one line
+    std::string name; ///< lower case, for a command line
     SensorSize sensor;
     std::function<FeatureDescriptions(const SensorSize&)> build;
 };

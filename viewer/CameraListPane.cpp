@@ -1,49 +1,56 @@
 #include "CameraListPane.h"
 
-#include "SimulatedSource.h"
+#include "CameraItemDelegate.h"
+#include "SimulatedModels.h"
 
-#include <QHBoxLayout>
-#include <QLabel>
+#include <QGridLayout>
+#include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
 
 namespace {
 
+/// So many are found at a glance.
+constexpr int mostWithoutFilter = 10;
+
 enum CameraRole {
-    IdRole = Qt::UserRole,
+    DescriptionRole = CameraItemDelegate::DescriptionRole,
+    IdRole,
     NameRole,
-    DescriptionRole,
 };
 
 } // namespace
 
 CameraListPane::CameraListPane(QWidget* parent)
     : QWidget(parent)
+    , m_filter(new QLineEdit(this))
     , m_list(new QListWidget(this))
-    , m_description(new QLabel(this))
-    , m_open(new QPushButton(tr("&Open"), this))
-    , m_close(new QPushButton(tr("&Close"), this))
-    , m_controls(new QHBoxLayout)
+    , m_controls(new QGridLayout)
+    , m_open(addButton(tr("&Open"), "btnOpenCamera"))
+    , m_close(addButton(tr("&Close"), "btnCloseCamera"))
 {
+    m_filter->setObjectName(QStringLiteral("cameraFilter"));
+    m_filter->setPlaceholderText(tr("Search names and descriptions"));
+    m_filter->setAccessibleName(tr("Search cameras"));
+    m_filter->setClearButtonEnabled(true);
     m_list->setObjectName(QStringLiteral("cameraList"));
     m_list->setAccessibleName(tr("Cameras"));
+    m_list->setItemDelegate(new CameraItemDelegate(m_list));
+    m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_list->setMinimumHeight(80);
-    m_open->setObjectName(QStringLiteral("btnOpenCamera"));
-    m_close->setObjectName(QStringLiteral("btnCloseCamera"));
-    m_description->setWordWrap(true);
 
-    for (const CameraEntry& model : SimulatedSource::models())
+    const auto models = SimulatedModels::all();
+    for (const CameraEntry& model : models)
         add(model);
     m_simulated = m_list->count();
 
-    m_controls->addWidget(m_open);
-    m_controls->addWidget(m_close);
-    m_controls->addStretch();
     auto* layout = new QVBoxLayout(this);
+    layout->addWidget(m_filter);
     layout->addWidget(m_list, 1);
-    layout->addWidget(m_description);
     layout->addLayout(m_controls);
 
+    connect(m_filter, &QLineEdit::textChanged, this, &CameraListPane::applyFilter);
+    connect(m_filter, &QLineEdit::returnPressed, m_list, qOverload<>(&QWidget::setFocus));
     connect(m_list, &QListWidget::currentRowChanged, this, &CameraListPane::onCurrentChanged);
     connect(m_list, &QListWidget::itemActivated, this, &CameraListPane::openCurrent);
     connect(m_open, &QPushButton::clicked, this, &CameraListPane::openCurrent);
@@ -58,14 +65,17 @@ void CameraListPane::add(const CameraEntry& camera)
     item->setData(IdRole, camera.id);
     item->setData(NameRole, camera.name);
     item->setData(DescriptionRole, camera.description);
-    item->setToolTip(camera.description);
+    item->setData(Qt::AccessibleDescriptionRole, camera.description);
+    item->setToolTip(tr("%1\nOn the command line: --camera %2").arg(camera.description, camera.id));
 }
 
+// Two in a row: the pane may be narrow.
 QPushButton* CameraListPane::addButton(const QString& text, const char* objectName)
 {
     auto* button = new QPushButton(text, this);
     button->setObjectName(QLatin1String(objectName));
-    m_controls->addWidget(button);
+    const int place = m_controls->count();
+    m_controls->addWidget(button, place / 2, place % 2);
     return button;
 }
 
@@ -122,7 +132,25 @@ void CameraListPane::setOpenCamera(const QString& id, State state)
         if (open && isNew)
             m_list->setCurrentItem(item);
     }
+    applyFilter();
     onCurrentChanged();
+}
+
+void CameraListPane::applyFilter()
+{
+    m_filter->setVisible(m_list->count() > mostWithoutFilter);
+    int firstShown = -1;
+    for (int row = m_list->count() - 1; row >= 0; --row) {
+        QListWidgetItem* item = m_list->item(row);
+        const auto matches = [&](int role) {
+            return item->data(role).toString().contains(m_filter->text(), Qt::CaseInsensitive);
+        };
+        item->setHidden(!matches(NameRole) && !matches(DescriptionRole) && !matches(IdRole));
+        if (!item->isHidden())
+            firstShown = row;
+    }
+    if (!m_list->currentItem() || m_list->currentItem()->isHidden())
+        m_list->setCurrentRow(firstShown);
 }
 
 void CameraListPane::resizeEvent(QResizeEvent* event)
@@ -135,7 +163,6 @@ void CameraListPane::resizeEvent(QResizeEvent* event)
 void CameraListPane::onCurrentChanged()
 {
     const QListWidgetItem* item = m_list->currentItem();
-    m_description->setText(item ? item->data(DescriptionRole).toString() : QString());
     m_open->setEnabled(item && (currentId() != m_openCamera || m_state == Gone));
     m_close->setEnabled(!m_openCamera.isEmpty());
 }

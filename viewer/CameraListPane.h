@@ -4,12 +4,12 @@
 
 #include <QWidget>
 
-class QHBoxLayout;
-class QLabel;
+class QGridLayout;
+class QLineEdit;
 class QListWidget;
 class QPushButton;
 
-/// The camera models to choose from, with Open and Close.
+/// The cameras to choose from, with a filter when there are many, and Open and Close.
 class CameraListPane : public QWidget
 {
     Q_OBJECT
@@ -40,18 +40,19 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    void applyFilter();
     void onCurrentChanged();
     void openCurrent();
     QString currentId() const;
     void add(const CameraEntry& camera);
     QPushButton* addButton(const QString& text, const char* objectName);
 
+    QLineEdit* m_filter;
     QListWidget* m_list;
-    QLabel* m_description;
+    QGridLayout* m_controls;
     QPushButton* m_open;
     QPushButton* m_close;
     QPushButton* m_search = nullptr;
-    QHBoxLayout* m_controls;
     QString m_openCamera;
     State m_state = Open;
     int m_simulated = 0; ///< cameras at the head of the list

@@ -13,7 +13,7 @@ void ElidedLabel::setText(const QString& text)
 void ElidedLabel::paintEvent(QPaintEvent*)
 {
     QStylePainter painter(this);
-    painter.drawItemText(
-        contentsRect(), static_cast<int>(alignment()), palette(), isEnabled(),
-        fontMetrics().elidedText(text(), Qt::ElideRight, contentsRect().width()), foregroundRole());
+    painter.drawItemText(contentsRect(), static_cast<int>(alignment()), palette(), isEnabled(),
+                         fontMetrics().elidedText(text(), Qt::ElideRight, contentsRect().width()),
+                         foregroundRole());
 }

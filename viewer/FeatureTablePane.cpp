@@ -2,6 +2,7 @@
 
 #include "CameraSession.h"
 #include "UserInput.h"
+#include "WorkNotice.h"
 #include "featuretable/FeaturesTableWidget.h"
 
 #include <QLineEdit>
@@ -14,6 +15,7 @@
 namespace {
 
 constexpr int refreshIntervalMs = 500;
+constexpr int featuresInASecond = 1000; ///< that a real camera tells
 
 } // namespace
 
@@ -48,14 +50,29 @@ FeatureTablePane::~FeatureTablePane()
 void FeatureTablePane::setSession(CameraSession* session)
 {
     closeTable();
-    if (session)
-        openTable(session->features());
+    m_session = session;
+    setSeen(m_isSeen);
     setEnabled(session != nullptr);
 }
 
-void FeatureTablePane::openTable(const TabExtensionInterface::FeatureList& features)
+void FeatureTablePane::setSeen(bool isSeen)
 {
-    m_features = FeatureManager::wrap(*features);
+    m_isSeen = isSeen;
+    if (isSeen)
+        openTable();
+}
+
+void FeatureTablePane::openTable()
+{
+    if (!m_session || m_table)
+        return;
+    const int count = m_session->features()->size();
+    WorkNotice work(tr("Reading %1 features …").arg(count), this);
+    if (count > featuresInASecond)
+        work.showNow();
+    if (!m_session || m_table)
+        return; // the camera went meanwhile
+    m_features = FeatureManager::wrap(*m_session->features());
     m_manager = std::make_unique<FeatureManager>(m_features);
     m_table = std::make_unique<FeaturesTableWidget>(m_manager->GetFeatureNames(), m_manager.get(),
                                                     this);
@@ -118,6 +135,7 @@ void FeatureTablePane::refresh()
 
 bool FeatureTablePane::edit(const QString& feature)
 {
+    openTable();
     auto* const table = findChild<QTableWidget*>(QStringLiteral("tblFeatures"));
     for (int row = 0; table && row < table->rowCount(); ++row) {
         if (table->item(row, 0)->data(Qt::UserRole).toString() != feature)

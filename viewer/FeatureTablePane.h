@@ -4,6 +4,7 @@
 #include "features/PluginFeatureObserver.h"
 #include "host/TabExtensionInterface.h"
 
+#include <QPointer>
 #include <QSet>
 #include <QWidget>
 
@@ -29,6 +30,9 @@ public:
     /// Null when no camera is open.
     void setSession(CameraSession* session);
 
+    /// The table is made when it is seen first: reading every feature takes its time.
+    void setSeen(bool isSeen);
+
     /// Opens the editor of a feature's value; false when the table does not show it.
     bool edit(const QString& feature);
 
@@ -36,12 +40,13 @@ signals:
     void logged(ZebViewerLogCategory category, const QString& message);
 
 private:
-    void openTable(const TabExtensionInterface::FeatureList& features);
+    void openTable();
     void closeTable();
     void noteChanged(const QString& feature);
     void onCellEditorActive();
     void refresh();
 
+    QPointer<CameraSession> m_session;
     QLineEdit* m_filter;
     QVBoxLayout* m_layout;
     QTimer* m_refreshTimer;
@@ -49,5 +54,6 @@ private:
     std::unique_ptr<FeatureManager> m_manager;
     std::shared_ptr<PluginFeatureObserver> m_observer;
     std::unique_ptr<FeaturesTableWidget> m_table;
+    bool m_isSeen = false;
     QSet<QString> m_changed; ///< rows to refresh
 };

@@ -34,8 +34,8 @@ FeatureWritePane::FeatureWritePane(QWidget* parent)
     valueRow->addWidget(m_write);
     auto* layout = new QFormLayout(this);
     layout->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
-    layout->addRow(tr("&Feature:"), m_feature);
-    auto* valueLabel = new QLabel(tr("&Value:"), this);
+    layout->addRow(tr("Feat&ure:"), m_feature);
+    auto* valueLabel = new QLabel(tr("V&alue:"), this);
     valueLabel->setBuddy(m_value);
     layout->addRow(valueLabel, valueRow);
     layout->addRow(m_result);

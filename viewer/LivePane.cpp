@@ -46,8 +46,8 @@ LivePane::LivePane(QWidget* parent)
     : QWidget(parent)
     , m_picture(new LivePicture(this))
     , m_caption(new ElidedLabel(this))
-    , m_start(new QPushButton(tr("&Start"), this))
-    , m_stop(new QPushButton(tr("S&top"), this))
+    , m_start(new QPushButton(tr("Sta&rt"), this))
+    , m_stop(new QPushButton(tr("Sto&p"), this))
 {
     m_start->setObjectName(QStringLiteral("btnStart"));
     m_stop->setObjectName(QStringLiteral("btnStop"));

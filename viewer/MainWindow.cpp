@@ -12,6 +12,7 @@
 #include "PageHost.h"
 #include "PluginHost.h"
 #include "SimulatedSource.h"
+#include "WorkNotice.h"
 
 #include <QApplication>
 #include <QDockWidget>
@@ -63,6 +64,10 @@ MainWindow::~MainWindow()
 void MainWindow::openCamera(const QString& id)
 {
     closeCamera();
+    m_work = std::make_unique<WorkNotice>(tr("Opening %1 …").arg(id), this);
+    // The notice goes in answer, in the midst of its own signal.
+    connect(m_work.get(), &QProgressDialog::canceled, this, &MainWindow::closeCamera,
+            Qt::QueuedConnection);
     if (!CameraFinder::isResponsibleFor(id)) {
         startSession(id, std::make_shared<SimulatedSource>(id));
         return;
@@ -77,6 +82,8 @@ void MainWindow::onOpened(const QString& id, const std::shared_ptr<CameraSource>
     if (id != m_opening)
         return; // another one was asked for since
     m_opening.clear();
+    m_work->setLabelText(tr("Building the page of %1 …").arg(id));
+    m_work->repaint();
     startSession(id, camera);
     emit openingEnded();
 }
@@ -87,6 +94,7 @@ void MainWindow::onFailed(const QString& id, const QString& reason)
     if (id != m_opening)
         return;
     m_opening.clear();
+    m_work.reset();
     m_cameras->setOpenCamera({});
     emit openingEnded();
 }
@@ -145,11 +153,14 @@ void MainWindow::startSession(const QString& id, const std::shared_ptr<CameraSou
         m_log->append(ZebViewerLogGeneral, page->refusal());
     m_pages->addTab(page, page->title());
     m_centre->setCurrentWidget(m_pages);
+    m_work.reset();
 }
 
 void MainWindow::closeCamera()
 {
-    m_opening.clear();
+    m_work.reset();
+    if (!std::exchange(m_opening, {}).isEmpty())
+        m_cameras->setOpenCamera({});
     if (!m_session)
         return;
     // The page goes before the camera: it still unregisters its observers.
@@ -230,6 +241,9 @@ void MainWindow::createPanes()
     m_docks->reset();
 
     connect(m_cameras, &CameraListPane::openRequested, this, &MainWindow::openCamera);
+    // Behind another one's tab a pane counts as visible all the same.
+    connect(m_featuresDock, &QDockWidget::visibilityChanged, m_features,
+            &FeatureTablePane::setSeen);
     connect(m_features, &FeatureTablePane::logged, m_log, &LogPane::append);
     connect(m_cameras, &CameraListPane::closeRequested, this, &MainWindow::closeCamera);
 }

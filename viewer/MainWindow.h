@@ -20,6 +20,7 @@ class PluginHost;
 class QDockWidget;
 class QStackedWidget;
 class QTabWidget;
+class WorkNotice;
 
 /// The viewer's window: panes around the pages of the open camera, of which there is one at most.
 class MainWindow : public QMainWindow
@@ -72,7 +73,8 @@ private:
 
     std::unique_ptr<PluginHost> m_plugin;
     std::unique_ptr<CameraFinder> m_finder;
-    QString m_opening; ///< the ID of a camera that is asked for
+    QString m_opening;                  ///< the ID of a camera that is asked for
+    std::unique_ptr<WorkNotice> m_work; ///< while it is opened
     QAction* m_presented = nullptr;
     std::unique_ptr<CameraSession> m_session;
     DockLayout* m_docks;

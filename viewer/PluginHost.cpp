@@ -42,10 +42,13 @@ PluginHost::PluginHost(const QString& path)
 
 PluginHost::Result PluginHost::createTab(const TabExtensionInterface::FeatureList& features,
                                          QWidget* page, const QMap<QString, QVariant>& connections)
-try {
-    return m_module ? Result(m_module->createTab(features, page, &connections)) : Result(m_failure);
-} catch (const std::exception& error) {
-    return Result(tr("The module failed: %1").arg(QString::fromLocal8Bit(error.what())));
-} catch (...) {
-    return Result(tr("The module failed for an unknown reason."));
+{
+    try {
+        return m_module ? Result(m_module->createTab(features, page, &connections))
+                        : Result(m_failure);
+    } catch (const std::exception& error) {
+        return Result(tr("The module failed: %1").arg(QString::fromLocal8Bit(error.what())));
+    } catch (...) {
+        return Result(tr("The module failed for an unknown reason."));
+    }
 }

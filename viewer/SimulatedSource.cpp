@@ -52,20 +52,18 @@ sim::Value parse(const QString& text, ZebFeatureDataType type)
     }
 }
 
-} // namespace
-
-QVector<CameraEntry> SimulatedSource::models()
+std::unique_ptr<sim::Camera> createCamera(const QString& id)
 {
-    QVector<CameraEntry> entries;
-    for (const sim::Model& model : sim::models()) {
-        const QString name = QString::fromStdString(model.name);
-        entries.append({name, name, QString::fromStdString(model.description)});
-    }
-    return entries;
+    const QStringList parts = id.split(QLatin1Char('+'));
+    sim::CameraOptions options;
+    options.extraFeatures = parts.value(1).toInt();
+    return sim::createCamera(parts.constFirst().toStdString(), options);
 }
 
-SimulatedSource::SimulatedSource(const QString& model)
-    : m_camera(sim::createCamera(model.toStdString()))
+} // namespace
+
+SimulatedSource::SimulatedSource(const QString& id)
+    : m_camera(createCamera(id))
     , m_shown(sensorState(m_camera->snapshot()))
 {
     connect(&m_timer, &QTimer::timeout, this, &SimulatedSource::update);

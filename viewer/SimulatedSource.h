@@ -1,6 +1,5 @@
 #pragma once
 
-#include "CameraEntry.h"
 #include "CameraSource.h"
 
 #include <QTimer>
@@ -17,10 +16,8 @@ class SimulatedSource : public CameraSource
     Q_OBJECT
 
 public:
-    static QVector<CameraEntry> models();
-
-    /// @p model is the ID of one of models().
-    explicit SimulatedSource(const QString& model);
+    /// @p id is one of a model, or one with "+N" behind it for N features more.
+    explicit SimulatedSource(const QString& id);
     ~SimulatedSource() override;
 
     std::vector<ZebCPP::FeaturePtr> features() const override;

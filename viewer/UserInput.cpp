@@ -10,20 +10,21 @@
 #include <QMouseEvent>
 #include <QSpinBox>
 #include <QTabBar>
+#include <QTabWidget>
 
 namespace {
 
-QString text(const char* source)
+class Text
 {
-    return QCoreApplication::translate("UserInput", source);
-}
+    Q_DECLARE_TR_FUNCTIONS(UserInput)
+};
 
 QString whyUnusable(const QWidget* widget)
 {
     if (!widget->isVisible())
-        return text("%1 is not visible").arg(widget->objectName());
+        return Text::tr("%1 is not visible").arg(widget->objectName());
     if (!widget->isEnabled())
-        return text("%1 is disabled").arg(widget->objectName());
+        return Text::tr("%1 is disabled").arg(widget->objectName());
     return {};
 }
 
@@ -124,7 +125,7 @@ QString setWidgetValue(QWidget* widget, const QString& value)
     widget->setFocus();
     return setValue(widget, value)
         ? QString()
-        : text("%1 does not take the value '%2'").arg(widget->objectName(), value);
+        : Text::tr("%1 does not take the value '%2'").arg(widget->objectName(), value);
 }
 
 void doubleClickWidget(QWidget* widget, const QPoint& position)
@@ -140,6 +141,14 @@ void doubleClickWidget(QWidget* widget, const QPoint& position)
 
 QString selectTab(QWidget* root, const QString& label)
 {
+    const auto widgets = root->findChildren<QTabWidget*>();
+    for (QTabWidget* widget : widgets) {
+        QWidget* page = widget->findChild<QWidget*>(label);
+        if (page && widget->indexOf(page) >= 0) {
+            widget->setCurrentWidget(page);
+            return {};
+        }
+    }
     const auto bars = root->findChildren<QTabBar*>();
     for (QTabBar* bar : bars) {
         for (int index = 0; index < bar->count(); ++index) {
@@ -149,5 +158,5 @@ QString selectTab(QWidget* root, const QString& label)
             }
         }
     }
-    return text("there is no tab '%1'").arg(label);
+    return Text::tr("there is no tab '%1'").arg(label);
 }

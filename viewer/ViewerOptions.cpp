@@ -1,7 +1,6 @@
 #include "ViewerOptions.h"
 
 #include <QCommandLineParser>
-#include <QCoreApplication>
 #include <QFileInfo>
 #include <QHash>
 
@@ -22,29 +21,35 @@ struct ScriptOption
 };
 
 const ScriptOption scriptOptions[] = {
-    {"click", "OBJECTNAME", "Click a widget; in a dialog, the button of this text.",
+    {"click", "OBJECTNAME",
+     QT_TRANSLATE_NOOP("ViewerOptions", "Click a widget; in a dialog, the button of this text."),
      ScriptAction::Click},
-    {"set", "OBJECTNAME=VALUE", "Set a spin box, choice, check box or field as a user would.",
+    {"set", "OBJECTNAME=VALUE",
+     QT_TRANSLATE_NOOP("ViewerOptions",
+                       "Set a spin box, choice, check box or field as a user would."),
      ScriptAction::Set},
-    {"tab", "TEXT", "Select the tab of this text.", ScriptAction::Tab},
-    {"edit", "FEATURE", "Open the editor of a feature in the table of camera features.",
+    {"tab", "TEXT",
+     QT_TRANSLATE_NOOP("ViewerOptions",
+                       "Select the tab of this text, or of the page of this object name."),
+     ScriptAction::Tab},
+    {"edit", "FEATURE",
+     QT_TRANSLATE_NOOP("ViewerOptions",
+                       "Open the editor of a feature in the table of camera features."),
      ScriptAction::Edit},
-    {"write", "FEATURE=VALUE", "Write a feature as another client of the camera.",
+    {"write", "FEATURE=VALUE",
+     QT_TRANSLATE_NOOP("ViewerOptions", "Write a feature as another client of the camera."),
      ScriptAction::Write},
-    {"start", nullptr, "Start streaming.", ScriptAction::Start},
-    {"stop", nullptr, "Stop streaming.", ScriptAction::Stop},
-    {"close", nullptr, "Close the camera.", ScriptAction::Close},
-    {"wait", "MS", "Wait, with the window alive.", ScriptAction::Wait},
+    {"start", nullptr, QT_TRANSLATE_NOOP("ViewerOptions", "Start streaming."), ScriptAction::Start},
+    {"stop", nullptr, QT_TRANSLATE_NOOP("ViewerOptions", "Stop streaming."), ScriptAction::Stop},
+    {"close", nullptr, QT_TRANSLATE_NOOP("ViewerOptions", "Close the camera."),
+     ScriptAction::Close},
+    {"wait", "MS", QT_TRANSLATE_NOOP("ViewerOptions", "Wait, with the window alive."),
+     ScriptAction::Wait},
 };
-
-QString text(const char* source)
-{
-    return QCoreApplication::translate("ViewerOptions", source);
-}
 
 void addOptions(QCommandLineParser& parser)
 {
-    parser.setApplicationDescription(text(
+    parser.setApplicationDescription(ViewerOptions::tr(
         "Opens simulated cameras and shows the module's page for them.\n"
         "Actions (--click, --set, --tab, --edit, --write, --start, --stop, --close, --wait) may be "
         "given several times; they are carried out in the order given, then the screenshot "
@@ -52,20 +57,30 @@ void addOptions(QCommandLineParser& parser)
     parser.addHelpOption();
     parser.addOptions({
         {"list-cameras",
-         text("List the cameras and end; where built with GenICam cameras, those found as well.")},
-        {"camera", text("Open this camera: a name of the list, or genicam:ADDRESS."), "NAME"},
-        {"plugin", text("Load the module from this file instead of plugins/ beside the program."),
+         ViewerOptions::tr(
+             "List the cameras and end; where built with GenICam cameras, those found as well.")},
+        {"camera",
+         ViewerOptions::tr("Open this camera: NAME of the list, NAME+N with N features more, or "
+                           "genicam:ADDRESS."),
+         "NAME"},
+        {"plugin",
+         ViewerOptions::tr(
+             "Load the module from this file instead of plugins/ beside the program."),
          "PATH"},
-        {"size", text("Size of the window; with it, nothing is remembered."), "WxH"},
+        {"size", ViewerOptions::tr("Size of the window; with it, nothing is remembered."), "WxH"},
         {"present-as-supported",
-         text("Tell the page a vendor that it supports, whoever made the camera.")},
-        {"dark", text("Use dark colours.")},
-        {"screenshot", text("Write a picture of the window to this PNG file and end."), "FILE"},
-        {"keep-going", text("Report actions that cannot be done and go on.")},
-        {"quit-after", text("End after so many milliseconds."), "MS"},
+         ViewerOptions::tr("Tell the page a vendor that it supports, whoever made the camera.")},
+        {"language",
+         ViewerOptions::tr("Take this language for the system's: de, fr, ja, zh_CN, or en."),
+         "NAME"},
+        {"dark", ViewerOptions::tr("Use dark colours.")},
+        {"screenshot", ViewerOptions::tr("Write a picture of the window to this PNG file and end."),
+         "FILE"},
+        {"keep-going", ViewerOptions::tr("Report actions that cannot be done and go on.")},
+        {"quit-after", ViewerOptions::tr("End after so many milliseconds."), "MS"},
     });
     for (const ScriptOption& option : scriptOptions)
-        parser.addOption({option.name, text(option.description), option.argument});
+        parser.addOption({option.name, ViewerOptions::tr(option.description), option.argument});
 }
 
 /// The parser keeps the order of the names, and for each name the order of its values.
@@ -113,16 +128,16 @@ ViewerOptions parseOptions(const QStringList& arguments)
     if (parser.isSet("size")) {
         options.size = parseSize(parser.value("size"));
         if (options.size.isEmpty())
-            options.error = text("--size takes a width and a height, as in 1400x900.");
+            options.error = ViewerOptions::tr("--size takes a width and a height, as in 1400x900.");
     }
     if (parser.isSet("quit-after")) {
         bool valid = false;
         options.quitAfter = parser.value("quit-after").toInt(&valid);
         if (!valid || options.quitAfter < 0)
-            options.error = text("--quit-after takes a number of milliseconds.");
+            options.error = ViewerOptions::tr("--quit-after takes a number of milliseconds.");
     }
     if (!parser.positionalArguments().isEmpty())
-        options.error
-            = text("Unexpected argument '%1'.").arg(parser.positionalArguments().constFirst());
+        options.error = ViewerOptions::tr("Unexpected argument '%1'.")
+                            .arg(parser.positionalArguments().constFirst());
     return options;
 }

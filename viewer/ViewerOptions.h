@@ -2,6 +2,7 @@
 
 #include "ScriptRunner.h"
 
+#include <QCoreApplication>
 #include <QSize>
 #include <QString>
 #include <QStringList>
@@ -10,6 +11,9 @@
 /// What the command line asks for. Paths are absolute.
 struct ViewerOptions
 {
+    Q_DECLARE_TR_FUNCTIONS(ViewerOptions)
+
+public:
     bool listCameras = false;
     bool dark = false;
     bool keepGoing = false; ///< an action that cannot be done does not end the program

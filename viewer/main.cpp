@@ -1,17 +1,15 @@
 #include "CameraFinder.h"
+#include "Language.h"
 #include "MainWindow.h"
 #include "ScriptRunner.h"
-#include "SimulatedSource.h"
+#include "SimulatedModels.h"
 #include "ViewerOptions.h"
 
 #include <QApplication>
 #include <QDir>
 #include <QFont>
-#include <QLibraryInfo>
-#include <QLocale>
 #include <QTextStream>
 #include <QTimer>
-#include <QTranslator>
 
 #include <algorithm>
 #include <cstdio>
@@ -52,20 +50,22 @@ std::unique_ptr<CameraFinder> createFinder()
 void listCameras()
 {
     QTextStream out(stdout);
-    QVector<CameraEntry> cameras = SimulatedSource::models();
+    QVector<CameraEntry> cameras = SimulatedModels::all();
     if (const auto finder = createFinder())
         cameras += finder->findNow();
     for (const CameraEntry& camera : qAsConst(cameras))
-        out << camera.id.leftJustified(28) << ' ' << camera.description << '\n';
+        out << camera.id.leftJustified(28) << ' ' << camera.name << ": " << camera.description
+            << '\n';
 }
 
-bool isKnownCamera(const QString& name)
+bool isKnownCamera(const QString& id)
 {
-    if (CameraFinder::isResponsibleFor(name))
+    if (CameraFinder::isResponsibleFor(id))
         return createFinder() != nullptr;
-    const auto models = SimulatedSource::models();
-    return std::any_of(models.begin(), models.end(),
-                       [&](const CameraEntry& model) { return model.name == name; });
+    const auto models = SimulatedModels::all();
+    return std::any_of(models.begin(), models.end(), [&](const CameraEntry& model) {
+        return model.id == id.section(QLatin1Char('+'), 0, 0);
+    });
 }
 
 QString complaint(const ViewerOptions& options)
@@ -73,7 +73,7 @@ QString complaint(const ViewerOptions& options)
     if (!options.error.isEmpty())
         return options.error;
     if (!options.camera.isEmpty() && !isKnownCamera(options.camera))
-        return QStringLiteral("There is no camera '%1'; --list-cameras names them.")
+        return ViewerOptions::tr("There is no camera '%1'; --list-cameras names them.")
             .arg(options.camera);
     return {};
 }
@@ -85,7 +85,7 @@ void onScriptFinished(MainWindow& window, const QString& screenshot)
         return;
     const bool saved = window.screenshot().save(screenshot, "PNG");
     if (!saved)
-        printError(QStringLiteral("Cannot write %1.").arg(screenshot));
+        printError(ViewerOptions::tr("Cannot write %1.").arg(screenshot));
     QCoreApplication::exit(saved ? Done : ScriptFailed);
 }
 
@@ -100,8 +100,8 @@ void onActionFailed(const QString& reason, bool keepGoing)
 std::unique_ptr<QCoreApplication> createApplication(int& argc, char** argv)
 {
     const bool printsOnly = std::any_of(argv, argv + argc, [](const char* argument) {
-        return qstrcmp(argument, "--list-cameras") == 0 || qstrcmp(argument, "--help") == 0
-            || qstrcmp(argument, "--help-all") == 0 || qstrcmp(argument, "-h") == 0;
+        const QByteArrayList printing{"--list-cameras", "--help", "--help-all", "-h"};
+        return printing.contains(argument);
     });
     if (printsOnly)
         return std::make_unique<QCoreApplication>(argc, argv);
@@ -115,15 +115,6 @@ void chooseOffscreenFont()
     QFont font = QApplication::font();
     font.setPointSize(pointSize);
     QApplication::setFont(font);
-}
-
-/// The buttons of the pages' questions are Qt's, and so are their texts. The pages go by the
-/// system's locale as well.
-void loadQtTranslation(QTranslator& translator)
-{
-    if (translator.load(QLatin1String("qtbase_") + QLocale::system().name(),
-                        QLibraryInfo::location(QLibraryInfo::TranslationsPath)))
-        QCoreApplication::installTranslator(&translator);
 }
 
 #ifdef Q_OS_WIN
@@ -145,9 +136,17 @@ int main(int argc, char** argv)
 #endif
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+#ifdef Q_OS_WIN
+    // One and a half is common there, and would become two.
+    QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
+        Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+#endif
+    chooseLanguage(argc, argv);
     const auto application = createApplication(argc, argv);
     QCoreApplication::setOrganizationName(QStringLiteral("tabextensionimgfmt"));
     QCoreApplication::setApplicationName(QStringLiteral("viewer"));
+
+    loadTranslations();
 
     const ViewerOptions options = parseOptions(QCoreApplication::arguments());
     if (options.listCameras) {
@@ -164,8 +163,6 @@ int main(int argc, char** argv)
 
     if (QGuiApplication::platformName() == QLatin1String("offscreen"))
         chooseOffscreenFont();
-    QTranslator qtTranslator;
-    loadQtTranslation(qtTranslator);
     MainWindow::setDark(options.dark);
     MainWindow window(options.modulePath, createFinder());
     window.setPresentedAsSupported(options.presentAsSupported);

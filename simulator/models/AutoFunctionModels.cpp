@@ -14,8 +14,7 @@ enum class Exposure {
 };
 
 // A camera with one region and what @p block makes of the automatic functions.
-template <typename Block>
-Model familyModel(std::string name, std::string description, Exposure exposure, Block block)
+template <typename Block> Model familyModel(std::string name, Exposure exposure, Block block)
 {
     const auto build = [name, exposure, block](const SensorSize& size) {
         return joined({
@@ -32,7 +31,7 @@ Model familyModel(std::string name, std::string description, Exposure exposure, 
             block(size),
         });
     };
-    return {std::move(name), std::move(description), SensorSize::megapixels5(), build};
+    return {std::move(name), SensorSize::megapixels5(), build};
 }
 
 } // namespace
@@ -40,50 +39,44 @@ Model familyModel(std::string name, std::string description, Exposure exposure, 
 std::vector<Model> autoFunctionModels()
 {
     return {
-        familyModel("aoi", "Auto-function region with switch and overlay, float exposure limits",
-                    Exposure::Current,
+        familyModel("aoi", Exposure::Current,
                     [](const SensorSize& size) {
                         return joined({autoFunctionAoi(size, AutoFunctionAoi::Switched),
                                        exposureLimits(ExposureLimits::Float),
                                        intensityController()});
                     }),
-        familyModel("aoi-gated", "The same, writable only while it is switched on",
-                    Exposure::Current,
+        familyModel("aoi-gated", Exposure::Current,
                     [](const SensorSize& size) {
                         return joined({autoFunctionAoi(size, AutoFunctionAoi::Gated),
                                        exposureLimits(ExposureLimits::Float)});
                     }),
-        familyModel("aoi-plain", "Auto-function region without switch and overlay", Exposure::Older,
+        familyModel("aoi-plain", Exposure::Older,
                     [](const SensorSize& size) {
                         return joined({autoFunctionAoi(size, AutoFunctionAoi::Plain),
                                        exposureLimits(ExposureLimits::Integer)});
                     }),
-        familyModel("automode-dynamic", "Auto-mode region, offset and size bound each other",
-                    Exposure::Current,
+        familyModel("automode-dynamic", Exposure::Current,
                     [](const SensorSize& size) {
                         return joined({autoModeRegion(size, AutoModeRanges::Dynamic),
                                        exposureLimits(ExposureLimits::Integer),
                                        intensityController()});
                     }),
-        familyModel("automode-fixed", "Auto-mode region with fixed ranges", Exposure::Older,
+        familyModel("automode-fixed", Exposure::Older,
                     [](const SensorSize& size) {
                         return joined({autoModeRegion(size, AutoModeRanges::Fixed),
                                        exposureLimits(ExposureLimits::Float)});
                     }),
-        familyModel("dsp", "Auto-function region told by its edges, no exposure time",
-                    Exposure::None,
+        familyModel("dsp", Exposure::None,
                     [](const SensorSize& size) {
                         return joined({dspSubregion(size), exposureLimits(ExposureLimits::Float)});
                     }),
-        familyModel("mixed-aoi-automode", "Auto-function and auto-mode region in one camera",
-                    Exposure::Current,
+        familyModel("mixed-aoi-automode", Exposure::Current,
                     [](const SensorSize& size) {
                         return joined({autoFunctionAoi(size, AutoFunctionAoi::Switched),
                                        autoModeRegion(size, AutoModeRanges::Dynamic),
                                        exposureLimits(ExposureLimits::Integer)});
                     }),
-        familyModel("mixed-aoi-dsp", "Auto-function region by size and by edges in one camera",
-                    Exposure::Current,
+        familyModel("mixed-aoi-dsp", Exposure::Current,
                     [](const SensorSize& size) {
                         return joined({autoFunctionAoi(size, AutoFunctionAoi::Plain),
                                        dspSubregion(size), exposureLimits(ExposureLimits::Float)});

@@ -7,7 +7,7 @@ namespace sim {
 
 namespace {
 
-Model regionsModel(std::string name, std::string description, int count,
+Model regionsModel(std::string name, int count,
                    RegionSelector selector = RegionSelector::Enumeration,
                    const std::string& switchName = "MultipleRegionEnable")
 {
@@ -24,7 +24,7 @@ Model regionsModel(std::string name, std::string description, int count,
             multipleRegions(size, count, selector, switchName),
         });
     };
-    return {name, std::move(description), SensorSize::megapixels5(), build};
+    return {name, SensorSize::megapixels5(), build};
 }
 
 FeatureDescriptions olderRegionNames(const SensorSize& size)
@@ -46,17 +46,13 @@ FeatureDescriptions olderRegionNames(const SensorSize& size)
 std::vector<Model> multiRegionModels()
 {
     return {
-        regionsModel("multi-region", "Four regions", 4),
-        regionsModel("multi-region-6", "Six regions", 6),
-        regionsModel("multi-region-integer", "Four regions, selected by number", 4,
-                     RegionSelector::Integer),
-        regionsModel("multi-region-2", "Two regions", 2),
-        regionsModel("multi-region-3", "Three regions", 3, RegionSelector::Enumeration,
-                     "MultipleRegionsEnable"),
-        regionsModel("multi-region-256", "256 regions, selected by number", 256,
-                     RegionSelector::Integer),
-        {"multi-region-older", "Four regions under the older names OffsetX and Width",
-         SensorSize::megapixels5(), olderRegionNames},
+        regionsModel("multi-region", 4),
+        regionsModel("multi-region-6", 6),
+        regionsModel("multi-region-integer", 4, RegionSelector::Integer),
+        regionsModel("multi-region-2", 2),
+        regionsModel("multi-region-3", 3, RegionSelector::Enumeration, "MultipleRegionsEnable"),
+        regionsModel("multi-region-256", 256, RegionSelector::Integer),
+        {"multi-region-older", SensorSize::megapixels5(), olderRegionNames},
     };
 }
 

@@ -40,7 +40,7 @@ else
     expected=(plugins/libtabextensionimgfmt.so)
 fi
 expected+=("$viewer" INSTALL.txt NOTICES.txt include/TabExtensionInterface.h include/ZebViewerLogCategory.h include/ZebCPP/ZebCPP.h
-    qm/tabextensionimgfmt_de.qm)
+    qm/tabextensionimgfmt_de.qm qm/viewer_de.qm)
 for file in "${expected[@]}"; do
     check "holds $file" [ -s "$file" ]
 done

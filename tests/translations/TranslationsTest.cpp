@@ -14,7 +14,7 @@
 
 namespace {
 
-const std::array bases{"tabextensionaoi", "tabextensionautoaoi", "tabextensionimgfmt"};
+const std::array bases{"tabextensionaoi", "tabextensionautoaoi", "tabextensionimgfmt", "viewer"};
 const std::array languages{"de", "fr", "ja", "zh_CN"};
 
 const char* const localeTest = "loadsForTheSystemLocale";

@@ -18,6 +18,7 @@ struct Fixture
         pane.setSession(&session);
         pane.resize(600, 400);
         pane.show();
+        pane.setSeen(true);
         QApplication::setActiveWindow(&pane);
         table = pane.findChild<QTableWidget*>(QString("tblFeatures"));
         const auto names = table->model()->match(table->model()->index(0, 0), Qt::UserRole,

@@ -1,0 +1,40 @@
+#include "SimulatedModels.h"
+
+QVector<CameraEntry> SimulatedModels::all()
+{
+    return {
+        {"current", tr("Standard camera, 5 megapixels"), tr("All that a camera of today has")},
+        {"current-20", tr("Standard camera, 20 megapixels"), tr("The same with a larger sensor")},
+        {"current-150", tr("Standard camera, 150 megapixels"),
+         tr("The same with the largest sensor")},
+        {"plain", tr("Simple camera"), tr("No binning, no reversal, one region only")},
+        {"older-names", tr("Older camera"), tr("Older feature names, binning without stages")},
+        {"other-vendor", tr("Camera of another maker"), tr("The page refuses it")},
+        {"no-height", tr("Camera without Height"), tr("There is no region to edit")},
+        {"many-features", tr("Camera with 400 features"), tr("A long table of camera features")},
+        {"bayer", tr("Colour camera"), tr("Bayer formats, a region that moves by single pixels")},
+        {"coarse", tr("Camera with a coarse grid"),
+         tr("A region that moves in wide steps, which the sensor is no multiple of")},
+        {"aoi", tr("Auto-function region"), tr("With switch and overlay, fine exposure limits")},
+        {"aoi-gated", tr("Auto-function region, gated"),
+         tr("The same, writable only while it is switched on")},
+        {"aoi-plain", tr("Auto-function region, plain"), tr("Without switch and overlay")},
+        {"automode-dynamic", tr("Auto-mode region"), tr("Offset and size bound each other")},
+        {"automode-fixed", tr("Auto-mode region, fixed"), tr("Offset and size have fixed ranges")},
+        {"dsp", tr("Auto-function region by edges"),
+         tr("Left, top, right and bottom; no exposure time")},
+        {"mixed-aoi-automode", tr("Auto-function and auto-mode region"),
+         tr("Both kinds in one camera")},
+        {"mixed-aoi-dsp", tr("Auto-function region by size and edges"),
+         tr("Both kinds in one camera")},
+        {"multi-region", tr("Four regions"), tr("Several regions in one picture")},
+        {"multi-region-6", tr("Six regions"), tr("Several regions in one picture")},
+        {"multi-region-integer", tr("Four regions by number"),
+         tr("The camera selects a region by a number")},
+        {"multi-region-2", tr("Two regions"), tr("The fewest that make an arrangement")},
+        {"multi-region-3", tr("Three regions"), tr("The older name of the regions' switch")},
+        {"multi-region-256", tr("256 regions by number"), tr("The most that a camera may have")},
+        {"multi-region-older", tr("Older camera with four regions"),
+         tr("The older names OffsetX and Width")},
+    };
+}
