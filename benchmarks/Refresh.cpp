@@ -1,8 +1,8 @@
+#include "PageWithFields.h"
 #include "PlainCamera.h"
 #include "Row.h"
 #include "Screen.h"
 #include "features/PluginFeatureObserver.h"
-#include "imageformat/ImageFormatWidget.h"
 
 #include <QCoreApplication>
 #include <QSignalBlocker>
@@ -18,31 +18,16 @@ constexpr int fields = 20;
 constexpr int notifications = 10000;
 constexpr QSize windowSize(1000, 900);
 
-/// The page with further fields, which it follows like its own.
-class PageWithFields : public ImageFormatWidget
-{
-public:
-    PageWithFields(const FeatureList& camera, const QStringList& names)
-        : ImageFormatWidget(camera, nullptr)
-    {
-        observedFeatures = names;
-        for (const QString& name : names)
-            (new QSpinBox(this))->setObjectName(QStringLiteral("spb") + name);
-    }
-};
-
 /// A page that shows twenty integers of a camera.
 class RefreshedPage
 {
 public:
     RefreshedPage()
         : m_camera(cameraWith(200, 0))
+        , m_names(PageWithFields::integers(fields))
     {
-        // Every fifth of the features without a meaning is an integer.
-        for (int i = 0; i < fields; ++i) {
-            m_names.append(QStringLiteral("Custom%1").arg(5 * i));
-            m_features.append(m_camera.feature(m_names.last().toLatin1().constData()));
-        }
+        for (const QString& name : qAsConst(m_names))
+            m_features.append(m_camera.feature(name.toLatin1().constData()));
         m_page = new PageWithFields(m_camera.features(), m_names);
         m_window = Screen::show(m_page, windowSize);
         m_page->updateTimer();

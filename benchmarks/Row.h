@@ -49,3 +49,4 @@ void addLookupRows();
 void addRefreshRows();
 void addFeatureTableRows();
 void addDefaultLayoutRows();
+void addCameraQuestionRows();

@@ -59,6 +59,7 @@ int main(int argc, char** argv)
     addRefreshRows();
     addFeatureTableRows();
     addDefaultLayoutRows();
+    addCameraQuestionRows();
 
     TableReporter table(std::to_string(std::thread::hardware_concurrency()) + " x " + processor
                         + ", Qt " + qVersion() + ", platform " + platform);

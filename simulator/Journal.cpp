@@ -21,6 +21,7 @@ void Journal::clear()
     m_entries.clear();
     for (auto& count : m_counts)
         count = 0;
+    m_questions = 0;
 }
 
 std::vector<JournalEntry> Journal::entries(Operations operations) const
@@ -52,9 +53,11 @@ std::size_t Journal::count() const
 }
 
 void Journal::add(Operation operation, const std::string& feature, const Value& value,
-                  ZebErrorType result)
+                  ZebErrorType result, bool isContinued)
 {
     ++m_counts[static_cast<std::size_t>(operation)];
+    if (!isContinued && Operations::questions().contains(operation))
+        ++m_questions;
     if (!records(operation))
         return;
     const std::lock_guard lock(m_mutex);

@@ -31,16 +31,20 @@ public:
     /// Calls since the last clear(), whether kept or not.
     std::size_t count(Operation operation) const;
     std::size_t count() const;
+    /// Of Operations::questions(); a text or list that takes two calls is one.
+    std::size_t questions() const { return m_questions; }
 
     bool records(Operation operation) const
     {
         return m_recorded.load(std::memory_order_relaxed).contains(operation);
     }
+    /// @param isContinued the second of two calls for a text or list
     void add(Operation operation, const std::string& feature, const Value& value,
-             ZebErrorType result);
+             ZebErrorType result, bool isContinued = false);
 
 private:
     std::array<std::atomic<std::size_t>, operationCount> m_counts{};
+    std::atomic<std::size_t> m_questions{0};
     mutable std::mutex m_mutex;
     std::atomic<Operations> m_recorded{Operations::all().without(Operation::GetName)};
     std::size_t m_capacity = 65536;

@@ -39,6 +39,12 @@ public:
             | Operation::GetIncrement | Operation::GetValidValueSet | Operation::IsValueAvailable
             | Operation::IsCommandDone | Operation::IsReadable | Operation::IsWritable;
     }
+    /// What a client asks the camera: values, ranges, increments, access, entries.
+    static constexpr Operations questions()
+    {
+        return fromCamera().without(writes()) | Operation::GetValues | Operation::GetEntry
+            | Operation::GetEntries;
+    }
     static constexpr Operations texts()
     {
         return Operations(Operation::GetName) | Operation::GetDisplayName | Operation::GetCategory

@@ -53,6 +53,7 @@ ZebErrorType SimFeature::GetValue(bool& value)
 ZebErrorType SimFeature::GetValue(char* buffer, std::uint32_t& length)
 {
     return perform(Operation::GetValue, [&](Call& call) {
+        call.isContinued = buffer != nullptr;
         const ZebFeatureDataType type = call.store.description(m_index).type;
         if (type != ZebFeatureDataString && type != ZebFeatureDataEnum)
             return ZebErrorBadParameter;
@@ -67,6 +68,7 @@ ZebErrorType SimFeature::GetValue(std::uint8_t* buffer, std::uint32_t bufferSize
                                   std::uint32_t& sizeFilled)
 {
     return perform(Operation::GetValue, [&](Call& call) {
+        call.isContinued = buffer != nullptr;
         if (call.store.description(m_index).type != ZebFeatureDataRaw)
             return ZebErrorBadParameter;
         if (!call.store.isReadable(m_index))

@@ -39,6 +39,7 @@ struct SimFeature::Call
     const Failure& failure;
     ChangeSet changes;
     Value value; ///< for the journal
+    bool isContinued = false;
 
     Value substituted(const Value& original) const
     {
@@ -80,11 +81,11 @@ template <typename Body> ZebErrorType SimFeature::perform(Operation operation, B
     }
 
     std::unique_lock lock(device->mutex());
-    Call call{*device, device->store(), failure, {}, {}};
+    Call call{*device, device->store(), failure, {}, {}, false};
     ZebErrorType result = body(call);
     if (failure.kind == Kind::Report)
         result = failure.code;
-    device->journal().add(operation, m_name, call.value, result);
+    device->journal().add(operation, m_name, call.value, result, call.isContinued);
     lock.unlock();
     if (!call.changes.features().empty())
         device->announce(call.changes);

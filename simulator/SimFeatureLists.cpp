@@ -9,6 +9,7 @@ namespace sim {
 ZebErrorType SimFeature::GetValues(const char** values, std::uint32_t& count)
 {
     return perform(Operation::GetValues, [&](Call& call) {
+        call.isContinued = values != nullptr;
         m_listed = call.store.sharedDescription(m_index);
         if (m_listed->type != ZebFeatureDataEnum)
             return ZebErrorBadParameter;
@@ -22,6 +23,7 @@ ZebErrorType SimFeature::GetValues(const char** values, std::uint32_t& count)
 ZebErrorType SimFeature::GetValues(std::int64_t* values, std::uint32_t& count)
 {
     return perform(Operation::GetValues, [&](Call& call) {
+        call.isContinued = values != nullptr;
         const FeatureDescription& feature = call.store.description(m_index);
         if (feature.type != ZebFeatureDataEnum)
             return ZebErrorBadParameter;
@@ -47,6 +49,7 @@ ZebErrorType SimFeature::GetEntry(ZebCPP::EnumEntry& entry, const char* name)
 ZebErrorType SimFeature::GetEntries(ZebCPP::EnumEntry* entries, std::uint32_t& count)
 {
     return perform(Operation::GetEntries, [&](Call& call) {
+        call.isContinued = entries != nullptr;
         const FeatureDescription& feature = call.store.description(m_index);
         if (feature.type != ZebFeatureDataEnum)
             return ZebErrorBadParameter;
@@ -59,6 +62,7 @@ ZebErrorType SimFeature::GetValidValueSet(std::int64_t* values, std::uint32_t bu
                                           std::uint32_t* setSize)
 {
     return perform(Operation::GetValidValueSet, [&](Call& call) {
+        call.isContinued = values != nullptr;
         const FeatureDescription& feature = call.store.description(m_index);
         if (feature.type != ZebFeatureDataInt || (!values && !setSize))
             return ZebErrorBadParameter;
