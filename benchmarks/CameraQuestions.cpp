@@ -4,7 +4,6 @@
 #include "Screen.h"
 #include "multiregion/MultiROIWidget.h"
 #include "multiregion/label/MultiRubberBandLabel.h"
-#include "multiregion/label/RectangleRubberBand.h"
 #include "regions/AOIWidget.h"
 #include "regions/label/RubberBandLabel.h"
 #include "simulator/Camera.h"
@@ -14,6 +13,7 @@
 #include <QDoubleSpinBox>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QRubberBand>
 #include <QTabWidget>
 #include <QTest>
 #include <QTimer>
@@ -62,8 +62,11 @@ public:
         return measure([this] { create(); });
     }
 
-    /// Once the page shows @p Part.
-    template <typename Part> Measurement of(const std::function<void(Part&)>& action)
+    /// Once the page shows @p Part, and is at rest after what comes before.
+    template <typename Part>
+    Measurement of(
+        const std::function<void(Part&)>& action,
+        const std::function<void(Part&)>& before = [](Part&) {})
     {
         create();
         static_cast<void>(m_window.release());
@@ -73,6 +76,8 @@ public:
         if (!part)
             throw std::logic_error("the page is not whole");
         tabs->setCurrentIndex(tabs->indexOf(part));
+        QTest::qWait(settlingTime);
+        before(*part);
         QTest::qWait(settlingTime);
         return measure([&] { action(*part); });
     }
@@ -114,19 +119,22 @@ private:
     std::unique_ptr<QWidget> m_window;
 };
 
-void drag(QWidget* label, const QPoint& from, const QPoint& to)
+/// A band becomes smaller; pressing and moving come before.
+template <typename Part, typename Label> Measurement releaseOn(QuestionedPage&& page)
 {
-    Screen::press(label, from);
-    Screen::move(label, (from + to) / 2);
-    Screen::move(label, to);
-    Screen::release(label, to);
-}
-
-void dragRegion(AOIWidget& page)
-{
-    auto* const label = page.findChild<RubberBandLabel*>();
-    const QPoint corner = label->findChild<QRubberBand*>()->geometry().bottomRight();
-    drag(label, corner, corner - QPoint(90, 70));
+    QPoint end;
+    const auto drag = [&](Part& part) {
+        auto* const label = part.template findChild<Label*>();
+        const QPoint corner
+            = label->template findChild<QRubberBand*>()->geometry().bottomRight() - QPoint(2, 2);
+        end = corner - QPoint(40, 30);
+        Screen::press(label, corner);
+        Screen::move(label, (corner + end) / 2);
+        Screen::move(label, end);
+    };
+    const auto release
+        = [&](Part& part) { Screen::release(part.template findChild<Label*>(), end); };
+    return page.template of<Part>(release, drag);
 }
 
 void typeWidth(AOIWidget& page)
@@ -140,13 +148,6 @@ void typeWidth(AOIWidget& page)
 void choosePreset(AOIWidget& page)
 {
     page.findChild<QPushButton*>(QStringLiteral("btnHalf"))->click();
-}
-
-void dragAmongRegions(MultiROIWidget& page)
-{
-    auto* const label = page.findChild<MultiRubberBandLabel*>();
-    const QPoint middle = label->findChild<RectangleRubberBand*>()->geometry().center();
-    drag(label, middle, middle + QPoint(8, 6));
 }
 
 void switchLastOn(MultiROIWidget& page)
@@ -191,11 +192,16 @@ void addCameraQuestionRows()
     addRows("creating the page", 200,
             [](int regions) { return QuestionedPage(regions).creation(); });
     addRows("typed width", std::nullopt, shownRegion(typeWidth), {4});
-    addRows("release of the region", 30, shownRegion(dragRegion), {4});
+    addRows(
+        "release of the region", 30,
+        [](int regions) { return releaseOn<AOIWidget, RubberBandLabel>(QuestionedPage(regions)); },
+        {4});
     addRows("preset", std::nullopt, shownRegion(choosePreset), {4});
     addRows("switching a region on", 120, shown(switchLastOn, "Vertical"), {2, 4, 16});
     addRows("load defaults", 300, shown(loadDefaults));
-    addRows("release among regions", 80, shown(dragAmongRegions));
+    addRows("release among regions", 80, [](int regions) {
+        return releaseOn<MultiROIWidget, MultiRubberBandLabel>(QuestionedPage(regions));
+    });
     addMeasurement("camera questions/20 changed names", "questions a name", 3, [] {
         QuestionedPage page(4, "Free", changedNames);
         Measurement found = page.of<AOIWidget>([&](AOIWidget&) { page.changeFields(); });

@@ -18,6 +18,7 @@ bool CameraLink::isSlow(Milliseconds duration)
 
 void CameraLink::told(const QString& feature, ZebErrorType result, Milliseconds duration)
 {
+    ++m_heard;
     m_isDoubtful = result != Sdk::success && isSlow(duration);
     if (!m_isDoubtful) {
         // A refusal at once is an answer as well.
@@ -44,6 +45,21 @@ bool CameraLink::isDue() const
 bool CameraLink::takeLoss()
 {
     return m_isLost && !std::exchange(m_isLossTaken, true);
+}
+
+std::shared_ptr<void> CameraLink::memory()
+{
+    ++m_memories;
+    return {this, [this](void*) {
+                if (--m_memories == 0)
+                    m_known.clear();
+            }};
+}
+
+void CameraLink::remember(const Question& question, const std::any& answer)
+{
+    if (m_memories > 0)
+        m_known[question] = answer;
 }
 
 bool CameraLink::mayPart() const

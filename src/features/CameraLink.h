@@ -2,9 +2,13 @@
 
 #include "features/SdkValues.h"
 
+#include <QMap>
 #include <QString>
 
+#include <any>
 #include <chrono>
+#include <memory>
+#include <utility>
 
 /// Whether the camera still answers; all pages and tables of a camera share one. One that was
 /// unplugged lets every call wait before it fails.
@@ -19,12 +23,15 @@ public:
     using Milliseconds = std::chrono::milliseconds;
 
     class ManyReads;
+    using Question = std::pair<const void*, int>; ///< of a feature
 
     /// What may go into failing calls while observers are registered or let go.
     static constexpr std::chrono::seconds patience{1};
 
     /// Two features in a row that failed after 100 ms or more make a loss; any answer ends it.
     void told(const QString& feature, ZebErrorType result, Milliseconds duration);
+    /// How many calls it was told of.
+    int heard() const { return m_heard; }
     bool isLost() const { return m_isLost; }
     /// The last that was heard is a call which failed slowly.
     bool isDoubtful() const { return m_isDoubtful; }
@@ -40,6 +47,19 @@ public:
     bool mayPart() const;
     void parted(ZebErrorType result, Milliseconds duration);
 
+    /// While it lives, what the camera has told is not asked again until something is written. The
+    /// link must outlive it.
+    std::shared_ptr<void> memory();
+    /// Empty when it is to be asked.
+    std::any remembered(const Question& question) const { return m_known.value(question); }
+    void remember(const Question& question, const std::any& answer);
+    /// One feature may change others.
+    ZebErrorType written(ZebErrorType result)
+    {
+        m_known.clear();
+        return result;
+    }
+
     static bool isSlow(Milliseconds duration);
     static Milliseconds since(Clock::time_point begin)
     {
@@ -50,7 +70,10 @@ private:
     bool m_isLost = false;
     bool m_isDoubtful = false;
     bool m_isLossTaken = false;
+    int m_heard = 0;
     int m_manyReads = 0;
+    int m_memories = 0;
+    QMap<Question, std::any> m_known;
     int m_questions = 0;
     QString m_lastFailed;
     Clock::time_point m_nextQuestion;

@@ -154,7 +154,7 @@ bool FeatureManager::IsWritable(const QString& name, const QString& alternative1
 
 bool FeatureManager::IsReadable(const QString& name)
 {
-    return Read(name).flag(&ZebFeatureWrapper::IsReadable).value_or(false);
+    return Read(name).flag(FeatureReader::Readability).value_or(false);
 }
 
 double FeatureManager::GetIncrement(const QString& name, const QString& alternative)
@@ -239,10 +239,10 @@ bool FeatureManager::IsFloatFeature(const QString& name, const QString& alternat
 QString FeatureManager::SetStringValue(const QString& name, const QString& alternative1,
                                        const QString& alternative2, const QString& value)
 {
-    const FeatureReader feature = Read(name, alternative1, alternative2);
+    FeatureReader feature = Read(name, alternative1, alternative2);
     if (!feature)
         return {};
-    feature->SetValue(value.toStdString().c_str());
+    feature.write(value.toStdString().c_str());
     return GetStringValue(name);
 }
 
@@ -259,8 +259,8 @@ double FeatureManager::SetValue(const QString& name, const QString& alternative1
 
 bool FeatureManager::RunCommand(const QString& name)
 {
-    const FeatureReader feature = Read(name);
-    return feature && feature->RunCommand() == Sdk::success;
+    FeatureReader feature = Read(name);
+    return feature && feature.run() == Sdk::success;
 }
 
 QString FeatureManager::GetCategory(const QString& name)

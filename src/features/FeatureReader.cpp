@@ -1,5 +1,6 @@
 #include "features/FeatureReader.h"
 
+#include <tuple>
 #include <utility>
 
 namespace {
@@ -35,14 +36,23 @@ FeatureReader::FeatureReader(ZebFeatureWrapperPtr feature, const QString& name,
 {
 }
 
-template <typename Call> bool FeatureReader::ask(Call&& call)
+template <typename Answer, typename Call>
+std::optional<Answer> FeatureReader::ask(Part part, Call&& call)
 {
     if (!m_feature || m_link->isClosed())
-        return false;
+        return std::nullopt;
+    const CameraLink::Question question(m_feature.get(), part);
+    const std::any known = m_link->remembered(question);
+    if (const auto* answer = std::any_cast<Answer>(&known))
+        return *answer;
+    Answer answer{};
     const CameraLink::Clock::time_point begin = CameraLink::Clock::now();
-    const ZebErrorType result = call(*m_feature);
+    const ZebErrorType result = call(*m_feature, answer);
     m_link->told(m_name, result, CameraLink::since(begin));
-    return result == Sdk::success;
+    if (result != Sdk::success)
+        return std::nullopt;
+    m_link->remember(question, answer);
+    return answer;
 }
 
 ZebFeatureDataType FeatureReader::dataType()
@@ -61,14 +71,19 @@ QString FeatureReader::text(TextGetter getter) const
         : QString();
 }
 
-QStringList FeatureReader::entries() const
+QStringList FeatureReader::entries()
 {
+    const CameraLink::Question question(m_feature.get(), Entries);
+    const std::any known = m_link->remembered(question);
+    if (const auto* entries = std::any_cast<QStringList>(&known))
+        return *entries;
     std::vector<std::string> values;
     if (!m_feature || m_feature->GetValues(values) != Sdk::success)
         return {};
     QStringList entries;
     for (const std::string& value : values)
         entries.append(QString::fromStdString(value));
+    m_link->remember(question, entries);
     return entries;
 }
 
@@ -84,9 +99,7 @@ template <typename Type> bool FeatureReader::isOf()
 
 template <typename Type> std::optional<Type> FeatureReader::valueOf()
 {
-    Type value{};
-    const auto get = [&value](ZebFeatureWrapper& feature) { return feature.GetValue(value); };
-    return ask(get) ? std::make_optional(value) : std::nullopt;
+    return ask<Type>(Value, [](auto& feature, Type& value) { return feature.GetValue(value); });
 }
 
 template <> std::optional<QString> FeatureReader::valueOf<QString>()
@@ -95,32 +108,30 @@ template <> std::optional<QString> FeatureReader::valueOf<QString>()
     return text ? std::make_optional(QString::fromStdString(*text)) : std::nullopt;
 }
 
-std::optional<bool> FeatureReader::flag(FlagGetter getter)
+std::optional<bool> FeatureReader::flag(Part part)
 {
-    bool flag = false;
-    const auto get = [&](ZebFeatureWrapper& feature) { return (feature.*getter)(flag); };
-    return ask(get) ? std::make_optional(flag) : std::nullopt;
+    return ask<bool>(part, [part](auto& feature, bool& flag) {
+        return part == Access     ? feature.IsWritable(flag)
+            : part == Readability ? feature.IsReadable(flag)
+                                  : feature.HasIncrement(flag);
+    });
 }
 
 /// False when the camera keeps back a part that it has.
 template <typename Number> bool FeatureReader::readLimits(Reading<Number>& reading, int parts)
 {
-    Number minimum{};
-    Number maximum{};
-    const auto readRange
-        = [&](ZebFeatureWrapper& feature) { return feature.GetRange(minimum, maximum); };
-    if ((parts & Range) != 0 && ask(readRange)) {
-        reading.minimum = minimum;
-        reading.maximum = maximum;
-    }
-    Number increment{};
-    const auto readIncrement
-        = [&](ZebFeatureWrapper& feature) { return feature.GetIncrement(increment); };
-    if ((parts & Increment) != 0 && ask(readIncrement))
-        reading.increment = increment;
+    using Bounds = std::pair<Number, Number>;
+    const auto getRange = [](auto& feature, Bounds& bounds) {
+        return feature.GetRange(bounds.first, bounds.second);
+    };
+    const auto getIncrement
+        = [](auto& feature, Number& increment) { return feature.GetIncrement(increment); };
+    if (const auto bounds = (parts & Range) != 0 ? ask<Bounds>(Range, getRange) : std::nullopt)
+        std::tie(reading.minimum, reading.maximum) = *bounds;
+    if ((parts & Increment) != 0)
+        reading.increment = ask<Number>(Increment, getIncrement);
     return ((parts & Range) == 0 || reading.minimum)
-        && ((parts & Increment) == 0 || reading.increment
-            || !flag(&ZebFeatureWrapper::HasIncrement).value_or(true));
+        && ((parts & Increment) == 0 || reading.increment || !flag(Stepping).value_or(true));
 }
 
 template <typename Type> Reading<Type> FeatureReader::read(int parts)
@@ -137,10 +148,10 @@ template <typename Type> Reading<Type> FeatureReader::read(int parts)
         reading.value = valueOf<Type>();
         if (!reading.value && m_link->isDoubtful())
             return reading;
-        isComplete = reading.value || !flag(&ZebFeatureWrapper::IsReadable).value_or(true);
+        isComplete = reading.value || !flag(Readability).value_or(true);
     }
     if ((parts & Access) != 0) {
-        const auto isWritable = flag(&ZebFeatureWrapper::IsWritable);
+        const auto isWritable = flag(Access);
         reading.isWritable = isWritable.value_or(false);
         isComplete = isComplete && isWritable;
     }

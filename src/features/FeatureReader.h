@@ -8,8 +8,8 @@
 
 #include <memory>
 
-/// Reads of the feature that a look-up found, of which the camera's link hears. Without a feature
-/// there is nothing in its answers.
+/// Reads of the feature that a look-up found, of which the camera's link hears, and which it may
+/// remember. Without a feature there is nothing in its answers.
 class FeatureReader
 {
 public:
@@ -18,10 +18,12 @@ public:
         Range = 2,
         Increment = 4,
         Access = 8,
-        Whole = Value | Range | Increment | Access
+        Whole = Value | Range | Increment | Access,
+        Readability = 16,
+        Stepping = 32,
+        Entries = 64
     };
     using TextGetter = ZebErrorType (ZebFeatureWrapper::*)(std::string&);
-    using FlagGetter = ZebErrorType (ZebFeatureWrapper::*)(bool&);
 
     /// With a missing @p feature, @p isKnown tells that the camera has none by that name.
     FeatureReader(ZebFeatureWrapperPtr feature, const QString& name,
@@ -36,7 +38,7 @@ public:
     // From the SDK's memory; empty, or the unknown type, when it fails.
     ZebFeatureDataType dataType();
     QString text(TextGetter getter) const;
-    QStringList entries() const;
+    QStringList entries();
 
     // From the camera, Whole or a set of parts. A value that fails slowly ends the reading.
     /// Of an integer, a double or a bool as the camera has it, of a QString for any type of
@@ -49,11 +51,19 @@ public:
     Reading<double> fieldNumber(int parts = Whole);
     std::optional<double> value() { return number(Value).value; }
     std::optional<QString> textValue() { return read<QString>(Value).value; }
-    std::optional<bool> flag(FlagGetter getter);
-    bool isWritable() { return flag(&ZebFeatureWrapper::IsWritable).value_or(false); }
+    /// Access, readability or stepping.
+    std::optional<bool> flag(Part part);
+    bool isWritable() { return flag(Access).value_or(false); }
+
+    // Only with a feature:
+    template <typename Value> ZebErrorType write(const Value& value)
+    {
+        return m_link->written(m_feature->SetValue(value));
+    }
+    ZebErrorType run() { return m_link->written(m_feature->RunCommand()); }
 
 private:
-    template <typename Call> bool ask(Call&& call);
+    template <typename Answer, typename Call> std::optional<Answer> ask(Part part, Call&& call);
     template <typename Type> bool isOf();
     template <typename Type> std::optional<Type> valueOf();
     template <typename Number> bool readLimits(Reading<Number>& reading, int parts);

@@ -39,7 +39,7 @@ bool writeInteger(FeatureReader& feature, const QString& name, int64_t value)
         value = value / increment * increment;
     }
     value = clamped(value, reading.minimum.value_or(-1), maximum);
-    return isTaken(feature->SetValue(value), "Error: FeatureManager::SetValue:Int: ", name);
+    return isTaken(feature.write(value), "Error: FeatureManager::SetValue:Int: ", name);
 }
 
 bool writeFloat(FeatureReader& feature, const QString& name, double value)
@@ -48,14 +48,14 @@ bool writeFloat(FeatureReader& feature, const QString& name, double value)
         return false;
     const auto range = feature.read<double>(FeatureReader::Range);
     value = clamped(value, range.minimum.value_or(-1.0), range.maximum.value_or(-1.0));
-    if (feature->SetValue(value) == Sdk::success)
+    if (feature.write(value) == Sdk::success)
         return true;
     const double present = feature.value().value_or(-1.0);
     const double increment
         = feature.read<double>(FeatureReader::Increment).increment.value_or(-1.0);
     if (increment > 0.0) {
         const double aligned = static_cast<double>(toUInt64(present / increment)) * increment;
-        isTaken(feature->SetValue(aligned), "Error: FeatureManager::SetValue:Double: ", name);
+        isTaken(feature.write(aligned), "Error: FeatureManager::SetValue:Double: ", name);
     }
     return false;
 }
@@ -63,7 +63,7 @@ bool writeFloat(FeatureReader& feature, const QString& name, double value)
 bool writeBoolean(FeatureReader& feature, const QString& name, bool value)
 {
     return feature.isWritable()
-        && isTaken(feature->SetValue(value), "Error: FeatureManager::SetValue:Bool: ", name);
+        && isTaken(feature.write(value), "Error: FeatureManager::SetValue:Bool: ", name);
 }
 
 // Whole numbers keep all 64 bits; only what is a floating-point number goes through a double.
@@ -122,13 +122,13 @@ bool writeVariant(FeatureReader& feature, const QString& name, const QVariant& v
     case Sdk::enumerationType:
     case Sdk::stringType:
         return feature.isWritable()
-            && feature->SetValue(value.toString().toStdString().c_str()) == Sdk::success;
+            && feature.write(value.toString().toStdString().c_str()) == Sdk::success;
     case Sdk::commandType:
-        return feature.isWritable() && feature->RunCommand() == Sdk::success;
+        return feature.isWritable() && feature.run() == Sdk::success;
     case Sdk::rawType: {
         const QByteArray bytes = value.toByteArray();
         return feature.isWritable()
-            && feature->SetValue(std::vector<uint8_t>(bytes.begin(), bytes.end())) == Sdk::success;
+            && feature.write(std::vector<uint8_t>(bytes.begin(), bytes.end())) == Sdk::success;
     }
     default:
         return false;

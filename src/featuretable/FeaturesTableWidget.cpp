@@ -253,6 +253,17 @@ void FeaturesTableWidget::storeFeatureInfo(int row, const FeatureInfo& info)
         item->setData(Qt::UserRole, QVariant::fromValue(info));
 }
 
+void FeaturesTableWidget::showValue(const QString& name, const FeatureValue& value)
+{
+    const int row = rowOf(name);
+    if (row < 0 || editedFeature() == name)
+        return;
+    FeatureInfo info = featureInfo(row);
+    info.value = value;
+    info.isKnown = true;
+    refreshRow(row, info);
+}
+
 void FeaturesTableWidget::setUpTable(int rowCount)
 {
     m_table->setEditTriggers(QAbstractItemView::DoubleClicked);

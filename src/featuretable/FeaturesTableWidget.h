@@ -80,6 +80,8 @@ protected:
     int rowOf(const QString& name) const;
     /// The record of a row; an empty one when the cell holds none.
     FeatureInfo featureInfo(int row) const;
+    /// As read by the owner. Of a row that is edited the value is left.
+    void showValue(const QString& name, const FeatureValue& value);
     /// Replaces the record of a row. This is not an edit, and an open editor keeps what it shows.
     void storeFeatureInfo(int row, const FeatureInfo& info);
 

@@ -70,7 +70,7 @@ bool FeatureBinder::write(QWidget* field, const QVariant& value)
     const QString name = featureOf(field);
     FeatureReader feature = m_manager.Read(name);
     if (feature && qobject_cast<QComboBox*>(field))
-        feature->SetValue(value.toString().toStdString().c_str());
+        feature.write(value.toString().toStdString().c_str());
     else if (feature)
         FeatureWriting::writeNumber(feature, name, value.toDouble());
     // The box is in the middle of telling what was chosen, so it keeps its entries.

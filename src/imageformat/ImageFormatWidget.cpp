@@ -47,6 +47,7 @@ ImageFormatWidget::ImageFormatWidget(const FeatureList& camera, QWidget* parent)
     }
     m_ui->btnImageFormat->setContent(m_ui->frmImageFormat);
     connectImageSource();
+    const std::shared_ptr<void> memory = featureManager->link()->memory();
     addRegionPages();
 
     m_ui->tabWidget->setCurrentIndex(0);

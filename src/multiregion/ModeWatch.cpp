@@ -1,7 +1,6 @@
 #include "multiregion/ModeWatch.h"
 
 #include <algorithm>
-#include <utility>
 
 namespace {
 
@@ -11,16 +10,8 @@ constexpr int mostVainLooks = 8;
 
 } // namespace
 
-void ModeWatch::selecting(bool isOther)
-{
-    m_mayEcho = true;
-    m_selections += isOther ? 1 : 0;
-}
-
 void ModeWatch::reported()
 {
-    if (std::exchange(m_mayEcho, false))
-        return;
     ++m_reports;
     m_quietSeconds = -1;
 }

@@ -3,16 +3,15 @@
 /// Tells when to look at all regions for those that another client has switched.
 ///
 /// A camera may notify of a region's mode whenever another region is selected, as a look does for
-/// each. The echo within the selecting is told apart. What comes later is looked at, whatever it
-/// is, until three looks in vain were each followed by as many reports: that many are known for
-/// the echo of a look from then on, and more or fewer are news.
+/// each. What it tells is looked at, whatever it is, until three looks in vain were each followed
+/// by as many reports: that many are known for the echo of a look from then on, and more or fewer
+/// are news.
 class ModeWatch
 {
 public:
-    // Around each selecting of a region by the page.
-    /// @param isOther another region than before
-    void selecting(bool isOther);
-    void selected() { m_mayEcho = false; }
+    /// The page selects a region, and hears nothing meanwhile.
+    /// @param isOther another one than before
+    void selecting(bool isOther) { m_selections += isOther ? 1 : 0; }
 
     /// The camera has notified of a region's mode.
     void reported();
@@ -28,8 +27,7 @@ private:
     bool isEcho() const;
     void rest();
 
-    bool m_mayEcho = false; ///< a selecting is under way that has not had its own
-    int m_reports = 0;      ///< since the last look
+    int m_reports = 0; ///< since the last look
     int m_quietSeconds = 0;
     int m_selections = 0; ///< since the last look began
     int m_vainLooks = 0;  ///< in a row

@@ -98,12 +98,12 @@ void MultiROIWidget::createRegions()
     const QStringList features = RegionTableWidget::findFeatures(*featureManager, m_tableManager);
     // Reading a region means selecting it on the camera, which is written for a page that is seen
     // only: the first refresh reads them all. These are those of the region that is selected.
-    const auto state = m_regions.read();
+    const auto state = m_regions.read(true);
     for (int region = 0; region < count; ++region) {
         m_tabs->add(new RegionTableWidget(region, this, features, m_ui->tabRegions),
                     regionDefaultColor());
         if (state)
-            m_label->setRegionLimits(region, state->limits);
+            m_label->setRegionLimits(region, *state->limits);
     }
     if (count < m_regions.count()) {
         const QString text
@@ -171,11 +171,12 @@ void MultiROIWidget::onRegionButtonToggled()
     const bool activate = button->isChecked();
     const QPointer<MultiROIWidget> page(this);
     const auto handling = m_senders.handling(sender());
+    m_toggling = std::make_shared<RegionWriter::Call>(*m_writer);
     m_tabs->open(region);
+    m_writer->tellCurrent(region);
+    m_activation->toggle(region, activate);
     if (page)
-        m_writer->tellCurrent(region);
-    if (page)
-        m_activation->toggle(region, activate);
+        m_toggling.reset();
     if (page)
         m_tabs->updateButtons();
 }
@@ -190,7 +191,7 @@ void MultiROIWidget::onArrangementModeChanged(int index)
     if (!refreshArrangement())
         readAgain({Name::multipleRegionArrangement});
     // The camera may have moved regions to fit.
-    m_writer->readAll();
+    m_writer->readWhole();
 }
 
 void MultiROIWidget::loadDefaultConfiguration()
@@ -291,6 +292,9 @@ std::shared_ptr<void> MultiROIWidget::hold()
 std::optional<Answer> MultiROIWidget::ask(Question question)
 {
     const QPointer<MultiROIWidget> page(this);
+    m_toggling.reset();
+    if (!page)
+        return std::nullopt;
     const QString modeBefore = m_tabs->mode();
     const bool wasStreaming = isStreaming();
     const bool wasVisible = isVisible();
@@ -353,7 +357,7 @@ QStringList MultiROIWidget::refresh(const Changes& changes)
         readAllNext();
     // The camera may notify of what did not change, also because all regions are read.
     if ((changes.all && isVisible()) || isSensorNew)
-        m_writer->readAll();
+        m_writer->readWhole();
     else
         refreshRegions(changes.names);
     return untold;

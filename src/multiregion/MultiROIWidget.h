@@ -88,6 +88,7 @@ private:
     std::unique_ptr<FeatureManager> m_tableManager;
     QPointer<MultiRubberBandLabel> m_label;
     std::unique_ptr<RegionTabs> m_tabs;
+    std::shared_ptr<void> m_toggling; ///< a call, until a question is asked
     std::unique_ptr<RegionWriter> m_writer;
     std::unique_ptr<RegionActivation> m_activation;
     std::unique_ptr<RegionSettings> m_settings;

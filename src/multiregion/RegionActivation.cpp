@@ -144,11 +144,7 @@ void RegionActivation::loadDefaults(const QColor& color)
         return;
     const OverrideCursor cursor(Qt::WaitCursor);
     const RegionWriter::Call call(m_writer);
-    {
-        const RegionWriter::Loading loading(m_writer);
-        applyDefaults(color);
-    }
-    m_writer.readAll();
+    m_writer.load([&] { applyDefaults(color); });
     m_tabs.open(0);
     m_writer.tellCurrent(0);
 }

@@ -2,6 +2,7 @@
 
 #include "features/FeatureManager.h"
 #include "features/FeatureNames.h"
+#include "features/FeatureWriting.h"
 #include "features/NumberConversion.h"
 #include "features/Reading.h"
 #include "features/SdkValues.h"
@@ -18,6 +19,8 @@ namespace {
 const QString onEntry = QStringLiteral("On");
 const QString offEntry = QStringLiteral("Off");
 const QString regionEntry = QStringLiteral("Region%1");
+
+constexpr int sizeLimits = FeatureReader::Range | FeatureReader::Increment;
 
 int wholePixels(std::optional<double> value, int missing)
 {
@@ -56,9 +59,11 @@ const AxisNames& namesOf(Qt::Orientation axis)
 
 struct AxisReading
 {
-    explicit AxisReading(FeatureManager& manager, Qt::Orientation axis)
-        : offset(manager.Read(namesOf(axis).offset, namesOf(axis).olderOffset).number())
-        , size(manager.Read(namesOf(axis).size, namesOf(axis).olderSize).fieldNumber())
+    AxisReading(FeatureManager& manager, Qt::Orientation axis, bool withLimits)
+        : offset(manager.Read(namesOf(axis).offset, namesOf(axis).olderOffset)
+                     .number(FeatureReader::Value | (withLimits ? FeatureReader::Increment : 0)))
+        , size(manager.Read(namesOf(axis).size, namesOf(axis).olderSize)
+                   .fieldNumber(FeatureReader::Value | (withLimits ? sizeLimits : 0)))
     {
     }
 
@@ -134,29 +139,27 @@ std::optional<int> RegionCamera::readSelected() const
 
 std::optional<bool> RegionCamera::readOn() const
 {
-    const Reading<QString> mode = m_manager.Read(Name::subRegionMode).read<QString>();
+    const auto mode = m_manager.Read(Name::subRegionMode).read<QString>(FeatureReader::Value);
     return mode.isComplete ? std::optional<bool>(mode.value == onEntry) : std::nullopt;
 }
 
-std::optional<RegionState> RegionCamera::read() const
+std::optional<RegionState> RegionCamera::read(bool withLimits) const
 {
-    const AxisReading x(m_manager, Qt::Horizontal);
-    const AxisReading y(m_manager, Qt::Vertical);
+    const AxisReading x(m_manager, Qt::Horizontal, withLimits);
+    const AxisReading y(m_manager, Qt::Vertical, withLimits);
     if (!x.isComplete() || !y.isComplete())
         return std::nullopt;
     const QRect geometry = truncatedRect(x.offset.value.value_or(0.0), y.offset.value.value_or(0.0),
                                          x.size.value.value_or(0.0), y.size.value.value_or(0.0));
-    return RegionState{geometry, {x.limits(), y.limits()}};
+    if (!withLimits)
+        return RegionState{geometry, std::nullopt};
+    return RegionState{geometry, RegionSizeLimits{x.limits(), y.limits()}};
 }
 
 std::optional<QRect> RegionCamera::readGeometry() const
 {
-    const auto x = readKnown(m_manager, Name::subRegionOffsetX, Name::offsetX);
-    const auto y = readKnown(m_manager, Name::subRegionOffsetY);
-    const auto size = readSize();
-    return x && y && size
-        ? std::optional<QRect>(truncatedRect(*x, *y, size->width(), size->height()))
-        : std::nullopt;
+    const std::optional<RegionState> state = read(false);
+    return state ? std::optional<QRect>(state->geometry) : std::nullopt;
 }
 
 std::optional<QSize> RegionCamera::readSize() const
@@ -169,7 +172,7 @@ std::optional<QSize> RegionCamera::readSize() const
 std::optional<SizeRange> RegionCamera::readSizeRange(Qt::Orientation axis) const
 {
     const Reading<double> size
-        = m_manager.Read(namesOf(axis).size, namesOf(axis).olderSize).fieldNumber();
+        = m_manager.Read(namesOf(axis).size, namesOf(axis).olderSize).fieldNumber(sizeLimits);
     if (!size.isComplete)
         return std::nullopt;
     const auto known
@@ -190,13 +193,18 @@ bool RegionCamera::writeFeature(const QString& name, const QVariant& value)
 
 void RegionCamera::writeGeometry(const QRect& rect, const QSize& former)
 {
-    const auto write = [this](Qt::Orientation axis, double offset, double size, double formerSize) {
+    // What came of it is seen when the region is read.
+    const auto writeNumber = [this](const QString& name, const QString& olderName, double value) {
+        FeatureReader feature = m_manager.Read(name, olderName);
+        FeatureWriting::writeNumber(feature, name, value);
+    };
+    const auto write = [&](Qt::Orientation axis, double offset, double size, double formerSize) {
         const AxisNames& names = namesOf(axis);
         if (size > formerSize)
-            m_manager.SetValue(names.offset, names.olderOffset, offset);
-        m_manager.SetValue(names.size, names.olderSize, size);
+            writeNumber(names.offset, names.olderOffset, offset);
+        writeNumber(names.size, names.olderSize, size);
         if (size <= formerSize)
-            m_manager.SetValue(names.offset, names.olderOffset, offset);
+            writeNumber(names.offset, names.olderOffset, offset);
     };
     write(Qt::Horizontal, rect.x(), rect.width(), former.width());
     write(Qt::Vertical, rect.y(), rect.height(), former.height());

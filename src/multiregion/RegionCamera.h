@@ -17,7 +17,7 @@ class QVariant;
 struct RegionState
 {
     QRect geometry;
-    RegionSizeLimits limits;
+    std::optional<RegionSizeLimits> limits; ///< when they were asked for
 };
 
 /// The camera's features of its regions. Except for the sensor's and the selector's, a feature is
@@ -50,7 +50,7 @@ public:
 
     // Of the selected region:
     std::optional<bool> readOn() const;
-    std::optional<RegionState> read() const;
+    std::optional<RegionState> read(bool withLimits) const;
     std::optional<QRect> readGeometry() const;
     std::optional<QSize> readSize() const;
     std::optional<SizeRange> readSizeRange(Qt::Orientation axis) const;

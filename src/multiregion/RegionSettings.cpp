@@ -42,7 +42,7 @@ std::optional<QString> RegionSettings::refreshArrangement()
     QComboBox* const box = m_form.cmbMultipleRegionArrangement;
     if (m_hasArrangement) {
         const Reading<QString> entry
-            = m_manager.Read(Name::multipleRegionArrangement).read<QString>();
+            = m_manager.Read(Name::multipleRegionArrangement).read<QString>(FeatureReader::Value);
         if (!entry.isComplete)
             return std::nullopt;
         const QString text = entry.value.value_or(QString());

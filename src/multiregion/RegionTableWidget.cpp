@@ -3,7 +3,9 @@
 #include "features/FeatureManager.h"
 #include "features/FeatureNames.h"
 #include "multiregion/MultiROIWidget.h"
+#include "multiregion/rules/ConstraintGroups.h"
 #include "multiregion/rules/TableConstraints.h"
+#include "sensor/Span.h"
 
 namespace Name = FeatureNames;
 
@@ -44,6 +46,21 @@ void RegionTableWidget::refresh()
 {
     updateFeatures(m_features);
     // An offset's bounds depend on a size, which may be in a later row.
+    applyRanges(m_constrainedFeatures);
+}
+
+void RegionTableWidget::show(bool isOn, const QRect& geometry)
+{
+    showValue(Name::subRegionMode, isOn ? "On" : "Off");
+    for (const QString& name : m_features) {
+        const auto axis = axisOf(name);
+        if (!axis)
+            continue;
+        const Span<int> span = spanOf(geometry, *axis);
+        const std::int64_t number = isOffset(name) ? span.start : span.length;
+        const bool isFloat = std::holds_alternative<double>(featureInfo(rowOf(name)).value);
+        showValue(name, isFloat ? FeatureValue(static_cast<double>(number)) : number);
+    }
     applyRanges(m_constrainedFeatures);
 }
 

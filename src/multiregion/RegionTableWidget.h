@@ -28,6 +28,8 @@ public:
 
     /// Reads all rows from the camera, which has the region selected.
     void refresh();
+    /// What the camera told of the region while another table was open.
+    void show(bool isOn, const QRect& geometry);
 
 signals:
     /// @param masterRegion the region that the feature is shared from, -1 for none

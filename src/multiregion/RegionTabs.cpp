@@ -172,20 +172,32 @@ void RegionTabs::setColor(int region, const QColor& color)
     showColor(region, color);
 }
 
+QRect RegionTabs::geometry(int region) const
+{
+    return m_label ? m_label->regionRectangle(region) : QRect();
+}
+
+void RegionTabs::repaint()
+{
+    m_form.scrollArea->repaint();
+}
+
 void RegionTabs::show(int region, const RegionState& state)
 {
     RegionLabelWidget* const label = tab(region).label;
     label->setRegionGeometry(state.geometry);
     label->highlightIfSelected(current());
-    if (m_label) {
-        m_label->setRegionLimits(region, state.limits);
+    if (region != current())
+        tab(region).table->show(isActive(region), state.geometry);
+    if (m_label && state.limits)
+        m_label->setRegionLimits(region, *state.limits);
+    if (m_label)
         m_label->onRegionGeometryChanged(region, state.geometry);
-    }
 }
 
-bool RegionTabs::refreshTable(int region)
+bool RegionTabs::refreshTable()
 {
-    RegionTableWidget* const table = tab(region).table;
+    RegionTableWidget* const table = tab(current()).table;
     table->refresh();
     return table->isEditing() || table->pendingFeatures().isEmpty();
 }

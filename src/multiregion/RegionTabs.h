@@ -66,10 +66,13 @@ public:
     /// In the colour of its band.
     void showColor(int region, const QColor& color);
 
+    QRect geometry(int region) const;
     void show(int region, const RegionState& state);
-    /// Of the region that is selected: its table reads on its own. False when the camera did not
-    /// tell all of that.
-    bool refreshTable(int region);
+    /// At once, whatever else is under way.
+    void repaint();
+    /// Reads the open tab's table, whose region is selected. False when the camera did not tell all
+    /// of that.
+    bool refreshTable();
 
     /// The sensor area keeps its signals to itself until announce().
     void silence(bool silent);

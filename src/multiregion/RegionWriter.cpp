@@ -6,6 +6,12 @@
 
 #include <utility>
 
+namespace {
+
+constexpr int manyQuestions = 300; ///< to take a while on a real camera
+
+} // namespace
+
 RegionWriter::RegionWriter(RegionCamera& camera, RegionTabs& tabs, CameraLink& link, Hold hold)
     : m_camera(camera)
     , m_tabs(tabs)
@@ -17,13 +23,18 @@ RegionWriter::RegionWriter(RegionCamera& camera, RegionTabs& tabs, CameraLink& l
 RegionWriter::Call::Call(RegionWriter& writer)
     : m_writer(&writer)
 {
-    if (writer.m_calls++ == 0)
-        writer.m_tabs.silence(true);
+    if (writer.m_calls == 0)
+        writer.begin();
+    ++writer.m_calls;
 }
 
 RegionWriter::Call::~Call()
 {
-    if (!m_writer || --m_writer->m_calls > 0)
+    if (!m_writer)
+        return;
+    if (m_writer->m_calls == 1)
+        m_writer->end();
+    if (--m_writer->m_calls > 0)
         return;
     m_writer->m_tabs.silence(false);
     m_writer->m_tabs.announce(); // whose receivers may let the page go
@@ -31,25 +42,48 @@ RegionWriter::Call::~Call()
         m_writer->deliver();
 }
 
-RegionWriter::Loading::Loading(RegionWriter& writer)
-    : m_writer(&writer)
-    , m_hold(writer.m_hold())
+void RegionWriter::begin()
 {
-    writer.m_isLoading = true;
+    m_tabs.silence(true);
+    m_memory = m_link.memory();
+    m_selected.reset();
+    m_heardBefore = m_link.heard();
 }
 
-RegionWriter::Loading::~Loading()
+void RegionWriter::end()
 {
-    if (m_writer)
-        m_writer->m_isLoading = false;
+    readTable();
+    m_held.reset();
+    m_memory.reset();
+}
+
+void RegionWriter::readTable()
+{
+    const int region = m_tabs.current();
+    if (m_selected != region || !m_moved.remove(region))
+        return;
+    const CameraLink::ManyReads many(m_link);
+    const bool isTold = m_tabs.refreshTable();
+    // Most of it has just been told to the table.
+    const std::optional<RegionState> state = m_camera.read(true);
+    if (state)
+        m_tabs.show(region, *state);
+    if (!isTold || !state)
+        keepUntold(region);
 }
 
 bool RegionWriter::select(int region)
 {
+    const Call call(*this);
+    if (!m_held)
+        m_held = m_hold();
+    if (m_selected != region && m_link.heard() - m_heardBefore > manyQuestions)
+        m_tabs.repaint();
     m_watch.selecting(m_camera.lastSelected() != region);
     const RegionCamera::Selection selection = m_camera.select(region);
-    m_watch.selected();
-    if (selection == RegionCamera::Selection::Done)
+    const bool isDone = selection == RegionCamera::Selection::Done;
+    m_selected = isDone ? std::optional(region) : std::nullopt;
+    if (isDone)
         return true;
     if (selection == RegionCamera::Selection::Unknown) {
         keepUntold(region);
@@ -63,8 +97,13 @@ bool RegionWriter::select(int region)
 void RegionWriter::open(int region)
 {
     const Call call(*this);
-    if (select(region) && !m_isLoading)
-        refreshTable(region);
+    select(region);
+    if (region != m_tabs.current() || region == m_opened)
+        return;
+    if (m_moved.contains(m_opened))
+        keepUntold(m_opened);
+    m_moved << region;
+    m_opened = region;
 }
 
 void RegionWriter::save(int region, const QRect& rect)
@@ -72,17 +111,17 @@ void RegionWriter::save(int region, const QRect& rect)
     const Call call(*this);
     // Of the region selected until now: the camera is written in the order it gives.
     const std::optional<QSize> former = m_camera.readSize();
+    const bool isKnown = former && (rect.isNull() || m_selected == region);
     if (select(region)) {
-        const std::optional<QSize> own = m_camera.readSize();
+        m_moved << region;
+        const std::optional<QSize> own = isKnown ? former : m_camera.readSize();
         m_camera.writeGeometry(rect, former.value_or(own.value_or(QSize())));
         if (!rect.isNull()) {
             // In the order that suits another region the camera may have cut off what fits.
-            const std::optional<QRect> written = m_camera.readGeometry();
-            if (own != former && written && *written != rect)
+            const auto written = own != former ? m_camera.readGeometry() : std::nullopt;
+            if (written && *written != rect)
                 m_camera.writeGeometry(rect, written->size());
             m_camera.writeOn(true);
-            // The neighbours test against what the camera made of it.
-            show(region);
             tellActive(region, true);
         }
     }
@@ -102,10 +141,12 @@ void RegionWriter::setActive(int region, bool on)
     const std::optional<bool> now = m_camera.writeOn(on);
     if (!now)
         keepUntold(region);
-    show(region);
     m_tabs.setChecked(region, now.value_or(before));
     if (now && *now != before)
         tellActive(region, *now);
+    m_moved << region;
+    if (!m_isLoading)
+        show(region);
 }
 
 void RegionWriter::setFeature(const QVector<int>& regions, const QString& name,
@@ -119,7 +160,15 @@ void RegionWriter::setFeature(const QVector<int>& regions, const QString& name,
                     .arg(QString::number(region), name, value.toString()));
             isLost = m_link.isLost();
         }
+        m_moved << region;
     }
+    readAll();
+}
+
+void RegionWriter::readWhole()
+{
+    for (int region = 0; region < m_tabs.count(); ++region)
+        m_moved << region;
     readAll();
 }
 
@@ -128,7 +177,6 @@ void RegionWriter::readAll()
     if (m_isLoading)
         return;
     const Call call(*this);
-    const Loading loading(*this);
     m_untold.clear();
     m_watch.lookBegins();
     for (int region = 0; region < m_tabs.count(); ++region) {
@@ -137,6 +185,15 @@ void RegionWriter::readAll()
     }
     returnToCurrent();
     m_watch.looked(true);
+}
+
+void RegionWriter::load(const std::function<void()>& work)
+{
+    const Call call(*this);
+    m_isLoading = true;
+    work();
+    m_isLoading = false;
+    readAll();
 }
 
 /// One after the other, and each second one alone while the camera does not tell.
@@ -149,6 +206,7 @@ void RegionWriter::readUntold()
     for (int left = m_untold.size(); left > 0 && isTold; --left) {
         const int region = m_untold.takeFirst();
         readRegion(region);
+        readTable();
         isTold = !m_untold.contains(region);
     }
     returnToCurrent();
@@ -182,13 +240,12 @@ void RegionWriter::returnToCurrent()
 void RegionWriter::readSelected(bool withMode)
 {
     const Call call(*this);
-    const std::optional<int> region = m_camera.readSelected();
-    if (!region || !m_tabs.has(*region) || (withMode && follow(*region)))
+    m_selected = m_camera.readSelected();
+    if (!m_selected || !m_tabs.has(*m_selected) || (withMode && follow(*m_selected)))
         return;
-    if (m_tabs.isActive(*region))
-        show(*region);
-    else
-        refreshTable(*region);
+    m_moved << *m_selected;
+    if (m_tabs.isActive(*m_selected))
+        show(*m_selected);
 }
 
 void RegionWriter::lookIfDue()
@@ -212,24 +269,29 @@ bool RegionWriter::follow(int region)
         keepUntold(region);
     if (!isOn || *isOn == m_tabs.isActive(region))
         return false;
-    show(region);
     tellActive(region, *isOn);
+    m_moved << region;
+    show(region);
     return true;
 }
 
+/// The open tab's region is shown when its table is read.
 void RegionWriter::show(int region)
 {
-    refreshTable(region);
-    if (const std::optional<RegionState> state = m_camera.read())
-        m_tabs.show(region, *state);
-    else
+    if (region == m_tabs.current()) {
+        m_moved << region;
+        return;
+    }
+    std::optional<RegionState> state = m_camera.read(m_moved.contains(region));
+    if (state && !state->limits && state->geometry != m_tabs.geometry(region))
+        state = m_camera.read(true);
+    if (!state) {
         keepUntold(region);
-}
-
-void RegionWriter::refreshTable(int region)
-{
-    if (!m_tabs.refreshTable(region))
-        keepUntold(region);
+        return;
+    }
+    m_tabs.show(region, *state);
+    if (state->limits)
+        m_moved.remove(region);
 }
 
 void RegionWriter::keepUntold(int region)

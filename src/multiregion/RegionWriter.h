@@ -7,12 +7,14 @@
 #include <QColor>
 #include <QPointer>
 #include <QRect>
+#include <QSet>
 #include <QVariant>
 #include <QVector>
 
 #include <deque>
 #include <functional>
 #include <memory>
+#include <optional>
 
 class RegionCamera;
 class RegionTabs;
@@ -21,6 +23,10 @@ class RegionTabs;
 /// that a receiver may call the page again, write the camera or delete the page.
 ///
 /// What the camera does not tell stays as it is shown, and is read with readUntold().
+///
+/// The camera is asked for little, for each question takes it a while: looking at all regions asks
+/// for their modes, and for the numbers of those that are shown. Limits are read where they may
+/// have moved, and the rows of the open tab's table once, when all else of a call is done.
 class RegionWriter : public QObject
 {
     Q_OBJECT
@@ -31,21 +37,9 @@ public:
 
     RegionWriter(RegionCamera& camera, RegionTabs& tabs, CameraLink& link, Hold hold);
 
-    /// While it lives the regions are written one after the other; they are not read as a whole.
-    class Loading
-    {
-    public:
-        explicit Loading(RegionWriter& writer);
-        ~Loading();
-        Q_DISABLE_COPY_MOVE(Loading)
-
-    private:
-        const QPointer<RegionWriter> m_writer;
-        std::shared_ptr<void> m_hold;
-    };
-
-    /// A call of the page's, within others perhaps: what it changes on the tabs is announced when
-    /// the outermost is done, and then the signals come.
+    /// A call of the page's, within others perhaps. When the outermost is done the open tab's table
+    /// is read, what changed on the tabs is announced, and then the signals come. From the first
+    /// selection on it holds up the page.
     class Call
     {
     public:
@@ -63,7 +57,7 @@ public:
 
     /// Logs when the camera refuses: it still reads and writes another region then.
     bool select(int region);
-    /// Opens a region's tab to the camera: selects it and reads its table.
+    /// Opens a region's tab to the camera: selects it, and reads its table if another was open.
     void open(int region);
 
     /// @param rect sensor pixels; the null rectangle shrinks the region to the camera's minimum and
@@ -72,7 +66,11 @@ public:
     void setActive(int region, bool on);
     void setFeature(const QVector<int>& regions, const QString& name, const QVariant& value);
 
+    /// Also what no write of the page's can have moved.
+    void readWhole();
     void readAll();
+    /// Reads all when the work is done, and not before.
+    void load(const std::function<void()>& work);
     void readUntold();
     /// The region that the camera has selected; with its mode, which another client may have
     /// changed.
@@ -93,12 +91,14 @@ signals:
     void regionActivated(int regionNo, bool active);
 
 private:
+    void begin();
+    void end();
+    void readTable();
     bool selectUnlessLost(int region);
     void returnToCurrent();
     void readRegion(int region);
     bool follow(int region);
     void show(int region);
-    void refreshTable(int region);
     void tellActive(int region, bool active);
     void keepUntold(int region);
     void deliver();
@@ -110,6 +110,14 @@ private:
     ModeWatch m_watch;
     std::deque<std::function<void()>> m_signals;
     QVector<int> m_untold; ///< regions, in the order in which they are read again
+    QSet<int> m_moved;     ///< regions of which more than the numbers is to be read
+    int m_opened = -1;     ///< the region whose table was opened last
     int m_calls = 0;
     bool m_isLoading = false;
+
+    // Of the outermost call:
+    std::shared_ptr<void> m_memory;
+    std::shared_ptr<void> m_held; ///< from the first selection on
+    std::optional<int> m_selected;
+    int m_heardBefore = 0;
 };

@@ -39,7 +39,6 @@ private slots:
                     watch.lookBegins();
                     for (int region = 0; region < 5; ++region) {
                         watch.selecting(region > 0);
-                        watch.selected();
                         report(time, region > 0 ? echoes : 0);
                     }
                     const bool isFound = time >= switchAt && seenAt == 0;
@@ -60,19 +59,6 @@ private slots:
         row("at random within three seconds", 1, 0, 30, 70);
     }
     void findsAndRests() { runRow(); }
-
-    /// What the camera tells within the selecting is one echo; more is news.
-    void tellsTheImmediateEchoApart()
-    {
-        ModeWatch watch;
-        for (const int reports : {1, 2}) {
-            watch.selecting(true);
-            for (int i = 0; i < reports; ++i)
-                watch.reported();
-            watch.selected();
-            QCOMPARE(watch.isLookDue(), reports == 2);
-        }
-    }
 };
 
 QTEST_GUILESS_MAIN(ModeWatchTest)

@@ -61,7 +61,7 @@ bool readValue(FeatureReader& feature, FeatureInfo& info)
         info.value = -1.0;
     }
     info.isKnown = true;
-    const auto isWritable = feature.flag(&ZebFeatureWrapper::IsWritable);
+    const auto isWritable = feature.flag(FeatureReader::Access);
     info.writable = isWritable.value_or(info.writable && feature);
     return isWritable || !feature;
 }

@@ -11,12 +11,12 @@ namespace {
 
 constexpr std::int64_t ownBound = -1;
 
+} // namespace
+
 bool isOffset(const QString& feature)
 {
     return feature.contains(QLatin1String("Offset"));
 }
-
-} // namespace
 
 int masterRegion(int region, const QString& feature, const QStringList& constrained)
 {

@@ -19,6 +19,9 @@ struct ConstrainedRange
     std::optional<std::int64_t> maximum;
 };
 
+/// Of a feature along an axis: whether it is the offset, not the size.
+bool isOffset(const QString& feature);
+
 /// The size that goes with an offset and the offset that goes with a size: its names, newest first.
 QStringList counterparts(const QString& feature);
 
