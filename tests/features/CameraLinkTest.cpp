@@ -49,59 +49,6 @@ private slots:
         row("lost again", "A B =A B A", true);
     }
     void countsAsLost() { runRow(); }
-
-    /// The time that goes into failing calls is counted from the first of them.
-    void partsForOneSecond()
-    {
-        CameraLink link;
-        link.parted(Sdk::success, slow);
-        for (int i = 0; i < 4; ++i) {
-            QVERIFY(link.mayPart());
-            link.parted(Sdk::notFound, std::chrono::milliseconds(300));
-        }
-        QVERIFY(!link.mayPart());
-        link.parted(Sdk::success, slow);
-        QVERIFY(link.mayPart());
-    }
-
-    /// Many reads end at the loss, an edit reaches the camera all the same.
-    void endsManyReads_data()
-    {
-        const DataTable row([](bool isWhole, int readingCalls, int editCalls) {
-            sim::Camera camera({sim::integerFeature("Width", 1), sim::integerFeature("Height", 1),
-                                sim::integerFeature("OffsetX", 1)});
-            FeatureManager manager(wrappers(camera));
-            QVERIFY(manager.Read("Width").number().isComplete);
-            isWhole ? camera.lose(slow) : camera.loseValues(slow);
-            camera.journal().record(sim::Operations::fromCamera() | Operation::GetName);
-            camera.journal().clear();
-            const auto calls = [&] {
-                int count = 0;
-                for (const sim::JournalEntry& entry : camera.journal().entries())
-                    count += entry.result != ZebErrorSuccess ? 1 : 0;
-                camera.journal().clear();
-                return count;
-            };
-            {
-                const CameraLink::ManyReads manyReads(*manager.link());
-                for (const char* name : {"Width", "Height", "OffsetX"}) {
-                    const auto reading = manager.Read(name).number();
-                    QVERIFY(!reading.isComplete && !reading.value && !reading.maximum);
-                }
-            }
-            QVERIFY(manager.link()->isLost());
-            QCOMPARE(calls(), readingCalls);
-            manager.SetValue("OffsetX", 2);
-            QCOMPARE(calls(), editCalls);
-            camera.recover();
-            QCOMPARE(manager.SetValue("OffsetX", 2), 2.0);
-            QVERIFY(!manager.link()->isLost());
-        });
-        row("names are told", false, 2, 2);
-        row("nothing is told", true, 3, 1);
-    }
-    void endsManyReads() { runRow(); }
-
     /// What was refused is not known; what the camera does not have is.
     void knowsWhatItRead_data()
     {

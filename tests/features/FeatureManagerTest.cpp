@@ -111,18 +111,6 @@ private slots:
         QCOMPARE(qint64{f.camera.feature("Third").integer()}, qint64{7});
     }
 
-    void readsBackUnderThePrimaryName()
-    {
-        Fixture f({sim::enumFeature("Mode", {"Off", "On"})});
-        const QString mode = "Mode";
-        QCOMPARE(f.manager.SetStringValue(mode, "On"), QString("On"));
-        QCOMPARE(f.manager.SetStringValue(mode, "Auto"), QString("On"));
-        QCOMPARE(f.manager.SetStringValue("OldMode", mode, "Off"), QString());
-        QCOMPARE(f.camera.feature("Mode").text(), std::string("Off"));
-        QVERIFY(f.manager.IsValueAvailable(mode, "On"));
-        QVERIFY(!f.manager.IsValueAvailable(mode, "Auto"));
-    }
-
     /// The numbers are those of GetValueState() and, where they differ, of GetValueRange().
     void fillsStateAndFieldRange_data()
     {
@@ -168,19 +156,6 @@ private slots:
         QVERIFY(!f.manager.IsReadable(width));
         QVERIFY(!f.manager.RunCommand(width));
         QCOMPARE(f.manager.GetStringValue(width), QString());
-    }
-
-    /// What the feature table cannot ask for; the rest is tried with its editors.
-    void refusesVariants()
-    {
-        Fixture f({sim::integerFeature("Counter", 0), sim::enumFeature("Mode", {"Off", "On"}),
-                   sim::integerFeature("WidthMax", 640).readOnly()});
-        QVERIFY(f.manager.SetVariantValue("Counter", 12.9));
-        QCOMPARE(f.manager.GetValue("Counter"), 12.0);
-        QVERIFY(!f.manager.SetVariantValue("Counter", "rubbish"));
-        QVERIFY(!f.manager.SetVariantValue("Mode", "Auto"));
-        QVERIFY(!f.manager.SetVariantValue("WidthMax", 320));
-        QVERIFY(!f.manager.SetVariantValue("NoSuch", 1));
     }
 
     void describesFeatures_data()

@@ -121,8 +121,8 @@ private slots:
             PluginFeatureObserver observer;
             QSignalSpy changed(&observer, &PluginFeatureObserver::setChangedFeature);
 
+            observer.FeatureChanged(nullptr);
             observer.FeatureChanged(camera.features().at(std::size_t(index)));
-
             QCOMPARE(changed.size(), 1);
             QCOMPARE(changed.first().at(0).toString(), QString("F%1").arg(index));
             QCOMPARE(changed.first().at(1).toString(), text);
@@ -140,22 +140,6 @@ private slots:
             row("read that throws " + QByteArray::number(index), index, "");
     }
     void sendsValuesAsText() { runRow(); }
-
-    void sendsNothingWithoutAName()
-    {
-        sim::Camera camera({sim::integerFeature("Width", 1)});
-        PluginFeatureObserver observer;
-        QSignalSpy changed(&observer, &PluginFeatureObserver::setChangedFeature);
-
-        observer.FeatureChanged(nullptr);
-        camera.failures().add("Width", Operation::GetDataType, Failure::refuse());
-        observer.FeatureChanged(camera.features().front());
-        camera.failures().clear();
-        camera.failures().add("Width", Operation::GetName, Failure::refuse());
-        observer.FeatureChanged(camera.features().front());
-
-        QCOMPARE(changed.size(), 0);
-    }
 };
 
 QTEST_GUILESS_MAIN(ZebFeatureWrapperTest)

@@ -144,29 +144,6 @@ private slots:
         QCOMPARE(cell->text(), QString("10"));
     }
 
-    /// Else each row would wait.
-    void leavesALostCamera()
-    {
-        FeaturesTable f;
-        f.camera.lose(std::chrono::milliseconds(120));
-        QElapsedTimer waited;
-        waited.start();
-        f.features->updateFeatures(f.names);
-        QVERIFY2(waited.elapsed() < 1000, qPrintable(QString::number(waited.elapsed())));
-        QCOMPARE(f.features->pendingFeatures(), f.names);
-        QCOMPARE(f.shown("Count"), QVariant(qint64{10}));
-    }
-
-    void writesEqualValuesOnce()
-    {
-        for (const char* feature : {"Count", "Gain", "Text"}) {
-            const FeaturesTable f;
-            const QModelIndex cell = f.table->model()->index(f.names.indexOf(feature), valueColumn);
-            f.table->model()->setData(cell, f.shown(feature), Qt::DisplayRole);
-            QCOMPARE(f.writes(), 1);
-        }
-    }
-
     void endsASuspendedRefresh()
     {
         FeaturesTable f;
@@ -191,48 +168,6 @@ private slots:
         QTest::mouseDClick(f.table->viewport(), Qt::RightButton, {}, center);
         QCoreApplication::processEvents();
         QVERIFY(refreshed("Count", 30));
-    }
-
-    void tellsEditing()
-    {
-        const auto states = [](const char* feature, int column) {
-            FeaturesTable f;
-            QVector<bool> told;
-            connect(f.features, &FeaturesTableWidget::cellEditorActive,
-                    [&told](bool active) { told.append(active); });
-            f.doubleClick(feature, column);
-            return told;
-        };
-        QCOMPARE(states("Count", valueColumn), (QVector<bool>{true, false}));
-        QCOMPARE(states("Gain", valueColumn), (QVector<bool>{true, true}));
-        QCOMPARE(states("Count", nameColumn), QVector<bool>{false});
-        QCOMPARE(states("Gain", nameColumn), QVector<bool>{true});
-    }
-
-    void ignoresForeignRecords()
-    {
-        const FeaturesTable f;
-        QTest::ignoreMessage(QtDebugMsg, QRegularExpression("cannot convert to FeatureInfo:"));
-        QTest::ignoreMessage(QtDebugMsg, QRegularExpression("Cannot create delegate widget for "));
-        {
-            const QSignalBlocker blocker(f.table->model());
-            f.item("Count")->setData(Qt::UserRole, "no record");
-        }
-        f.item("Count")->setData(Qt::DisplayRole, 5);
-        f.doubleClick("Count");
-        QCOMPARE(f.writes(), 0);
-    }
-
-    void searchesNamesOnly()
-    {
-        FeaturesTable f;
-        f.table->setCurrentCell(0, valueColumn);
-        QTest::keyClick(f.table, Qt::Key_O); // the value "old"
-        QCOMPARE(f.table->currentRow(), 0);
-        f.table->setCurrentCell(0, nameColumn);
-        QTest::qWait(QApplication::keyboardInputInterval() + 50);
-        QTest::keyClick(f.table, Qt::Key_G);
-        QCOMPARE(f.table->currentRow(), f.names.indexOf("Gain"));
     }
 
     void filtersWithoutReading()

@@ -170,13 +170,15 @@ struct MultiROIPage
                 continue;
             if (label->regionRectangle(region) != rect)
                 return QString("label of %1").arg(region);
-            QString shown = labels[region]->findChild<QLabel*>("lbl_Size")->text();
-            const auto number = [](int value) { return QString::number(value); };
-            if (shown.remove(' ')
-                != QString("(%1,%2)\n%3x%4")
+            const auto* const size = labels[region]->findChild<QLabel*>("lbl_Size");
+            const auto number = [](int value) { return QString("%1").arg(value, 4); };
+            if (size->text()
+                != QString("(%1, %2)\n%3 x %4")
                        .arg(number(rect.x()), number(rect.y()), number(rect.width()),
                             number(rect.height())))
-                return QString("region label of %1: %2").arg(region).arg(shown);
+                return QString("region label of %1: %2").arg(region).arg(size->text());
+            if (!size->styleSheet().contains(label->shownColor(region).name()))
+                return QString("color of %1").arg(region);
         }
         return {};
     }

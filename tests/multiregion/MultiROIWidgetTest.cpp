@@ -97,6 +97,8 @@ private slots:
         QCOMPARE(activated.last(), (QVariantList{1, true}));
         QVERIFY(open.button(2)->isEnabled());
         QCOMPARE(open.tabs->currentIndex(), 1);
+        const auto* const shown = open.page->findChildren<RegionLabelWidget*>().at(1);
+        QCOMPARE(shown->findChild<QLabel*>("lbl_ID")->text(), QString(">  1"));
         open.button(1)->click();
         QCOMPARE(open.active(), QString("0"));
         QCOMPARE(open.contradiction(), QString());
@@ -109,21 +111,6 @@ private slots:
         QCOMPARE(open.log,
                  QStringList("Region1 cannot be activated into a valid configuration due to the "
                              "minimum size."));
-    }
-
-    void completesATile()
-    {
-        const MultiROIPage open("multi-region", "Tile");
-        open.loadDefaults();
-        Answers answers({"OK", "OK"});
-        open.button(1)->click();
-        QCOMPARE(open.active(), QString("02"));
-        open.button(1)->click();
-        QCOMPARE(answers.texts.last(),
-                 QString("Arrangement Mode 'Tile' requires activation of the whole column."));
-        QCOMPARE(open.active(), QString("012"));
-        QVERIFY(!open.label->isDragging());
-        QCOMPARE(open.contradiction(), QString());
     }
 
     /// What is being typed is written before a drag begins, which then has the new shape to go by.
@@ -232,27 +219,6 @@ private slots:
         QCOMPARE(open.contradiction(), QString());
     }
 
-    void loadsOnceAndWhileStreaming()
-    {
-        MultiROIPage open("multi-region", "Free");
-        open.page->camIsStreaming(true);
-        Answers box({"Yes"}, [&open] { open.page->loadDefaultConfiguration(); });
-        open.page->loadDefaultConfiguration();
-        QCOMPARE(box.texts.size(), 1);
-        QCOMPARE(open.active(), QString("0123"));
-    }
-
-    /// A camera that does not notify may move regions as another arrangement is chosen.
-    void readsAfterTheArrangement()
-    {
-        const MultiROIPage open("multi-region", "Free");
-        open.loadDefaults();
-        open.camera->setNotifications(sim::NotificationSettings::off());
-        open.camera->forceAt("SubRegionOffsetX", 1, 16);
-        open.choose("Vertical");
-        QCOMPARE(open.contradiction(), QString());
-    }
-
     void manyTabs()
     {
         const MultiROIPage open("multi-region-256", "Free");
@@ -297,13 +263,6 @@ private slots:
         row("later", false);
     }
     void restsWhateverTheCameraNotifies() { runRow(); }
-
-    void needsRegions()
-    {
-        const auto camera = sim::createCamera("plain");
-        const MultiROIWidget page(featureList(*camera), nullptr);
-        QVERIFY(page.accessibleName().isEmpty());
-    }
 };
 
 QTEST_MAIN(MultiROIWidgetTest)

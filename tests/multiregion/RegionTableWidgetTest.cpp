@@ -82,22 +82,6 @@ private slots:
         table.addConstraints(1, {});
         QVERIFY(bounds(0) == offset);
     }
-
-    void logsForeignRecords()
-    {
-        const MultiROIPage open("multi-region", "Free");
-        QTableWidgetItem* const cell = open.cell(0, "SubRegionWidth");
-        {
-            const QSignalBlocker blocker(cell->tableWidget()->model());
-            cell->setData(Qt::UserRole, "no record");
-        }
-        cell->setData(Qt::DisplayRole, 5);
-        QCOMPARE(open.log.value(0),
-                 QString("tblFeatures.data(%1) cannot be converted to "
-                         "FeatureInfo: no record")
-                     .arg(cell->row()));
-        QCOMPARE(open.camera->journal().writes().size(), 0u);
-    }
 };
 
 QTEST_MAIN(RegionTableWidgetTest)

@@ -53,20 +53,6 @@ private slots:
         QCOMPARE(open.onCamera(2).height(), 200);
     }
 
-    void writesSharedValuesToTheGroup()
-    {
-        MultiROIPage open("multi-region", "Horizontal");
-        open.loadDefaults();
-        open.page->setFeatureValue(2, 0, "SubRegionHeight", 600);
-        open.page->setFeatureValue(2, -1, "SubRegionWidth", 400);
-        for (int region = 0; region < 4; ++region) {
-            QCOMPARE(open.onCamera(region).height(), 600);
-            QCOMPARE(open.onCamera(region).width(), region == 2 ? 400 : 512);
-        }
-        QCOMPARE(open.contradiction(), QString());
-        QCOMPARE(open.tabs->currentIndex(), 0);
-    }
-
     void refusals()
     {
         MultiROIPage open("multi-region", "Free");
@@ -166,47 +152,50 @@ private slots:
     {
         using Action = std::function<void(const MultiROIPage&)>;
         const DataTable row([](const Action& action) {
-            for (int run = 0; run < 16; ++run) {
-                const bool isLabel = run % 2 > 0;
-                MultiROIPage open("multi-region", "Horizontal");
+            using Page = MultiROIWidget;
+            using Label = MultiRubberBandLabel;
+            const auto endAt = [&action](auto signalOf, bool isLabel) {
+                MultiROIPage open("multi-region-2", "Horizontal");
                 open.loadDefaults();
                 bool isTold = false;
-                const auto endAt = [&](auto* sender, auto signal) {
-                    connect(sender, signal, qApp, [&open, &isTold, isLabel] {
-                        isTold = true;
-                        if (isLabel)
-                            delete open.page->findChild<MultiRubberBandLabel*>();
-                        else
-                            open.page.reset();
-                    });
-                };
-                using Page = MultiROIWidget;
-                using Label = MultiRubberBandLabel;
-                const std::function<void()> connections[]
-                    = {[&] { endAt(open.page.get(), &Page::loggingMessage); },
-                       [&] { endAt(open.page.get(), &Page::multipleRegionsEnabled); },
-                       [&] { endAt(open.page.get(), &Page::regionColorChanged); },
-                       [&] { endAt(open.page.get(), &Page::currentRegionChanged); },
-                       [&] { endAt(open.page.get(), &Page::regionActivated); },
-                       [&] { endAt(open.label, &Label::regionColorChanged); },
-                       [&] { endAt(open.label, &Label::regionRangeChanged); },
-                       [&] { endAt(open.label, &Label::highlightSelectedRegion); }};
-                connections[run / 2]();
+                signalOf(open, [&] {
+                    isTold = true;
+                    if (isLabel)
+                        delete open.page->findChild<Label*>();
+                    else
+                        open.page.reset();
+                });
                 Answers answers({"OK", "OK"});
                 action(open);
                 if (isLabel)
                     open.settle();
                 QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
                 QCOMPARE(!open.page, isTold && !isLabel);
-            }
+            };
+            const auto ofPage = [&endAt](auto signal) {
+                endAt([=](auto& open, auto end) { connect(open.page.get(), signal, qApp, end); },
+                      false);
+            };
+            const auto ofLabel = [&endAt](auto signal) {
+                for (const bool isLabel : {false, true})
+                    endAt([=](auto& open, auto end) { connect(open.label, signal, qApp, end); },
+                          isLabel);
+            };
+            ofPage(&Page::loggingMessage);
+            ofPage(&Page::multipleRegionsEnabled);
+            ofPage(&Page::regionColorChanged);
+            ofPage(&Page::currentRegionChanged);
+            ofPage(&Page::regionActivated);
+            ofLabel(&Label::regionColorChanged);
+            ofLabel(&Label::regionRangeChanged);
+            ofLabel(&Label::highlightSelectedRegion);
         });
-        row("button", [](const MultiROIPage& open) { open.button(2)->click(); });
+        row("button", [](const MultiROIPage& open) { open.button(1)->click(); });
         row("switch", [](const MultiROIPage& open) {
             open.page->findChild<QCheckBox*>("chkMultipleRegionEnable")->click();
         });
         row("arrangement", [](const MultiROIPage& open) {
-            auto* const box = open.page->findChild<QComboBox*>();
-            QTest::keyClick(box, Qt::Key_Up);
+            QTest::keyClick(open.page->findChild<QComboBox*>(), Qt::Key_Up);
         });
         row("refused tab", [](const MultiROIPage& open) {
             open.camera->failures().add("SubRegionSelector", sim::Operation::SetValue,

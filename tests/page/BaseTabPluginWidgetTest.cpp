@@ -165,25 +165,6 @@ private slots:
         }
     }
 
-    void survivesNestedEventsDuringRefresh()
-    {
-        SmallCamera camera;
-        Page page(camera);
-        page.show();
-        page.duringRefresh = [&] {
-            page.updateTimer(); // a tick delivered by a nested event loop returns
-            page.hide();
-            page.show();
-            camera.writeAsOtherClient("Height", 100 + page.refreshes.size());
-        };
-        const int before = page.refreshes.size();
-        page.updateTimer();
-        QCOMPARE(page.refreshes.size(), before + 1);
-        QCOMPARE(*page.changedFeatures, QStringList({width, height})); // those of the show, too
-        QVERIFY(page.refreshTimer->isActive());
-        QCOMPARE(int(camera.observerCount("Height")), 1);
-    }
-
     void leavesNoObserver_data()
     {
         using Event = std::function<void(SmallCamera&, Page&)>;

@@ -200,36 +200,6 @@ private slots:
             }
         });
     }
-
-    void guardsFieldsAgainstTheWheel()
-    {
-        forBothPages([](auto& p, const QString&) {
-            QVERIFY(QTest::qWaitForWindowActive(p.page.get()));
-            int fields = 0;
-            for (auto* const field :
-                 p.page->template findChildren<QWidget*>(QRegularExpression("spin|combo")))
-                if (field->isVisible() && ++fields) {
-                    sendWheel(field);
-                    QVERIFY2(!field->hasFocus(), qPrintable(field->objectName()));
-                }
-            QVERIFY(fields >= 4);
-            QVERIFY(p.writes().isEmpty());
-        });
-    }
-
-    /// Being hidden ends a drag and confirms what was typed.
-    void isDeletedInMidAction()
-    {
-        for (const bool isDragging : {true, false})
-            forBothPages([isDragging](auto& p, const QString&) {
-                if (isDragging)
-                    press(p.label, p.band().center());
-                else
-                    typeWidth(p, "1");
-                p.page.reset();
-                QVERIFY(p.writes().isEmpty());
-            });
-    }
 };
 
 QTEST_MAIN(InnerPageTest)

@@ -121,11 +121,6 @@ template <typename Page> struct RegionPage
 using AOIPage = RegionPage<AOIWidget>;
 using AutoROIPage = RegionPage<AutoROIWidget>;
 
-inline QString text(const QRect& r)
-{
-    return QString("%1 %2 %3 %4").arg(r.y()).arg(r.x()).arg(r.width()).arg(r.height());
-}
-
 inline std::shared_ptr<QPixmap> picture(Qt::GlobalColor color)
 {
     auto image = std::make_shared<QPixmap>(2592, 1944);

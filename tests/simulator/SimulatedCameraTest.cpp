@@ -63,36 +63,6 @@ private slots:
         row("minimum over maximum", 10, 5, 1, 7, false, -99);
     }
     void integerWrites() { runRow(); }
-
-    void floatWrites_data()
-    {
-        const DataTable row([](double value, bool isTaken, double rounded) {
-            Camera camera({sim::floatFeature("Number", 0.1).between(FloatRange(0.1, 2.0, 0.1))});
-            const ZebCPP::FeaturePtr feature = camera.feature("Number").pointer();
-            QCOMPARE(feature->SetValue(value), isTaken ? ZebErrorSuccess : ZebErrorInvalidValue);
-            camera.setRounding(true);
-            feature->SetValue(value);
-            QCOMPARE(camera.feature("Number").number(), rounded);
-        });
-        row("on the grid", 0.7, true, 0.7);
-        row("off the grid", 0.74, false, 0.7);
-        row("not a number", double(NAN), false, 0.1);
-        row("infinite", double(INFINITY), false, 2.0);
-    }
-    void floatWrites() { runRow(); }
-
-    void wrongKindsOfWrites()
-    {
-        const auto camera = createCamera("current");
-        const auto width = camera->feature("Width").pointer();
-        QCOMPARE(width->SetValue(640.0), ZebErrorBadParameter);
-        QCOMPARE(width->SetValue("640"), ZebErrorBadParameter);
-        QCOMPARE(width->SetValue(static_cast<const char*>(nullptr)), ZebErrorBadParameter);
-        QCOMPARE(width->RunCommand(), ZebErrorBadParameter);
-        QCOMPARE(write(*camera, "SensorWidth 8"), ZebErrorInvalidAccess);
-        QCOMPARE(write(*camera, "PixelFormat Unheard of"), ZebErrorInvalidValue);
-    }
-
     /// The writes follow one another; "!" marks what the camera refuses.
     void featuresFollowOneAnother_data()
     {
@@ -173,26 +143,6 @@ private slots:
         row("tile, rows differ", "Tile", {a, right, below, {160, 80, 80, 62}}, "1110");
     }
     void regionStatus() { runRow(); }
-
-    void failsAsItWasTold()
-    {
-        const auto camera = createCamera("plain");
-        camera->failures().add("Width", Operation::SetValue, Failure::refuse(ZebErrorTimeout),
-                               Occurrence::nth(2));
-        camera->failures().add("Width", Operation::SetValue, Failure::report(ZebErrorResources),
-                               Occurrence::from(3));
-        camera->failures().add(
-            "Height", Operation::SetValue,
-            Failure::value([](const sim::Value& v) { return sim::Value(v.toInteger() - 8); }));
-        QCOMPARE(write(*camera, "Width 640"), ZebErrorSuccess);
-        QCOMPARE(write(*camera, "Width 800"), ZebErrorTimeout);
-        QCOMPARE(camera->feature("Width").integer(), 640);
-        QCOMPARE(write(*camera, "Width 800"), ZebErrorResources);
-        QCOMPARE(camera->feature("Width").integer(), 800);
-        QCOMPARE(camera->writeAsOtherClient("Width", 640), ZebErrorSuccess);
-        QCOMPARE(write(*camera, "Height 640"), ZebErrorSuccess);
-        QCOMPARE(camera->feature("Height").integer(), 632);
-    }
 
     void everyModelIsSound()
     {

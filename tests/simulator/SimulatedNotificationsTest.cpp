@@ -105,28 +105,6 @@ private slots:
         QCOMPARE(calls().at(1), before);
     }
 
-    void registration()
-    {
-        const auto camera = createCamera("current");
-        NotificationSettings settings = NotificationSettings::asynchronous(20ms);
-        settings.onRegistration = true;
-        settings.lateAfterUnregistration = true;
-        camera->setNotifications(settings);
-
-        const auto observer = observe(*camera, {"Width", "Height"});
-        QCOMPARE(int(observer->calls), 2);
-        QCOMPARE(camera->observerCount(), std::size_t{2});
-        const auto width = camera->feature("Width").pointer();
-        QCOMPARE(width->RegisterObserver(observer), ZebErrorInvalidAccess);
-        QCOMPARE(width->RegisterObserver(nullptr), ZebErrorBadParameter);
-        QCOMPARE(width->UnregisterObserver(observer), ZebErrorSuccess);
-        QCOMPARE(width->UnregisterObserver(observer), ZebErrorNotFound);
-        QCOMPARE(camera->observerCount("Width"), std::size_t{0});
-        QCOMPARE(int(observer->calls), 2);
-        camera->flushNotifications();
-        QCOMPARE(int(observer->calls), 3);
-    }
-
     void closingWhileInUse()
     {
         auto camera = createCamera("current");

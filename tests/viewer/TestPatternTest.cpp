@@ -107,18 +107,6 @@ private slots:
         QVERIFY(frameRect(state).isEmpty());
     }
 
-    void followsTheExposure()
-    {
-        double previous = -1.0;
-        for (const double microseconds : {0.0, 1000.0, 100000.0}) {
-            SensorState state = upright();
-            state.exposureTime = microseconds;
-            const double current = brightness(fullFrame(state));
-            QVERIFY2(current > previous, qPrintable(QString::number(microseconds)));
-            previous = current;
-        }
-    }
-
     void sendsTheFrameInItsPlace()
     {
         CameraSession session({}, std::make_unique<SimulatedSource>(QString("current")));
@@ -133,15 +121,6 @@ private slots:
         QCOMPARE(placed.size(), all.size());
         QVERIFY(difference(placed.copy(region), all.copy(region)) < 1.0);
         QCOMPARE(brightness(placed.copy(0, 0, all.width(), region.y())), 0.0);
-    }
-
-    void staysAliveWithoutPixels()
-    {
-        QVERIFY(renderFrame(SensorState(), {100, 100}, 0).isNull());
-        QVERIFY(placeFrame(SensorState(), {0, 0, 100, 100}).frame.isEmpty());
-        SensorState state = upright();
-        state.binning = QSize(0, 0);
-        QCOMPARE(frameRect(state).size(), state.sensor);
     }
 };
 

@@ -277,41 +277,6 @@ private slots:
         QCOMPARE(f.writes(), writes);
         QCOMPARE(f.shown("Count"), QVariant(qint64{last}));
     }
-
-    void movesLogarithmicSliders()
-    {
-        FeaturesTable exposure;
-        exposure.open("ExposureTime");
-        QwtSlider* const slider = exposure.slider();
-        const QPoint handle(slider->width() / 2, slider->height() / 2);
-        QVERIFY(std::abs(slider->transform(100.0) - handle.x()) <= 1);
-        drag(slider, handle, {slider->width() * 2, handle.y()});
-        QCOMPARE(exposure.camera.feature("ExposureTime").number(), 10000.0);
-        FeaturesTable f;
-        f.open("Steps");
-        for (int expected : {2, 3}) {
-            QTest::keyClick(f.slider(), Qt::Key_Right);
-            QCOMPARE(f.field()->value(), expected);
-        }
-        // The groove moves by pages while it is held; its release finishes.
-        const QPoint end(f.slider()->width() - 8, f.slider()->height() / 2);
-        press(f.slider(), end);
-        QTRY_VERIFY(f.field()->value() > 10);
-        const int reached = f.field()->value();
-        release(f.slider(), end);
-        QVERIFY(!f.features->isEditing());
-        QCOMPARE(f.camera.feature("Steps").integer(), std::int64_t{reached});
-    }
-
-    void scrollsOverAnEditor()
-    {
-        FeaturesTable f;
-        f.window->resize(500, 200);
-        f.open("Count");
-        sendWheel(f.slider());
-        QVERIFY(f.table->verticalScrollBar()->value() > 0);
-        QCOMPARE(f.field()->value(), 10);
-    }
 };
 
 QTEST_MAIN(CellEditorsTest)

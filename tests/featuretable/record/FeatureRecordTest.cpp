@@ -140,20 +140,6 @@ private slots:
     }
     void snaps() { runRow(); }
 
-    void convertsValues()
-    {
-        QCOMPARE(toNumber(FeatureValue(std::int64_t{5})), std::optional<double>(5.0));
-        QCOMPARE(toInteger(FeatureValue(1e300)), std::optional<std::int64_t>(highest));
-        QCOMPARE(toInteger(FeatureValue(std::string("5"))), std::optional<std::int64_t>());
-        QCOMPARE(toNumber(std::nullopt), std::optional<double>());
-        for (const FeatureValue& value :
-             {FeatureValue(std::int64_t{highest}), FeatureValue(0.1), FeatureValue(true),
-              FeatureValue(std::string("\xc3\xa4"))})
-            QVERIFY(toFeatureValue(toVariant(value)) == value);
-        QVERIFY(!isSameValue(0.1 + 0.2, 0.3));
-        QVERIFY(isSameValue(0.3, 0.3) && isSameValue(qint64{3}, 3));
-    }
-
     void tellsCells()
     {
         FeatureInfo info = infoOf(0, 0, 0, "HexNumber");

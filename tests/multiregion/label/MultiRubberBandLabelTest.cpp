@@ -176,31 +176,6 @@ private slots:
         QCOMPARE(m_label->shownColor(1), own);
     }
 
-    void arrangesOnceForAllToldRegions()
-    {
-        makeLabel("Horizontal");
-        QSignalSpy colors(m_label.get(), &Label::regionColorChanged);
-        QSignalSpy tests(bandOf(0), &RectangleRubberBand::colorChanged);
-        {
-            const QSignalBlocker blocker(m_label.get());
-            m_label->onRegionGeometryChanged(0, {500, 100, 400, 400});
-            m_label->onRegionGeometryChanged(1, {800, 100, 400, 400});
-            m_label->onRegionGeometryChanged(2, {1300, 100, 200, 400});
-            m_label->onRegionActivated(2, true);
-        }
-        m_label->announceRegions();
-        QCOMPARE(tests.size(), 1);
-        QCOMPARE(colors.size(), 3);
-        QCOMPARE(m_label->shownColor(1), QColor("red"));
-        // Nobody has to announce.
-        {
-            const QSignalBlocker blocker(m_label.get());
-            m_label->onRegionGeometryChanged(1, {900, 100, 400, 400});
-        }
-        QCoreApplication::processEvents();
-        QCOMPARE(bandOf(1)->x(), 225);
-    }
-
     void linesComeAndGo()
     {
         makeLabel("Horizontal");
@@ -290,42 +265,6 @@ private slots:
     }
     void survivesDeletion() { runRow(); }
 
-    /// What lines and bands that pass by leave is what a painting of all shows.
-    void paintsPartsAsAll()
-    {
-        makeLabel("Horizontal");
-        const auto picture = [](const QPixmap& pixmap) {
-            return pixmap.toImage().convertToFormat(QImage::Format_RGB32);
-        };
-        const auto all = [&] { return picture(m_label->grab()); };
-        const QImage before = all();
-        press(m_label.get(), {75, 75});
-        for (int y = 76; y < 130; y += 2) {
-            sendMouse(m_label.get(), QEvent::MouseMove, {75, y});
-            QCoreApplication::processEvents();
-        }
-        QTRY_COMPARE(picture(m_label->screen()->grabWindow(m_label->winId())), all());
-        const QRect number(265, 65, 20, 20); // which the upper line crosses in the end
-        QVERIFY(all().copy(number) != before.copy(number));
-        release(m_label.get(), {75, 75});
-    }
-
-    void showsCursors()
-    {
-        makeLabel("Horizontal");
-        const auto cursorAt = [this](const QPoint& point) {
-            sendMouse(m_label.get(), QEvent::MouseMove, point, Qt::NoButton);
-            return m_label->testAttribute(Qt::WA_SetCursor) ? m_label->cursor().shape()
-                                                            : Qt::ArrowCursor;
-        };
-        QCOMPARE(cursorAt({75, 75}), Qt::SizeAllCursor);
-        QCOMPARE(cursorAt({122, 75}), Qt::SizeHorCursor);
-        // A line leaves the cursor as it is, on a band and beside it.
-        QCOMPARE(cursorAt({75, 122}), Qt::SizeHorCursor);
-        QCOMPARE(cursorAt({150, 75}), Qt::ArrowCursor);
-        QCOMPARE(cursorAt({150, 124}), Qt::ArrowCursor);
-    }
-
     /// Lines of a sensor are one pixel on the label, and still there to be dragged along them.
     void flatSensors()
     {
@@ -351,39 +290,33 @@ private:
     /// Until the label is deleted.
     void doAll()
     {
-        const auto step = [this](const std::function<void()>& action) {
-            if (m_label)
-                action();
-            QCoreApplication::processEvents();
+        using Step = std::function<void(Label*)>;
+        QVector<Step> steps;
+        const auto tell = [](int region, int x) {
+            return [=](Label* label) {
+                label->onRegionGeometryChanged(region, {x, 100, 400, 400});
+            };
         };
-        const auto tell = [=](int region, int x) {
-            step([=] { m_label->onRegionGeometryChanged(region, {x, 100, 400, 400}); });
-        };
-        const auto grab = [=](const QPoint& from) {
-            step([=] { sendMouse(m_label.get(), QEvent::MouseButtonPress, from); });
-            step([=] { sendMouse(m_label.get(), QEvent::MouseMove, from + QPoint(5, 10)); });
-        };
-        for (int region = 0; region < 3; ++region) {
-            tell(region, 100 + 550 * region);
-            step([=] { m_label->onRegionActivated(region, true); });
-        }
-        tell(2, 900);
-        step([=] { m_label->announceRegions(); });
+        for (int region = 0; region < 3; ++region)
+            steps << tell(region, 100 + 550 * region)
+                  << [region](Label* label) { label->onRegionActivated(region, true); };
+        steps << tell(2, 900) << [](Label* label) { label->announceRegions(); };
         for (const QPoint& from : {QPoint(75, 75), QPoint(150, 124)}) {
-            grab(from);
-            step([=] { release(m_label.get(), from + QPoint(5, 10)); });
-            grab(from);
-            step([=] { m_label->resize(200, 150); });
-            step([=] { m_label->setEnabled(false); });
-            step([=] { m_label->setEnabled(true); });
-            step([=] { m_label->resize(400, 300); });
+            const Step grab = [from](Label* label) { press(label, from); };
+            const Step move = [from](Label* label) {
+                sendMouse(label, QEvent::MouseMove, from + QPoint(5, 10));
+            };
+            steps << grab << move << [from](Label* label) { release(label, from); } << grab << move
+                  << [](Label* label) { label->setEnabled(false); }
+                  << [](Label* label) { label->setEnabled(true); };
         }
-        tell(1, 100);
-        step([=] { m_label->removeRectangle(0); });
-        grab({275, 75});
-        step([=] { m_label->removeRectangle(2); });
-        step([=] { m_label->setArrangementMode("Vertical"); });
-        step([=] { m_label->setSensorSize({1000, 800}); });
+        steps << tell(1, 100) << [](Label* label) { label->removeRectangle(0); }
+              << [](Label* label) { label->setArrangementMode("Vertical"); };
+        for (const Step& step : qAsConst(steps)) {
+            if (m_label)
+                step(m_label.get());
+            QCoreApplication::processEvents();
+        }
     }
 
     void makeLabel(const QString& mode,

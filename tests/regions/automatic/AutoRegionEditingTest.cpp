@@ -57,105 +57,36 @@ class AutoRegionEditingTest : public QObject
     Q_OBJECT
 
 private slots:
-    void writesDrags()
+    /// Offsets are taken only beside the new size; an edge must not pass its opposite on the way.
+    void presets_data()
     {
-        const AutoROIPage p("aoi");
-        const Numbers before = region(p, "AutofunctionAOI");
-        const QPoint middle = p.band().center();
-        const QPoint target = middle + p.at(400, 300);
-        press(p.label, middle);
-        sendMouse(p.label, QEvent::MouseMove, target);
-        p.camera->writeAsOtherClient("ExposureAutoMin", 200.0);
-        p.settle();
-        QVERIFY(p.writes().isEmpty());
-        QVERIFY(qAbs(p.field("spinLeft")->value() - before[0] - 400) < 12);
-        QCOMPARE(p.camera->observerCount(), std::size_t{0});
-        release(p.label, target);
-
-        const Numbers after = region(p, "AutofunctionAOI");
-        QVERIFY(qAbs(after[0] - before[0] - 400) < 12);
-        QVERIFY(qAbs(after[1] - before[1] - 300) < 12);
-        QVERIFY(p.camera->observerCount() > 0);
-        p.settle();
-        QCOMPARE(p.field("spinExpAutoMin")->value(), 200.0);
-    }
-
-    void dropsDrags()
-    {
-        const AutoROIPage p("aoi");
-        press(p.label, p.at(1296, 972));
-        sendMouse(p.label, QEvent::MouseMove, p.at(1400, 1000));
-        QVERIFY(p.field("spinLeft")->value() > 700);
-        p.label->setEnabled(false);
-        QTRY_COMPARE_WITH_TIMEOUT(p.field("spinLeft")->value(), 648.0, 500);
-        QVERIFY(p.label->isEnabled());
-        QVERIFY(p.camera->observerCount() > 0);
-        QVERIFY(p.writes().isEmpty());
-    }
-
-    void keepsNoDropThatTheCameraRefuses()
-    {
-        const AutoROIPage p("aoi-gated");
-        const QRect before = p.label->region();
-        p.click("cbEnable");
-        drag(p.label, p.at(1296, 972), p.at(1500, 1100));
-        QCOMPARE(text(p.label->region()), text(before));
-    }
-
-    /// An edge must not pass its opposite on the way, wherever the region was.
-    void presetsKeepEdgesApart()
-    {
-        const Numbers topLeft{0, 0, 100, 80};
-        const Numbers bottomRight{2500, 1900, 2592, 1944};
-        for (const Numbers& before : {topLeft, bottomRight}) {
-            const AutoROIPage p("dsp", [&](sim::Camera& camera) {
-                setRegion(camera, dsp, before);
+        const DataTable row([](const QString& family, const Numbers& before, const Numbers& half,
+                               const Numbers& quarter) {
+            const AutoROIPage p(QTest::currentDataTag(), [&](sim::Camera& camera) {
+                setRegion(camera, family, before);
+                if (family != dsp)
+                    return;
                 boundEdges(camera, "DSPSubregionLeft", "DSPSubregionRight", "Width");
                 boundEdges(camera, "DSPSubregionTop", "DSPSubregionBottom", "Height");
             });
-            p.click("btnQuarter");
-            QCOMPARE(region(p, dsp), (Numbers{972, 729, 1620, 1215}));
             p.click("btnHalf");
-            QCOMPARE(region(p, dsp), (Numbers{648, 486, 1944, 1458}));
+            QCOMPARE(region(p, family), half);
+            p.click("btnQuarter");
+            QCOMPARE(region(p, family), quarter);
             p.click("btnFull");
-            QCOMPARE(region(p, dsp), (Numbers{0, 0, 2592, 1944}));
+            QCOMPARE(region(p, family), (Numbers{0, 0, 2592, 1944}));
             QVERIFY(!p.anyRefused());
             QVERIFY(p.message()->isHidden());
-        }
-    }
-
-    void presetsCentre()
-    {
-        for (const char* model : {"aoi", "aoi-plain", "automode-fixed", "automode-dynamic"}) {
-            const bool isAoi = QByteArray(model).startsWith("aoi");
-            const QString family = isAoi ? "AutofunctionAOI" : "AutoModeRegion";
-            const AutoROIPage p(model, [&](sim::Camera& camera) {
-                // Full size beforehand: the offsets are taken only beside the new size.
-                setRegion(camera, family, {0, 0, 2592, 1944});
-            });
-            p.click("btnHalf");
-            QCOMPARE(region(p, family), (Numbers{648, 486, 1296, 972}));
-            QVERIFY(!p.anyRefused());
-            if (isAoi) {
-                p.click("btnQuarter");
-                QCOMPARE(region(p, family), (Numbers{972, 728, 648, 484}));
-                p.click("btnFull");
-                QCOMPARE(region(p, family), (Numbers{0, 0, 2592, 1944}));
-            }
-        }
-    }
-
-    void cutsWhatIsTooLarge()
-    {
-        const AutoROIPage p("aoi-plain", [](sim::Camera& camera) {
-            camera.writeAsOtherClient("Width", std::int64_t{1296});
-            camera.force("AutofunctionAOIOffsetX", 0);
-            camera.force("AutofunctionAOIWidth", 2400);
         });
-        QCOMPARE(p.field("spinWidth")->value(), 2400.0);
-        p.click("btnFull");
-        QCOMPARE(region(p, "AutofunctionAOI"), (Numbers{0, 0, 1296, 1944}));
+        const Numbers full{0, 0, 2592, 1944};
+        const Numbers half{648, 486, 1296, 972};
+        const Numbers quarter{972, 729, 1620, 1215};
+        row("aoi", "AutofunctionAOI", full, half, {972, 728, 648, 484});
+        row("aoi-plain", "AutofunctionAOI", full, half, {972, 728, 648, 484});
+        row("dsp", dsp, {0, 0, 100, 80}, {648, 486, 1944, 1458}, quarter);
+        row("dsp", dsp, {2500, 1900, 2592, 1944}, {648, 486, 1944, 1458}, quarter);
     }
+    void presets() { runRow(); }
 
     void keepsTheLimitsOfTheImage()
     {
@@ -181,24 +112,6 @@ private slots:
         p.camera->writeAsOtherClient("Width", std::int64_t{1296});
         p.settle();
         QCOMPARE(p.label->sensorSize(), QSize(1296, 1944));
-    }
-
-    void cutsNoImageToALimit()
-    {
-        const AutoROIPage p("automode-dynamic");
-        p.field("spinLeft")->setValue(400); // leaves more room than at first
-        p.settle();
-        p.click("btnFull");
-        QCOMPARE(p.value("Width"), 2592);
-    }
-
-    void replacesAnInvalidRegion()
-    {
-        const AutoROIPage p("dsp", [](sim::Camera& camera) {
-            setRegion(camera, dsp, {100, 500, 400, 500});
-        });
-        QCOMPARE(region(p, dsp), (Numbers{0, 0, 2592, 1944}));
-        QVERIFY(!p.constructionWrites.isEmpty());
     }
 
     /// What is not told is no invalid region, and none of width 0.

@@ -104,27 +104,6 @@ private slots:
             QVERIFY(now != std::exchange(before, now));
         }
     }
-
-    void paintsLittleWhileDragging()
-    {
-        struct PaintedArea : QObject
-        {
-            bool eventFilter(QObject*, QEvent* event) override
-            {
-                if (event->type() == QEvent::Paint)
-                    for (const QRect& rect : static_cast<QPaintEvent*>(event)->region())
-                        pixels += rect.width() * rect.height();
-                return false;
-            }
-            int pixels = 0;
-        } painted;
-        const auto label = shownLabel();
-        press(label.get(), {160, 120});
-        label->installEventFilter(&painted);
-        sendMouse(label.get(), QEvent::MouseMove, {163, 121});
-        QTRY_VERIFY(painted.pixels > 0);
-        QVERIFY(painted.pixels < 200 * 140 / 4); // the band has 200 x 140
-    }
 };
 
 QTEST_MAIN(LabelBandTest)

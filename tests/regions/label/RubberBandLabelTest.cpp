@@ -105,32 +105,6 @@ private slots:
     }
     void survivesDeletion() { runRow(); }
 
-    void regionsWaitForTheDrag()
-    {
-        press(m_label.get(), {200, 150});
-        sendMouse(m_label.get(), QEvent::MouseMove, {220, 150});
-        QCOMPARE(m_band->geometry(), QRect(120, 75, 200, 150));
-        m_label->setRegion(0, 0, 400, 400);
-        QCOMPARE(m_band->geometry(), QRect(120, 75, 200, 150));
-        m_label->setEnabled(false);
-        QCOMPARE(m_band->geometry(), QRect(0, 0, 100, 100));
-        m_label->setEnabled(true);
-
-        press(m_label.get(), {50, 50});
-        m_label->setRegion(300, 400, 800, 600);
-        release(m_label.get(), {50, 50});
-        QCOMPARE(m_events.last(), QString("send 0 0 400 400"));
-        QCOMPARE(text(m_label->region()), QString("0 0 400 400"));
-    }
-
-    void settlesAfterAResize()
-    {
-        m_label->resize(300, 225);
-        QVERIFY(m_band->geometry() != QRect(75, 56, 150, 113));
-        QTRY_COMPARE_WITH_TIMEOUT(m_band->geometry(), QRect(75, 56, 150, 113), 400);
-        QCOMPARE(m_label->pixmap(Qt::ReturnByValue).size(), QSize(300, 225));
-    }
-
     /// A layout or a window may resize the label while the mouse holds the band.
     void keepsTheHeldRegionOnAResize_data()
     {
@@ -172,33 +146,6 @@ private slots:
         m_label->hide();
         m_label->show();
         QCOMPARE(m_band->geometry(), QRect(0, 0, 400, 299));
-    }
-
-    void withoutARegionFillsTheWidth()
-    {
-        RubberBandLabel label(1600, 1200, Qt::red, nullptr);
-        label.resize(402, 300);
-        label.show();
-        QCOMPARE(label.findChild<QRubberBand*>()->geometry(), QRect(0, 0, 402, 300));
-        QTest::qWait(250);
-        QCOMPARE(label.findChild<QRubberBand*>()->geometry(), QRect(0, 0, 402, 300));
-        QSignalSpy sent(&label, &RubberBandLabel::SendGeometry);
-        press(&label, {401, 150});
-        release(&label, {402, 150});
-        QCOMPARE(sent.value(0), (QVariantList{0, 0, 1600, 1200}));
-    }
-
-    void survivesMissingSizes()
-    {
-        RubberBandLabel label(-1, 0, Qt::red, nullptr);
-        label.show();
-        label.setRegion(0, 0, 10, 10);
-        drag(&label, {10, 10}, {20, 20});
-        label.showBackground(std::make_shared<QPixmap>(8, 8), QSize(-1, -1), QRect());
-        label.setFixedSize(0, 0);
-        QTest::qWait(250);
-        label.setRegion(300, 400, 800, 600);
-        QCOMPARE(text(label.region()), QString("300 400 800 600"));
     }
 
     /// A picture keeps the whole pixels of the size at which it was chosen.
