@@ -49,6 +49,7 @@ private slots:
         row("lost again", "A B =A B A", true);
     }
     void countsAsLost() { runRow(); }
+
     /// What was refused is not known; what the camera does not have is.
     void knowsWhatItRead_data()
     {

@@ -95,22 +95,6 @@ private slots:
     }
     void answersWhatIsInEffect() { runRow(); }
 
-    void triesAlternativesInOrder()
-    {
-        Fixture f({sim::integerFeature("Second", 2), sim::integerFeature("Third", 3),
-                   sim::integerFeature("", 9)});
-        const QString missing = "First";
-        const QString second = "Second";
-        const QString third = "Third";
-
-        QCOMPARE(f.manager.GetValue(missing, second, third), 2.0);
-        QCOMPARE(f.manager.GetValue(missing, "second", third), 3.0);
-        QVERIFY(!f.manager.HasFeature(missing, QString(), QString()));
-        QCOMPARE(f.manager.GetExistingName({missing, third, second}), third);
-        QCOMPARE(f.manager.SetValue(missing, QString(), third, 7), 7.0);
-        QCOMPARE(qint64{f.camera.feature("Third").integer()}, qint64{7});
-    }
-
     /// The numbers are those of GetValueState() and, where they differ, of GetValueRange().
     void fillsStateAndFieldRange_data()
     {

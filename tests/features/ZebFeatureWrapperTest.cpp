@@ -76,14 +76,9 @@ private slots:
     {
         sim::Camera camera({sim::rawFeature("Table", {1, 2, 3})});
         const auto feature = wrap(camera);
-        std::vector<uint8_t> bytes;
-        uint32_t filled = 0;
-        QCOMPARE(int(feature->GetValue(bytes, filled)), 0);
-        QCOMPARE(bytes, std::vector<uint8_t>({1, 2, 3}));
-        QCOMPARE(filled, 3u);
-
         QCOMPARE(int(feature->SetValue(std::vector<uint8_t>())), int(ZebErrorBadParameter));
         QVERIFY(camera.journal().writes().empty());
+        std::vector<uint8_t> bytes;
         QCOMPARE(int(feature->SetValue(std::vector<uint8_t>{9, 8})), 0);
         QCOMPARE(feature->GetValue(bytes), ZebErrorSuccess);
         QCOMPARE(bytes, std::vector<uint8_t>({9, 8}));

@@ -128,22 +128,6 @@ private slots:
     }
     void keepsWhatIsNotTold() { runRow(); }
 
-    void showsNothingBeforeItIsTold()
-    {
-        sim::Camera camera(
-            {sim::integerFeature("Count", 10),
-             sim::stringFeature("Secret", "x").readableIf([](auto&) { return false; })});
-        FeatureManager manager(wrappers(camera));
-        camera.failures().add("Count", Operation::GetValue, Failure::refuse());
-        FeaturesTableWidget features({"Count", "Secret"}, &manager, nullptr);
-        const auto* cell = features.findChild<MyTableWidget*>()->item(0, valueColumn);
-        QCOMPARE(cell->text(), QString());
-        QCOMPARE(features.pendingFeatures(), QStringList{"Count"}); // the other has nothing to tell
-        camera.failures().clear();
-        features.updateFeatures({"Count"});
-        QCOMPARE(cell->text(), QString("10"));
-    }
-
     void endsASuspendedRefresh()
     {
         FeaturesTable f;

@@ -219,6 +219,17 @@ private slots:
         QCOMPARE(open.contradiction(), QString());
     }
 
+    /// A camera that does not notify may move regions as another arrangement is chosen.
+    void readsAfterTheArrangement()
+    {
+        const MultiROIPage open("multi-region", "Free");
+        open.loadDefaults();
+        open.camera->setNotifications(sim::NotificationSettings::off());
+        open.camera->forceAt("SubRegionOffsetX", 1, 16);
+        open.choose("Vertical");
+        QCOMPARE(open.contradiction(), QString());
+    }
+
     void manyTabs()
     {
         const MultiROIPage open("multi-region-256", "Free");
@@ -229,11 +240,9 @@ private slots:
     /// Cameras that notify of each registration, and late, keep no page busy.
     void restsWhateverTheCameraNotifies_data()
     {
-        const DataTable row([](bool synchronous) {
+        const DataTable row([](sim::NotificationSettings settings) {
             const MultiROIPage open("multi-region", "Free");
             open.loadDefaults();
-            auto settings = synchronous ? sim::NotificationSettings::synchronous()
-                                        : sim::NotificationSettings::asynchronous();
             settings.onRegistration = true;
             settings.lateAfterUnregistration = true;
             open.camera->setNotifications(settings);
@@ -259,8 +268,8 @@ private slots:
             open.page->show();
             QCOMPARE(open.tabs->currentIndex(), 2);
         });
-        row("at once", true);
-        row("later", false);
+        row("at once", sim::NotificationSettings::synchronous());
+        row("later", sim::NotificationSettings::asynchronous());
     }
     void restsWhateverTheCameraNotifies() { runRow(); }
 };

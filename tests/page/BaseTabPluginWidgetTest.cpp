@@ -182,25 +182,22 @@ private slots:
             }
         });
         const auto failing = [](Operation operation, const Failure& failure) {
-            return Event([=](SmallCamera& camera, Page&) {
-                camera.failures().add("*", operation, failure);
-            });
+            return
+                [=](SmallCamera& camera, Page&) { camera.failures().add("*", operation, failure); };
         };
-        row("nothing", Event([](SmallCamera&, Page&) {}));
-        row("observed by hand", Event([](SmallCamera&, Page& page) {
-                page.hide();
-                page.registerObservers(true);
-            }));
-        row("names fail", failing(Operation::GetName, Failure::refuse()));
+        row("observed by hand", [](SmallCamera&, Page& page) {
+            page.hide();
+            page.registerObservers(true);
+        });
         row("names differ", failing(Operation::GetName, Failure::of(Failure::Kind::Unterminated)));
         row("denies", failing(Operation::UnregisterObserver, Failure::of(Failure::Kind::Report)));
-        row("refuses once", Event([](SmallCamera& camera, Page& page) {
-                camera.failures().add("*", Operation::UnregisterObserver, Failure::refuse(),
-                                      sim::Occurrence::nth(1));
-                page.suspendUpdates();
-            }));
+        row("refuses once", [](SmallCamera& camera, Page& page) {
+            camera.failures().add("*", Operation::UnregisterObserver, Failure::refuse(),
+                                  sim::Occurrence::nth(1));
+            page.suspendUpdates();
+        });
         row("the viewer empties its list",
-            Event([](SmallCamera&, Page& page) { page.cameraFeatures->clear(); }));
+            [](SmallCamera&, Page& page) { page.cameraFeatures->clear(); });
     }
     void leavesNoObserver() { runRow(); }
 
@@ -254,11 +251,8 @@ private slots:
     {
         SmallCamera camera;
         Page page(camera);
-        page.resumeUpdates(true); // one too many does nothing
-        QCOMPARE(camera.observers(), 0);
         page.show();
         page.updateTimer();
-
         page.suspendUpdates();
         page.suspendUpdates();
         QCOMPARE(camera.observers(), 0);
@@ -266,7 +260,6 @@ private slots:
         const int before = page.refreshes.size();
         page.updateTimer();
         QCOMPARE(page.refreshes.size(), before);
-        QCOMPARE(*page.changedFeatures, QStringList({width}));
         page.resumeUpdates(false);
         QVERIFY(!page.refreshTimer->isActive());
         page.resumeUpdates(false);
@@ -280,24 +273,6 @@ private slots:
         QCOMPARE(camera.observers(), 0);
         page.show();
         QCOMPARE(camera.observers(), 2);
-    }
-
-    void fillsComboBoxes()
-    {
-        SmallCamera camera;
-        Page page(camera);
-        QComboBox comboBox;
-        QSignalSpy changed(&comboBox, &QComboBox::currentTextChanged);
-
-        QVERIFY(page.fillComboBox("PixelFormat", &comboBox, true));
-        QCOMPARE(comboBox.currentText(), QString("Mono8"));
-        QCOMPARE(comboBox.itemData(1, Qt::ToolTipRole).toString(), QString("Mono12"));
-        camera.failures().add("PixelFormat", Operation::GetValue, Failure::value("Odd"));
-        QVERIFY(!page.fillComboBox("PixelFormat", &comboBox, false));
-        QCOMPARE(comboBox.currentIndex(), -1);
-        QCOMPARE(comboBox.count(), 2);
-        QCOMPARE(changed.size(), 0);
-        QVERIFY(!comboBox.signalsBlocked());
     }
 
     void tellsPaletteChanges()

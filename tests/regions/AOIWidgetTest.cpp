@@ -104,19 +104,6 @@ private slots:
             QVERIFY(region->isEnabled());
         }
     }
-
-    void keepsTheBackgroundUntilTheSensorChanges()
-    {
-        const AOIPage p("current");
-        p.page->setBackgroundImage(picture(Qt::green));
-        p.click("btnHalf");
-        p.settle();
-        QCOMPARE(p.pictureColor(), QColor(Qt::green));
-        p.camera->writeAsOtherClient("BinningHorizontal", std::int64_t{2});
-        p.settle();
-        QCOMPARE(p.pictureColor(), QColor(Qt::green));
-        QVERIFY(!QApplication::overrideCursor());
-    }
 };
 
 QTEST_MAIN(AOIWidgetTest)

@@ -103,15 +103,6 @@ private slots:
         QCOMPARE(image.use_count(), 1);
     }
 
-    void nothingWithoutASensor()
-    {
-        SensorBackground background(Qt::red, {-1, -1});
-        QVERIFY(background.fittedSize({8, 8}).isEmpty());
-        QVERIFY(background.scaled({}).isNull());
-        SensorBackground empty({std::make_shared<QPixmap>(), {8, 8}, {}}, {8, 8});
-        QCOMPARE(empty.scaled({8, 8}).toImage().pixelColor(4, 4), QColor(Qt::black));
-    }
-
     void knowsOldWindows()
     {
         using System = QOperatingSystemVersion;

@@ -162,21 +162,6 @@ private slots:
     }
     void hidesOnlyWhatItPaints() { runRow(); }
 
-    void hiddenLabelsScaleNoPicture()
-    {
-        const auto shown = [this] { return m_label->pixmap(Qt::ReturnByValue).toImage(); };
-        m_label->hide();
-        m_label->setPicture(greenPicture(), {400, 300}, {400, 300});
-        m_label->resize(403, 200);
-        QVERIFY(shown().pixelColor(200, 150) != QColor(Qt::green));
-        m_label->show();
-        QCOMPARE(shown().size(), QSize(266, 200));
-        QCOMPARE(m_label->shownSize(), QSize(266, 200));
-        QCOMPARE(shown().pixelColor(200, 150), QColor(Qt::green));
-        m_label->setPicture({}, {}, {400, 300});
-        QVERIFY(shown().pixelColor(200, 150) != QColor(Qt::green));
-    }
-
 private:
     std::unique_ptr<Probe> m_label;
 };

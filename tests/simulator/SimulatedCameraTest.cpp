@@ -63,6 +63,7 @@ private slots:
         row("minimum over maximum", 10, 5, 1, 7, false, -99);
     }
     void integerWrites() { runRow(); }
+
     /// The writes follow one another; "!" marks what the camera refuses.
     void featuresFollowOneAnother_data()
     {

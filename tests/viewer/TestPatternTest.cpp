@@ -69,25 +69,18 @@ private slots:
     }
     void placesTheFrame() { runRow(); }
 
-    void mirrorsWithinTheRegion_data()
+    void mirrorsWithinTheRegion()
     {
-        const DataTable row([](bool reverseX, bool reverseY) {
+        const QRect region(40, 20, 200, 120);
+        for (const auto& [reverseX, reverseY] : {std::pair(true, false), std::pair(false, true)}) {
             SensorState state = upright();
-            const QRect region(40, 20, 200, 120);
             const QImage expected = fullFrame(state).mirrored(reverseX, reverseY).copy(region);
             state.reverseX = reverseX;
             state.reverseY = reverseY;
             state.regions = {region};
-            const QImage frame = fullFrame(state);
-            QCOMPARE(frame.size(), region.size());
-            QVERIFY2(difference(frame, expected) < 1.0,
-                     "the wrong part of the sensor, or mirrored wrongly");
-        });
-        row("x", true, false);
-        row("y", false, true);
-        row("both", true, true);
+            QVERIFY(difference(fullFrame(state), expected) < 1.0); // of different sizes it is 255
+        }
     }
-    void mirrorsWithinTheRegion() { runRow(); }
 
     void showsActiveRegionsOnly()
     {

@@ -72,24 +72,6 @@ private slots:
     }
     void readsAndWritesNumbers() { runRow(); }
 
-    void choosesTheIntegerField_data()
-    {
-        const DataTable row([](qint64 minimum, qint64 maximum, qint64 value, IntegerField field) {
-            QCOMPARE(int(integerField(infoOf(value, minimum, maximum))), int(field));
-        });
-        constexpr qint64 intMaximum = std::numeric_limits<int>::max();
-        row("32 bits", -intMaximum - 1, intMaximum, 5, IntegerField::Spin32);
-        row("2^53", -twoTo53, twoTo53, 5, IntegerField::Spin53);
-        row("beyond 2^53", 0, twoTo53 + 1, 5, IntegerField::Text);
-        row("stale value", 0, 10, twoTo53 + 1, IntegerField::Text);
-        row("nothing but the present value", twoTo53, 0, 5, IntegerField::Spin32);
-        const auto unknown = integerRange(FeatureInfo());
-        QVERIFY(unknown.minimum == -twoTo53 && unknown.maximum == twoTo53);
-        const auto present = numberRange(infoOf(5.0, 7.0, 6.0));
-        QVERIFY(present.minimum == 5.0 && present.maximum == 5.0);
-    }
-    void choosesTheIntegerField() { runRow(); }
-
     void choosesTheSlider_data()
     {
         const DataTable row([](const FeatureInfo& info, const QString& kind) {
@@ -139,19 +121,6 @@ private slots:
         QCOMPARE(stepped(2.0, 2.01, {1.0, 10.0, 0.0, true}), 2.01);
     }
     void snaps() { runRow(); }
-
-    void tellsCells()
-    {
-        FeatureInfo info = infoOf(0, 0, 0, "HexNumber");
-        info.displayName = "Register %2";
-        info.unit = "us";
-        QCOMPARE(accessibleCellText(info, qint64{255}), QString("Register %2: FF us"));
-        QCOMPARE(cellText(info, 1234567.5), QString("1234567.5"));
-        QCOMPARE(cellText(info, qint64{-1}), QString("FFFFFFFFFFFFFFFF"));
-        QCOMPARE(cellText(info, {}), QString());
-        info.isCommand = true;
-        QCOMPARE(cellText(info, qint64{3}), QString("Execute"));
-    }
 
     void filters()
     {

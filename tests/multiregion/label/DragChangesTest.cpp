@@ -177,22 +177,6 @@ private slots:
         QVERIFY(membersCanFollow(regions, row, 0, {0, 0, 200, 105}));
         QVERIFY(!membersCanFollow(regions, row, 0, {0, 20, 200, 100}));
     }
-
-    void ranges()
-    {
-        const QVector<ShownRegion> regions
-            = regionsAt({{0, 10, 100, 200}, {150, 10, 100, 200}, {300, 20, 50, 100}});
-        const auto range = [&regions](ArrangementMode mode, int region) {
-            return text(rangeBetweenNeighbours(regions, mode, constraintGroups(mode, {0, 1, 2}),
-                                               {500, 400}, region));
-        };
-        for (const auto mode : {ArrangementMode::Free, ArrangementMode::Vertical})
-            QCOMPARE(range(mode, 1), QString("0,0 500x400"));
-        for (const auto mode : {ArrangementMode::Horizontal, ArrangementMode::Tile})
-            QCOMPARE(range(mode, 0), QString("0,0 150x400"));
-        QCOMPARE(range(ArrangementMode::Horizontal, 1), QString("100,0 200x400"));
-        QCOMPARE(range(ArrangementMode::Horizontal, 2), QString("250,0 250x400"));
-    }
 };
 
 QTEST_GUILESS_MAIN(DragChangesTest)

@@ -131,21 +131,6 @@ private slots:
         QCOMPARE(bandOf(1)->geometry(), QRect(240, 25, 100, 100));
     }
 
-    void keepsRegionsThroughResizes()
-    {
-        makeLabel("Free", {{648, 636, 650, 480}});
-        for (int i = 0; i < 50; ++i)
-            m_label->resize(300 + 7 * i % 331, 200 + 11 * i % 257);
-        m_label->resize(400, 300);
-        QCOMPARE(bandOf(0)->geometry(), QRect(162, 159, 163, 120));
-        QCOMPARE(m_label->regionRectangle(0), QRect(648, 636, 650, 480));
-        QSignalSpy spy(m_label.get(), &Label::labelGeometryChanged);
-        m_label->resize(800, 300);
-        QCOMPARE(spy.takeFirst(), (QVariantList{1.0, 1.0, QSize(400, 300)}));
-        m_label->resize(800, 600);
-        QCOMPARE(spy.takeFirst(), (QVariantList{2.0, 2.0, QSize(800, 600)}));
-    }
-
     void higherNumberIsRed()
     {
         makeLabel("Free");
@@ -219,25 +204,6 @@ private slots:
         QCOMPARE(m_ranges.value(2), QRect(0, 0, 1600, 1200));
     }
 
-    /// The page may take a region away while it is told of its new place.
-    void survivesRemovalDuringReport()
-    {
-        makeLabel("Horizontal");
-        connect(m_label.get(), &Label::regionGeometryChanged, this,
-                [this] { m_label->removeRectangle(0); });
-        drag(m_label.get(), {75, 75}, {85, 95});
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        QVERIFY(!m_label->isRegionShown(0));
-        QCOMPARE(topAt({85, 95}), -1);
-        connect(m_label.get(), &Label::regionSelected, this,
-                [this] { m_label->removeRectangle(1); });
-        m_events.clear();
-        press(m_label.get(), {275, 95});
-        QVERIFY(!m_label->isDragging());
-        QCoreApplication::processEvents();
-        QCOMPARE(m_events, QStringList("drop"));
-    }
-
     /// The viewer may close the page in answer to any signal, the first or a later one. (Only the
     /// one that belongs to a resize leaves Qt with a deleted label.)
     void survivesDeletion_data()
@@ -264,6 +230,19 @@ private slots:
         row("activation", SIGNAL(regionActivated(int, bool)));
     }
     void survivesDeletion() { runRow(); }
+
+    void showsCursors()
+    {
+        makeLabel("Horizontal");
+        const auto cursorAt = [this](const QPoint& point) {
+            sendMouse(m_label.get(), QEvent::MouseMove, point, Qt::NoButton);
+            return m_label->cursor().shape();
+        };
+        QCOMPARE(cursorAt({75, 75}), Qt::SizeAllCursor);
+        QCOMPARE(cursorAt({122, 75}), Qt::SizeHorCursor);
+        QCOMPARE(cursorAt({75, 122}), Qt::SizeHorCursor); // a line leaves it as it is
+        QCOMPARE(cursorAt({150, 75}), Qt::ArrowCursor);
+    }
 
     /// Lines of a sensor are one pixel on the label, and still there to be dragged along them.
     void flatSensors()

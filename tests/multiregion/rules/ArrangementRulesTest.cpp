@@ -44,19 +44,6 @@ private slots:
     }
     void places() { runRow(); }
 
-    void survivesAbsurdNumbers()
-    {
-        const double huge = std::numeric_limits<double>::infinity();
-        const QRect far(1 << 29, 1 << 29, 1 << 29, 1 << 29);
-        for (const Qt::Orientation axis : {Qt::Horizontal, Qt::Vertical})
-            placedRegion(axis, {1 << 29, far, far, far, {0, huge, std::nan("")}});
-        for (const char* mode : {"Vertical", "Horizontal", "Tile", "Free"})
-            defaultLayout(mode, {{1 << 29, 1}, {0, huge, huge}, {huge, 0, 0}, 256});
-        const QRect rect = truncatedRect(huge, -huge, std::nan(""), -huge);
-        QCOMPARE(rect.bottom(), rect.y() + rect.height() - 1);
-        QVERIFY(rect.x() > 0 && rect.bottom() < rect.y());
-    }
-
     /// The row's name is the mode and the buttons, "1" active, "0" inactive; expected "+" enabled,
     /// "c" and "l" disabled for the lack of continuity or of a common line.
     void enablesButtons_data()

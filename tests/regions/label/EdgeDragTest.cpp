@@ -70,12 +70,6 @@ private slots:
     }
     void findsEdges() { runRow(); }
 
-    void findsEdgesOfThinBandsAndBesideThePicture()
-    {
-        QVERIFY(grabForPress({50, 50, 3, 3}, {50, 50}) == flags("right top"));
-        QCOMPARE(cursorForHover(band, {200, 150}, {900, 150}), Qt::ArrowCursor);
-    }
-
     /// The row's name tells what is dragged.
     void drags_data()
     {
@@ -122,18 +116,6 @@ private slots:
         row("right bottom, clamped", {100, 75, 301, 226}, {399, 299}, {400, 300, 1200, 900});
     }
     void releases() { runRow(); }
-
-    /// 150 of 300 label pixels stand for 501 of 1000 sensor pixels.
-    void moveEndsOnTheSensor()
-    {
-        const LabelGeometry where{{300, 225}, {1000, 750}, {300, 225}};
-        const QRect start(0, 0, 501, 376);
-        const EdgeDrag drag{flags("move"), flags("move"), {}, bandForRegion(start, where), start};
-        const QRect moved = draggedBand(drag, {300, 225}, where);
-        const QRect expected(499, 373, 501, 376);
-        QCOMPARE(provisionalRegion(drag, moved, where), expected);
-        QCOMPARE(releasedRegion(drag, moved, {300, 225}, where), expected);
-    }
 
     void resizes_data()
     {
