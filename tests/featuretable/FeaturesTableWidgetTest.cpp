@@ -128,6 +128,19 @@ private slots:
     }
     void keepsWhatIsNotTold() { runRow(); }
 
+    /// Else each row would wait.
+    void leavesALostCamera()
+    {
+        FeaturesTable f;
+        f.camera.lose(std::chrono::milliseconds(120));
+        QElapsedTimer waited;
+        waited.start();
+        f.features->updateFeatures(f.names);
+        QVERIFY2(waited.elapsed() < 1000, qPrintable(QString::number(waited.elapsed())));
+        QCOMPARE(f.features->pendingFeatures(), f.names);
+        QCOMPARE(f.shown("Count"), QVariant(qint64{10}));
+    }
+
     void endsASuspendedRefresh()
     {
         FeaturesTable f;
