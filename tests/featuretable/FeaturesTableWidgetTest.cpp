@@ -141,6 +141,16 @@ private slots:
         QCOMPARE(f.shown("Count"), QVariant(qint64{10}));
     }
 
+    void writesEqualValuesOnce()
+    {
+        for (const char* feature : {"Count", "Gain", "Text"}) {
+            const FeaturesTable f;
+            const QModelIndex cell = f.table->model()->index(f.names.indexOf(feature), valueColumn);
+            f.table->model()->setData(cell, f.shown(feature), Qt::DisplayRole);
+            QCOMPARE(f.writes(), 1);
+        }
+    }
+
     void endsASuspendedRefresh()
     {
         FeaturesTable f;

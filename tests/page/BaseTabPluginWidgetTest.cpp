@@ -275,6 +275,24 @@ private slots:
         QCOMPARE(camera.observers(), 2);
     }
 
+    void fillsComboBoxes()
+    {
+        SmallCamera camera;
+        Page page(camera);
+        QComboBox comboBox;
+        QSignalSpy changed(&comboBox, &QComboBox::currentTextChanged);
+
+        QVERIFY(page.fillComboBox("PixelFormat", &comboBox, true));
+        QCOMPARE(comboBox.currentText(), QString("Mono8"));
+        QCOMPARE(comboBox.itemData(1, Qt::ToolTipRole).toString(), QString("Mono12"));
+        camera.failures().add("PixelFormat", Operation::GetValue, Failure::value("Odd"));
+        QVERIFY(!page.fillComboBox("PixelFormat", &comboBox, false));
+        QCOMPARE(comboBox.currentIndex(), -1);
+        QCOMPARE(comboBox.count(), 2);
+        QCOMPARE(changed.size(), 0);
+        QVERIFY(!comboBox.signalsBlocked());
+    }
+
     void tellsPaletteChanges()
     {
         SmallCamera camera;

@@ -128,6 +128,13 @@ private slots:
     }
     void disturbances() { runRow(); }
 
+    void missedReleaseEndsTheDrag()
+    {
+        press(m_label.get(), {200, 150});
+        QTest::mouseMove(m_label->windowHandle(), {230, 150});
+        QCOMPARE(m_label->events.mid(1).join(", "), QString("press 200,150, drop, dropped"));
+    }
+
     /// What the receivers of aboutToDrag() leave decides.
     void editorsCommitBeforeADrag_data()
     {

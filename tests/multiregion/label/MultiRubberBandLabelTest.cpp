@@ -204,6 +204,18 @@ private slots:
         QCOMPARE(m_ranges.value(2), QRect(0, 0, 1600, 1200));
     }
 
+    /// The page may take a region away in answer to its selection.
+    void removalEndsTheDrag()
+    {
+        makeLabel("Horizontal");
+        connect(m_label.get(), &Label::regionSelected, this,
+                [this] { m_label->removeRectangle(1); });
+        press(m_label.get(), {275, 75});
+        QVERIFY(!m_label->isDragging());
+        QCoreApplication::processEvents();
+        QCOMPARE(m_events, QStringList("drop"));
+    }
+
     /// The viewer may close the page in answer to any signal, the first or a later one. (Only the
     /// one that belongs to a resize leaves Qt with a deleted label.)
     void survivesDeletion_data()
