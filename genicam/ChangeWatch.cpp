@@ -36,9 +36,9 @@ void ChangeWatch::start(Features features, std::vector<Places> touched)
 
 void ChangeWatch::stop()
 {
+    m_observers.clear();
     std::unique_lock lock(m_mutex);
     m_isStopping = true;
-    m_observers.clear();
     m_wake.notify_all();
     if (!m_thread.joinable())
         return;
@@ -52,38 +52,6 @@ void ChangeWatch::stop()
         m_thread.detach(); // it keeps all it needs
 }
 
-ZebErrorType ChangeWatch::add(std::size_t feature, const ZebCPP::IFeatureObserverPtr& observer)
-{
-    if (!observer)
-        return ZebErrorBadParameter;
-    const std::lock_guard lock(m_mutex);
-    Observers& list = m_observers[feature];
-    if (std::find(list.begin(), list.end(), observer) != list.end())
-        return ZebErrorInvalidAccess;
-    list.push_back(observer);
-    return ZebErrorSuccess;
-}
-
-ZebErrorType ChangeWatch::remove(std::size_t feature, const ZebCPP::IFeatureObserverPtr& observer)
-{
-    if (!observer)
-        return ZebErrorBadParameter;
-    const std::lock_guard lock(m_mutex);
-    Observers& list = m_observers[feature];
-    const auto found = std::find(list.begin(), list.end(), observer);
-    if (found == list.end())
-        return ZebErrorNotFound;
-    list.erase(found);
-    return ZebErrorSuccess;
-}
-
-ChangeWatch::Observers ChangeWatch::observersOf(std::size_t feature) const
-{
-    const std::lock_guard lock(m_mutex);
-    const auto found = m_observers.find(feature);
-    return found == m_observers.end() ? Observers() : found->second;
-}
-
 ZebCPP::FeaturePtr ChangeWatch::featureOf(ArvGcFeatureNode* node) const
 {
     const std::lock_guard lock(m_mutex);
@@ -92,28 +60,31 @@ ZebCPP::FeaturePtr ChangeWatch::featureOf(ArvGcFeatureNode* node) const
     return found == m_features.end() ? nullptr : *found;
 }
 
-// The value that is known is dropped: what the camera makes of the write, and resets by itself a
-// moment later, is new in any case.
+// The values that are known are dropped: what the camera makes of the write, or resets by itself a
+// moment later, is news even when it is what was known before.
 void ChangeWatch::written(std::size_t place)
 {
-    m_link->forget();
     const std::lock_guard lock(m_mutex);
     for (const std::size_t feature : m_touched[place])
-        m_known.erase(feature);
-    m_changed.insert(m_touched[place].begin(), m_touched[place].end());
-    m_wake.notify_all();
+        m_known[feature].reset();
+    noteChange(place);
 }
 
 // What one client reads is news to the others.
-void ChangeWatch::seen(std::size_t feature, const Value& value)
+void ChangeWatch::seen(std::size_t feature, const Value& value, bool isByWatch)
 {
     const std::lock_guard lock(m_mutex);
-    const auto [known, isFirst] = m_known.try_emplace(feature, value);
-    if (isFirst || known->second == value)
-        return;
-    known->second = value;
+    const auto [place, isFirst] = m_known.try_emplace(feature, value);
+    const std::optional<Value> known = std::exchange(place->second, value);
+    if (!isFirst && known != value && (known || isByWatch))
+        noteChange(feature);
+}
+
+// Needs the lock.
+void ChangeWatch::noteChange(std::size_t place)
+{
     m_link->forget();
-    m_changed.insert(m_touched[feature].begin(), m_touched[feature].end());
+    m_changed.insert(m_touched[place].begin(), m_touched[place].end());
     m_wake.notify_all();
 }
 
@@ -148,8 +119,9 @@ void ChangeWatch::run()
 void ChangeWatch::deliver(const Places& changed)
 {
     for (const std::size_t feature : changed) {
-        for (const ZebCPP::IFeatureObserverPtr& observer : observersOf(feature)) {
-            const Observers left = observersOf(feature); // a call before may have taken it off
+        for (const ZebCPP::IFeatureObserverPtr& observer : m_observers.observers(feature)) {
+            // A call before may have taken it off.
+            const auto left = m_observers.observers(feature);
             try {
                 if (std::find(left.begin(), left.end(), observer) != left.end())
                     observer->FeatureChanged(m_features[feature]);
@@ -159,18 +131,15 @@ void ChangeWatch::deliver(const Places& changed)
     }
 }
 
-// What does not fit into the time is looked at first the next time.
+// Ends at the first failure, or when its time is over; the next look goes on from there.
 void ChangeWatch::poll()
 {
     const auto end = Clock::now() + longestPoll;
-    for (std::size_t count = 0; count < m_features.size(); ++count) {
-        const std::size_t feature = m_nextToPoll++ % m_features.size();
-        if (observersOf(feature).empty())
-            continue;
-        if (Clock::now() > end || m_isStopping || !m_features[feature]->look()) {
-            m_nextToPoll = feature;
-            return;
-        }
+    bool isGood = true;
+    for (std::size_t count = 0; count < m_features.size() && isGood; ++count) {
+        m_lastPolled = (m_lastPolled + 1) % m_features.size();
+        if (m_observers.count(m_lastPolled) > 0)
+            isGood = m_features[m_lastPolled]->look() && Clock::now() < end && !m_isStopping;
     }
 }
 
@@ -178,11 +147,10 @@ void ChangeWatch::askAgain()
 {
     if (!m_link->ask())
         return;
-    m_link->forget();
     const std::lock_guard lock(m_mutex);
     m_known.clear();
-    for (const auto& [feature, observers] : m_observers)
-        m_changed.insert(feature);
+    for (std::size_t feature = 0; feature < m_features.size(); ++feature)
+        noteChange(feature);
 }
 
 } // namespace genicam

@@ -37,7 +37,8 @@ void collectWritten(ArvGcFeatureNode* node, Nodes& nodes)
     if (!node || !nodes.insert(node).second)
         return;
     for (const auto& [type, linked] : linksOf(node)) {
-        if (type == ARV_GC_PROPERTY_NODE_TYPE_P_VALUE)
+        if (type == ARV_GC_PROPERTY_NODE_TYPE_P_VALUE
+            || type == ARV_GC_PROPERTY_NODE_TYPE_P_VALUE_INDEXED)
             collectWritten(linked, nodes);
     }
 }

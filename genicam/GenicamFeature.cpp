@@ -63,7 +63,7 @@ template <typename Plain> ZebErrorType GenicamFeature::readPlain(Plain& plain)
     if (result != ZebErrorSuccess)
         return result;
     plain = std::get<Plain>(value);
-    m_watch->seen(m_place.index, value);
+    m_watch->seen(m_place.index, value, false);
     return ZebErrorSuccess;
 }
 
@@ -105,24 +105,24 @@ ZebErrorType GenicamFeature::GetValue(std::uint8_t* buffer, Count bufferSize, Co
     });
 }
 
-bool GenicamFeature::look()
+bool GenicamFeature::look(Reading* last)
 {
     if (m_type == ZebFeatureDataCommand || m_type == ZebFeatureDataRaw)
         return true;
     Value value;
-    bool isWritable = false;
+    bool isLockNew = false;
     const DeviceLink::Work work = [&](GError** error) {
         const Access access = accessOf(m_node, error);
-        isWritable = access.isWritable;
         if (!*error && access.isReadable)
             value = readValue(m_node, error);
+        if (!*error)
+            isLockNew = std::exchange(m_wasWritable, access.isWritable) == !access.isWritable;
         return ZebErrorSuccess;
     };
-    const ZebErrorType result = m_link->perform(work, nullptr, true);
-    if (result == ZebErrorTimeout || result == ZebErrorBadHandle)
+    if (m_link->perform(work, last, !last) != ZebErrorSuccess)
         return false;
-    m_watch->seen(m_place.index, value);
-    if (std::exchange(m_wasWritable, isWritable).value_or(isWritable) != isWritable)
+    m_watch->seen(m_place.index, value, !last);
+    if (isLockNew)
         m_watch->written(m_place.index);
     return true;
 }
@@ -138,12 +138,20 @@ std::string GenicamFeature::readText()
     return value;
 }
 
+ZebErrorType GenicamFeature::whenOpen(ZebFeatureDataType type) const
+{
+    return m_link->isClosed() ? ZebErrorBadHandle
+        : m_type == type      ? ZebErrorSuccess
+                              : ZebErrorBadParameter;
+}
+
 ZebErrorType GenicamFeature::GetValues(const char** values, Count& count)
 {
     std::vector<const char*> names;
     for (const Entry& entry : m_entries)
         names.push_back(entry.name.c_str());
-    return m_type == ZebFeatureDataEnum ? answerList(names, values, count) : ZebErrorBadParameter;
+    const ZebErrorType result = whenOpen(ZebFeatureDataEnum);
+    return result == ZebErrorSuccess ? answerList(names, values, count) : result;
 }
 
 ZebErrorType GenicamFeature::GetValues(Integer* values, Count& count)
@@ -158,16 +166,17 @@ ZebErrorType GenicamFeature::GetValues(Integer* values, Count& count)
 
 ZebErrorType GenicamFeature::GetEntry(ZebCPP::EnumEntry& entry, const char* name)
 {
-    if (m_type != ZebFeatureDataEnum || !name)
-        return ZebErrorBadParameter;
     entry = {};
-    return findEntry(m_entries, name, nullptr) ? ZebErrorSuccess : ZebErrorNotFound;
+    const ZebErrorType result = name ? whenOpen(ZebFeatureDataEnum) : ZebErrorBadParameter;
+    const bool isMissing = result == ZebErrorSuccess && !findEntry(m_entries, name, nullptr);
+    return isMissing ? ZebErrorNotFound : result;
 }
 
 ZebErrorType GenicamFeature::GetEntries(ZebCPP::EnumEntry* entries, Count& count)
 {
     const std::vector<ZebCPP::EnumEntry> list(m_entries.size());
-    return m_type == ZebFeatureDataEnum ? answerList(list, entries, count) : ZebErrorBadParameter;
+    const ZebErrorType result = whenOpen(ZebFeatureDataEnum);
+    return result == ZebErrorSuccess ? answerList(list, entries, count) : result;
 }
 
 template <typename Key> ZebErrorType GenicamFeature::isEntryThere(const Key& key, bool& is)
@@ -187,11 +196,9 @@ ZebErrorType GenicamFeature::IsValueAvailable(const char* value, bool& is)
 // The library knows of none.
 ZebErrorType GenicamFeature::GetValidValueSet(Integer* values, Count, Count* setSize)
 {
-    if (m_type != ZebFeatureDataInt || (!values && !setSize))
-        return ZebErrorBadParameter;
     if (setSize)
         *setSize = 0;
-    return ZebErrorSuccess;
+    return values || setSize ? whenOpen(ZebFeatureDataInt) : ZebErrorBadParameter;
 }
 
 ZebErrorType GenicamFeature::GetSelectedFeatures(ZebCPP::FeaturePtr* features, Count& count)
@@ -237,7 +244,8 @@ template <typename Number> ZebErrorType GenicamFeature::readIncrement(Number& in
 ZebErrorType GenicamFeature::HasIncrement(bool& hasIncrement)
 {
     Range<double> range{};
-    const ZebErrorType result = m_type == ZebFeatureDataFloat ? readLimits(range) : whenOpen();
+    const ZebErrorType result
+        = m_type == ZebFeatureDataFloat ? readLimits(range) : whenOpen(m_type);
     hasIncrement = m_type == ZebFeatureDataInt || range.increment > 0.0;
     return result;
 }
@@ -323,23 +331,30 @@ ZebErrorType GenicamFeature::tell(TextKind kind, char* buffer, Count& length) co
 ZebErrorType GenicamFeature::GetDataType(ZebFeatureDataType& dataType)
 {
     dataType = m_type;
-    return whenOpen();
+    return whenOpen(m_type);
 }
 
 ZebErrorType GenicamFeature::GetVisibility(ZebFeatureVisibilityType& visibility)
 {
     visibility = m_visibility;
-    return whenOpen();
+    return whenOpen(m_type);
 }
 
+// Whatever differs from now on is to be told.
 ZebErrorType GenicamFeature::RegisterObserver(const ZebCPP::IFeatureObserverPtr& observer)
 {
-    return m_link->isClosed() ? ZebErrorBadHandle : m_watch->add(m_place.index, observer);
+    const ZebErrorType result = m_link->isClosed()
+        ? ZebErrorBadHandle
+        : m_watch->observers().add(m_place.index, observer);
+    if (result == ZebErrorSuccess)
+        look(&m_readings[OfValue]);
+    return result;
 }
 
 ZebErrorType GenicamFeature::UnregisterObserver(const ZebCPP::IFeatureObserverPtr& observer)
 {
-    return m_link->isClosed() ? ZebErrorBadHandle : m_watch->remove(m_place.index, observer);
+    return m_link->isClosed() ? ZebErrorBadHandle
+                              : m_watch->observers().remove(m_place.index, observer);
 }
 
 ZebErrorType GenicamFeature::GetFlags(ZebFeatureFlagsType& flags)

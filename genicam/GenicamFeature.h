@@ -26,8 +26,9 @@ public:
     ArvGcFeatureNode* node() const { return m_node; }
     const std::string& name() const { return m_texts[Name]; }
 
-    /// Reads the value past what the library remembers; false when the camera is lost.
-    bool look();
+    /// Lets the watch know the value; false when it cannot be read. Past what the library
+    /// remembers, unless @p last is young enough.
+    bool look(Reading* last = nullptr);
     /// The value as a text, read in the same way.
     std::string readText();
     /// Writes a text, and leaves it to the watch to find out.
@@ -86,10 +87,7 @@ private:
         KindCount
     };
 
-    ZebErrorType whenOpen() const
-    {
-        return m_link->isClosed() ? ZebErrorBadHandle : ZebErrorSuccess;
-    }
+    ZebErrorType whenOpen(ZebFeatureDataType type) const;
     ZebErrorType tell(const std::string& text, char* buffer, Count& length) const;
     ZebErrorType tell(TextKind kind, char* buffer, Count& length) const;
     ZebErrorType read(Kind kind, ZebFeatureDataType type, const DeviceLink::Work& work);
@@ -111,7 +109,7 @@ private:
     const ZebFeatureVisibilityType m_visibility;
     const Texts m_texts;
     const Entries m_entries;
-    std::optional<bool> m_wasWritable;         ///< when the watch looked last
+    std::optional<bool> m_wasWritable;         ///< at the last look; for the link alone, too
     std::array<Reading, KindCount> m_readings; ///< for the link alone
 };
 

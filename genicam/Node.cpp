@@ -1,8 +1,8 @@
 #include "Node.h"
 
 #include <algorithm>
-#include <cfloat>
 #include <cmath>
+#include <limits>
 
 namespace genicam {
 
@@ -10,6 +10,8 @@ namespace {
 
 template <typename Visit> void forEachChild(ArvGcFeatureNode* node, Visit&& visit)
 {
+    if (!node)
+        return;
     for (ArvDomNode* child = arv_dom_node_get_first_child(ARV_DOM_NODE(node)); child;
          child = arv_dom_node_get_next_sibling(child))
         visit(child);
@@ -22,6 +24,27 @@ template <typename Visit> void forEachProperty(ArvGcFeatureNode* node, Visit&& v
             visit(arv_gc_property_node_get_node_type(ARV_GC_PROPERTY_NODE(child)),
                   ARV_GC_PROPERTY_NODE(child));
     });
+}
+
+/// Null when it holds its value itself.
+ArvGcFeatureNode* valueOf(ArvGcFeatureNode* node)
+{
+    for (const auto& [type, linked] : linksOf(node)) {
+        if (type == ARV_GC_PROPERTY_NODE_TYPE_P_VALUE)
+            return linked;
+    }
+    return nullptr;
+}
+
+/// @p missing where the description says nothing, which is an error of registers alone.
+template <typename Node, typename Number>
+Number readLimit(Number (*get)(Node*, GError**), Node* node, Number missing, GError** error)
+{
+    const Number limit = *error ? missing : get(node, error);
+    if (!g_error_matches(*error, ARV_GC_ERROR, ARV_GC_ERROR_PROPERTY_NOT_DEFINED))
+        return limit;
+    g_clear_error(error);
+    return missing;
 }
 
 template <typename Key>
@@ -108,14 +131,19 @@ bool isThere(ArvGcFeatureNode* node, GError** error)
         && arv_gc_feature_node_is_available(node, error) && !*error;
 }
 
+// A register behind the node refuses as well as the node itself.
 Access accessOf(ArvGcFeatureNode* node, GError** error)
 {
-    if (!isThere(node, error))
-        return {};
     const ArvGcAccessMode mode = arv_gc_feature_node_get_actual_access_mode(node);
-    return {mode != ARV_GC_ACCESS_MODE_WO && !ARV_IS_GC_COMMAND(node),
-            mode != ARV_GC_ACCESS_MODE_RO && !arv_gc_feature_node_is_locked(node, error)
-                && !*error};
+    Access access{mode != ARV_GC_ACCESS_MODE_WO && !ARV_IS_GC_COMMAND(node),
+                  mode != ARV_GC_ACCESS_MODE_RO};
+    for (ArvGcFeatureNode* one = node; one; one = valueOf(one)) {
+        if (!isThere(one, error))
+            return {};
+        if (arv_gc_feature_node_is_locked(one, error) || *error)
+            access.isWritable = false;
+    }
+    return access;
 }
 
 Value readValue(ArvGcFeatureNode* node, GError** error)
@@ -137,30 +165,23 @@ Value readValue(ArvGcFeatureNode* node, GError** error)
 
 template <> Range<std::int64_t> readRange(ArvGcFeatureNode* node, GError** error)
 {
+    using Limits = std::numeric_limits<std::int64_t>;
     ArvGcInteger* const integer = ARV_GC_INTEGER(node);
-    Range<std::int64_t> range{arv_gc_integer_get_min(integer, error), 0, 1};
-    if (!*error)
-        range.maximum = arv_gc_integer_get_max(integer, error);
-    if (!*error)
-        range.increment = std::max<std::int64_t>(1, arv_gc_integer_get_inc(integer, error));
-    // Registers without one answer this; other nodes say 1.
-    if (g_error_matches(*error, ARV_GC_ERROR, ARV_GC_ERROR_PROPERTY_NOT_DEFINED))
-        g_clear_error(error);
-    return range;
+    return {readLimit(arv_gc_integer_get_min, integer, Limits::min(), error),
+            readLimit(arv_gc_integer_get_max, integer, Limits::max(), error),
+            std::max(gint64{1}, readLimit(arv_gc_integer_get_inc, integer, gint64{1}, error))};
 }
 
 template <> Range<double> readRange(ArvGcFeatureNode* node, GError** error)
 {
+    using Limits = std::numeric_limits<double>;
     ArvGcFloat* const number = ARV_GC_FLOAT(node);
-    Range<double> range{arv_gc_float_get_min(number, error), 0.0, 0.0};
-    if (!*error)
-        range.maximum = arv_gc_float_get_max(number, error);
+    const Range<double> range{readLimit(arv_gc_float_get_min, number, Limits::lowest(), error),
+                              readLimit(arv_gc_float_get_max, number, Limits::max(), error),
+                              readLimit(arv_gc_float_get_inc, number, 0.0, error)};
     // The library says the smallest of all numbers where the description says nothing.
-    if (!*error)
-        range.increment = arv_gc_float_get_inc(number, error);
-    if (!(range.increment > DBL_MIN) || !std::isfinite(range.increment))
-        range.increment = 0.0;
-    return range;
+    const bool isTold = range.increment > Limits::min() && std::isfinite(range.increment);
+    return {range.minimum, range.maximum, isTold ? range.increment : 0.0};
 }
 
 bool isCommandDone(ArvGcFeatureNode* node, GError** error)

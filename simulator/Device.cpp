@@ -19,7 +19,7 @@ std::shared_ptr<Device> Device::create(FeatureDescriptions descriptions)
 
 Device::Device(FeatureDescriptions descriptions)
     : m_store(std::move(descriptions))
-    , m_notifier(std::make_shared<Notifier>(m_store.size()))
+    , m_notifier(std::make_shared<Notifier>())
 {
 }
 

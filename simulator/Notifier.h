@@ -1,7 +1,8 @@
 #pragma once
 
 #include "NotificationSettings.h"
-#include "ObserverRegistry.h"
+
+#include "sdk/ObserverRegistry.h"
 
 #include <atomic>
 #include <chrono>
@@ -26,10 +27,6 @@ public:
         ZebCPP::FeaturePtr feature;
     };
 
-    explicit Notifier(std::size_t features)
-        : m_registry(features)
-    {
-    }
     ~Notifier();
 
     ObserverRegistry& registry() { return m_registry; }

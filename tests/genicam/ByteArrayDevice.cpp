@@ -4,7 +4,6 @@
 
 #include <cstring>
 #include <fstream>
-#include <iterator>
 #include <string>
 #include <thread>
 
@@ -104,12 +103,17 @@ ByteArrayDevice::ByteArrayDevice()
     }
 }
 
-ArvDevice* ByteArrayDevice::open(const std::shared_ptr<ByteArrayDevice>& memory)
+ArvDevice* ByteArrayDevice::open(const std::shared_ptr<ByteArrayDevice>& memory,
+                                 const std::string& missing)
 {
     auto* const device = self(g_object_new(test_device_get_type(), nullptr));
-    std::ifstream file(DESCRIPTION_FILE);
     device->memory = new std::shared_ptr<ByteArrayDevice>(memory);
-    device->description = new std::string(std::istreambuf_iterator<char>(file), {});
+    device->description = new std::string;
+    std::ifstream file(DESCRIPTION_FILE);
+    for (std::string line; std::getline(file, line);) {
+        if (missing.empty() || line.find('"' + missing + '"') == std::string::npos)
+            *device->description += line;
+    }
     device->genicam
         = arv_gc_new(&device->parent, device->description->data(), device->description->size());
     return &device->parent;

@@ -6,6 +6,7 @@
 #include <functional>
 #include <memory>
 #include <mutex>
+#include <string>
 #include <vector>
 
 typedef struct _ArvDevice ArvDevice;
@@ -24,8 +25,9 @@ struct ByteArrayDevice
 
     ByteArrayDevice();
 
-    /// May be closed after this is gone.
-    static ArvDevice* open(const std::shared_ptr<ByteArrayDevice>& memory);
+    /// May be closed after this is gone. The description lacks the node @p missing.
+    static ArvDevice* open(const std::shared_ptr<ByteArrayDevice>& memory,
+                           const std::string& missing = {});
 
     // As the camera itself, or another client.
     std::uint32_t read(std::uint32_t address);

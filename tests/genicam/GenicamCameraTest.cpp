@@ -42,10 +42,11 @@ struct OpenCamera
         };
     }
 
+    std::string missing; ///< in the description
     std::shared_ptr<ByteArrayDevice> device = std::make_shared<ByteArrayDevice>();
     std::atomic<bool> isGone{false};
     std::unique_ptr<GenicamCamera> camera = std::make_unique<GenicamCamera>(
-        ByteArrayDevice::open(device),
+        ByteArrayDevice::open(device, missing),
         GenicamCamera::Options{"Prefix", [this](bool is) { isGone = is; }});
 };
 
@@ -155,6 +156,7 @@ private slots:
         row("entry by number", "PixelFormat", set(Int{0x01100005}), ZebErrorSuccess);
         row("unknown entry", "PixelFormat", set("Mono13"), ZebErrorBadParameter);
         row("unknown number", "PixelFormat", set(Int{4}), ZebErrorBadParameter);
+        row("float without bounds", "Level", set(-1e30), ZebErrorSuccess);
         row("formula", "WidthMax", set(Int{800}), ZebErrorInvalidAccess);
     }
     void refusesWhatDoesNotFit() { runRow(); }
@@ -171,6 +173,8 @@ private slots:
         std::int64_t bound = 0;
         QCOMPARE(c["AbsurdNumber"].GetRange(bound, bound), ZebErrorNotFound);
         QCOMPARE(c["UserNumber"].GetRange(bound, bound), ZebErrorSuccess);
+        double level = 0.0;
+        QCOMPARE(c["Level"].GetRange(level, level), ZebErrorSuccess);
         double exposure = 0.0;
         QCOMPARE(c["ExposureTime"].GetValue(exposure), ZebErrorSuccess);
         QCOMPARE(exposure, 10.0);
@@ -248,7 +252,6 @@ private slots:
             };
             for (const ZebCPP::FeaturePtr& feature : c.camera->features())
                 feature->RegisterObserver(observer);
-            c.integer("Width"); // otherwise nobody knows that it will be another
             change(c);
             QTest::qWait(isAtOnce ? 200 : 1300);
             const int calls = observer->calls;
@@ -264,10 +267,7 @@ private slots:
             return [=](OpenCamera& c) { c[name].SetValue(value); };
         };
         const auto hold = [](std::uint32_t address, std::uint32_t value) -> Change {
-            return [=](OpenCamera& c) {
-                QTest::qWait(1100); // all is known by then
-                c.device->write(address, value);
-            };
+            return [=](OpenCamera& c) { c.device->write(address, value); };
         };
         row("of bounds of bounds, formulas and availability", set("BinningHorizontal", 2),
             {"WidthMax", "Width", "OffsetX", "BinningHorizontal", "PixelFormat", "SubRegionOffsetX",
@@ -283,6 +283,23 @@ private slots:
         row("of another client", hold(width, 1616), {"Width", "OffsetX"}, false);
     }
     void notifies() { runRow(); }
+
+    /// Back at what was known before the write, and nobody has read the value since.
+    void tellsOfResetsThatFollowAWrite()
+    {
+        const OpenCamera c;
+        const auto observer = std::make_shared<Observer>();
+        c["Width"].RegisterObserver(observer);
+        c["Width"].SetValue(std::int64_t{640});
+        c.device->write(width, 2592);
+        QTRY_COMPARE(int(observer->calls), 2);
+    }
+
+    void livesWithoutPartsOfTheDescription()
+    {
+        OpenCamera c{"TLParamsLocked"};
+        QCOMPARE(c.integer("Width"), 2592);
+    }
 
     void letsObserversGoFromWithin()
     {
@@ -317,6 +334,22 @@ private slots:
             c.device->fail(ByteArrayDevice::None);
             QCOMPARE(c.integer("Width"), 2592);
         }
+    }
+
+    void looksNoFurtherThanTheFirstFailure()
+    {
+        const OpenCamera c;
+        const auto observer = std::make_shared<Observer>();
+        for (const ZebCPP::FeaturePtr& feature : c.camera->features())
+            feature->RegisterObserver(observer);
+        c.device->fail(ByteArrayDevice::Busy);
+        const int reads = c.device->reads;
+        QTRY_VERIFY(c.device->reads > reads);
+        QTest::qWait(100);
+        QVERIFY(c.device->reads <= reads + 3);
+        c.device->fail(ByteArrayDevice::None);
+        c.device->write(width, 640);
+        QTRY_VERIFY(observer->calls > 0);
     }
 
     void stallsOnceForALostCamera()
