@@ -82,6 +82,11 @@ bool GenicamCamera::isGone() const
     return m_link->isLost();
 }
 
+std::size_t GenicamCamera::observerCount() const
+{
+    return m_watch->observers().count();
+}
+
 std::string GenicamCamera::readText(const std::string& name) const
 {
     const auto feature = find(name);

@@ -47,6 +47,7 @@ public:
     ZebCPP::FeaturePtr feature(const std::string& name) const;
 
     bool isGone() const;
+    std::size_t observerCount() const;
     /// The value as a text, read from the camera itself; empty when it cannot be read.
     std::string readText(const std::string& name) const;
     /// Writes behind the back of those who observe, as another client does.

@@ -4,10 +4,24 @@
 
 #include <cstring>
 #include <fstream>
-#include <string>
+#include <regex>
 #include <thread>
+#include <utility>
 
 namespace {
+
+constexpr std::uint32_t firstOfRegions = 0x200;
+constexpr std::uint32_t regionDistance = 0x20;
+
+/// The description's lines, one for a node.
+std::vector<std::string> readLines()
+{
+    std::vector<std::string> lines;
+    std::ifstream file(DESCRIPTION_FILE);
+    for (std::string line; std::getline(file, line);)
+        lines.push_back(line);
+    return lines;
+}
 
 struct TestDevice
 {
@@ -58,14 +72,9 @@ gboolean readMemory(ArvDevice* device, guint64 address, guint32 size, void* buff
 gboolean writeMemory(ArvDevice* device, guint64 address, guint32 size, void* buffer, GError** error)
 {
     ByteArrayDevice& memory = **self(device)->memory;
-    ++memory.writes;
     if (refuses(memory, address, size, error))
         return FALSE;
-    {
-        const std::lock_guard lock(memory.mutex);
-        std::memcpy(memory.bytes.data() + address, buffer, size);
-    }
-    memory.reaction(static_cast<std::uint32_t>(address));
+    memory.takeWrite(address, buffer, size);
     return TRUE;
 }
 
@@ -91,15 +100,22 @@ void test_device_class_init(TestDeviceClass* type)
 
 ByteArrayDevice::ByteArrayDevice()
 {
-    const std::pair<std::uint32_t, std::uint32_t> registers[]
-        = {{0x4c, 99}, {0x100, 2592},       {0x104, 1944}, {0x110, 1},
-           {0x114, 1}, {0x120, 0x01080001}, {0x124, 100},  {0x200, 1}};
-    for (const auto& [address, value] : registers)
-        write(address, value);
-    for (std::uint32_t region = 0; region < 4; ++region) {
-        write(0x20c + 0x20 * region, 486 * region);
-        write(0x210 + 0x20 * region, 2592);
-        write(0x214 + 0x20 * region, 400);
+    const std::regex node("Name=\"(\\w+?)(Reg)?\">.*<Address>(0x\\w+)<");
+    std::smatch parts;
+    for (const std::string& line : readLines()) {
+        if (std::regex_search(line, parts, node))
+            m_addresses[parts[1]] = static_cast<std::uint32_t>(std::stoul(parts[3], nullptr, 16));
+    }
+    const std::pair<const char*, std::uint32_t> values[]
+        = {{"TriggerSource", 99},    {"Width", 2592},        {"Height", 1944},
+           {"BinningHorizontal", 1}, {"BinningVertical", 1}, {"PixelFormat", 0x01080001},
+           {"ExposureTime", 100},    {"SubRegionMode", 1}};
+    for (const auto& [feature, value] : values)
+        write(feature, value);
+    for (int region = 0; region < regionCount; ++region) {
+        write("SubRegionOffsetY", 486U * static_cast<std::uint32_t>(region), region);
+        write("SubRegionWidth", 2592, region);
+        write("SubRegionHeight", 400, region);
     }
 }
 
@@ -109,8 +125,7 @@ ArvDevice* ByteArrayDevice::open(const std::shared_ptr<ByteArrayDevice>& memory,
     auto* const device = self(g_object_new(test_device_get_type(), nullptr));
     device->memory = new std::shared_ptr<ByteArrayDevice>(memory);
     device->description = new std::string;
-    std::ifstream file(DESCRIPTION_FILE);
-    for (std::string line; std::getline(file, line);) {
+    for (const std::string& line : readLines()) {
         if (missing.empty() || line.find('"' + missing + '"') == std::string::npos)
             *device->description += line;
     }
@@ -119,23 +134,50 @@ ArvDevice* ByteArrayDevice::open(const std::shared_ptr<ByteArrayDevice>& memory,
     return &device->parent;
 }
 
-std::uint32_t ByteArrayDevice::read(std::uint32_t address)
+std::size_t ByteArrayDevice::addressOf(const std::string& feature, int region) const
+{
+    return m_addresses.at(feature) + regionDistance * static_cast<std::size_t>(region);
+}
+
+std::uint32_t ByteArrayDevice::read(const std::string& feature, int region)
 {
     const std::lock_guard lock(mutex);
     guint32 value = 0;
-    std::memcpy(&value, bytes.data() + address, sizeof value);
+    std::memcpy(&value, bytes.data() + addressOf(feature, region), sizeof value);
     return GUINT32_FROM_BE(value);
 }
 
-void ByteArrayDevice::write(std::uint32_t address, std::uint32_t value)
+void ByteArrayDevice::write(const std::string& feature, std::uint32_t value, int region)
 {
     const std::lock_guard lock(mutex);
     const guint32 sent = GUINT32_TO_BE(value);
-    std::memcpy(bytes.data() + address, &sent, sizeof sent);
+    std::memcpy(bytes.data() + addressOf(feature, region), &sent, sizeof sent);
 }
 
 void ByteArrayDevice::fail(Failure next, std::chrono::milliseconds wait)
 {
     delay = wait;
     failure = next;
+}
+
+void ByteArrayDevice::takeWrite(std::uint64_t address, const void* data, std::size_t size)
+{
+    std::string written;
+    for (const auto& [feature, first] : m_addresses) {
+        const bool isOfRegion = first >= firstOfRegions && address >= first;
+        if (address == first || (isOfRegion && (address - first) % regionDistance == 0))
+            written = feature;
+    }
+    {
+        const std::lock_guard lock(mutex);
+        std::memcpy(bytes.data() + address, data, size);
+        m_writes.push_back(written);
+    }
+    reaction(written);
+}
+
+std::vector<std::string> ByteArrayDevice::takeWrites()
+{
+    const std::lock_guard lock(mutex);
+    return std::exchange(m_writes, {});
 }

@@ -6,6 +6,7 @@
 #include <QAbstractSpinBox>
 #include <QBitmap>
 #include <QComboBox>
+#include <QMenu>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QTabBar>
@@ -57,8 +58,10 @@ void stepField(Session& session)
 void clickButton(Session& session)
 {
     const QPointer<QAbstractButton> button = anyUsable<QAbstractButton>(session);
-    for (int i = session.random.pick({1, 1, 2}); i > 0 && button && button->isEnabled(); --i)
+    for (int i = session.random.pick({1, 1, 2}); i > 0 && button && button->isEnabled(); --i) {
         click(button.data(), session.random.oneIn(2) ? button->rect().center() : QPoint(6, 6));
+        session.pass(0);
+    }
 }
 
 void chooseEntry(Session& session)
@@ -180,7 +183,15 @@ void stream(Session& session)
 void writeFromOutside(Session& session)
 {
     for (int i = session.random.pick({1, 1, 1, 20}); i > 0; --i)
-        session.misbehaviour().writeFromOutside();
+        session.camera().writeFromOutside();
+}
+
+void openMenu(Session& session)
+{
+    QMenu menu;
+    menu.addAction("An entry");
+    menu.popup({});
+    session.pass(20);
 }
 
 void reopen(Session& session)
@@ -193,29 +204,32 @@ void reopen(Session& session)
 const Action actions[]{
     {"typing", 14, type},
     {"stepping a field", 6, stepField},
-    {"dragging", 20, dragRegion},
-    {"dragging a line", 6, dragLine},
+    {"dragging", 26, dragRegion},
     {"clicking", 14, clickButton},
     {"choosing an entry", 8, chooseEntry},
     {"editing a cell", 8, editCell},
     {"picking a picture", 3, pickPicture},
-    {"switching tabs", 8, switchTab, true},
+    {"switching tabs", 8, switchTab, Action::Quick},
     {"scrolling", 3, scroll},
-    {"resizing", 3, [](Session& s) { s.resizeByChance(50, 1600, 1200); }},
+    {"resizing", 3, [](Session& s) { s.resizeByChance(50, 1600, 1200); }, Action::InDrag},
     {"changing the theme", 1,
      [](Session& s) { QApplication::setPalette(s.random.oneIn(2) ? Qt::black : Qt::white); }},
     {"leaving a field", 4, [](Session&) { leaveField(); }},
-    {"hiding and showing", 2, hideAndShow},
-    {"reopening", 2, reopen},
-    {"streaming", 4, stream},
-    {"a frame", 3, sendFrame},
-    {"another client", 8, writeFromOutside},
+    {"a menu", 1, openMenu, Action::InDrag | Action::TakesMouse},
+    {"hiding and showing", 2, hideAndShow, Action::InDrag},
+    {"reopening", 2, reopen, Action::InDrag},
+    {"streaming", 4, stream, Action::InDrag},
+    {"a frame", 3, sendFrame, Action::InDrag},
+    {"another client", 8, writeFromOutside, Action::InDrag | Action::ChangesCamera},
     {"distorting the camera", 4,
      [](Session& s) {
-         if (!s.isHonest())
-             s.misbehaviour().distort();
+         if (!s.character().isHonest && !s.isLost())
+             s.camera().distort();
      }},
-    {"a burst", 1, [](Session& s) { s.burst(s.random.oneIn(3)); }},
+    {"a burst", 1,
+     [](Session& s) {
+         s.camera().burst(s.random.pick({500, 500, 100000}));
+     }},
     {"losing the camera", 1, [](Session& s) { s.loseCamera(); }},
 };
 
@@ -229,7 +243,11 @@ void leaveTyped(Session& session)
         typeIntoField(session);
 }
 
-const Action& pickAction(Random& random)
+const Action& pickAction(Random& random, int flags)
 {
-    return random.pickWeighted(actions);
+    const Action* action = nullptr;
+    do {
+        action = &random.pickWeighted(actions);
+    } while ((action->flags & flags) != flags);
+    return *action;
 }

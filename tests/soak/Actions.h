@@ -6,13 +6,21 @@ class Session;
 /// Something that a person, the viewer, the camera or another client does.
 struct Action
 {
+    enum Flag {
+        Quick = 1, ///< also with a lost camera
+        InDrag = 2,
+        ChangesCamera = 4,
+        TakesMouse = 8 ///< which ends a drag
+    };
+
     const char* name;
     int weight;
     void (*perform)(Session&);
-    bool isShort = false; ///< also with a lost camera
+    int flags = 0;
 };
+
+/// By chance, one that has @p flags.
+const Action& pickAction(Random& random, int flags = 0);
 
 /// Leaves a number typed into a field or a cell, not entered.
 void leaveTyped(Session& session);
-
-const Action& pickAction(Random& random);

@@ -45,136 +45,129 @@ bool isOn(const char* page, const QWidget* widget)
     return widget;
 }
 
-/// Whether the page shows what the camera holds.
+QRect rectOf(const sim::Snapshot::Region& region)
+{
+    return {int(region.x), int(region.y), int(region.width), int(region.height)};
+}
+
+/// Where the page shows something else than the camera holds.
 class Comparison
 {
 public:
     explicit Comparison(Session& session)
         : m_session(session)
         , m_camera(session.camera())
-        , m_state(m_camera.snapshot())
+        , m_state(m_camera.state())
     {
-        compareRegionFields();
-        compareBoundFields();
-        compareBand();
-        compareBands();
-        compareTables();
+        for (const QWidget* const widget : usable<QWidget>(m_session))
+            compareBoundField(widget);
+        for (const QDoubleSpinBox* const box : usable<QDoubleSpinBox>(m_session))
+            compareRegionField(box);
+        for (const QLabel* const label : usable<QLabel>(m_session)) {
+            if (label->inherits("MultiRubberBandLabel") && m_state.hasMultipleRegions)
+                compareBands(label);
+            else if (isOn("AOIWidget", label) && label->findChild<QRubberBand*>())
+                compareBand(label);
+        }
+        for (const QAbstractItemView* const table : usable<QAbstractItemView>(m_session)) {
+            if (table->inherits("RegionTableWidget"))
+                compareTable(table);
+        }
     }
 
     QStringList findings;
 
 private:
-    void add(const QString& what, const QString& shown, const QString& held)
+    void compare(const QString& what, const QString& shown, const QString& held)
     {
-        findings.append(QString("%1 shows %2, the camera holds %3").arg(what, shown, held));
-    }
-    void compare(const QString& what, const QString& shown, const std::string& held)
-    {
-        if (shown.toStdString() != held)
-            add(what, shown, QString::fromStdString(held));
+        if (shown != held)
+            findings << QString("%1 shows %2, the camera holds %3").arg(what, shown, held);
     }
     void compare(const QString& what, double shown, double held, double tolerance)
     {
         if (!(std::abs(shown - held) <= tolerance))
-            add(what, QString::number(shown), QString::number(held));
+            compare(what, QString::number(shown), QString::number(held));
     }
 
-    void compareRegionFields()
+    // Named after the feature, with three letters before.
+    void compareBoundField(const QWidget* widget)
     {
-        for (const QDoubleSpinBox* const box : usable<QDoubleSpinBox>(m_session)) {
-            for (const auto& [page, name, features] : fields) {
-                QStringList held = QString(features).split(' ');
-                while (!held.isEmpty() && !m_camera.has(held.first().toStdString()))
-                    held.removeFirst();
-                if (box->objectName() == name && isOn(page, box) && !held.isEmpty())
-                    compare(box->objectName() + " of " + page, box->value(),
-                            m_camera.feature(held.first().toStdString()).number(),
-                            std::pow(10.0, -box->decimals()));
-            }
-        }
+        const QString feature = widget->objectName().mid(3);
+        if (!m_camera.has(feature))
+            return;
+        const QString held = m_camera.text(feature);
+        if (const auto* const box = qobject_cast<const QSpinBox*>(widget))
+            compare(feature, QString::number(box->value()), held);
+        else if (const auto* const list = qobject_cast<const QComboBox*>(widget))
+            compare(feature, list->currentText(), held);
+        else if (const auto* const check = qobject_cast<const QCheckBox*>(widget))
+            compare(feature, check->isChecked() ? "true" : "false", held);
     }
 
-    // Fields that are named after a feature, with three letters before.
-    void compareBoundFields()
+    void compareRegionField(const QDoubleSpinBox* box)
     {
-        for (const QWidget* const widget : usable<QWidget>(m_session)) {
-            const QString name = widget->objectName();
-            const std::string feature = name.mid(3).toStdString();
-            if (!m_camera.has(feature))
+        for (const auto& [page, name, features] : fields) {
+            if (box->objectName() != name || !isOn(page, box))
                 continue;
-            const std::string held = m_camera.feature(feature).text();
-            if (const auto* const box = qobject_cast<const QSpinBox*>(widget))
-                compare(name, QString::number(box->value()), held);
-            else if (const auto* const list = qobject_cast<const QComboBox*>(widget))
-                compare(name, list->currentText(), held);
-            else if (const auto* const check = qobject_cast<const QCheckBox*>(widget))
-                compare(name, check->isChecked(), m_camera.feature(feature).isOn(), 0.0);
+            for (const QString& feature : QString(features).split(' ')) {
+                if (!m_camera.has(feature))
+                    continue;
+                compare(box->objectName() + " of " + page, box->value(),
+                        m_camera.text(feature).toDouble(), std::pow(10.0, -box->decimals()));
+                break;
+            }
         }
     }
 
     // The single region's band ends with the picture, which keeps the rounded aspect ratio of the
     // size at which it was chosen.
-    void compareBand()
+    void compareBand(const QLabel* label)
     {
-        for (const QLabel* const label : usable<QLabel>(m_session)) {
-            const auto* const band = label->findChild<QRubberBand*>();
-            if (!isOn("AOIWidget", label) || !band || m_state.regions.empty()
-                || m_state.maximum.isEmpty())
-                continue;
-            const auto& region = m_state.regions.front();
-            const auto sensorWidth = double(m_state.maximum.width);
-            const double ratio = sensorWidth / double(m_state.maximum.height);
-            const double width
-                = std::min(double(label->width()), std::floor(label->height() * ratio + 0.5));
-            const double scale = width / sensorWidth;
-            const QSize picture = label->pixmap(Qt::ReturnByValue).size();
-            const auto compareLength = [&](const char* what, int shown, double length, int room) {
-                compare(what, shown, std::min(length * scale, double(room)), 2.0);
-            };
-            compare("the band's left", band->x(), double(region.x) * scale, 1.0);
-            compare("the band's top", band->y(), double(region.y) * scale, 1.0);
-            compareLength("the band's width", band->width(), double(region.width),
-                          picture.width() - band->x());
-            compareLength("the band's height", band->height(), double(region.height),
-                          picture.height() - band->y());
-        }
+        if (m_state.regions.empty() || m_state.maximum.isEmpty())
+            return;
+        const auto& region = m_state.regions.front();
+        const QRect band = label->findChild<QRubberBand*>()->geometry();
+        const auto sensorWidth = double(m_state.maximum.width);
+        const double ratio = sensorWidth / double(m_state.maximum.height);
+        const double width
+            = std::min(double(label->width()), std::floor(label->height() * ratio + 0.5));
+        const double scale = width / sensorWidth;
+        const QSize room = label->pixmap(Qt::ReturnByValue).size();
+        compare("the band's left", band.x(), double(region.x) * scale, 1.0);
+        compare("the band's top", band.y(), double(region.y) * scale, 1.0);
+        compare("the band's width", band.width(),
+                std::min(double(region.width) * scale, double(room.width() - band.x())), 2.0);
+        compare("the band's height", band.height(),
+                std::min(double(region.height) * scale, double(room.height() - band.y())), 2.0);
     }
 
     // Each region that is switched on has its band, and no other has one.
-    void compareBands()
+    void compareBands(const QLabel* label)
     {
-        for (const QLabel* const label : usable<QLabel>(m_session)) {
-            if (!label->inherits("MultiRubberBandLabel") || !m_state.hasMultipleRegions)
-                continue;
-            int shown = 0;
-            for (const QRubberBand* const band : label->findChildren<QRubberBand*>())
-                shown += band->inherits("RectangleRubberBand") && band->isVisible() ? 1 : 0;
-            compare("the number of bands", shown, double(m_state.regions.size()), 0.0);
-        }
+        int shown = 0;
+        for (const QRubberBand* const band : label->findChildren<QRubberBand*>())
+            shown += band->inherits("RectangleRubberBand") && band->isVisible() ? 1 : 0;
+        compare("the number of bands", shown, double(m_state.regions.size()), 0.0);
     }
 
-    void compareTables()
+    void compareTable(const QAbstractItemView* table)
     {
-        for (const QAbstractItemView* const table : usable<QAbstractItemView>(m_session)) {
-            const QTabWidget* tabs = nullptr;
-            for (const QWidget* parent = table; parent && !tabs; parent = parent->parentWidget())
-                tabs = qobject_cast<const QTabWidget*>(parent);
-            if (!table->inherits("RegionTableWidget") || !tabs)
-                continue;
-            const int region = tabs->currentIndex();
-            const QAbstractItemModel* const model = table->model();
-            for (int row = 0; row < model->rowCount(); ++row) {
-                const QString name = model->index(row, 0).data().toString();
-                if (m_camera.has(name.toStdString()))
-                    compare(QString("%1 of region %2").arg(name).arg(region),
-                            model->index(row, 1).data().toString(),
-                            m_camera.feature(name.toStdString()).valueAt(region).toText());
-            }
+        const QWidget* tabs = table;
+        while (tabs && !qobject_cast<const QTabWidget*>(tabs))
+            tabs = tabs->parentWidget();
+        const int region = tabs ? qobject_cast<const QTabWidget*>(tabs)->currentIndex() : 0;
+        const QAbstractItemModel* const model = table->model();
+        for (int row = 0; row < model->rowCount(); ++row) {
+            const QString name = model->index(row, 0).data().toString();
+            if (m_camera.has(name))
+                compare(QString("%1 of region %2").arg(name).arg(region),
+                        model->index(row, 1).data().toString(),
+                        m_camera.textOfRegion(name, region));
         }
     }
 
     Session& m_session;
-    const sim::Camera& m_camera;
+    const SoakCamera& m_camera;
     const sim::Snapshot m_state;
 };
 
@@ -182,39 +175,32 @@ private:
 
 int Invariants::countOverlaps(Session& session)
 {
-    const sim::Snapshot state = session.camera().snapshot();
     int overlaps = 0;
-    for (const auto& a : state.regions) {
-        for (const auto& b : state.regions) {
-            if (a.number < b.number && a.x < b.x + b.width && b.x < a.x + a.width
-                && a.y < b.y + b.height && b.y < a.y + a.height)
-                ++overlaps;
-        }
+    const auto regions = session.camera().state().regions;
+    for (const auto& a : regions) {
+        for (const auto& b : regions)
+            overlaps += a.number < b.number && rectOf(a).intersects(rectOf(b)) ? 1 : 0;
     }
     return overlaps;
 }
 
 void Invariants::checkRegions(Session& session)
 {
-    const sim::Snapshot state = session.camera().snapshot();
-    if (state.maximum.isEmpty())
-        return;
+    const sim::Snapshot state = session.camera().state();
+    const QRect sensor(0, 0, int(state.maximum.width), int(state.maximum.height));
     for (const sim::Snapshot::Region& region : state.regions) {
         // A region that a new binning left outside is invalid, and the camera says so.
-        if (region.isValid
-            && (region.x < 0 || region.y < 0 || region.x + region.width > state.maximum.width
-                || region.y + region.height > state.maximum.height))
+        if (region.isValid && !state.maximum.isEmpty() && !sensor.contains(rectOf(region)))
             session.find(QString("region %1 is beyond the sensor").arg(region.number));
     }
 }
 
 void Invariants::checkAtRest(Session& session)
 {
-    using Mode = sim::NotificationSettings::Mode;
     constexpr int settlingTime = 2500;
-    session.camera().failures().clear();
+    session.camera().behave();
     leaveField();
-    if (session.camera().notifications().mode == Mode::Off) {
+    if (!session.camera().notifies()) {
         session.host().hide();
         session.host().show();
     }
@@ -223,8 +209,8 @@ void Invariants::checkAtRest(Session& session)
     if (!session.page())
         return;
     session.takeWrites();
-    if (session.camera().notifications().mode != Mode::Off)
-        session.misbehaviour().writeFromOutside();
+    if (session.camera().notifies())
+        session.camera().writeFromOutside();
     session.pass(settlingTime);
     // Reading selects regions; a region outside the picture switches the automatic function off.
     const QString writes = session.takeWrites({"SubRegionSelector", "AutofunctionAOIEnable"});
@@ -232,7 +218,8 @@ void Invariants::checkAtRest(Session& session)
         session.find("a refresh wrote " + writes);
     QStringList findings = Comparison(session).findings;
     // Threads may have to wait, and a camera that seemed lost is asked again after seconds.
-    for (int looks = 0; looks < 10 && session.hasThreads() && !findings.isEmpty(); ++looks) {
+    for (int looks = 0; looks < 10 && session.character().hasThreads && !findings.isEmpty();
+         ++looks) {
         session.camera().flushNotifications();
         session.pass(4 * settlingTime);
         findings = Comparison(session).findings;

@@ -2,10 +2,12 @@
 
 #include "Actions.h"
 #include "Invariants.h"
+#include "MisbehavingCamera.h"
 #include "VirtualTime.h"
 #include "Watchdog.h"
-
-#include "simulator/Model.h"
+#ifdef WITH_GENICAM
+#include "GenicamSoakCamera.h"
+#endif
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -33,64 +35,52 @@ std::int64_t largestMemory()
     return usage.ru_maxrss * 1024;
 }
 
+std::string pickModel(Random& random)
+{
+    auto models = sim::modelNames();
+#ifdef WITH_GENICAM
+    models.insert(models.end(), 3, "genicam");
+#endif
+    const std::string model = random.pick(models);
+    // With hundreds of regions a session takes as long as dozens of others.
+    return model == "multi-region-256" && !random.oneIn(8) ? random.pick(models) : model;
+}
+
+std::unique_ptr<SoakCamera> createCamera(const std::string& model, Random& random)
+{
+#ifdef WITH_GENICAM
+    if (model == "genicam")
+        return std::make_unique<GenicamSoakCamera>(random);
+#endif
+    return std::make_unique<MisbehavingCamera>(model, random);
+}
+
 } // namespace
 
 Session::Session(const Run& run, std::uint64_t seed, const std::string& model)
     : random(seed)
     , m_run(run)
     , m_seed(seed)
+    , m_model(model.empty() ? pickModel(random) : model)
+    , m_camera(createCamera(m_model, random))
+    , m_character(m_camera->character())
     , m_dialogTimer(this)
 {
     Watchdog::setPlace(seed, 0, m_action);
-    const auto models = sim::modelNames();
-    m_model = model.empty() ? random.pick(models) : model;
-    // With hundreds of regions a session takes as long as dozens of others.
-    if (m_model == "multi-region-256" && !random.oneIn(8))
-        m_model = random.pick(models);
-    prepareCamera();
+    const auto features = m_camera->features();
+    m_features = TabExtensionInterface::FeatureList::create(features.begin(), features.end());
+    if (!m_character.isHonest && random.oneIn(4))
+        m_features->insert(random.below(m_features->size()), nullptr);
     const int folder = random.pick({0, 0, 1, 2});
     m_isTranslated = folder == 0;
     QDir::setCurrent(m_run.translationFolders[folder]);
     qDeleteAll(qApp->findChildren<QTranslator*>()); // or else the first page's would serve all
-    VirtualTime::start(m_hasThreads ? VirtualTime::Pace::Fast : VirtualTime::Pace::Exact);
+    VirtualTime::start(m_character.hasThreads ? VirtualTime::Pace::Fast : VirtualTime::Pace::Exact);
     QApplication::setPalette(QPalette(Qt::lightGray));
     m_host = std::make_unique<Host>();
     m_host->lastFrame = QPixmap(320, 200);
     connect(&m_dialogTimer, &QTimer::timeout, this, &Session::answerDialog);
     m_dialogTimer.start(dialogInterval);
-}
-
-void Session::prepareCamera()
-{
-    using Settings = sim::NotificationSettings;
-    m_isHonest = random.oneIn(2);
-    m_hasThreads = random.oneIn(3);
-
-    sim::CameraOptions options;
-    options.rounds = !m_isHonest && random.oneIn(3);
-    options.extraFeatures = random.oneIn(20) ? 500 : 0;
-    options.notifications = m_hasThreads
-        ? Settings::asynchronous(std::chrono::milliseconds(random.between(0, 20)))
-        : random.oneIn(4) ? Settings::off()
-                          : Settings::synchronous();
-    options.notifications.repeats = random.pick({1, 1, 3});
-    options.notifications.onRegistration = random.oneIn(3);
-    options.notifications.lateAfterUnregistration = m_hasThreads && random.oneIn(3);
-    options.notifications.cascades = m_isHonest || random.oneIn(2);
-    m_camera = sim::createCamera(m_model, options);
-    m_camera->journal().record(sim::Operations::writes());
-    m_misbehaviour = std::make_unique<Misbehaviour>(*m_camera, random);
-
-    const auto features = m_camera->features();
-    m_features = TabExtensionInterface::FeatureList::create(features.begin(), features.end());
-    if (m_isHonest) {
-        m_isStrict = !m_misbehaviour->tire();
-        return;
-    }
-    m_countsObservers = !random.oneIn(4);
-    m_misbehaviour->spoil(!m_countsObservers);
-    if (random.oneIn(4))
-        m_features->insert(random.below(m_features->size()), nullptr);
 }
 
 void Session::run()
@@ -106,9 +96,11 @@ void Session::run()
             break;
     }
     m_action = "closing";
-    if (m_page && m_isHonest)
+    if (m_page && m_character.isHonest) {
         Invariants::checkAtRest(*this);
-    if (random.oneIn(5) && !m_isHonest)
+        m_run.report["sessions that came to rest"] += 1;
+    }
+    if (random.oneIn(5) && !m_character.isHonest)
         closeCamera(); // before its page
     if (m_page)
         closePage(!random.oneIn(2));
@@ -121,7 +113,7 @@ void Session::run()
     if (m_run.isVerbose)
         std::fprintf(stderr, "digest %llx\n", static_cast<unsigned long long>(m_digest));
     m_run.report["sessions run"] += 1;
-    m_run.report["sessions without threads"] += m_hasThreads ? 0 : 1;
+    m_run.report["sessions without threads"] += m_character.hasThreads ? 0 : 1;
 }
 
 void Session::checkRest(std::int64_t memoryBefore)
@@ -139,16 +131,10 @@ void Session::checkRest(std::int64_t memoryBefore)
 
 void Session::closeCamera()
 {
-    if (m_crowd.joinable())
-        m_crowd.join();
     if (!m_camera)
         return;
     account();
-    for (std::size_t kind = 0; kind < sim::Failure::kindCount; ++kind)
-        m_run.report["injected failures"]
-            += m_camera->failures().injected(static_cast<sim::Failure::Kind>(kind));
-    m_run.report["notifications"] += m_camera->notificationCount();
-    m_misbehaviour.reset();
+    m_camera->tellFigures(m_run.report);
     m_camera.reset();
 }
 
@@ -160,12 +146,12 @@ void Session::step()
     m_run.report["user actions"] += 1;
     if (m_run.isVerbose)
         std::fprintf(stderr, "%d %s\n", m_step, m_action);
-    const bool isTimed = m_isLost && action.isShort;
+    const bool isTimed = m_isLost && action.flags & Action::Quick;
     const auto begin = Watchdog::guiTime();
     action.perform(*this);
     if (isTimed)
         checkLostTime(begin);
-    if (m_isHonest && m_page)
+    if (m_character.isHonest && m_page)
         Invariants::checkRegions(*this);
     if (!m_isLost && random.oneIn(3))
         pass(random.pick({0, 10, 60, 250, 1100}));
@@ -220,7 +206,7 @@ void Session::openPage()
     // A region told by its edges that is invalid gives way to the whole picture.
     const QString writes = takeWrites({"SubRegionSelector", "DSPSubregionLeft", "DSPSubregionTop",
                                        "DSPSubregionRight", "DSPSubregionBottom"});
-    if (m_isHonest && !writes.isEmpty())
+    if (m_character.isHonest && !writes.isEmpty())
         find("opening wrote " + writes);
     resize(700, 900);
     page->show();
@@ -233,8 +219,8 @@ void Session::checkRefusal()
 {
     if (m_page->layout() || !m_page->children().isEmpty() || !m_page->accessibleName().isEmpty())
         find("a refused page is not as it was");
-    if (m_isHonest && m_camera->has("Height") && m_camera->has("Width")
-        && m_camera->feature("DeviceVendorName").text().rfind("Brontax", 0) == 0)
+    if (m_character.isHonest && m_camera->has("Height") && m_camera->has("Width")
+        && m_camera->text("DeviceVendorName").startsWith("Brontax"))
         find("the camera was refused");
 }
 
@@ -249,7 +235,7 @@ void Session::closePage(bool isHiddenFirst)
     delete m_page.data();
     if (m_isLost && m_camera)
         checkLostTime(begin);
-    if (m_camera && m_countsObservers && m_camera->observerCount() != 0)
+    if (m_camera && m_character.countsObservers && m_camera->observerCount() != 0)
         find(QString("%1 observers are left").arg(m_camera->observerCount()));
 }
 
@@ -263,20 +249,11 @@ void Session::checkLostTime(std::chrono::nanoseconds begin)
 
 void Session::loseCamera()
 {
-    if (m_isHonest || m_isLost || !random.oneIn(2))
+    if (m_character.isHonest || m_isLost || !random.oneIn(2))
         return;
     m_isLost = true;
     m_run.report["cameras lost"] += 1;
     m_camera->lose(lostCallTime);
-}
-
-void Session::burst(bool isLarge)
-{
-    const std::string name = m_misbehaviour->anyObservedFeature();
-    if (!m_hasThreads || m_crowd.joinable() || name.empty())
-        return;
-    const int count = isLarge ? 100000 : 500;
-    m_crowd = std::thread([this, count, name] { m_camera->burst(name, count, 4); });
 }
 
 QString Session::takeWrites(const QStringList& ignored)
@@ -288,22 +265,14 @@ QString Session::takeWrites(const QStringList& ignored)
     return writes.join(", ");
 }
 
-// Takes over the journal's entries and counts, which start anew.
 void Session::account()
 {
-    sim::Journal& journal = m_camera->journal();
-    const auto mix = [this](const std::string& text) {
-        for (const char c : text)
-            m_digest = (m_digest ^ static_cast<unsigned char>(c)) * 0x100000001B3u;
-    };
-    for (const sim::JournalEntry& entry : journal.writes()) {
-        const std::string write = entry.feature + '=' + entry.value.toText();
-        m_writes.append(QString::fromStdString(write));
-        mix(write);
-    }
-    mix(std::to_string(journal.count()));
-    m_run.report["SDK calls"] += journal.count();
-    journal.clear();
+    const SoakCamera::Account account = m_camera->takeAccount();
+    const QString text = account.writes.join(' ') + QString::number(account.calls);
+    for (const QChar c : text)
+        m_digest = (m_digest ^ c.unicode()) * 0x100000001B3u;
+    m_writes += account.writes;
+    m_run.report["SDK calls"] += account.calls;
 }
 
 void Session::find(const QString& text)

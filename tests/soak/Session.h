@@ -1,18 +1,16 @@
 #pragma once
 
 #include "Host.h"
-#include "Misbehaviour.h"
 #include "Random.h"
 #include "Report.h"
-
-#include "simulator/Camera.h"
+#include "SoakCamera.h"
 
 #include <QPointer>
 #include <QTimer>
 
 #include <chrono>
 #include <memory>
-#include <thread>
+#include <string>
 
 /// One camera, opened through the module as a viewer does it, used, and closed, by the seed.
 class Session : public QObject
@@ -33,17 +31,13 @@ public:
     void run();
     /// Of the calls that the camera got: equal for equal seeds, when no thread takes part.
     std::uint64_t digest() const { return m_digest; }
-    bool hasThreads() const { return m_hasThreads; }
+    const SoakCamera::Character& character() const { return m_character; }
 
     // For the actions.
     Random random;
-    sim::Camera& camera() { return *m_camera; }
-    Misbehaviour& misbehaviour() { return *m_misbehaviour; }
+    SoakCamera& camera() { return *m_camera; }
     Host& host() { return *m_host; }
     QWidget* page() const { return m_page; } ///< null when there is none now
-    /// At most it refuses, or answers late.
-    bool isHonest() const { return m_isHonest; }
-    bool isStrict() const { return m_isStrict; } ///< and only what is illegal
     bool isLost() const { return m_isLost; }
 
     void pass(int milliseconds);        ///< lets the event loop run
@@ -52,14 +46,11 @@ public:
     void openPage();
     void closePage(bool isHiddenFirst = false);
     void loseCamera(); ///< perhaps
-    /// Notifies from four threads, where the session may have any.
-    void burst(bool isLarge);
     /// What the module wrote since the last call, but for @p ignored features.
     QString takeWrites(const QStringList& ignored = {});
     void find(const QString& text);
 
 private:
-    void prepareCamera();
     void closeCamera();
     void step();
     void checkRefusal();
@@ -70,20 +61,15 @@ private:
 
     const Run m_run;
     const std::uint64_t m_seed;
-    std::unique_ptr<sim::Camera> m_camera;
-    std::unique_ptr<Misbehaviour> m_misbehaviour;
+    std::string m_model;
+    std::unique_ptr<SoakCamera> m_camera;
+    const SoakCamera::Character m_character;
     std::unique_ptr<Host> m_host;
     TabExtensionInterface::FeatureList m_features;
     QPointer<QWidget> m_page;
     QTimer m_dialogTimer;
-    std::thread m_crowd;
-    std::string m_model;
     QStringList m_writes;
-    bool m_isHonest = false;
-    bool m_isStrict = false;
     bool m_isLost = false;
-    bool m_hasThreads = false;
-    bool m_countsObservers = true;
     int m_step = 0;
     const char* m_action = "opening";
     bool m_isTranslated = true;

@@ -51,7 +51,7 @@ void runSessions(const Session::Run& run, const QCommandLineParser& options)
         const std::uint64_t seed = Random(firstSeed + i * 0xD1B54A32D192ED03u).next();
         Session session(run, seed);
         session.run();
-        if (!options.isSet("check-replay") || session.hasThreads())
+        if (!options.isSet("check-replay") || session.character().hasThreads)
             continue;
         Session again(run, seed);
         again.run();
