@@ -64,7 +64,8 @@ void dragRegion(Session& session)
     else
         leaveField();
     session.pass(0);
-    if (!picture || !picture->isVisible() || !picture->isEnabled())
+    if (!picture || !picture->isVisible() || !picture->isEnabled()
+        || !picture->findChild<QRubberBand*>())
         return;
     const QPoint from = pressPoint(random, *picture, isTyped);
     sendMouse(picture, QEvent::MouseMove, from, Qt::NoButton);
