@@ -177,6 +177,18 @@ private slots:
         QVERIFY(refreshed("Count", 30));
     }
 
+    void searchesNamesOnly()
+    {
+        FeaturesTable f;
+        f.table->setCurrentCell(0, valueColumn);
+        QTest::keyClick(f.table, Qt::Key_O); // the value "old"
+        QCOMPARE(f.table->currentRow(), 0);
+        f.table->setCurrentCell(0, nameColumn);
+        QTest::qWait(QApplication::keyboardInputInterval() + 50);
+        QTest::keyClick(f.table, Qt::Key_G);
+        QCOMPARE(f.table->currentRow(), f.names.indexOf("Gain"));
+    }
+
     void filtersWithoutReading()
     {
         FeaturesTable f;

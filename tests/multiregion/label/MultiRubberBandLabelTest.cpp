@@ -131,6 +131,16 @@ private slots:
         QCOMPARE(bandOf(1)->geometry(), QRect(240, 25, 100, 100));
     }
 
+    void tellsItsScale()
+    {
+        makeLabel("Free");
+        QSignalSpy spy(m_label.get(), &Label::labelGeometryChanged);
+        m_label->resize(800, 300);
+        QCOMPARE(spy.value(0), (QVariantList{1.0, 1.0, QSize(400, 300)}));
+        m_label->resize(800, 600);
+        QCOMPARE(spy.value(1), (QVariantList{2.0, 2.0, QSize(800, 600)}));
+    }
+
     void higherNumberIsRed()
     {
         makeLabel("Free");
