@@ -1,10 +1,24 @@
 #include "PageHost.h"
 
 #include "CameraSession.h"
+#include "FrameGeometry.h"
 #include "PluginHost.h"
+#include "WorkNotice.h"
 
 #include <QLabel>
+#include <QPointer>
 #include <QVBoxLayout>
+
+namespace {
+
+/// Whether a picture takes about a second to be copied and scaled.
+bool isLarge(const QSize& picture)
+{
+    constexpr double pixelsInASecond = 1e8;
+    return double(picture.width()) * picture.height() > pixelsInASecond;
+}
+
+} // namespace
 
 PageHost::PageHost(PluginHost& plugin, CameraSession& session, QWidget* parent)
     : QWidget(parent)
@@ -45,8 +59,20 @@ void PageHost::onLoggingMessage(ZebViewerLogCategory category, const QString& te
     emit logged(category, text);
 }
 
+// The notice lets timers run: not in the midst of what the page does.
 void PageHost::onFrameRequested()
 {
+    QMetaObject::invokeMethod(this, &PageHost::sendFrame, Qt::QueuedConnection);
+}
+
+void PageHost::sendFrame()
+{
+    const QPointer<PageHost> self(this);
+    WorkNotice work(tr("Preparing the last picture …"), window());
+    if (isLarge(wholePicture(m_session.camera().state())))
+        work.showNow();
+    if (!self)
+        return;
     const QPixmap frame = m_session.lastFrame();
     if (!frame.isNull())
         emit frameReady(frame);

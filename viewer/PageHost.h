@@ -34,6 +34,7 @@ public slots:
 
 private:
     void showRefusal();
+    void sendFrame();
 
     CameraSession& m_session;
     QWidget* m_page;

@@ -108,13 +108,11 @@ std::unique_ptr<QCoreApplication> createApplication(int& argc, char** argv)
     return std::make_unique<QApplication>(argc, argv);
 }
 
-/// Without a desktop there is no theme to take the font from, and Qt's own choice is a large one.
+/// Without a desktop there is no theme to take the font from; pictures are to be alike.
 void chooseOffscreenFont()
 {
     constexpr int pointSize = 10;
-    QFont font = QApplication::font();
-    font.setPointSize(pointSize);
-    QApplication::setFont(font);
+    QApplication::setFont(QFont(QStringLiteral("DejaVu Sans"), pointSize));
 }
 
 #ifdef Q_OS_WIN

@@ -304,6 +304,10 @@ Auf der Befehlszeile: --camera %2</translation>
         <source>No page</source>
         <translation>Keine Seite</translation>
     </message>
+    <message>
+        <source>Preparing the last picture …</source>
+        <translation>Das letzte Bild wird vorbereitet …</translation>
+    </message>
 </context>
 <context>
     <name>PluginHost</name>

@@ -304,6 +304,10 @@ En ligne de commande&#xa0;: --camera %2</translation>
         <source>No page</source>
         <translation>Aucune page</translation>
     </message>
+    <message>
+        <source>Preparing the last picture …</source>
+        <translation>Préparation de la dernière image…</translation>
+    </message>
 </context>
 <context>
     <name>PluginHost</name>

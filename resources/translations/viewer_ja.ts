@@ -304,6 +304,10 @@ On the command line: --camera %2</source>
         <source>No page</source>
         <translation>ページなし</translation>
     </message>
+    <message>
+        <source>Preparing the last picture …</source>
+        <translation>最後の画像を準備しています…</translation>
+    </message>
 </context>
 <context>
     <name>PluginHost</name>

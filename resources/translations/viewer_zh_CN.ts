@@ -304,6 +304,10 @@ On the command line: --camera %2</source>
         <source>No page</source>
         <translation>无页面</translation>
     </message>
+    <message>
+        <source>Preparing the last picture …</source>
+        <translation>正在准备最后一幅图像…</translation>
+    </message>
 </context>
 <context>
     <name>PluginHost</name>

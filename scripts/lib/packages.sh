@@ -19,6 +19,11 @@ GENICAM_PACKAGES=(
     pkg-config
 )
 
+# What pictures in all languages take besides: the font for Japanese and Chinese.
+PICTURE_PACKAGES=(
+    fonts-noto-cjk
+)
+
 # What the tests and the format check take besides. The sanitizers' runtimes come with g++.
 TEST_PACKAGES=(
     binutils

@@ -1,0 +1,257 @@
+#include "MainWindow.h"
+#include "CameraFinder.h"
+#include "DataTable.h"
+#include "SimulatedModels.h"
+#include "UserInput.h"
+#include "simulator/Model.h"
+
+#include <QAbstractScrollArea>
+#include <QAction>
+#include <QDockWidget>
+#include <QFile>
+#include <QFontInfo>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QScrollBar>
+#include <QSettings>
+#include <QTableView>
+#include <QTemporaryDir>
+#include <QTextStream>
+
+namespace {
+
+/// The window as it is first shown where there is room for it.
+struct Fixture
+{
+    explicit Fixture(const QString& camera = {})
+        : window(MODULE_PATH, nullptr)
+    {
+        window.resize(1400, 900);
+        window.show();
+        if (!camera.isEmpty())
+            window.openCamera(camera);
+        QApplication::setActiveWindow(&window);
+        QTest::qWait(1);
+    }
+
+    QWidget* page() const { return window.findChild<QWidget*>("ImageFormatWidget"); }
+    QWindow* windowHandle() const { return window.windowHandle(); }
+
+    template <typename Widget = QWidget> Widget* find(const char* name) const
+    {
+        const auto all = window.findChildren<Widget*>(QString(name));
+        for (Widget* widget : all)
+            if (widget->isVisible())
+                return widget;
+        return nullptr;
+    }
+
+    MainWindow window;
+};
+
+/// Where each named widget that can be seen lies in the window, one a line, in the order of names.
+QStringList layoutOf(const QWidget& window)
+{
+    QStringList lines;
+    const auto widgets = window.findChildren<QWidget*>();
+    for (const QWidget* widget : widgets) {
+        const QString name = widget->objectName();
+        const QRect place(widget->mapTo(&window, QPoint(0, 0)), widget->size());
+        if (!name.isEmpty() && !name.startsWith("qt_") && !widget->visibleRegion().isEmpty())
+            lines << QString("%1 %2 %3 %4 %5")
+                         .arg(name, QString::number(place.x()), QString::number(place.y()),
+                              QString::number(place.width()), QString::number(place.height()));
+    }
+    lines.sort();
+    return lines;
+}
+
+/// Fonts are rendered alike on one system, and nearly so on the next.
+bool isNear(const QString& line, const QString& other)
+{
+    constexpr int tolerance = 3;
+    const QStringList a = line.split(' ');
+    const QStringList b = other.split(' ');
+    bool near = a.size() == b.size() && a.front() == b.front();
+    for (int part = 1; near && part < a.size(); ++part)
+        near = qAbs(a[part].toInt() - b[part].toInt()) <= tolerance;
+    return near;
+}
+
+} // namespace
+
+class MainWindowTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase()
+    {
+        QVERIFY(m_settings.isValid());
+        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_settings.path());
+        QCoreApplication::setOrganizationName("viewertest");
+        QApplication::setFont(QFont("DejaVu Sans", 10));
+        MainWindow::setDark(false);
+    }
+
+    /// A layout that is meant to change is written by running this test with WRITE_LAYOUT=1.
+    void layoutIsAsDecided_data()
+    {
+        const DataTable row([](const QString& camera, const QString& tab) {
+#ifdef Q_OS_WIN
+            QSKIP("Fonts are rendered otherwise.");
+#endif
+            if (QFontInfo(QApplication::font()).family() != "DejaVu Sans")
+                QSKIP("The layout is that of DejaVu Sans.");
+            const Fixture f(camera);
+            QCOMPARE(selectTab(f.window.centralWidget()->window(), tab), QString());
+            QTest::qWait(300);
+            const QStringList lines = layoutOf(f.window);
+            QFile file(QString(LAYOUT_FOLDER "/%1.txt").arg(QTest::currentDataTag()));
+            if (qEnvironmentVariableIsSet("WRITE_LAYOUT")) {
+                QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Text));
+                QTextStream(&file) << lines.join('\n') << '\n';
+                return;
+            }
+            QVERIFY(file.open(QIODevice::ReadOnly | QIODevice::Text));
+            const QStringList decided
+                = QString::fromUtf8(file.readAll()).split('\n', Qt::SkipEmptyParts);
+            for (int line = 0; line < qMax(lines.size(), decided.size()); ++line)
+                QVERIFY2(isNear(lines.value(line), decided.value(line)),
+                         qPrintable("is " + lines.value(line) + ", was " + decided.value(line)));
+        });
+        row("region", "current", "AOIWidget");
+        row("automatic-functions", "current", "AutoROIWidget");
+        row("multiple-regions", "multi-region-6", "MultiROIWidget");
+        row("features", "current", "Camera features");
+    }
+    void layoutIsAsDecided()
+    {
+        runRow();
+    }
+
+    /// The page is what the window is for.
+    void pageHasTheRoom()
+    {
+        const Fixture f("multi-region-6");
+        const auto select = [&](const char* tab) {
+            QCOMPARE(selectTab(f.page(), tab), QString());
+            QTest::qWait(50);
+        };
+        select("AOIWidget");
+        int pictureHeight = 0;
+        const auto widgets = f.page()->findChildren<QWidget*>();
+        for (const QWidget* widget : widgets)
+            if (widget->inherits("RubberBandLabel") && widget->isVisible())
+                pictureHeight = widget->height();
+        QVERIFY2(pictureHeight >= 300, qPrintable(QString::number(pictureHeight)));
+        select("MultiROIWidget");
+        const auto* table = f.find<QTableView>("tblFeatures");
+        QVERIFY(table->viewport()->height() >= 4 * table->rowHeight(0));
+
+        const Fixture automatic("current");
+        QCOMPARE(selectTab(automatic.page(), "AutoROIWidget"), QString());
+        QTest::qWait(50);
+        const auto areas = automatic.page()->findChildren<QAbstractScrollArea*>();
+        for (const QAbstractScrollArea* area : areas)
+            QVERIFY2(!area->isVisible() || area->verticalScrollBar()->maximum() == 0,
+                     qPrintable(area->objectName()));
+    }
+
+    void filterNarrowsTheCameras_data()
+    {
+        const DataTable row([](const QString& filter, int shown, const QString& current) {
+            const Fixture f;
+            const auto* list = f.find<QListWidget>("cameraList");
+            f.find<QLineEdit>("cameraFilter")->setText(filter);
+            int count = 0;
+            for (int item = 0; item < list->count(); ++item)
+                count += list->item(item)->isHidden() ? 0 : 1;
+            QCOMPARE(count, shown);
+            QCOMPARE(list->currentItem() ? list->currentItem()->text() : QString(), current);
+        });
+        const int all = SimulatedModels::all().size();
+        row("empty", "", all, "Standard camera, 5 megapixels");
+        row("a name, in any case", "sTANDARD", 3, "Standard camera, 5 megapixels");
+        row("a description", "single pixels", 1, "Colour camera");
+        row("an ID", "multi-region-6", 1, "Six regions");
+        row("none", "unheard of", 0, "");
+    }
+    void filterNarrowsTheCameras()
+    {
+        runRow();
+    }
+
+    void offersEachModel()
+    {
+        std::vector<std::string> ids;
+        const auto models = SimulatedModels::all();
+        for (const CameraEntry& model : models)
+            ids.push_back(model.id.toStdString());
+        QCOMPARE(ids, sim::modelNames());
+    }
+
+    /// Panes behind others come forward; what has no control for the keyboard is passed over.
+    void keyGoesRoundThePanes_data()
+    {
+        const DataTable row([](const Qt::KeyboardModifiers& modifiers, const QStringList& passed) {
+            const Fixture f("current");
+            f.find("cmbPixelFormat")->setFocus();
+            QStringList names;
+            for (int step = 0; step < passed.size(); ++step) {
+                QTest::keyClick(f.windowHandle(), Qt::Key_F6, modifiers);
+                const QWidget* part = QApplication::focusWidget();
+                while (!qobject_cast<const QDockWidget*>(part) && part->parentWidget())
+                    part = part->parentWidget();
+                names << part->objectName();
+                QVERIFY(!QApplication::focusWidget()->visibleRegion().isEmpty());
+            }
+            QCOMPARE(names, passed);
+        });
+        const QStringList panes{"CameraListPaneDock",   "LivePaneDock",
+                                "FeatureTablePaneDock", "LogPaneDock",
+                                "FeatureWritePaneDock", "",
+                                "CameraListPaneDock"};
+        row("forwards", Qt::NoModifier, panes);
+        row("backwards", Qt::ShiftModifier,
+            QStringList{"FeatureWritePaneDock", "LogPaneDock", "FeatureTablePaneDock",
+                        "LivePaneDock", "CameraListPaneDock", "", "FeatureWritePaneDock"});
+    }
+    void keyGoesRoundThePanes()
+    {
+        runRow();
+    }
+
+    void remembersItsLayout()
+    {
+        const auto logOf = [](const MainWindow& window) {
+            return window.findChild<QDockWidget*>("LogPaneDock");
+        };
+        {
+            Fixture f;
+            f.window.rememberLayout();
+            logOf(f.window)->hide();
+            f.window.close();
+        }
+        Fixture passing; // is not asked to, and changes nothing
+        QVERIFY(!logOf(passing.window)->isHidden());
+        passing.window.close();
+
+        MainWindow window(MODULE_PATH, nullptr);
+        window.rememberLayout();
+        window.show();
+        QVERIFY(logOf(window)->isHidden());
+        QCOMPARE(window.size(), QSize(1400, 900));
+        const auto actions = window.findChildren<QAction*>();
+        for (QAction* action : actions)
+            if (action->text() == "&First layout")
+                action->trigger();
+        QVERIFY(!logOf(window)->isHidden());
+    }
+
+private:
+    QTemporaryDir m_settings;
+};
+
+QTEST_MAIN(MainWindowTest)
+#include "MainWindowTest.moc"
