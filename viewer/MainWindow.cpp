@@ -3,7 +3,6 @@
 #include "CameraFinder.h"
 #include "CameraListPane.h"
 #include "CameraSession.h"
-#include "DarkPalette.h"
 #include "DockLayout.h"
 #include "FeatureTablePane.h"
 #include "FeatureWritePane.h"
@@ -12,6 +11,7 @@
 #include "PageHost.h"
 #include "PluginHost.h"
 #include "SimulatedSource.h"
+#include "ViewerPalette.h"
 #include "WorkNotice.h"
 
 #include <QApplication>
@@ -194,7 +194,7 @@ QPixmap MainWindow::screenshot()
 void MainWindow::setDark(bool dark)
 {
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
-    QApplication::setPalette(dark ? darkPalette() : QApplication::style()->standardPalette());
+    QApplication::setPalette(dark ? darkPalette() : lightPalette());
 }
 
 void MainWindow::rememberLayout()

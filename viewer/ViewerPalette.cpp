@@ -1,4 +1,17 @@
-#include "DarkPalette.h"
+#include "ViewerPalette.h"
+
+#include <QApplication>
+#include <QStyle>
+
+QPalette lightPalette()
+{
+    constexpr int opacity = 160; // of 255: the style's own half can hardly be read
+    QPalette palette = QApplication::style()->standardPalette();
+    QColor dimmed = palette.color(QPalette::Text);
+    dimmed.setAlpha(opacity);
+    palette.setColor(QPalette::PlaceholderText, dimmed);
+    return palette;
+}
 
 QPalette darkPalette()
 {
@@ -16,7 +29,7 @@ QPalette darkPalette()
     palette.setColor(QPalette::BrightText, Qt::white);
     palette.setColor(QPalette::ToolTipBase, QColor(62, 65, 70));
     palette.setColor(QPalette::ToolTipText, text);
-    palette.setColor(QPalette::PlaceholderText, dimmed);
+    palette.setColor(QPalette::PlaceholderText, QColor(155, 158, 163));
     palette.setColor(QPalette::Highlight, QColor(56, 111, 205));
     palette.setColor(QPalette::HighlightedText, Qt::white);
     palette.setColor(QPalette::Link, QColor(110, 160, 245));
