@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <optional>
 
 namespace FeatureWriting {
 
@@ -27,27 +28,30 @@ bool isTaken(ZebErrorType result, const char* where, const QString& name)
     return result == Sdk::success;
 }
 
-bool writeInteger(FeatureReader& feature, const QString& name, int64_t value)
+constexpr int integerLimits = FeatureReader::Range | FeatureReader::Increment;
+
+std::optional<int64_t> toWhole(const std::optional<double>& number)
 {
-    if (!feature.isWritable())
-        return false;
-    const auto reading = feature.read<int64_t>(FeatureReader::Range | FeatureReader::Increment);
-    int64_t maximum = reading.maximum.value_or(-1);
-    const int64_t increment = reading.increment.value_or(-1);
+    return number ? std::optional(toInt64(*number)) : std::nullopt;
+}
+
+bool writeInteger(FeatureReader& feature, const QString& name, int64_t value,
+                  const Reading<int64_t>& limits)
+{
+    int64_t maximum = limits.maximum.value_or(-1);
+    const int64_t increment = limits.increment.value_or(-1);
     if (increment > 0) {
         maximum = maximum / increment * increment;
         value = value / increment * increment;
     }
-    value = clamped(value, reading.minimum.value_or(-1), maximum);
+    value = clamped(value, limits.minimum.value_or(-1), maximum);
     return isTaken(feature.write(value), "Error: FeatureManager::SetValue:Int: ", name);
 }
 
-bool writeFloat(FeatureReader& feature, const QString& name, double value)
+bool writeFloat(FeatureReader& feature, const QString& name, double value,
+                const Reading<double>& limits)
 {
-    if (!feature.isWritable())
-        return false;
-    const auto range = feature.read<double>(FeatureReader::Range);
-    value = clamped(value, range.minimum.value_or(-1.0), range.maximum.value_or(-1.0));
+    value = clamped(value, limits.minimum.value_or(-1.0), limits.maximum.value_or(-1.0));
     if (feature.write(value) == Sdk::success)
         return true;
     const double present = feature.value().value_or(-1.0);
@@ -62,8 +66,7 @@ bool writeFloat(FeatureReader& feature, const QString& name, double value)
 
 bool writeBoolean(FeatureReader& feature, const QString& name, bool value)
 {
-    return feature.isWritable()
-        && isTaken(feature.write(value), "Error: FeatureManager::SetValue:Bool: ", name);
+    return isTaken(feature.write(value), "Error: FeatureManager::SetValue:Bool: ", name);
 }
 
 // Whole numbers keep all 64 bits; only what is a floating-point number goes through a double.
@@ -90,11 +93,11 @@ bool isTrue(const QVariant& value)
 
 bool writeNumber(FeatureReader& feature, const QString& name, double value)
 {
-    switch (feature.dataType()) {
+    switch (feature.isWritable() ? feature.dataType() : Sdk::unknownType) {
     case Sdk::integerType:
-        return writeInteger(feature, name, toInt64(value));
+        return writeInteger(feature, name, toInt64(value), feature.read<int64_t>(integerLimits));
     case Sdk::floatType:
-        return writeFloat(feature, name, value);
+        return writeFloat(feature, name, value, feature.read<double>(FeatureReader::Range));
     case Sdk::booleanType:
         return writeBoolean(feature, name, value > 0.0);
     default:
@@ -102,33 +105,46 @@ bool writeNumber(FeatureReader& feature, const QString& name, double value)
     }
 }
 
+bool writeNumber(FeatureReader& feature, const QString& name, double value,
+                 const Reading<double>& limits)
+{
+    if (!limits.isWritable)
+        return false;
+    if (feature.dataType() == Sdk::floatType)
+        return writeFloat(feature, name, value, limits);
+    const Reading<int64_t> whole{
+        {}, toWhole(limits.minimum), toWhole(limits.maximum), toWhole(limits.increment)};
+    return feature.dataType() == Sdk::integerType
+        && writeInteger(feature, name, toInt64(value), whole);
+}
+
 bool writeVariant(FeatureReader& feature, const QString& name, const QVariant& value)
 {
     const ZebFeatureDataType type = feature.dataType();
-    if (!feature || (!value.isValid() && type != Sdk::commandType))
+    if ((!value.isValid() && type != Sdk::commandType) || !feature.isWritable())
         return false;
     bool isNumber = true;
     switch (type) {
     case Sdk::integerType: {
         const int64_t integer = toInteger(value, &isNumber);
-        return isNumber && writeInteger(feature, name, integer);
+        return isNumber
+            && writeInteger(feature, name, integer, feature.read<int64_t>(integerLimits));
     }
     case Sdk::floatType: {
         const double number = value.toDouble(&isNumber);
-        return isNumber && writeFloat(feature, name, number);
+        return isNumber
+            && writeFloat(feature, name, number, feature.read<double>(FeatureReader::Range));
     }
     case Sdk::booleanType:
         return writeBoolean(feature, name, isTrue(value));
     case Sdk::enumerationType:
     case Sdk::stringType:
-        return feature.isWritable()
-            && feature.write(value.toString().toStdString().c_str()) == Sdk::success;
+        return feature.write(value.toString().toStdString().c_str()) == Sdk::success;
     case Sdk::commandType:
-        return feature.isWritable() && feature.run() == Sdk::success;
+        return feature.run() == Sdk::success;
     case Sdk::rawType: {
         const QByteArray bytes = value.toByteArray();
-        return feature.isWritable()
-            && feature.write(std::vector<uint8_t>(bytes.begin(), bytes.end())) == Sdk::success;
+        return feature.write(std::vector<uint8_t>(bytes.begin(), bytes.end())) == Sdk::success;
     }
     default:
         return false;

@@ -13,6 +13,9 @@ namespace FeatureWriting {
 /// Integers are aligned to the increment, counted from 0, and all numbers clamped to the range. A
 /// float that the camera refuses is followed by one write of its present value on the increment.
 bool writeNumber(FeatureReader& feature, const QString& name, double value);
+/// Of an integer or a float whose access, range and increment are known.
+bool writeNumber(FeatureReader& feature, const QString& name, double value,
+                 const Reading<double>& limits);
 
 /// Any type: numbers as writeNumber(), whole numbers with all their 64 bits; texts and entries as
 /// text; bytes; commands run.

@@ -6,10 +6,11 @@
 #include "page/FeatureObservation.h"
 #include "page/TENotSupported.h"
 #include "widgets/SilentFields.h"
-#include "widgets/WheelGuard.h"
 
 #include <QApplication>
+#include <QComboBox>
 #include <QDebug>
+#include <QDoubleSpinBox>
 #include <QEvent>
 #include <QHash>
 #include <QLocale>
@@ -38,6 +39,18 @@ void silenceQt()
                        reinterpret_cast<LPCWSTR>(&discardMessage), &module);
 #endif
     qInstallMessageHandler(discardMessage);
+}
+
+/// A wheel event to a field without the focus. The exact class counts: derived widgets decide for
+/// themselves what the wheel does.
+bool isUnfocusedFieldWheel(const QObject* target, const QEvent& event)
+{
+    const auto* widget = qobject_cast<const QWidget*>(target);
+    if (event.type() != QEvent::Wheel || !widget || widget->hasFocus())
+        return false;
+    const QMetaObject* const type = widget->metaObject();
+    return type == &QComboBox::staticMetaObject || type == &QSpinBox::staticMetaObject
+        || type == &QDoubleSpinBox::staticMetaObject;
 }
 
 } // namespace
@@ -178,7 +191,7 @@ void BaseTabPluginWidget::guardAgainstWheel(QWidget* field)
 
 bool BaseTabPluginWidget::eventFilter(QObject* watched, QEvent* event)
 {
-    if (!isUnfocusedFieldWheel(watched, event))
+    if (!isUnfocusedFieldWheel(watched, *event))
         return QWidget::eventFilter(watched, event);
     event->ignore(); // so that it goes on to the scroll area
     return true;

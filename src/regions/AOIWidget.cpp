@@ -12,6 +12,7 @@
 #include <QPointer>
 #include <QSignalBlocker>
 
+#include <algorithm>
 #include <utility>
 
 namespace Name = FeatureNames;
@@ -61,7 +62,7 @@ void AOIWidget::createAxes()
         *featureManager,
         RegionAxisNames{Name::offsetX, Name::width, Name::widthMax, Name::sensorWidth},
         m_ui->spinLeft, m_ui->spinWidth);
-    readAgain(m_vertical->readAll(m_ui->spinLeft) + m_horizontal->readAll(m_ui->spinLeft));
+    readAgain(m_vertical->read(m_ui->spinLeft) + m_horizontal->read(m_ui->spinLeft));
 }
 
 void AOIWidget::createLabel()
@@ -204,13 +205,25 @@ QStringList AOIWidget::refresh(const Changes& changes)
 {
     if (!m_ui || changes.isEmpty())
         return {};
+    // A camera that has notified of all that the page wrote does so of whatever else changes.
+    const QStringList vertical = m_vertical->takeWritten();
+    const QStringList horizontal = m_horizontal->takeWritten();
+    const QStringList written = vertical + horizontal;
+    const bool isOwn = !written.isEmpty()
+        && !Changes{false, changes.names}.any(Name::sizeLimits + Name::multipleRegionSwitches)
+        && std::all_of(written.begin(), written.end(),
+                       [&](const QString& name) { return changes.names.contains(name); });
+    const Changes news{changes.all && !isOwn, changes.names};
+    const auto partsAfter = [=](const QStringList& writes) {
+        return isOwn && !writes.isEmpty() ? RegionAxis::moved : FeatureReader::Whole;
+    };
     // The vertical increment too becomes the step of the horizontal field.
     QStringList untold;
-    if (changes.any({Name::offsetY, Name::height, Name::heightMax}))
-        untold += m_vertical->readAll(m_ui->spinLeft);
-    if (changes.any({Name::offsetX, Name::width, Name::widthMax}))
-        untold += m_horizontal->readAll(m_ui->spinLeft);
-    if (changes.any(Name::multipleRegionSwitches))
+    if (news.any({Name::offsetY, Name::height, Name::heightMax}))
+        untold += m_vertical->read(m_ui->spinLeft, partsAfter(vertical));
+    if (news.any({Name::offsetX, Name::width, Name::widthMax}))
+        untold += m_horizontal->read(m_ui->spinLeft, partsAfter(horizontal));
+    if (news.any(Name::multipleRegionSwitches))
         readMultipleRegions();
     // Only when they were not told: a picture is scaled for them.
     if (changes.names.contains(Name::sensorWidth))
@@ -223,7 +236,8 @@ QStringList AOIWidget::refresh(const Changes& changes)
 void AOIWidget::readMultipleRegions()
 {
     const Reading<double> isEnabled
-        = featureManager->Read(Name::multipleRegionEnable, Name::multipleRegionsEnable).number();
+        = featureManager->Read(Name::multipleRegionEnable, Name::multipleRegionsEnable)
+              .number(FeatureReader::Value);
     if (isEnabled.value)
         onMultipleRegionsEnabled(*isEnabled.value > 0.0);
     if (!isEnabled.isComplete)

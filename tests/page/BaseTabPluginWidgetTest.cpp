@@ -4,7 +4,9 @@
 #include "SimulatedCamera.h"
 #include "page/TENotSupported.h"
 
-#include <QComboBox>
+#include <QFontComboBox>
+#include <QSlider>
+#include <QSpinBox>
 
 #include <functional>
 
@@ -49,6 +51,7 @@ public:
 
     using BaseTabPluginWidget::cameraFeatures;
     using BaseTabPluginWidget::changedFeatures;
+    using BaseTabPluginWidget::eventFilter;
     using BaseTabPluginWidget::featureManager;
     using BaseTabPluginWidget::isDarkMode;
     using BaseTabPluginWidget::refreshTimer;
@@ -104,6 +107,33 @@ private slots:
         for (const char* vendor : {"brontax", "Other Brontax", ""})
             QCOMPARE(codeFor(vendor), 4);
     }
+
+    void wheelGuard_data()
+    {
+        using Target = std::shared_ptr<QObject>;
+        const DataTable row([](const Target& target, QEvent::Type type, bool guarded) {
+            if (QByteArray(QTest::currentDataTag()) == "focused") {
+                auto* field = qobject_cast<QWidget*>(target.get());
+                field->show();
+                QApplication::setActiveWindow(field);
+                field->setFocus();
+            }
+            const SmallCamera camera;
+            Page page(camera);
+            QEvent event(type);
+            QCOMPARE(page.eventFilter(target.get(), &event), guarded);
+            QCOMPARE(event.isAccepted(), !guarded);
+        });
+        row("combo box", std::make_shared<QComboBox>(), QEvent::Wheel, true);
+        row("spin box", std::make_shared<QSpinBox>(), QEvent::Wheel, true);
+        row("double spin box", std::make_shared<QDoubleSpinBox>(), QEvent::Wheel, true);
+        row("derived class", std::make_shared<QFontComboBox>(), QEvent::Wheel, false);
+        row("other class", std::make_shared<QSlider>(), QEvent::Wheel, false);
+        row("no widget", std::make_shared<QObject>(), QEvent::Wheel, false);
+        row("other event", std::make_shared<QSpinBox>(), QEvent::Enter, false);
+        row("focused", std::make_shared<QSpinBox>(), QEvent::Wheel, false);
+    }
+    void wheelGuard() { runRow(); }
 
     void gathersChangesOnceEach()
     {
@@ -307,6 +337,8 @@ private slots:
         QApplication::setPalette(light);
         QVERIFY(!Page::isDarkMode());
     }
+
+    void cleanupTestCase() { DataTableRows::rows.clear(); } // widgets end before the application
 
 private:
     MessageHandlerGuard m_guard;

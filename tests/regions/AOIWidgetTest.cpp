@@ -14,6 +14,12 @@ private slots:
         const AOIPage p("plain");
         p.page->OnSendGeometry(400, 0, p.value("Width"), 800);
         QCOMPARE(p.writes(), (QStringList{"Height 800", "OffsetY 400", "OffsetX 0", "Width 2592"}));
+        p.camera->modify("OffsetX",
+                         [](auto& offset) { offset.between(sim::IntegerRange(0, 64, 2)); });
+        p.page->OnSendGeometry(400, 0, 640, 800);
+        p.camera->journal().clear();
+        p.page->OnSendGeometry(400, 96, 320, 800);
+        QCOMPARE(p.writes().mid(2), (QStringList{"Width 320", "OffsetX 64"}));
     }
 
     /// The vertical increment becomes the step of the horizontal field; sizes follow their own.
@@ -80,6 +86,53 @@ private slots:
         p.refreshBy("OffsetX");
         QVERIFY(p.message()->isHidden());
     }
+
+    /// A camera that notifies has its own reads for that. One that is silent is looked at as a
+    /// whole.
+    void asksLittle_data()
+    {
+        using Action = std::function<void(const AOIPage&)>;
+        const DataTable row([](bool isSilent, int most, const Action& action) {
+            const AOIPage p("current");
+            p.camera->setNotifications(sim::NotificationSettings::off());
+            p.camera->modify("Height",
+                             [](auto& height) { height.between(sim::IntegerRange(24, 1944, 24)); });
+            if (!isSilent)
+                p.camera->setNotifications(sim::NotificationSettings::synchronous());
+            p.camera->journal().record(sim::Operations::all());
+            p.camera->journal().clear();
+            action(p);
+            QTest::qWait(250);
+            p.page->updateTimer();
+            int questions = 0;
+            constexpr auto asked = sim::Operations::fromCamera().without(sim::Operations::writes());
+            for (const auto& entry : p.camera->journal().entries())
+                questions += asked.contains(entry.operation) ? 1 : 0;
+            QVERIFY2(questions <= most, qPrintable(QString::number(questions)));
+            QCOMPARE(p.field("spinHeight")->singleStep() == 24.0, isSilent);
+            const QRect inFields(
+                int(p.field("spinLeft")->value()), int(p.field("spinTop")->value()),
+                int(p.field("spinWidth")->value()), int(p.field("spinHeight")->value()));
+            QCOMPARE(text(inFields), text(p.onCamera()));
+            QCOMPARE(text(p.label->region()), text(inFields));
+        });
+        const Action type = [](const AOIPage& p) {
+            p.field("spinWidth")->setValue(640);
+            p.page->OnSpinEditingFinished();
+        };
+        const Action release = [](const AOIPage& p) {
+            const QPoint corner = p.band().bottomRight();
+            drag(p.label, corner, corner - QPoint(90, 70));
+        };
+        const Action preset = [](const AOIPage& p) { p.click("btnHalf"); };
+        row("typed width", false, 15, type);
+        row("release", false, 24, release);
+        row("preset", false, 29, preset);
+        row("typed width, silent", true, 28, type);
+        row("release, silent", true, 37, release);
+        row("preset, silent", true, 39, preset);
+    }
+    void asksLittle() { runRow(); }
 
     void gatesItsControls()
     {

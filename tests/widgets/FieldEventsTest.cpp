@@ -1,13 +1,9 @@
 #include "DataTable.h"
 #include "widgets/QSpinBoxMouseEventFilter.h"
-#include "widgets/WheelGuard.h"
 
-#include <QComboBox>
-#include <QFontComboBox>
 #include <QSpinBox>
 
 #include <functional>
-#include <memory>
 
 class FieldEventsTest : public QObject
 {
@@ -52,32 +48,6 @@ private slots:
         });
     }
     void mousePressEnds() { runRow(); }
-
-    void wheelGuard_data()
-    {
-        using Target = std::shared_ptr<QObject>;
-        const DataTable row([](const Target& target, QEvent::Type type, bool guarded) {
-            if (QByteArray(QTest::currentDataTag()) == "focused") {
-                auto* field = qobject_cast<QWidget*>(target.get());
-                field->show();
-                QApplication::setActiveWindow(field);
-                field->setFocus();
-            }
-            const QEvent event(type);
-            QCOMPARE(isUnfocusedFieldWheel(target.get(), &event), guarded);
-        });
-        row("combo box", std::make_shared<QComboBox>(), QEvent::Wheel, true);
-        row("spin box", std::make_shared<QSpinBox>(), QEvent::Wheel, true);
-        row("double spin box", std::make_shared<QDoubleSpinBox>(), QEvent::Wheel, true);
-        row("derived class", std::make_shared<QFontComboBox>(), QEvent::Wheel, false);
-        row("other class", std::make_shared<QSlider>(), QEvent::Wheel, false);
-        row("no widget", std::make_shared<QObject>(), QEvent::Wheel, false);
-        row("other event", std::make_shared<QSpinBox>(), QEvent::Enter, false);
-        row("focused", std::make_shared<QSpinBox>(), QEvent::Wheel, false);
-    }
-    void wheelGuard() { runRow(); }
-
-    void cleanupTestCase() { DataTableRows::rows.clear(); } // widgets end before the application
 };
 
 QTEST_MAIN(FieldEventsTest)

@@ -51,6 +51,17 @@ void RectangleRubberBand::setOwnColor(const QColor& color)
     emit colorChanged(m_regionNo, shownColor());
 }
 
+/// Across a picture of one pixel there is nothing to drag.
+HandleGrab RectangleRubberBand::grabAt(const QPoint& point) const
+{
+    HandleGrab grab = handleGrabAt(geometry(), point);
+    if (m_label && m_label->shownSize().height() <= 1)
+        grab.vertical.reset();
+    if (m_label && m_label->shownSize().width() <= 1)
+        grab.horizontal.reset();
+    return grab;
+}
+
 void RectangleRubberBand::press(const QPoint& point)
 {
     m_grab = grabAt(point);

@@ -33,7 +33,7 @@ public:
     void setOwnColor(const QColor& color);
     void setSizeLimits(const BandSizeLimits& limits) { m_limits = limits; }
 
-    HandleGrab grabAt(const QPoint& point) const { return handleGrabAt(geometry(), point); }
+    HandleGrab grabAt(const QPoint& point) const;
 
     /// Takes hold of the band.
     void press(const QPoint& point);

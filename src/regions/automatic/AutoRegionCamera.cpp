@@ -65,9 +65,9 @@ Reading<double> AutoRegionCamera::readForField(RegionNumber number)
     return noted(name, m_manager.Read(name).fieldNumber());
 }
 
-Reading<double> AutoRegionCamera::read(const QString& name)
+Reading<double> AutoRegionCamera::read(const QString& name, int parts)
 {
-    return noted(name, m_manager.Read(name).number());
+    return noted(name, m_manager.Read(name).number(parts));
 }
 
 Reading<double> AutoRegionCamera::noted(const QString& name, const Reading<double>& reading)
@@ -152,20 +152,23 @@ std::optional<QSizeF> AutoRegionCamera::readLimits()
 {
     using Number = Reading<double>;
     bool isTold = true;
-    const auto part = [&isTold](const Number& reading, std::optional<double> Number::*which) {
+    const auto part = [&](const QString& name, int parts, std::optional<double> Number::*which) {
+        const Number reading = read(name, parts);
         isTold = isTold && (reading.*which || reading.isComplete);
         return (reading.*which).value_or(0.0);
     };
-    const auto increment
-        = [&](const QString& name) { return part(read(name), &Number::increment); };
-    const auto minimum = [&](const QString& name) { return part(read(name), &Number::minimum); };
-    const auto maximum = [&](const QString& name) { return part(read(name), &Number::maximum); };
-    const Number imageHeight = read(Name::height);
-    double width = part(read(Name::width), &Number::value);
-    double height = part(imageHeight, &Number::value);
+    const auto increment = [&](const QString& name) {
+        return part(name, FeatureReader::Increment, &Number::increment);
+    };
+    const auto minimum
+        = [&](const QString& name) { return part(name, FeatureReader::Range, &Number::minimum); };
+    const auto maximum
+        = [&](const QString& name) { return part(name, FeatureReader::Range, &Number::maximum); };
+    double width = part(Name::width, FeatureReader::Value, &Number::value);
+    double height = part(Name::height, FeatureReader::Value, &Number::value);
     if (has(Name::aoiHeight))
-        height = aoiHeightLimit(height, increment(Name::aoiHeight),
-                                part(imageHeight, &Number::minimum), minimum(Name::aoiOffsetX));
+        height = aoiHeightLimit(height, increment(Name::aoiHeight), minimum(Name::height),
+                                minimum(Name::aoiOffsetX));
     else if (has(Name::autoModeHeight))
         height = maximum(Name::autoModeHeight);
     if (has(Name::aoiWidth))

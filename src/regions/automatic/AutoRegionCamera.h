@@ -1,6 +1,6 @@
 #pragma once
 
-#include "features/Reading.h"
+#include "features/FeatureReader.h"
 #include "regions/automatic/AutoRegionRules.h"
 
 #include <QHash>
@@ -97,7 +97,7 @@ public:
     void readOrigin();
     /// What the camera would allow by now; nothing unless it told all of it.
     std::optional<QSizeF> readLimits();
-    Reading<double> read(const QString& name);
+    Reading<double> read(const QString& name, int parts = FeatureReader::Whole);
     double readValue(const QString& name, const QString& alternative = {});
     void writeImageSize(const QString& name, double value);
     /// Whether offset and size are those of "AutoModeRegion...".

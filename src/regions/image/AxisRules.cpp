@@ -16,9 +16,14 @@ bool isOdd(double value)
 
 } // namespace
 
+bool mayNeedEvenSize(const QString& offsetCategory)
+{
+    return offsetCategory == QLatin1String("/ImageFormat");
+}
+
 bool needsEvenSize(const QString& offsetCategory, const QString& pixelFormat)
 {
-    return offsetCategory == QLatin1String("/ImageFormat")
+    return mayNeedEvenSize(offsetCategory)
         && (pixelFormat.contains(QLatin1String("Bayer"))
             || pixelFormat.contains(QLatin1String("YUV")));
 }
@@ -62,9 +67,4 @@ Span<double> overflowCorrected(const Span<double>& span, double maximum, const F
         : sizeField.minimum + sizeField.step * ((room - sizeField.minimum) / sizeField.step);
     const double truncatedSize = std::trunc(size + 0.5);
     return {maximum - truncatedSize - toInt(step), truncatedSize};
-}
-
-bool writesOffsetFirst(double offset, double currentSize, double maximum, double offsetMaximum)
-{
-    return offset + currentSize <= maximum && offset <= offsetMaximum;
 }

@@ -10,6 +10,7 @@ class QString;
 
 /// Cameras that keep their offset among the image format features demand even sizes for pixel
 /// formats that share colour among neighbours.
+bool mayNeedEvenSize(const QString& offsetCategory);
 bool needsEvenSize(const QString& offsetCategory, const QString& pixelFormat);
 
 /// The even number at or next above @p value.
@@ -29,7 +30,3 @@ Span<double> onSensor(const Span<double>& span, double maximum);
 /// stays. Snapping, and corner drags, take a region that far.
 Span<double> overflowCorrected(const Span<double>& span, double maximum, const FieldGrid& sizeField,
                                double step);
-
-/// Whether the camera takes the offset before the size: the size it has now must fit behind the new
-/// offset, and the offset within its present range. Otherwise the size goes first.
-bool writesOffsetFirst(double offset, double currentSize, double maximum, double offsetMaximum);

@@ -2,6 +2,7 @@
 
 #include "features/FeatureManager.h"
 #include "features/FeatureNames.h"
+#include "features/FeatureWriting.h"
 #include "regions/image/AxisRules.h"
 
 #include <QDoubleSpinBox>
@@ -19,30 +20,31 @@ RegionAxis::RegionAxis(FeatureManager& manager, const RegionAxisNames& names,
 {
 }
 
-QStringList RegionAxis::readAll(QDoubleSpinBox* stepField)
+QStringList RegionAxis::read(QDoubleSpinBox* stepField, int parts)
 {
     QStringList untold;
-    forgetMaximum();
+    if (parts == FeatureReader::Whole)
+        forgetMaximum();
     readMaximum();
     if (!m_isMaximumFresh)
         untold << m_maximumName;
-    if (!showOffset(stepField))
+    if (!showOffset(stepField, parts))
         untold << m_offset.name;
-    if (!showSize())
+    if (!showSize(parts))
         untold << m_size.name;
     return untold;
 }
 
-bool RegionAxis::showOffset(QDoubleSpinBox* stepField)
+bool RegionAxis::showOffset(QDoubleSpinBox* stepField, int parts)
 {
-    const Reading<double> offset = read(m_offset);
+    const Reading<double> offset = read(m_offset, parts);
     if (m_offset.field.isHeld() || m_offset.field.isBeingTyped())
         return false;
     if (!m_hasOffsetStep) {
         m_offset.field.showStep(offset);
         m_hasOffsetStep = offset.isComplete;
     }
-    const bool isFormatTold = readPixelFormat();
+    const bool isFormatTold = readPixelFormat(m_offset.name);
     if (!needsEven(m_offset.name))
         return m_offset.field.show(offset) && isFormatTold;
     const Reading<double> even = evenOffsets(offset);
@@ -51,9 +53,9 @@ bool RegionAxis::showOffset(QDoubleSpinBox* stepField)
     return m_offset.field.show(even) && isFormatTold;
 }
 
-bool RegionAxis::showSize()
+bool RegionAxis::showSize(int parts)
 {
-    const Reading<double> size = read(m_size);
+    const Reading<double> size = read(m_size, parts);
     if (m_size.field.isHeld() || m_size.field.isBeingTyped())
         return false;
     m_size.field.showStep(size);
@@ -81,16 +83,17 @@ bool RegionAxis::readLargest()
         if (!isTold && m_maximum > 0.0)
             return false;
     }
-    const double largestSize = read(m_size).maximum.value_or(0.0);
+    const double largestSize = read(m_size, FeatureReader::Range).maximum.value_or(0.0);
     if (largestSize < 1.0)
         return false;
-    m_maximum = std::trunc(largestSize + readOnCamera(m_offset));
+    read(m_offset, FeatureReader::Value);
+    m_maximum = std::trunc(largestSize + m_offset.onCamera);
     return isTold;
 }
 
 bool RegionAxis::readSensor()
 {
-    const Reading<double> sensor = m_manager.Read(m_sensorName).number();
+    const auto sensor = m_manager.Read(m_sensorName).number(FeatureReader::Value);
     m_sensor = sensor.value.value_or(m_sensor);
     return sensor.isComplete;
 }
@@ -101,35 +104,39 @@ double RegionAxis::sensor()
     return m_sensor >= 1.0 ? std::min(m_sensor, maximum) : maximum;
 }
 
-bool RegionAxis::readPixelFormat()
+// Where it matters for what is kept beside @p offset.
+bool RegionAxis::readPixelFormat(const QString& offset)
 {
-    const Reading<QString> format = m_manager.Read(FeatureNames::pixelFormat).read<QString>();
+    QString& category = m_categories[offset];
+    if (category.isEmpty())
+        category = m_manager.GetCategory(offset);
+    if (!mayNeedEvenSize(category))
+        return true;
+    const auto format
+        = m_manager.Read(FeatureNames::pixelFormat).read<QString>(FeatureReader::Value);
     if (format.value)
         m_pixelFormat = *format.value;
     return format.isComplete;
 }
 
-bool RegionAxis::needsEven(const QString& offset)
+bool RegionAxis::needsEven(const QString& offset) const
 {
-    QString& category = m_categories[offset];
-    if (category.isEmpty())
-        category = m_manager.GetCategory(offset);
-    return needsEvenSize(category, m_pixelFormat);
+    return needsEvenSize(m_categories.value(offset), m_pixelFormat);
 }
 
-Reading<double> RegionAxis::read(Number& number)
+Reading<double> RegionAxis::read(Number& number, int parts)
 {
-    const Reading<double> reading = m_manager.Read(number.name).number();
+    const Reading<double> reading = m_manager.Read(number.name).number(parts);
     number.exists = reading.exists;
     number.isTold = number.isTold || reading.value || (!reading.exists && reading.isComplete);
     number.onCamera = reading.value.value_or(number.onCamera);
+    if ((parts & FeatureReader::Access) != 0)
+        number.limits.isWritable = reading.isWritable;
+    const auto keep = [](auto& known, const auto& told) { known = told ? told : known; };
+    keep(number.limits.minimum, reading.minimum);
+    keep(number.limits.maximum, reading.maximum);
+    keep(number.limits.increment, reading.increment);
     return reading;
-}
-
-double RegionAxis::readOnCamera(Number& number)
-{
-    number.onCamera = m_manager.Read(number.name).value().value_or(number.onCamera);
-    return number.onCamera;
 }
 
 bool RegionAxis::isWritable() const
@@ -163,50 +170,70 @@ void RegionAxis::commit()
 
 void RegionAxis::writeOffset(double value)
 {
-    const double size = readOnCamera(m_size);
-    value = snappedUp(value, m_offset.field.grid());
-    if (m_offset.exists)
-        write(m_offset, cutToMaximum(value, size, readMaximum()));
+    read(m_size, FeatureReader::Value);
+    putOffset(value, FeatureReader::Range);
 }
 
 void RegionAxis::writeSize(double value)
 {
-    const double offset = readOnCamera(m_offset);
-    readPixelFormat();
+    read(m_offset, FeatureReader::Value);
+    putSize(value);
+}
+
+void RegionAxis::putOffset(double value, int limits)
+{
+    value = snappedUp(value, m_offset.field.grid());
+    if (m_offset.exists)
+        write(m_offset, cutToMaximum(value, m_size.onCamera, readMaximum()), limits);
+}
+
+void RegionAxis::putSize(double value)
+{
+    readPixelFormat(FeatureNames::offsetX);
     value = snappedUp(value, m_size.field.grid());
     if (needsEven(FeatureNames::offsetX))
         value = raisedToEven(value);
-    write(m_size, cutToMaximum(value, offset, readMaximum()));
+    write(m_size, cutToMaximum(value, m_offset.onCamera, readMaximum()), FeatureReader::Range);
 }
 
-// Shows what the camera took, or what it had when it does not tell.
-void RegionAxis::write(Number& number, double value)
+// Shows what the camera took, or what it had when it does not tell. Of the limits those are asked
+// for that the other number moves, and what is not known.
+void RegionAxis::write(Number& number, double value, int limits)
 {
-    const double taken = m_manager.SetValue(number.name, value);
-    if (taken >= 0.0)
-        number.onCamera = taken;
-    number.field.showTaken(number.onCamera);
+    read(number,
+         limits | (number.limits.isWritable ? 0 : FeatureReader::Access)
+             | (number.limits.increment ? 0 : FeatureReader::Increment));
+    FeatureReader feature = m_manager.Read(number.name);
+    if (!m_manager.link()->isDoubtful())
+        FeatureWriting::writeNumber(feature, number.name, value, number.limits);
+    const double taken = feature.value().value_or(number.onCamera);
+    if (std::exchange(number.onCamera, taken) != taken)
+        m_written << number.name;
+    number.field.showTaken(taken);
 }
 
 AxisPlan RegionAxis::readPlan(const Span<double>& wanted, double overflowStep)
 {
-    const double offsetMaximum = read(m_offset).maximum.value_or(m_offset.field.box()->maximum());
-    readOnCamera(m_size);
+    read(m_size, FeatureReader::Value);
     const double maximum = readMaximum();
     const FieldGrid sizeGrid = m_size.field.grid();
     const Span<double> snapped{snappedUp(wanted.start, m_offset.field.grid()),
                                snappedUp(wanted.length, sizeGrid)};
     const Span<double> span = overflowCorrected(snapped, maximum, sizeGrid, overflowStep);
-    return {span, writesOffsetFirst(span.start, m_size.onCamera, maximum, offsetMaximum)};
+    if (span.start + m_size.onCamera > maximum)
+        return {span, false};
+    read(m_offset, FeatureReader::Range);
+    const double largestOffset = m_offset.limits.maximum.value_or(m_offset.field.box()->maximum());
+    return {span, span.start <= largestOffset};
 }
 
 void RegionAxis::write(const AxisPlan& plan)
 {
     if (plan.isOffsetFirst) {
-        writeOffset(plan.span.start);
-        writeSize(plan.span.length);
+        putOffset(plan.span.start, 0);
+        putSize(plan.span.length);
     } else {
         writeSize(plan.span.length);
-        writeOffset(plan.span.start);
+        putOffset(plan.span.start, FeatureReader::Range);
     }
 }

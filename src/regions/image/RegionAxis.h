@@ -1,10 +1,13 @@
 #pragma once
 
+#include "features/FeatureReader.h"
 #include "page/NumberField.h"
 #include "sensor/Span.h"
 
 #include <QHash>
 #include <QStringList>
+
+#include <utility>
 
 class FeatureManager;
 
@@ -21,6 +24,7 @@ struct RegionAxisNames
 struct AxisPlan
 {
     Span<double> span; ///< on the grid and within the maximum size
+    /// The size that the camera has fits behind the new offset, which is within its present range.
     bool isOffsetFirst = false;
 };
 
@@ -33,10 +37,15 @@ public:
     RegionAxis(FeatureManager& manager, const RegionAxisNames& names, QDoubleSpinBox* offsetField,
                QDoubleSpinBox* sizeField);
 
-    /// Reads the maximum and what both fields show; those that the user works in keep it. Where
-    /// sizes have to be even, the offset's increment becomes the step of @p stepField. Answers what
-    /// has to be read again.
-    QStringList readAll(QDoubleSpinBox* stepField);
+    /// What a write to one of the numbers moves of both.
+    static constexpr int moved
+        = FeatureReader::Value | FeatureReader::Range | FeatureReader::Access;
+    /// Reads what both fields show, those parts of it, and the maximum that is not known; fields
+    /// that the user works in keep what they show. Where sizes have to be even, the offset's
+    /// increment becomes the step of @p stepField. Answers what has to be read again.
+    QStringList read(QDoubleSpinBox* stepField, int parts = FeatureReader::Whole);
+    /// The features that writes have changed since the last call.
+    QStringList takeWritten() { return std::exchange(m_written, {}); }
 
     /// The maximum size, read when it is not known; 0 until the camera has told it. Forgotten, it
     /// is read again.
@@ -77,19 +86,21 @@ private:
     {
         QString name;
         NumberField field;
+        Reading<double> limits{}; ///< access, range and increment
         double onCamera = 0.0;
         bool exists = false;
         bool isTold = false; ///< also that it is missing
     };
 
     bool readLargest();
-    bool readPixelFormat();
-    bool needsEven(const QString& offset);
-    Reading<double> read(Number& number);
-    double readOnCamera(Number& number);
-    bool showOffset(QDoubleSpinBox* stepField);
-    bool showSize();
-    void write(Number& number, double value);
+    bool readPixelFormat(const QString& offset);
+    bool needsEven(const QString& offset) const;
+    Reading<double> read(Number& number, int parts);
+    bool showOffset(QDoubleSpinBox* stepField, int parts);
+    bool showSize(int parts);
+    void putOffset(double value, int limits);
+    void putSize(double value);
+    void write(Number& number, double value, int limits);
 
     FeatureManager& m_manager;
     Number m_offset;
@@ -102,4 +113,5 @@ private:
     bool m_hasOffsetStep = false;
     QHash<QString, QString> m_categories; ///< they do not change
     QString m_pixelFormat;
+    QStringList m_written;
 };

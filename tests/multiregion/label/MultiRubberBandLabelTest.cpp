@@ -279,6 +279,8 @@ private slots:
         QCOMPARE(m_events.last(), QString("0: 1024,0 2048x2"));
         drag(m_label.get(), {101, 0}, {50, 0});
         QCOMPARE(m_events.last(), QString("0: 512,0 2560x2"));
+        drag(m_label.get(), {200, 0}, {150, 0});
+        QCOMPARE(m_events.last(), QString("0: 0,0 2560x2"));
     }
 
 private:

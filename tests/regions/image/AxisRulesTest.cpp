@@ -54,9 +54,6 @@ private slots:
             (overflowCorrected({40.0, 32.0}, 64.0, {8.0, 8.0}, 4.0) == Span<double>{36.0, 24.0}));
         QVERIFY(
             (overflowCorrected({32.0, 32.0}, 64.0, {8.0, 8.0}, 4.0) == Span<double>{32.0, 32.0}));
-        QVERIFY(writesOffsetFirst(32.0, 32.0, 64.0, 32.0));
-        QVERIFY(!writesOffsetFirst(33.0, 32.0, 64.0, 48.0));
-        QVERIFY(!writesOffsetFirst(32.0, 16.0, 64.0, 24.0));
         QVERIFY((centredSpan(1001.0, 0.25) == Span<double>{375.5, 250.0}));
     }
 };
