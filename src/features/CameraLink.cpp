@@ -64,17 +64,19 @@ void CameraLink::remember(const Question& question, const std::any& answer)
 
 bool CameraLink::mayPart() const
 {
-    return m_parting < patience || Clock::now() - m_firstParting > laterPause;
+    return m_parting + m_lastParting <= patience || Clock::now() - m_firstParting > laterPause;
 }
 
 void CameraLink::parted(ZebErrorType result, Milliseconds duration)
 {
     const Clock::time_point now = Clock::now();
     if (result == Sdk::success || now - m_firstParting > laterPause)
-        m_parting = Milliseconds{0};
+        m_parting = m_lastParting = Milliseconds{0};
     if (result == Sdk::success)
         return;
     if (m_parting == Milliseconds{0})
         m_firstParting = now;
     m_parting += duration;
+    m_lastParting = duration;
+    m_isDoubtful = m_isDoubtful || isSlow(duration);
 }

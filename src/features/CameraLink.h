@@ -43,7 +43,8 @@ public:
     /// The camera is lost and many reads are under way: the rest is left.
     bool isClosed() const { return m_isLost && m_manyReads > 0; }
 
-    /// Failing calls up to the patience, for all pages that let go within five seconds.
+    /// Whether one more failing call is within the patience, of all pages that let go within five
+    /// seconds.
     bool mayPart() const;
     void parted(ZebErrorType result, Milliseconds duration);
 
@@ -79,6 +80,7 @@ private:
     Clock::time_point m_nextQuestion;
     Clock::time_point m_firstParting;
     Milliseconds m_parting{0};
+    Milliseconds m_lastParting{0};
 };
 
 /// While it lives, look-ups and reads by way of a manager end at the loss: nothing more is asked,

@@ -139,7 +139,7 @@ void AutoROIWidget::OnSpinEditingFinished()
     if (!m_ui)
         return;
     // The field has missed what the camera told while it was being typed in.
-    if (!isAtWork())
+    if (!isAtWork() && isVisible())
         m_view->refresh();
     readSoon({});
 }

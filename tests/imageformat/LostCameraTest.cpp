@@ -41,13 +41,13 @@ struct LostPage
 
     ~LostPage() { camera->recover(); }
 
-    /// Calls that made their caller wait, but for observers that are let go: these have a time of
-    /// their own.
-    int slowCalls() const
+    /// Calls that made their caller wait: to let observers go, which has a time of its own, or all
+    /// others.
+    int slowCalls(bool areLettingGo = false) const
     {
         const auto entries = camera->journal().entries();
-        return int(std::count_if(entries.begin(), entries.end(), [](const sim::JournalEntry& each) {
-            return each.operation != Operation::UnregisterObserver
+        return int(std::count_if(entries.begin(), entries.end(), [=](const auto& each) {
+            return (each.operation == Operation::UnregisterObserver) == areLettingGo
                 && (each.result == ZebErrorBadHandle || each.result == ZebErrorTimeout);
         }));
     }
@@ -106,6 +106,14 @@ private slots:
         row("turn to the regions, nothing is told", true, 0, turnTo(2));
     }
     void actionsAreShort() { runRow(); }
+
+    /// One second goes into the observers of all pages.
+    void letsGoInTime()
+    {
+        LostPage f("current", true, 0);
+        f.page.reset();
+        QVERIFY(f.slowCalls(true) > 1 && f.slowCalls(true) <= 10);
+    }
 
     /// A known loss costs one question a second, whatever is shown, and is told once.
     void asksOnceASecond()
