@@ -13,9 +13,8 @@
 /// Whether the camera still answers; all pages and tables of a camera share one. One that was
 /// unplugged lets every call wait before it fails.
 ///
-/// The link stops no call: what makes many calls asks it, an edit never does. It hears of values,
-/// ranges, increments and access; names and types answer when the camera is long gone. For the GUI
-/// thread only.
+/// The link stops no call: what makes many asks it, an edit never does. It hears of values, ranges,
+/// increments and access; names and types answer when the camera is gone. For the GUI thread only.
 class CameraLink
 {
 public:
@@ -43,8 +42,7 @@ public:
     /// The camera is lost and many reads are under way: the rest is left.
     bool isClosed() const { return m_isLost && m_manyReads > 0; }
 
-    /// Whether one more failing call is within the patience, of all pages that let go within five
-    /// seconds.
+    /// Whether one more failing call is within the patience, for all pages within five seconds.
     bool mayPart() const;
     void parted(ZebErrorType result, Milliseconds duration);
 
@@ -83,8 +81,7 @@ private:
     Milliseconds m_lastParting{0};
 };
 
-/// While it lives, look-ups and reads by way of a manager end at the loss: nothing more is asked,
-/// and what was not told counts as not known.
+/// While it lives, look-ups and reads by way of a manager end at the loss; the rest is not known.
 class CameraLink::ManyReads
 {
 public:

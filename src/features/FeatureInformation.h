@@ -4,5 +4,4 @@
 
 class FeatureReader;
 
-/// The rich-text description of a feature, for tool tips.
 QString featureInformation(FeatureReader& feature);

@@ -9,9 +9,8 @@
 #include <QVariant>
 #include <QVector>
 
-/// Typed access to the features of one camera by name. Alternative names are tried in order when
-/// the one before is missing; they are compared byte by byte, and the first feature of that name
-/// wins.
+/// Typed access to the features of one camera by name, compared byte by byte; the first feature of
+/// a name wins. Alternative names are tried in order.
 ///
 /// Nothing throws. What is missing or cannot be read is -1 for numbers, else false, empty, unknown.
 class FeatureManager
@@ -78,9 +77,8 @@ public:
                                  const QString& alternative2, bool& writable, double& minimum,
                                  double& maximum, double& increment);
 
-    /// As GetValueState() without the writability, fit for an input field: the maximum of an
-    /// integer lies on a whole multiple of its increment (counted from 0, as SetValue() writes it),
-    /// and a float without an increment gets 0.01.
+    /// Fit for an input field: the maximum of an integer lies on a whole multiple of its increment
+    /// (counted from 0, as SetValue() writes it), and a float without an increment gets 0.01.
     virtual double GetValueRange(const QString& name, double& minimum, double& maximum,
                                  double& increment)
     {
@@ -171,11 +169,9 @@ public:
     virtual QString GetInformation(const QString& name);
     virtual QStringList GetFeatureNames();
 
-    /// Writes any kind of value and runs commands. True when the feature exists, can be written and
-    /// the camera took the value.
+    /// Any kind of value, or runs a command. True when the camera took it.
     virtual bool SetVariantValue(const QString& name, const QVariant& value);
 
-    /// One look-up for all that is read of a feature.
     FeatureReader Read(const QString& name, const QString& alternative1 = {},
                        const QString& alternative2 = {}) const;
     /// All features of those names, in the camera's order, by one look-up.

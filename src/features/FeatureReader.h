@@ -8,8 +8,7 @@
 
 #include <memory>
 
-/// Reads of the feature that a look-up found, of which the camera's link hears, and which it may
-/// remember. Without a feature there is nothing in its answers.
+/// Reads of the feature that a look-up found, if any, of which the camera's link hears.
 class FeatureReader
 {
 public:

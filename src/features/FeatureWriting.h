@@ -6,8 +6,8 @@
 #include <QVariant>
 
 /// Writes of one feature, by its data type. Each answers whether the camera took the value as it
-/// was given to it. Failures of numbers are logged under @p name; nothing is tried again, except
-/// where the functions say so.
+/// was given. Failures of numbers are logged under @p name; nothing is tried again but where it
+/// says so.
 namespace FeatureWriting {
 
 /// Integers are aligned to the increment, counted from 0, and all numbers clamped to the range. A
@@ -17,8 +17,7 @@ bool writeNumber(FeatureReader& feature, const QString& name, double value);
 bool writeNumber(FeatureReader& feature, const QString& name, double value,
                  const Reading<double>& limits);
 
-/// Any type: numbers as writeNumber(), whole numbers with all their 64 bits; texts and entries as
-/// text; bytes; commands run.
+/// Numbers as above, whole ones with all their 64 bits; texts and entries; bytes; commands run.
 bool writeVariant(FeatureReader& feature, const QString& name, const QVariant& value);
 
 } // namespace FeatureWriting

@@ -5,8 +5,7 @@
 #include <type_traits>
 
 /// Truncates toward zero; what lies outside the target, which the language leaves undefined,
-/// saturates at its nearest bound, NaN becomes 0. Cameras report unset ranges as infinities or
-/// 2^63.
+/// saturates, NaN becomes 0. Cameras report unset ranges as infinities or 2^63.
 template <typename Integer> constexpr Integer saturatingCast(double value)
 {
     static_assert(std::is_integral_v<Integer>);

@@ -17,8 +17,7 @@ public:
     void FeatureChanged(const ZebCPP::FeaturePtr& feature) override;
 
 signals:
-    /// @p sValue is the value as text: integers decimal, floats with six significant digits,
-    /// booleans "true" or "false", a fixed text for commands and raw data, and empty when it could
-    /// not be read.
+    /// @p sValue is the value as text: floats with six significant digits, booleans "true" or
+    /// "false", a fixed text for commands and raw data, empty when it could not be read.
     void setChangedFeature(const QString& featureName, const QString& sValue);
 };

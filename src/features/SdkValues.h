@@ -2,8 +2,7 @@
 
 #include <ZebCPP/ZebCPP.h>
 
-/// The SDK's values that the module relies on. The SDK promises the numbers; its names for them are
-/// its own and differ from the stand-in's.
+/// The SDK promises these numbers; its names for them differ from the stand-in's.
 namespace Sdk {
 
 constexpr auto success = static_cast<ZebErrorType>(0);

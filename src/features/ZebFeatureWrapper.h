@@ -11,10 +11,9 @@
 #include <string>
 #include <vector>
 
-/// The program's handle on one camera feature: the SDK's operations on standard strings and
-/// vectors. Every operation answers the SDK's result code, none throws, and outputs are written
-/// only as far as the SDK wrote them. A null feature answers Sdk::badHandle, an exception of the
-/// SDK or an absurd length Sdk::resources.
+/// One camera feature: the SDK's operations on standard strings and vectors. Each answers the SDK's
+/// code, none throws, and outputs are written only as far as the SDK wrote them. A null feature
+/// answers Sdk::badHandle, an exception of the SDK or an absurd length Sdk::resources.
 class ZebFeatureWrapper
 {
     using Raw = ZebCPP::Feature;

@@ -141,8 +141,7 @@ void FeatureItemDelegate::closeEnded(DelegateWidget* editor)
 {
     const QPointer<FeatureItemDelegate> self(this);
     const QPointer<DelegateWidget> watched(editor);
-    // The view would not get the focus back by itself, for a control inside the editor has it. The
-    // change is heard outside, too.
+    // A control inside the editor has the focus, so that the view would not get it back by itself.
     if (editor->isAncestorOf(editor->window()->focusWidget()) && editor->parentWidget())
         editor->parentWidget()->setFocus();
     if (self && watched)

@@ -5,8 +5,7 @@
 
 class DelegateWidget;
 
-/// Draws the value cells and edits them in place, by the FeatureInfo that each carries under
-/// Qt::UserRole. Its parent is the table.
+/// Draws the value cells and edits them in place. Its parent is the table.
 class FeatureItemDelegate : public QStyledItemDelegate
 {
     Q_OBJECT
@@ -24,11 +23,9 @@ public:
                       const QModelIndex& index) const override;
     void updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,
                               const QModelIndex& index) const override;
-    /// High enough for every kind of editor.
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
 
 public slots:
-    /// Slots of the editors' signals.
     void commitEditor();
     void commitAndCloseEditor();
     /// Closes an open editor without committing it.

@@ -35,12 +35,11 @@ public:
         return info ? accessibleCellText(*info, data(Qt::DisplayRole)) : data(Qt::DisplayRole);
     }
 
-    /// Every display value is told of, also one equal to the present: a value that was refused is
-    /// tried again, and a command runs again.
+    /// Every display value is told of, also an equal one: a refused value is tried, a command run
+    /// again.
     void setData(int role, const QVariant& value) override
     {
-        // The base keeps a value that QVariant takes for equal, and floating-point numbers are
-        // compared loosely there.
+        // The base keeps what QVariant takes for equal, and that compares numbers loosely.
         if (role == Qt::DisplayRole && tableWidget() && data(role) == value) {
             const QSignalBlocker blocker(tableWidget()->model());
             QTableWidgetItem::setData(role, {});
@@ -149,8 +148,7 @@ void FeaturesTableWidget::updateFeatures(const QStringList& features)
     }
 }
 
-/// An open editor is the user's, but its record follows what became of a value that it passed on
-/// while it stays open.
+/// An open editor is the user's, but its record follows what became of a value that it passed on.
 void FeaturesTableWidget::updateRow(int row, const QString& name)
 {
     m_pending.removeAll(name);

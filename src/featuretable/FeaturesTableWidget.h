@@ -30,8 +30,8 @@ public:
     FeaturesTableWidget(const QStringList& features, FeatureManager* manager, QWidget* parent);
     ~FeaturesTableWidget() override;
 
-    /// Whether an editor is open. A double click on a cell that cannot be edited emits
-    /// cellEditorActive(true) without one.
+    /// A double click on a cell that cannot be edited emits cellEditorActive(true) without an
+    /// editor.
     bool isEditing() const;
     /// The feature whose value is edited, from the double click on; empty when there is none.
     QString editedFeature() const;
@@ -67,7 +67,6 @@ protected:
     /// Reads one feature. While the base is constructed its own version fills the rows.
     virtual FeatureInfo readFeature(const QString& name);
 
-    /// Passes an edited value on.
     virtual void save(const FeatureInfo& info, const QVariant& value);
 
     FeatureManager* manager() const { return m_manager; }

@@ -22,8 +22,7 @@ Q_DECLARE_METATYPE(std::shared_ptr<QPixmap>)
 
 /// The viewer's interface to the root object of a tab extension plug-in.
 ///
-/// Deliberately without Q_OBJECT: the viewer and the plug-in both include this header, and neither
-/// has to compile a meta-object for it.
+/// Without Q_OBJECT, so that neither viewer nor plug-in has to compile a meta-object for it.
 class TabExtensionInterface : public QObject
 {
 public:

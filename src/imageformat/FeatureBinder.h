@@ -28,8 +28,7 @@ public:
     /// of the combo box, which then selects nothing.
     bool write(QWidget* field, const QVariant& value);
 
-    /// The form's fields for these features, in the features' order; none of a derived class, which
-    /// has rules of its own.
+    /// In the features' order; none of a derived class, which has rules of its own.
     QList<QWidget*> boundTo(const QStringList& features) const;
 
 private:

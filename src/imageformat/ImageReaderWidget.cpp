@@ -97,8 +97,7 @@ void ImageReaderWidget::closeDialog()
     m_dialog.clear();
     if (!dialog)
         return;
-    // What the dialog itself asks lies on the stack: neither may be deleted before that has
-    // unwound.
+    // What the dialog itself asks lies on the stack: neither may be deleted before it unwinds.
     const auto questions = dialog->findChildren<QDialog*>();
     for (QDialog* const question : questions)
         question->reject();

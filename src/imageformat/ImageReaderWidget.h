@@ -11,8 +11,7 @@
 
 class QFileDialog;
 
-/// The list from which the user chooses what the regions are drawn over: nothing, the viewer's
-/// latest frame, or a picture file.
+/// What the regions are drawn over: nothing, the viewer's latest frame, or a picture file.
 class ImageReaderWidget : public QComboBox
 {
     Q_OBJECT
@@ -35,16 +34,14 @@ public:
     const QString& fileFault() const { return m_fileFault; }
 
 signals:
-    /// The new background; an empty pointer means none. A file that is no picture gives a null
-    /// pixmap.
+    /// An empty pointer means no background. A file that is no picture gives a null pixmap.
     void imageChanged(std::shared_ptr<QPixmap> image);
     /// Asks the viewer for its latest frame, which comes to onFrameReceived.
     void requestFrame();
 
 public slots:
     void onFrameReceived(const QPixmap& frame);
-    /// Takes the background from the source at this index; leaves the list's current entry as it
-    /// is. Ends a file dialog that is open.
+    /// Leaves the list's current entry as it is. Ends a file dialog that is open.
     void onComboBoxItemActivated(int index);
 
 protected:

@@ -9,8 +9,7 @@ struct PictureFile
     QPixmap picture;
     QString fault; ///< why there is no picture, for the user; empty when there is one
 
-    /// Refuses what is no file, as reading a pipe would wait for ever, and pictures far larger than
-    /// any sensor, which would take all memory.
+    /// Refuses what is no file (reading a pipe would wait for ever) and what would take all memory.
     static PictureFile load(const QString& fileName);
 
     /// For a dialog, as in "Image files (*.bmp *.png)".

@@ -42,8 +42,7 @@ signals:
     void regionActivated(int regionNo, bool active);
 
 public slots:
-    /// @param regionRect in sensor pixels; the null rectangle shrinks the region to the camera's
-    /// minimum and does not activate it
+    /// @param regionRect sensor pixels; the null one shrinks the region and does not activate it
     void saveNewRegionGeometry(int regionNo, QRect regionRect);
     void onRegionButtonToggled();
     void onArrangementModeChanged(int index);

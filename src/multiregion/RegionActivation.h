@@ -14,15 +14,14 @@ class RegionCamera;
 class RegionTabs;
 class RegionWriter;
 
-/// Switches regions on and off in a way that the arrangement can satisfy, and loads the default
-/// layouts.
+/// Switches regions as the arrangement can satisfy, and loads the default layouts.
 class RegionActivation : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Nothing when by the time of the answer, whatever that was, the page is gone or hidden, or
-    /// the camera streams or is arranged otherwise.
+    /// Nothing when the page is gone or hidden by then, or the camera streams or is arranged
+    /// otherwise.
     using Ask = std::function<std::optional<Answer>(Question)>;
 
     RegionActivation(RegionCamera& camera, RegionTabs& tabs, RegionWriter& writer, Ask ask);

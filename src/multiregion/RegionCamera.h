@@ -20,12 +20,10 @@ struct RegionState
     std::optional<RegionSizeLimits> limits; ///< when they were asked for
 };
 
-/// The camera's features of its regions. Except for the sensor's and the selector's, a feature is
-/// that of the region selected last, by whomever: select() before every access. What the camera
-/// does not tell is empty.
+/// Except for the sensor's and the selector's, a feature is that of the region selected last, by
+/// whomever: select() before every access. What the camera does not tell is empty.
 ///
-/// Cameras of older generations have no horizontal features of the regions' own; "OffsetX" and
-/// "Width" take their place.
+/// Older cameras have "OffsetX" and "Width" in the place of the regions' own.
 class RegionCamera
 {
 public:

@@ -18,8 +18,7 @@ public:
     RegionLabelWidget(int regionNo, const QRect& regionRect, const QColor& color, QWidget* parent);
     ~RegionLabelWidget() override;
 
-    /// Writes number, position and size, in sensor pixels. The mark of the region being edited goes
-    /// with the old number.
+    /// Sensor pixels. The mark of the region being edited goes with the old number.
     void setRegionGeometry(const QRect& regionRect);
 
     QSize minimumSizeHint() const override;

@@ -26,8 +26,7 @@ public:
     /// The arrangement's name.
     std::optional<QString> refreshArrangement();
     void writeArrangement(int index);
-    /// Shows the warning alone while the picture is binned or reversed. False when the camera did
-    /// not tell.
+    /// Warns alone while the picture is binned or reversed. False when the camera did not tell.
     bool testCompatibility();
 
 private:

@@ -9,9 +9,8 @@
 
 class MultiROIWidget;
 
-/// The feature table of one region. What the user edits goes to the page together with the region's
-/// number; features that the region shares are offered only as far as the region's neighbours
-/// allow.
+/// The feature table of one region. Edits go to the page with the region's number; shared features
+/// are offered only as far as the region's neighbours allow.
 class RegionTableWidget : public FeaturesTableWidget
 {
     Q_OBJECT
@@ -20,8 +19,7 @@ public:
     RegionTableWidget(int regionNo, MultiROIWidget* page, const QStringList& features,
                       QWidget* parent);
 
-    /// What the camera tells of its regions; cameras of older generations keep some of it
-    /// elsewhere.
+    /// What the camera tells of its regions; older cameras keep some of it elsewhere.
     /// @param manager of no other features: a table looks each of its rows up by walking its list
     static QStringList findFeatures(FeatureManager& camera,
                                     std::unique_ptr<FeatureManager>& manager);

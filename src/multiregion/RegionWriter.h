@@ -60,8 +60,7 @@ public:
     /// Opens a region's tab to the camera: selects it, and reads its table if another was open.
     void open(int region);
 
-    /// @param rect sensor pixels; the null rectangle shrinks the region to the camera's minimum and
-    /// does not activate it
+    /// @param rect sensor pixels; the null one shrinks the region and does not activate it
     void save(int region, const QRect& rect);
     void setActive(int region, bool on);
     void setFeature(const QVector<int>& regions, const QString& name, const QVariant& value);
@@ -72,8 +71,7 @@ public:
     /// Reads all when the work is done, and not before.
     void load(const std::function<void()>& work);
     void readUntold();
-    /// The region that the camera has selected; with its mode, which another client may have
-    /// changed.
+    /// The camera's selected region; with its mode, which another client may have changed.
     void readSelected(bool withMode);
     /// Looks for regions that another client has switched, when that is due; asked once a second.
     void lookIfDue();

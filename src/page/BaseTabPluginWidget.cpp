@@ -41,8 +41,7 @@ void silenceQt()
     qInstallMessageHandler(discardMessage);
 }
 
-/// A wheel event to a field without the focus. The exact class counts: derived widgets decide for
-/// themselves what the wheel does.
+/// To a field without the focus. Derived classes decide for themselves what the wheel does.
 bool isUnfocusedFieldWheel(const QObject* target, const QEvent& event)
 {
     const auto* widget = qobject_cast<const QWidget*>(target);
@@ -141,8 +140,7 @@ void BaseTabPluginWidget::updateTimer()
     hold.handled();
 }
 
-/// Asks a lost camera itself, now and then, each time another feature: it may be that one which
-/// does not answer.
+/// Asks a lost camera now and then, each time for another feature: one alone may not answer.
 bool BaseTabPluginWidget::isCameraLost()
 {
     CameraLink& link = *featureManager->link();
@@ -170,7 +168,6 @@ void BaseTabPluginWidget::reportLoss(const QString& message)
         m_outerPage->reportLoss(message);
 }
 
-/// A refresh ends where the camera is lost.
 void BaseTabPluginWidget::refreshWhileAnswered()
 {
     const QPointer<BaseTabPluginWidget> page = this;

@@ -58,12 +58,10 @@ public slots:
     void OnFeatureChanged(const QString& name, const QString& value);
 
 protected:
-    /// Refreshes the page from the features named in changedFeatures; called with the list locked.
-    /// The page works on a copy of the list.
+    /// From the features named in changedFeatures; called with the list locked, on a copy of it.
     virtual void refreshFeatures() = 0;
     virtual bool isVendorSupported(FeatureManager* manager);
-    /// The palette of the page or of the application changed. This may come while a derived
-    /// constructor runs.
+    /// Of the page or of the application; this may come while a derived constructor runs.
     virtual void onPaletteChanged(QEvent* event) = 0;
     /// The camera does not answer any more. Tells the outer page; the outermost tells the viewer.
     virtual void reportLoss(const QString& message);

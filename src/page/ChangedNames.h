@@ -14,7 +14,6 @@ public:
     class Hold;
 
     void note(const QString& name);
-    /// Also what waits.
     void clear();
     bool isHeld() const { return m_isHeld; }
 
@@ -30,8 +29,7 @@ private:
     bool m_isHeld = false;
 };
 
-/// Keeps the list locked. Only the outermost does, as when a page is shown or hidden from within a
-/// refresh.
+/// Keeps the list locked; only the outermost does, as when a refresh shows or hides the page.
 class ChangedNames::Hold
 {
 public:

@@ -6,14 +6,12 @@
 
 class QTimer;
 
-/// What a page has to read of the camera again.
 struct Changes
 {
     bool all = false;
     QStringList names;
 
     bool isEmpty() const { return !all && names.isEmpty(); }
-    /// Whether one of @p candidates has to be read.
     bool any(const QStringList& candidates) const;
 };
 
@@ -50,9 +48,8 @@ protected:
     /// Whether the user drags or edits; nothing is read meanwhile.
     virtual bool isAtWork() const = 0;
 
-    /// Shows what the camera holds of @p changes. Answers what has to be read once more, because
-    /// the camera did not tell it or a field is being typed in; it stays pending. Called with every
-    /// tick, also without changes.
+    /// Shows what the camera holds of @p changes, with every tick, also without any. Answers what
+    /// has to be read once more, because it was not told or a field is being typed in.
     virtual QStringList refresh(const Changes& changes) = 0;
 
     // Cameras need not notify of what the page itself did: with the next refresh, as readAgain(),
@@ -61,11 +58,9 @@ protected:
     void readSoon(const QStringList& names);
     void readAllSoon();
 
-    /// To be called when the form is built.
     void guardFieldsAgainstWheel();
 
     bool isRefreshing() const { return m_isRefreshing; }
-    /// As the viewer told last.
     bool isStreaming() const { return m_isStreaming; }
     void setStreaming(bool isStreaming) { m_isStreaming = isStreaming; }
 

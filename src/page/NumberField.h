@@ -5,8 +5,7 @@
 class QDoubleSpinBox;
 class QSpinBoxMouseEventFilter;
 
-/// The grid of a number field, which carries its feature's minimum and increment. Both count
-/// truncated to int.
+/// A field's minimum and step, which are its feature's. Both count truncated to int.
 struct FieldGrid
 {
     double minimum = 0.0;
@@ -17,8 +16,7 @@ struct FieldGrid
 double snappedUp(double value, const FieldGrid& grid);
 
 /// A number field, the mouse on it, and what it shows of the camera. Nothing here but commit()
-/// makes the field emit. What the camera does not tell stays as it is shown: minimum and step are
-/// the grid of all input.
+/// makes the field emit. What the camera does not tell stays as it is shown.
 class NumberField
 {
 public:
@@ -36,22 +34,17 @@ public:
     bool showWhole(const Reading<double>& reading);
     /// Without an increment the step stays.
     void showStep(const Reading<double>& reading);
-    /// What the camera reports after a write. A value outside the range widens it: cameras report
-    /// ranges and values one by one.
+    /// After a write. A value outside the range widens it: cameras report them one by one.
     void showTaken(double value);
     /// A value that is not the camera's yet, cut to the range.
     void showProvisional(double value);
     /// Never below the minimum, which Qt would lower otherwise.
     void limitTo(double maximum);
 
-    /// Lets the user edit, as far as the camera does.
     void setEnabled(bool isEnabled);
     bool isWritable() const { return m_isWritable; }
-    /// Whether the mouse button is held on it.
     bool isHeld() const;
-    /// Whether the user has typed something that is not confirmed yet.
     bool isBeingTyped() const;
-    /// Confirms what is being typed.
     void commit();
 
 private:

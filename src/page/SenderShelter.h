@@ -6,8 +6,7 @@
 
 #include <memory>
 
-/// Children of a page whose signals are being handled. Qt still works on them afterwards: they
-/// outlive a page that a receiver deletes.
+/// Children of a page whose signals are being handled outlive a page that a receiver deletes.
 class SenderShelter
 {
 public:

@@ -2,8 +2,7 @@
 
 #include <QString>
 
-/// Why a page could not be built. Thrown by value by the pages' constructors, caught at the plug-in
-/// entry, which answers the code to the viewer.
+/// Why a page could not be built. The plug-in entry answers the code to the viewer.
 class TabExtensionException
 {
 public:

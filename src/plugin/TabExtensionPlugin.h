@@ -2,8 +2,7 @@
 
 #include "host/TabExtensionInterface.h"
 
-/// The root object of the plug-in. It keeps no list of pages: each belongs to the viewer's widget
-/// that it was created on.
+/// Keeps no list of pages: each belongs to the viewer's widget that it was created on.
 class TabExtensionPlugin : public TabExtensionInterface
 {
     Q_OBJECT

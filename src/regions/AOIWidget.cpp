@@ -95,8 +95,6 @@ void AOIWidget::connectForm()
     connect(m_ui->btnQuarter, SIGNAL(clicked()), this, SLOT(OnROIQuarter()));
 }
 
-// Editing
-
 // Nothing is written during a drag, whose end sets all four.
 void AOIWidget::writeOffset(const std::unique_ptr<RegionAxis>& axis, double value)
 {
@@ -194,8 +192,6 @@ void AOIWidget::applyPreset(const Span<double>& horizontal, const Span<double>& 
     m_vertical->forgetMaximum();
 }
 
-// What the page shows of the camera
-
 bool AOIWidget::isAtWork() const
 {
     return m_label && m_label->isDragging();
@@ -290,8 +286,6 @@ QString AOIWidget::problemText(bool isTooWide, bool isTooHigh)
         text += tr("\n\tOffsetY + Height > Maximum Height! ");
     return text;
 }
-
-// The viewer
 
 void AOIWidget::camIsStreaming(bool streaming)
 {

@@ -14,8 +14,7 @@ namespace Ui {
 class AOIWidget;
 }
 
-/// The page of the image region: number fields, presets, and the region on the sensor area. During
-/// a drag nothing is written.
+/// Number fields, presets, and the image region on the sensor area. A drag writes nothing.
 ///
 /// A camera without an image size leaves the accessible name empty and the page without a form;
 /// such a page is to be deleted.

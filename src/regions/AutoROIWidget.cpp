@@ -118,8 +118,6 @@ void AutoROIWidget::connectLabel()
     connect(label, &Label::dragDropped, this, &Page::onDragDropped);
 }
 
-// Editing
-
 void AutoROIWidget::writeNumber(RegionNumber number, double value)
 {
     // Nothing is written during a drag, whose end sets all four.
@@ -185,8 +183,6 @@ bool AutoROIWidget::pumpEvents()
     return !self.isNull();
 }
 
-// Dragging
-
 void AutoROIWidget::OnGeometryChangeStarted()
 {
     if (m_ui)
@@ -236,8 +232,6 @@ void AutoROIWidget::OnSendGeometry(int top, int left, int width, int height)
     readAllSoon();
 }
 
-// Presets
-
 void AutoROIWidget::SetFullArea()
 {
     if (!m_ui)
@@ -266,8 +260,6 @@ template <typename Preset> void AutoROIWidget::applyPreset(const Preset& preset)
     readAllSoon();
 }
 
-// Exposure
-
 void AutoROIWidget::writeLimit(ExposureLimits::Which which, double value)
 {
     if (m_ui)
@@ -287,8 +279,6 @@ void AutoROIWidget::OnExpAutoTimebaseChanged(const QString& timebase)
     writeEntry(m_ui->comboExpAutoTimeBase, Name::exposureAutoTimebase, timebase);
     readAgain(m_exposure->refresh());
 }
-
-// The viewer and the camera
 
 void AutoROIWidget::camIsStreaming(bool streaming)
 {
@@ -311,8 +301,6 @@ void AutoROIWidget::setBackgroundImage(std::shared_ptr<QPixmap> image)
     m_picture->setImage(std::move(image));
     readAgain(m_camera->takeUntold());
 }
-
-// What the page shows of the camera
 
 void AutoROIWidget::showEvent(QShowEvent* event)
 {

@@ -9,26 +9,22 @@ class QPainter;
 class QStyleOptionRubberBand;
 class QWidget;
 
-/// A style's rubber band, drawn once and small: any band consists of its corners, of its edges
-/// drawn out and of an inside of one colour. The style's own way takes longer the larger the band
-/// is, however little of it is painted.
+/// A style's rubber band, drawn once and small: a band is its corners, its edges drawn out and an
+/// inside of one colour. The style's own way takes longer the larger the band is.
 ///
 /// There is nothing to draw out for a style that gives the inside more than one colour, and on
 /// screens whose pixels are no whole fraction of the logical ones.
 class BandImage
 {
 public:
-    /// As the band's style, palette and screen demand.
     BandImage(const QStyleOptionRubberBand& option, const QWidget& band);
 
     /// Whether a band can be drawn out: it is large enough to have both borders of each axis whole.
     bool fits(const QSize& band) const;
 
-    /// Paints the part in @p region of a band that fits.
     void paint(QPainter& painter, const QRect& band, const QRegion& region) const;
 
-    /// What has to be painted anew when a band goes from one place to another: not what is inside
-    /// before and after.
+    /// What to paint anew when a band moves: not what is inside before and after.
     QRegion changed(const QRect& before, const QRect& after) const;
 
 private:

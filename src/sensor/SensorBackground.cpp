@@ -52,15 +52,13 @@ QImage withMargins(const QImage& image, const QRect& source, const QRect& part, 
     return spread(area, size);
 }
 
-/// The sensor pixels that are shown.
 QRect shownArea(const SensorPicture& picture)
 {
     const QRect sensor(QPoint(0, 0), picture.sensor);
     return picture.crop.isEmpty() ? sensor : picture.crop & sensor;
 }
 
-/// The shown area spread over @p size without a copy of the image, in the top left corner of a
-/// black pixmap.
+/// The shown area spread over @p size in the top left corner of a black pixmap, without a copy.
 QPixmap composed(const SensorPicture& picture, const QSize& size, const QSize& target)
 {
     QImage pixels = picture.image->toImage();

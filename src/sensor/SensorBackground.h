@@ -10,13 +10,11 @@
 /// Windows 7 and its predecessors paint no translucent placeholder well.
 bool needsOpaquePlaceholder(const QOperatingSystemVersion& system);
 
-/// A region's colour as the tint of an empty sensor area: hue and lightness kept, less saturated,
-/// translucent.
+/// The tint of an empty sensor area: hue and lightness kept, less saturated, translucent.
 QColor placeholderTint(const QColor& color);
 
-/// A picture in the top left corner of a sensor, of which a part shows: all of it when the part is
-/// empty. A smaller image leaves black margins, a larger one is cut; its device pixel ratio does
-/// not count.
+/// A picture in the top left corner of a sensor, of which all shows or the part that is not empty.
+/// A smaller image leaves black margins, a larger one is cut; its pixel ratio does not count.
 struct SensorPicture
 {
     std::shared_ptr<const QPixmap> image;

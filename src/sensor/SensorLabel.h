@@ -20,12 +20,10 @@ public:
     bool isDragging() const { return m_button != Qt::NoButton; }
 
     QSize sensorSize() const { return m_sensor; }
-    /// Of the picture on the label.
     QSize shownSize() const { return m_shown; }
 
 signals:
-    /// A drag is about to begin, with what the receivers leave on the label: what is being edited
-    /// is to be written now.
+    /// A drag is about to begin: what is being edited is to be written now.
     void aboutToDrag();
     /// A drag has ended without a result: the label was disabled or hidden, or lost the mouse.
     void dragDropped();
@@ -40,8 +38,7 @@ protected:
     /// @param keptSize at which the picture is kept; when resized it keeps this aspect ratio
     /// @param bounds into which it is fitted
     void setPicture(const SensorPicture& picture, const QSize& keptSize, const QSize& bounds);
-    /// Nothing shows but the picture as it is: a disabled label paints it paler, and what is in the
-    /// margins is not the picture.
+    /// The picture shows as it is: a disabled label paints it paler, margins are no picture.
     bool isPlain() const { return isEnabled() && contentsRect() == rect(); }
     /// Next to @p point on the picture, its right and bottom border included.
     QPoint clampedToPicture(const QPoint& point) const;

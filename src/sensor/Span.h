@@ -5,8 +5,7 @@
 
 #include <cmath>
 
-/// One axis of a rectangle, in pixels of the rectangle: whole ones, or exact ones as a camera tells
-/// them.
+/// One axis of a rectangle, in whole pixels, or in exact ones as a camera tells them.
 template <typename Number> struct Span
 {
     Number start{};

@@ -4,8 +4,7 @@
 #include <QPointer>
 #include <QToolButton>
 
-/// A section header: an arrow and a title. Checked shows the section's content, unchecked folds it
-/// away.
+/// An arrow and a title. Checked shows the section's content, unchecked folds it away.
 class CollapsingButton : public QToolButton
 {
     Q_OBJECT

@@ -5,8 +5,7 @@
 class QMenu;
 class QToolButton;
 
-/// A tab widget that can list its tabs in a menu, for when they no longer fit the tab bar, and can
-/// offer a "+" button that asks for a new tab.
+/// Can list its tabs in a menu when they no longer fit, and offer a "+" button for a new one.
 class ExtendedTabWidget : public QTabWidget
 {
     Q_OBJECT

@@ -2,8 +2,7 @@
 
 #include <QObject>
 
-/// Tells when the mouse button is released over the spin box that it is installed on: a page writes
-/// the value once, after the arrows were held.
+/// Tells when the mouse is released over its spin box, so that a value is written once.
 class QSpinBoxMouseEventFilter : public QObject
 {
     Q_OBJECT

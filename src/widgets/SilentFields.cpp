@@ -7,8 +7,7 @@
 void showChecked(QCheckBox* box, bool isChecked)
 {
     const QSignalBlocker blocker(box);
-    // Not setChecked(): in the middle of a click it would leave the box's published state behind,
-    // and the next click would not be told.
+    // Not setChecked(), which in the middle of a click would silence the next one.
     box->setCheckState(isChecked ? Qt::Checked : Qt::Unchecked);
 }
 

@@ -5,8 +5,7 @@
 class QCheckBox;
 class QComboBox;
 
-// Showing what a camera holds in a field that the user edits too. Nothing here makes a field emit:
-// what is read back is not written again.
+// What a camera holds, in a field that the user edits too. Nothing here makes a field emit.
 
 void showChecked(QCheckBox* box, bool isChecked);
 

@@ -134,8 +134,7 @@ bool DelegateWidget::eventFilter(QObject* watched, QEvent* event)
 
 void DelegateWidget::focusInEvent(QFocusEvent* event)
 {
-    // Not a focus proxy: the view would send it the double click that opened the editor, in
-    // coordinates of the table.
+    // Not a focus proxy: the view would send it the double click in coordinates of the table.
     if (!m_controls.isEmpty())
         m_controls.first()->setFocus(event->reason());
 }

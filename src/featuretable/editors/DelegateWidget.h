@@ -8,8 +8,8 @@
 /// The editor in a value cell; one derived class for each kind. It knows the cell's record and
 /// nothing of the camera: it asks to be committed through its signals, each of the first four once.
 ///
-/// A value is new when the user acted on a control, or confirmed what is shown with Return, and it
-/// differs from the camera's.
+/// A value is new when the user acted on a control or pressed Return, and it differs from the
+/// camera's.
 ///
 /// Return, leaving the editor (by Tab from the last control too) and hiding it finish the editing,
 /// Escape cancels it. An act that makes the value final (an entry, a toggle, a click) finishes it.
@@ -22,9 +22,8 @@ public:
 
     QString featureName() const { return m_featureName; }
 
-    /// Shows the cell's value. Only the first call counts: an open editor is the user's.
-    /// @p cameraValue is what the camera is known to hold; another one than @p value when it
-    /// refused that.
+    /// Only the first call counts: an open editor is the user's. @p cameraValue is what the camera
+    /// is known to hold; another one than @p value when it refused that.
     void fill(const QVariant& value, const QVariant& cameraValue);
 
     /// What was entered since the last call; invalid when that is nothing new or not acceptable.
@@ -41,7 +40,6 @@ signals:
     void newBoolValueToSet(bool value);
     void newStringValueToSet(const QString& value);
     void newIntValueToSet(qint64 value);
-    /// The slider was moved; the editing goes on.
     void sliderValueChanged(double value);
     void editingCancelled();
 
@@ -53,14 +51,12 @@ protected:
     /// Return was pressed; finishes what is acceptable.
     virtual void confirm();
 
-    /// Puts a control into the row; the first one gets the keyboard. Scripts find it under its
-    /// name.
+    /// Puts a control into the row; the first gets the keyboard. Scripts find it under its name.
     void addControl(QWidget* control, const char* objectName, int stretch);
     /// Shows the unit behind controls that have no suffix of their own.
     void addUnit(const FeatureInfo& info);
     /// The user acted on a control: its value is meant, even if it looks as before.
     void touch() { m_touched = true; }
-    /// The value is new whatever it is.
     void forgetKnownValue() { m_knownValue.clear(); }
 
     bool event(QEvent* event) override;

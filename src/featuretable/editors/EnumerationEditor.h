@@ -4,8 +4,7 @@
 
 class QComboBox;
 
-/// The entries of an enumeration. One chosen from the open list is final; keys and wheel walk
-/// through the closed list until Return.
+/// One chosen from the open list is final; keys and wheel walk through the closed one until Return.
 class EnumerationEditor : public DelegateWidget
 {
     Q_OBJECT

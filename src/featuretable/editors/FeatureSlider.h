@@ -4,7 +4,6 @@
 
 #include <qwt_slider.h>
 
-/// The slider beside a numeric field.
 class FeatureSlider : public QwtSlider
 {
     Q_OBJECT
@@ -12,7 +11,6 @@ class FeatureSlider : public QwtSlider
 public:
     FeatureSlider(const SliderRange& range, QWidget* parent);
 
-    /// Moves the handle without telling.
     void follow(double value);
 
 signals:

@@ -13,8 +13,7 @@
 
 namespace {
 
-/// Lets digits of a number outside the range be typed: eaten keys would leave another number than
-/// the one that was meant.
+/// Lets a number outside the range be typed: eaten keys would leave another than was meant.
 template <typename Box> class PatientSpinBox : public Box
 {
 public:

@@ -21,9 +21,7 @@ protected:
     virtual void showNumber(double value) = 0;
     bool showValue(const QVariant& value) override;
 
-    /// If the feature has one.
     void addSlider(const FeatureInfo& info);
-    /// The user has entered a value in the field.
     void moveSlider(double value);
 
     void resizeEvent(QResizeEvent* event) override;

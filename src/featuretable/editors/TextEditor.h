@@ -6,8 +6,7 @@
 struct IntegerNotation;
 class QLineEdit;
 
-/// A value as text: a string, or a whole number that has a notation of its own or is too large for
-/// a spin box.
+/// A string, or a whole number that has a notation of its own or is too large for a spin box.
 class TextEditor : public DelegateWidget
 {
     Q_OBJECT

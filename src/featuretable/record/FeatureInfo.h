@@ -13,8 +13,7 @@
 /// A value, bound or step of a feature; texts are UTF-8.
 using FeatureValue = std::variant<std::int64_t, double, bool, std::string>;
 
-/// One feature as it was when its row was last read. The value cells of a feature table carry it
-/// under Qt::UserRole.
+/// One feature as it was last read. Value cells carry it under Qt::UserRole.
 struct FeatureInfo
 {
     std::string toolTip;
@@ -51,7 +50,6 @@ const FeatureInfo* recordIn(const QVariant& data);
 /// Text as QString, whole numbers as qint64, the others as they are.
 QVariant toVariant(const FeatureValue& value);
 
-/// The opposite of toVariant().
 FeatureValue toFeatureValue(const QVariant& value);
 
 /// As ==, but floating-point numbers are compared exactly: QVariant takes near ones for equal.

@@ -5,7 +5,6 @@
 /// Whole numbers up to this size are exact as double (2^53).
 constexpr std::int64_t largestExactInteger = std::int64_t{1} << 53;
 
-/// What may be entered for a feature.
 template <typename Number> struct ValueRange
 {
     Number minimum;
@@ -14,8 +13,7 @@ template <typename Number> struct ValueRange
     bool contains(Number value) const { return value >= minimum && value <= maximum; }
 };
 
-/// The record's bounds; a missing one is as wide as exact numbers go. Bounds that hold nothing
-/// leave the present value alone.
+/// A missing bound is as wide as exact numbers go. Bounds that hold nothing leave the value alone.
 ValueRange<std::int64_t> integerRange(const FeatureInfo& info);
 ValueRange<double> numberRange(const FeatureInfo& info);
 
@@ -27,7 +25,6 @@ enum class IntegerField {
 };
 IntegerField integerField(const FeatureInfo& info);
 
-/// The values that a slider offers.
 struct SliderRange
 {
     double minimum;
@@ -44,8 +41,7 @@ std::optional<SliderRange> sliderRange(const FeatureInfo& info);
 /// Positions beside the first: whole steps of the increment, at most 10000.
 int sliderSteps(const SliderRange& range);
 
-/// The whole step from the minimum that is nearest, within the range. Without an increment the
-/// value is only clamped.
+/// The nearest whole step from the minimum. Without an increment the value is only clamped.
 double snapped(double value, const SliderRange& range);
 
 /// The value that a step of the handle from @p from to @p to reaches: at least one increment away,

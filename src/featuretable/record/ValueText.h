@@ -2,7 +2,6 @@
 
 #include "featuretable/record/FeatureInfo.h"
 
-/// A way to write whole numbers as text.
 struct IntegerNotation
 {
     const char* pattern; ///< regular expression of what may be typed
@@ -28,8 +27,8 @@ QString numberText(double number);
 /// Empty for what is no finite number.
 std::optional<double> textToNumber(const QString& text);
 
-/// How a value cell shows its display value: bare, as its editor writes it. Commands show
-/// "Execute", raw data nothing.
+/// As a value cell shows it: bare, as its editor writes it. Commands show "Execute", raw data
+/// nothing.
 QString cellText(const FeatureInfo& info, const QVariant& value);
 /// The cell as a screen reader tells it: display name, value and unit.
 QString accessibleCellText(const FeatureInfo& info, const QVariant& value);

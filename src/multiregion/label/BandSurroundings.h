@@ -12,7 +12,6 @@ public:
 
     /// Another shown region whose band overlaps @p band.
     virtual std::optional<int> intersecting(int region, const QRect& band) const = 0;
-    /// Whether the regions that share edges with this one could follow it to @p band without coming
-    /// to overlap another one.
+    /// Whether those that share edges with this one could follow it there without an overlap.
     virtual bool canBeFollowed(int region, const QRect& band) const = 0;
 };

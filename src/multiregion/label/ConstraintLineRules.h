@@ -31,8 +31,7 @@ Span<int> spanForLine(BandEdge edge, int position, const Span<int>& span);
 std::optional<int> grabDistance(int position, int point);
 
 /// Whether a point of a band, in the zone of one of the lines at @p positions, is theirs. Where
-/// their zones leave nothing of the band they reach a third into it, so that there is something to
-/// take hold of.
+/// their zones leave nothing of the band they reach a third into it.
 bool isForLines(const Span<int>& band, int point, const QVector<int>& positions);
 
 /// How a line of @p group at @p position holds the band of @p region that is being moved. A line of

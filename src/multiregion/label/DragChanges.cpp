@@ -101,8 +101,7 @@ bool touchesOnlyOnSensor(const QRect& region, const ShownRegion& dragged, const 
         && !overlap(dragged.band, other.band);
 }
 
-/// The dragged region in sensor pixels. One that would still overlap another from which the label
-/// shows it apart keeps its rectangle.
+/// Sensor pixels. One that would still overlap another, unlike on the label, keeps its rectangle.
 QRect convertedRegion(const ShownRegion& dragged, const Regions& regions,
                       const SensorMapping& mapping)
 {

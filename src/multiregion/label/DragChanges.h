@@ -12,10 +12,9 @@ struct RegionChange
 
 // The regions are the shown ones, ascending.
 
-/// What to report after the band of @p region was dragged: the region itself, and the members of
-/// its groups whose shared edges change with it, ascending. A region that was not in line with its
-/// group takes the group's edges. A member that would come to overlap another region stays as it
-/// is.
+/// What to report after the band of @p region was dragged: the region itself and, ascending, the
+/// members of its groups whose shared edges change with it; one that was not in line takes the
+/// group's edges. A member that would come to overlap another region stays.
 QVector<RegionChange> changesAfterBandDrag(const QVector<ShownRegion>& regions,
                                            const QVector<ConstraintGroup>& groups,
                                            const SensorMapping& mapping, int region);
@@ -26,7 +25,6 @@ QVector<RegionChange> changesAfterLineDrag(const QVector<ShownRegion>& regions,
                                            const ConstraintGroup& group,
                                            const SensorMapping& mapping);
 
-/// Whether the members in line with @p region can follow its band to @p band without coming to
-/// overlap another one. Label pixels.
+/// Whether the members in line with @p region can follow it without an overlap. Label pixels.
 bool membersCanFollow(const QVector<ShownRegion>& regions, const QVector<ConstraintGroup>& groups,
                       int region, const QRect& band);

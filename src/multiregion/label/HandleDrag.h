@@ -24,8 +24,7 @@ struct HandleGrab
     bool isMove() const { return !horizontal && !vertical; }
 };
 
-/// The zones are four pixels wide inside the band; its last column and row do not belong to them.
-/// The caller knows the point on the band.
+/// The zones are four pixels wide inside the band, without its last column and row.
 HandleGrab handleGrabAt(const QRect& band, const QPoint& point);
 
 Qt::CursorShape cursorForGrab(const HandleGrab& grab);
@@ -38,16 +37,14 @@ enum class MoveDirection {
     Down = 4,
 };
 
-/// How constraint lines hold a band that is being moved. A bound of -1 is none; as it stands, it
-/// lets the band protrude by one pixel.
+/// How lines hold a band that is moved. A bound of -1, which lets it protrude by a pixel, is none.
 struct MoveConstraints
 {
     std::set<MoveDirection> blocked;
     QPoint lowerBound{-1, -1}; ///< of the band's position
 };
 
-/// The band after the pointer has moved by @p delta; all of it stays on the image of size
-/// @p image at right and bottom.
+/// The band after the pointer has moved by @p delta; it stays on the image at right and bottom.
 QRect movedRegionBand(const QRect& band, const QPoint& delta, const QSize& image,
                       const MoveConstraints& constraints);
 

@@ -8,8 +8,7 @@
 
 class SensorLabel;
 
-/// A constraint line on the region label: an edge that the members of a group share. Label pixels
-/// throughout.
+/// An edge that the members of a group share, on the region label. Label pixels throughout.
 class LineRubberBand : public QRubberBand
 {
     Q_OBJECT

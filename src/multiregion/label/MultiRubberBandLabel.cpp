@@ -15,8 +15,8 @@ constexpr double smallestFactor = 1e-5;
 
 } // namespace
 
-// Receivers of signals may change anything, and delete the page with this label: signals come last,
-// or what follows is guarded.
+// Receivers may change anything, and delete the page: signals come last, or what follows is
+// guarded.
 
 MultiRubberBandLabel::MultiRubberBandLabel(int sensorWidth, int sensorHeight, const QColor& color,
                                            const QString& mode, QWidget* parent)
@@ -204,8 +204,7 @@ void MultiRubberBandLabel::hover(const QPoint& position)
         unsetCursor();
 }
 
-/// Whoever resizes the label goes on with it behind this: all but the signal that belongs here
-/// waits for the event loop.
+/// All but the signal that belongs here waits until whoever resizes the label is done with it.
 void MultiRubberBandLabel::resizeEvent(QResizeEvent* event)
 {
     const QSize before = m_regions.mapping().shown;
@@ -302,8 +301,7 @@ void MultiRubberBandLabel::onBandPressed(int regionNo)
         emit regionSelected(regionNo);
 }
 
-/// At the end of the band's drag, or when a neighbour has brought or solved a conflict. Nothing is
-/// reported in the midst of a drag.
+/// At the end of the band's drag, or when a neighbour has brought or solved a conflict.
 void MultiRubberBandLabel::onBandGeometryChanged(int regionNo)
 {
     if (m_drag.isRunning())

@@ -42,9 +42,8 @@ public:
             || membersCanFollow(m_regions.shown(), m_regions.groups(), region, band);
     }
 
-    /// Announces the shown colours again, and what else changed while the signals were blocked.
-    /// Regions told of meanwhile are arranged now, all at once; without this call, with the next
-    /// turn of the event loop.
+    /// Announces the shown colours again, and arranges what was told while the signals were
+    /// blocked; without this call that comes with the next turn of the event loop.
     void announceRegions();
 
     QSize sizeHint() const override;

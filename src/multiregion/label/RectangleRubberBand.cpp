@@ -184,8 +184,7 @@ void RectangleRubberBand::paintEvent(QPaintEvent* event)
     }
 }
 
-/// A band in conflict may go anywhere, so that it can be pulled free; any other only where it
-/// overlaps none.
+/// A band in conflict may go anywhere, to be pulled free; any other where it overlaps none.
 void RectangleRubberBand::showIfAllowed(const QRect& band)
 {
     // A corner can collapse the band; what is shown keeps a pixel.

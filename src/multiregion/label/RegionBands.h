@@ -13,8 +13,7 @@ class RectangleRubberBand;
 class RegionDrag;
 class RegionStore;
 
-/// What lies on a region label: the bands of the shown regions and two lines for each group. It
-/// makes, places, stacks and removes them.
+/// The bands of the shown regions and two lines for each group.
 class RegionBands
 {
 public:
@@ -25,8 +24,7 @@ public:
     int selected() const { return m_selected; }
     void select(int region);
 
-    /// Brings bands and lines in line with the regions and their groups, except for what is being
-    /// dragged, and tests for conflicts.
+    /// Brings all in line with the regions but what is being dragged, and tests for conflicts.
     void arrange(const RegionDrag& drag);
     /// Places the lines whose masters are dragged.
     void follow(const RegionDrag& drag);

@@ -12,8 +12,7 @@ struct SensorMapping
     QSize shown;  ///< label pixels
 };
 
-/// Converts edges, not sizes, so that regions that touch do not overlap on the label; at least one
-/// pixel wide and high.
+/// Converts edges, so that touching regions do not overlap; at least one pixel wide and high.
 QRect labelRect(const QRect& region, const SensorMapping& mapping);
 
 /// The sensor pixel of an edge on the label. The image's border is the sensor's border.

@@ -8,8 +8,7 @@
 #include <algorithm>
 #include <limits>
 
-/// What the camera allows on one axis of a region, in sensor pixels. An increment below 2 rounds
-/// nothing.
+/// What the camera allows on one axis, in sensor pixels. An increment below 2 rounds nothing.
 struct AxisLimits
 {
     int minimum = 1;                               ///< of the size

@@ -30,8 +30,8 @@ inline bool operator==(const ConstraintGroup& a, const ConstraintGroup& b)
     return a.kind == b.kind && a.members == b.members;
 }
 
-/// The groups of an arrangement: all regions are one row or one column, tiles are rows of two and
-/// two columns, free regions share nothing.
+/// All regions are one row or one column, tiles are rows and columns of two, free regions share
+/// nothing.
 /// @param shown region numbers, ascending
 QVector<ConstraintGroup> constraintGroups(ArrangementMode mode, const QVector<int>& shown);
 

@@ -21,7 +21,6 @@ struct DefaultLayout
     QString message;          ///< why there are none, for the log; empty otherwise
 };
 
-/// The layout of up to four regions for an entry of "MultipleRegionArrangement". Sizes are computed
-/// with fractions; each rectangle is truncated to whole pixels. A layout that leaves a region no
-/// size places none.
+/// The layout of up to four regions for an arrangement's name, truncated to whole pixels. One that
+/// leaves a region no size places none.
 DefaultLayout defaultLayout(const QString& mode, const LayoutRequest& request);

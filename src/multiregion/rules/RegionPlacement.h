@@ -11,8 +11,7 @@ struct SizeRange
     double increment = 0.0;
 };
 
-/// What the place of a newly activated region depends on, in sensor pixels. Regions follow one
-/// another along an axis.
+/// What the place of a new region depends on, in sensor pixels, along an axis.
 struct PlacementRequest
 {
     int sensorSize = 0; ///< along the axis

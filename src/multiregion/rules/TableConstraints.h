@@ -6,9 +6,8 @@
 #include <cstdint>
 #include <optional>
 
-/// The region whose value an edited one stands for, -1 for the edited region alone. Region 3 of a
-/// two-by-two tile takes its rows from region 2 and its columns from region 1; every other
-/// constrained feature is region 0's.
+/// The region whose value an edited one stands for, -1 for itself alone. Region 3 of a tile takes
+/// its rows from region 2 and its columns from region 1; all else is region 0's.
 /// @param constrained the features that the region shares
 int masterRegion(int region, const QString& feature, const QStringList& constrained);
 

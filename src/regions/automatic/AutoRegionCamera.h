@@ -90,8 +90,7 @@ public:
     QRect drawn() const;
 
     /// Whether the limits changed. They are read for a new image size only, or when one is told:
-    /// some cameras bound size and offset by each other, and the limits would shrink with each
-    /// move.
+    /// where size and offset bound each other they would shrink with each move.
     bool followImage(bool isSizeTold);
 
     void readOrigin();
@@ -105,8 +104,7 @@ public:
 
     /// The sensor area after binning.
     QSize readSensorSize();
-    /// The part of the sensor that a background image shows. With multiple regions it is the first
-    /// one's, which becomes the selected one.
+    /// What a background image shows: with multiple regions the first, which becomes selected.
     QRect readImageRegion(bool hasImage);
 
     /// What the camera did not tell since the last call.

@@ -8,10 +8,9 @@
 #include <QSizeF>
 #include <QString>
 
-// The region that the automatic functions evaluate, in image pixels. Some cameras count it from an
-// offset of their own, the origin; the label shows it without. Cameras tell it by offset and size,
-// or by its edges, of which the far one lies behind the region. The limits are its largest size, in
-// whole pixels.
+// The region that the automatic functions evaluate, in image pixels; some cameras count it from an
+// offset of their own, the origin. They tell it by offset and size, or by its edges, of which the
+// far one lies behind it. The limits are its largest size, in whole pixels.
 
 struct AutoRegionText
 {
@@ -24,9 +23,8 @@ struct AutoRegion
     Span<double> vertical; ///< of a negative length where edges cross
 };
 
-// Cameras with "AutofunctionAOI..." features agree with all of this: the division by the increment
-// is not truncated; each axis adds the minimum of the other axis's offset, and only the height
-// subtracts the image's minimum.
+// Cameras with "AutofunctionAOI..." features agree with all of this: the quotient is not truncated;
+// each axis adds the minimum of the other's offset; only the height subtracts the image's minimum.
 
 /// @param increment of "AutofunctionAOIHeight"
 double aoiHeightLimit(double height, double increment, double minimumHeight, double minimumOffsetX);
@@ -54,10 +52,8 @@ QString edgeProblems(const AutoRegion& region, const QSizeF& limits);
 /// Whether the region is not empty and lies within the limits.
 bool hasValidEdges(const AutoRegion& region, const QSizeF& limits);
 
-/// Whether the far edge of an axis (right, bottom) is written before the near one, so that the
-/// camera never sees near and far edge cross.
+/// Whether right or bottom is written before left or top, so that they never cross.
 bool writesFarEdgeFirst(const Span<double>& current, const Span<double>& wanted);
 
-/// A drawn span that would collapse on the camera's grid becomes one increment thick, and moves
-/// only where it would leave @p limit.
+/// A span that would collapse on the grid becomes one increment thick, moved only at @p limit.
 Span<double> keptApart(const Span<double>& drawn, double limit, double increment);

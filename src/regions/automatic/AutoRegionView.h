@@ -18,21 +18,16 @@ public:
     NumberField& field(RegionNumber number) { return m_fields[std::size_t(number)]; }
     const NumberField& field(RegionNumber number) const { return m_fields[std::size_t(number)]; }
     AutoRegion shown() const;
-    /// As the camera told last.
     bool isRegionWritable() const;
-    /// Lets the user edit, as far as the camera does.
     void setEnabled(bool isEnabled);
 
-    /// Ranges, steps and values from the camera.
     void load();
-    /// Ranges and values from the camera; a field that is being typed in is left as it is. A size
-    /// whose field is held stays within the limits.
+    /// Ranges and values; not of a field being typed in. The size of a held field keeps to the
+    /// limits.
     void refresh();
-    /// One field's range and value from the camera.
     void refreshField(RegionNumber number);
     /// The ranges stay, and clamp the values: drawn regions pass over what the camera takes.
     void showProvisional(const AutoRegion& region);
-    /// Writes what is being typed.
     void commit();
 
 private:

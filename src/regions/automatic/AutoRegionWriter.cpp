@@ -20,8 +20,6 @@ void AutoRegionWriter::write(RegionNumber number, double value)
         m_view.field(number).showTaken(m_camera.write(number, value));
 }
 
-// Drawn regions
-
 bool AutoRegionWriter::writeDrawn(const QRect& region)
 {
     m_camera.readOrigin();
@@ -75,8 +73,6 @@ void AutoRegionWriter::settleOffset(RegionNumber offset, double wanted)
         write(offset, wanted);
 }
 
-// Presets
-
 void AutoRegionWriter::setFullArea()
 {
     const QSizeF current = m_camera.readLimits().value_or(m_camera.limits());
@@ -92,8 +88,7 @@ void AutoRegionWriter::setFullArea()
     limitTo(RegionNumber::Height, m_camera.origin().y() + current.height());
 }
 
-// Where size and offset bound each other a larger limit may only tell of a smaller offset; the
-// image must not be cut to it.
+// A larger limit may only tell of a smaller offset; the image must not be cut to it.
 void AutoRegionWriter::growImage(const QString& name, double current, double former)
 {
     if (current > former && !(m_camera.isAutoMode() && current < m_camera.readValue(name)))

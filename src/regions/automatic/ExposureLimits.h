@@ -12,8 +12,7 @@ class FeatureManager;
 /// @param scaleDecimals of the minimum's field, which scales the maximum too
 double exposureLimitToWrite(double value, double increment, int decimals, int scaleDecimals);
 
-/// The limits of automatic exposure and their fields, in the camera's unit; nothing keeps the
-/// minimum below the maximum.
+/// In the camera's unit; nothing keeps the minimum below the maximum.
 class ExposureLimits
 {
 public:
@@ -25,14 +24,12 @@ public:
     ExposureLimits(FeatureManager& manager, QDoubleSpinBox* minimumField,
                    QDoubleSpinBox* maximumField);
 
-    /// Ranges and values from the camera, the first time with steps. Answers the names of what it
-    /// did not tell.
+    /// Ranges and values, the first time with steps. Answers the names of what was not told.
     QStringList refresh();
     /// Answers the name when the camera does not tell what it took.
     QStringList write(Which which, double value);
     /// The current exposure time, if the camera tells it; the field emits.
     void useTime(Which which);
-    /// Writes what is being typed.
     void commit();
 
 private:

@@ -8,12 +8,10 @@ class QString;
 
 // How offset and size of the image region reach the camera along one axis, in sensor pixels.
 
-/// Cameras that keep their offset among the image format features demand even sizes for pixel
-/// formats that share colour among neighbours.
+/// Cameras with their offset among the image format features want even sizes for some formats.
 bool mayNeedEvenSize(const QString& offsetCategory);
 bool needsEvenSize(const QString& offsetCategory, const QString& pixelFormat);
 
-/// The even number at or next above @p value.
 double raisedToEven(double value);
 
 /// The camera's range of an offset where sizes have to be even.

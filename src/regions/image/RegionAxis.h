@@ -11,7 +11,6 @@
 
 class FeatureManager;
 
-/// The features of one direction of the image region.
 struct RegionAxisNames
 {
     QString offset;
@@ -20,7 +19,6 @@ struct RegionAxisNames
     QString sensor;  ///< stands in for a missing maximum
 };
 
-/// How a region is written along one axis.
 struct AxisPlan
 {
     Span<double> span; ///< on the grid and within the maximum size
@@ -28,9 +26,8 @@ struct AxisPlan
     bool isOffsetFirst = false;
 };
 
-/// One direction of the image region: its features on the camera and its two fields, which carry
-/// the camera's ranges and increments. Everything it does to the fields is silent. What the camera
-/// does not tell keeps its last value.
+/// One direction of the image region: its features and its two fields, which carry the camera's
+/// ranges and increments and never emit here. What the camera does not tell keeps its last value.
 class RegionAxis
 {
 public:
@@ -47,8 +44,7 @@ public:
     /// The features that writes have changed since the last call.
     QStringList takeWritten() { return std::exchange(m_written, {}); }
 
-    /// The maximum size, read when it is not known; 0 until the camera has told it. Forgotten, it
-    /// is read again.
+    /// The maximum size, read when it is not known, or forgotten; 0 until the camera has told it.
     double readMaximum();
     void forgetMaximum() { m_isMaximumFresh = false; }
 
@@ -57,9 +53,7 @@ public:
     /// At most the maximum size.
     double sensor();
 
-    /// As the camera told last.
     Span<double> onCamera() const { return {m_offset.onCamera, m_size.onCamera}; }
-    /// Whether the camera has told it all.
     bool isTold() const { return m_offset.isTold && m_size.isTold && m_maximum > 0.0; }
     bool isWritable() const;
     /// Whether camera or fields reach beyond the maximum size.
@@ -68,11 +62,9 @@ public:
     void showProvisional(const Span<double>& span);
     /// Lets both fields take any value up to the maximum, as a drag shows them.
     void widen();
-    /// Writes what is being typed in a field.
     void commit();
 
-    /// Writes the value at or next above @p value that the camera can take beside the other value
-    /// it has now, and shows what it took.
+    /// At or next above @p value, as the camera can take it beside the other; shows what it took.
     void writeOffset(double value);
     void writeSize(double value);
 

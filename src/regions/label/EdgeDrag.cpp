@@ -27,8 +27,7 @@ Span<int> clamped(Span<int> span, bool clampsStart, bool clampsLength, int senso
     return span;
 }
 
-/// A move too: a displayed border is rounded, so that a band within it may still stand for a region
-/// beyond it.
+/// A move too: a displayed border is rounded, and a band within it may be a region beyond it.
 QRect clampedWhereHeld(const QRect& region, const EdgeGrab& held, const QSize& sensor)
 {
     const auto x = clamped(spanOf(region, Qt::Horizontal), held.left || held.moving, held.right,

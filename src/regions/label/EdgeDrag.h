@@ -3,7 +3,6 @@
 #include "regions/label/EdgeGrab.h"
 #include "regions/label/LabelGeometry.h"
 
-/// A drag by its state at the press.
 struct EdgeDrag
 {
     EdgeGrab held;     ///< what the press took
@@ -21,8 +20,7 @@ QRect draggedBand(const EdgeDrag& drag, const QPoint& pointer, const LabelGeomet
 /// is read off the band and clamped to the sensor.
 QRect provisionalRegion(const EdgeDrag& drag, const QRect& band, const LabelGeometry& geometry);
 
-/// The region at the end of a drag. Dragging out beyond the label's right or bottom border ends at
-/// the sensor's.
+/// Dragging out beyond the label's right or bottom border ends at the sensor's.
 /// @param pointer where it really is
 QRect releasedRegion(const EdgeDrag& drag, const QRect& band, const QPoint& pointer,
                      const LabelGeometry& geometry);

@@ -3,8 +3,7 @@
 #include <QRect>
 #include <Qt>
 
-/// What of a band a drag moves. Right excludes left and top excludes bottom; a move excludes all
-/// edges.
+/// Right excludes left and top excludes bottom; a move excludes all edges.
 struct EdgeGrab
 {
     bool moving = false;

@@ -7,10 +7,8 @@
 
 namespace {
 
-/// The largest size that Qt gives a widget.
 constexpr int largestExtent = (1 << 24) - 1;
 
-/// Label pixels per sensor pixel.
 constexpr double smallestScale = 0.00001;
 
 /// Unlike lround() it takes -0.7 to 0.

@@ -20,8 +20,7 @@ QSize displayedSize(const LabelGeometry& geometry);
 /// The height that shows a sensor in its aspect ratio at this width; 0 without a sensor.
 int heightForWidth(int width, const QSize& sensor);
 
-/// A sensor so flat that the label shows all of its height in one line: there is nothing to drag
-/// across it.
+/// The label shows all of the sensor's height in one line: there is nothing to drag across it.
 bool isFlat(const LabelGeometry& geometry);
 
 /// Sensor pixels per label pixel, by the widths and one factor for both axes.
@@ -31,8 +30,7 @@ double labelPerSensor(const LabelGeometry& geometry);
 /// False where the sensor shrinks to nothing.
 bool canPlaceBand(const LabelGeometry& geometry);
 
-/// The band that stands for a region, cut to the shown picture at right and bottom. A region far
-/// away stays within Qt's coordinates.
+/// Cut to the shown picture at right and bottom. Regions far away stay within Qt's coordinates.
 QRect bandForRegion(const QRect& region, const LabelGeometry& geometry);
 
 /// The band of a label that has no region yet: all of its width.

@@ -9,10 +9,9 @@
 
 class LabelBand;
 
-/// The sensor area with one region on it, which the user moves and resizes with the mouse. Regions
-/// are sensor pixels; signals and setRegion() pass them in the order top, left, width, height. A
-/// drag only moves the band: the region changes at its end. What is set meanwhile shows if the drag
-/// has no result.
+/// The sensor area with one region on it, which the user moves and resizes with the mouse. Signals
+/// and setRegion() pass regions as top, left, width, height, in sensor pixels. A drag only moves
+/// the band; what is set meanwhile shows if it has no result.
 class RubberBandLabel : public SensorLabel
 {
     Q_OBJECT
@@ -25,8 +24,7 @@ public:
     void setRegion(int top, int left, int width, int height);
     void setSensorSize(int width, int height);
 
-    /// Without an image the placeholder comes back. Takes back one override cursor, which whoever
-    /// announced the image has set.
+    /// Without an image the placeholder. Takes back one override cursor, of whoever announced it.
     /// @param crop the part to show of the sensor area; all when empty
     void showBackground(std::shared_ptr<QPixmap> image, QSize sensorSize, QRect crop);
 
@@ -37,12 +35,9 @@ public:
     int heightForWidth(int width) const override;
 
 signals:
-    /// The final region of a drag.
     void SendGeometry(int top, int left, int width, int height);
-    /// The provisional region during a drag.
     void UpdateGeometry(int top, int left, int width, int height);
     void GeometryChangeStarted();
-    /// Any press.
     void clicked();
 
 public slots:
