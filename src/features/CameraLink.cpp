@@ -1,7 +1,5 @@
 #include "features/CameraLink.h"
 
-#include <utility>
-
 namespace {
 
 constexpr std::chrono::milliseconds noticeableWait{100};
@@ -35,16 +33,6 @@ void CameraLink::told(const QString& feature, ZebErrorType result, Milliseconds 
     m_questions = !m_isLost ? 0 : m_questions + (wasDue ? 1 : 0);
     m_isLost = true;
     m_nextQuestion = Clock::now() + (m_questions < questionsInQuickSuccession ? pause : laterPause);
-}
-
-bool CameraLink::isDue() const
-{
-    return m_isLost && Clock::now() >= m_nextQuestion;
-}
-
-bool CameraLink::takeLoss()
-{
-    return m_isLost && !std::exchange(m_isLossTaken, true);
 }
 
 std::shared_ptr<void> CameraLink::memory()

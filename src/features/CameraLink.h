@@ -35,10 +35,10 @@ public:
     /// The last that was heard is a call which failed slowly.
     bool isDoubtful() const { return m_isDoubtful; }
     /// Whether a lost camera is to be asked for a value again: each second, later every five.
-    bool isDue() const;
+    bool isDue() const { return m_isLost && Clock::now() >= m_nextQuestion; }
     int questions() const { return m_questions; }
     /// True once for each loss, for whoever tells the user.
-    bool takeLoss();
+    bool takeLoss() { return m_isLost && !std::exchange(m_isLossTaken, true); }
     /// The camera is lost and many reads are under way: the rest is left.
     bool isClosed() const { return m_isLost && m_manyReads > 0; }
 

@@ -233,11 +233,6 @@ bool FeaturesTableWidget::isEdit(const QVector<int>& roles) const
     return !m_refreshing && !roles.contains(Qt::UserRole) && roles.contains(Qt::DisplayRole);
 }
 
-int FeaturesTableWidget::rowOf(const QString& name) const
-{
-    return m_rows.value(name, -1);
-}
-
 FeatureInfo FeaturesTableWidget::featureInfo(int row) const
 {
     const QTableWidgetItem* item = m_table->item(row, ValueColumn);

@@ -76,7 +76,7 @@ protected:
     bool isEdit(const QVector<int>& roles) const;
 
     /// -1 when the feature has no row.
-    int rowOf(const QString& name) const;
+    int rowOf(const QString& name) const { return m_rows.value(name, -1); }
     /// The record of a row; an empty one when the cell holds none.
     FeatureInfo featureInfo(int row) const;
     /// As read by the owner. Of a row that is edited the value is left.

@@ -43,12 +43,6 @@ bool ModeWatch::isLookDue()
     return false;
 }
 
-/// As many for a selection.
-bool ModeWatch::isEcho() const
-{
-    return m_reports * m_echoSelections == m_echo * m_selections;
-}
-
 void ModeWatch::lookBegins()
 {
     if (m_vainLooks > 0) {

@@ -24,7 +24,7 @@ public:
     void looked(bool found);
 
 private:
-    bool isEcho() const;
+    bool isEcho() const { return m_reports * m_echoSelections == m_echo * m_selections; }
     void rest();
 
     int m_reports = 0; ///< since the last look

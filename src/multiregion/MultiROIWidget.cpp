@@ -298,12 +298,13 @@ std::optional<Answer> MultiROIWidget::ask(Question question)
     const QString modeBefore = m_tabs->mode();
     const bool wasStreaming = isStreaming();
     const bool wasVisible = isVisible();
-    Answer answer;
-    {
-        const Busy stillness = busy();
-        answer = askUser(question, modeBefore, this);
-    }
-    if (!page || !isReady() || (wasVisible && !isVisible()))
+    ++m_questions;
+    const Answer answer = askUser(question, modeBefore, this);
+    if (!page)
+        return std::nullopt;
+    if (--m_questions == 0 && isVisible())
+        readSoon({});
+    if (!isReady() || (wasVisible && !isVisible()))
         return std::nullopt;
     // Another client may have arranged the regions anew, which the page has not followed yet.
     refreshArrangement();
@@ -324,7 +325,7 @@ void MultiROIWidget::onEnableToggled(bool enabled)
 
 bool MultiROIWidget::isAtWork() const
 {
-    return isReady() && (m_label->isDragging() || m_tabs->isEditing());
+    return isReady() && (m_questions > 0 || m_label->isDragging() || m_tabs->isEditing());
 }
 
 QStringList MultiROIWidget::refresh(const Changes& changes)

@@ -92,5 +92,6 @@ private:
     std::unique_ptr<RegionActivation> m_activation;
     std::unique_ptr<RegionSettings> m_settings;
     SenderShelter m_senders;
+    int m_questions = 0;                   ///< to the user, under way
     std::optional<bool> m_enabled = false; ///< as it was last told
 };

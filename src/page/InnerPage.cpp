@@ -2,34 +2,16 @@
 
 #include <QAbstractSpinBox>
 #include <QComboBox>
+#include <QPointer>
 #include <QTimer>
 
 #include <algorithm>
-#include <utility>
 
 bool Changes::any(const QStringList& candidates) const
 {
     return all || std::any_of(candidates.begin(), candidates.end(), [this](const QString& name) {
                return names.contains(name);
            });
-}
-
-InnerPage::Busy::Busy(InnerPage* page)
-    : m_page(page)
-{
-    ++m_page->m_busy;
-}
-
-InnerPage::Busy::~Busy()
-{
-    if (!m_page || --m_page->m_busy > 0
-        || (!m_page->m_readsAll && m_page->changedFeatures->isEmpty()))
-        return;
-    // Once the events under way are done with. A page that nobody sees leaves the camera alone.
-    QTimer::singleShot(0, m_page, [page = m_page.data()] {
-        if (page->isVisible())
-            page->updateTimer();
-    });
 }
 
 InnerPage::InnerPage(const FeatureList& camera, QWidget* parent)
@@ -79,7 +61,7 @@ void InnerPage::showEvent(QShowEvent* event)
 void InnerPage::refreshFeatures()
 {
     const Changes changes{m_readsAll, *changedFeatures};
-    if (m_isRefreshing || isBusy() || isAtWork()) {
+    if (m_isRefreshing || isAtWork()) {
         readAgain(changes.names);
         return;
     }

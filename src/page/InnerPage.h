@@ -2,8 +2,6 @@
 
 #include "page/BaseTabPluginWidget.h"
 
-#include <QPointer>
-
 class QTimer;
 
 struct Changes
@@ -29,23 +27,7 @@ public:
     bool hasHeightForWidth() const override { return false; }
 
 protected:
-    /// No refresh while it lives: a question to the user, or work on many values. What was to be
-    /// read meanwhile is read when the outermost ends.
-    class Busy
-    {
-    public:
-        explicit Busy(InnerPage* page);
-        ~Busy();
-        Q_DISABLE_COPY_MOVE(Busy)
-
-    private:
-        QPointer<InnerPage> m_page;
-    };
-
-    Busy busy() { return Busy(this); }
-    bool isBusy() const { return m_busy > 0; }
-
-    /// Whether the user drags or edits; nothing is read meanwhile.
+    /// Whether the user drags, edits or is asked; nothing is read meanwhile.
     virtual bool isAtWork() const = 0;
 
     /// Shows what the camera holds of @p changes, with every tick, also without any. Answers what
@@ -71,7 +53,6 @@ protected:
 private:
     bool m_readsAll = true;
     QTimer* m_soonTimer;
-    int m_busy = 0;
     bool m_isRefreshing = false;
     bool m_isStreaming = false;
 };

@@ -65,13 +65,3 @@ try {
 } catch (const TabExtensionException& exception) {
     return exception.code();
 }
-
-bool TabExtensionPlugin::isTabShareable(const QVariant&)
-{
-    return false;
-}
-
-bool TabExtensionPlugin::isTabExclusive(const QVariant&)
-{
-    return false;
-}

@@ -14,6 +14,6 @@ public:
 
     qint32 createTab(const FeatureList& features, QWidget* page,
                      const QMap<QString, QVariant>* connections) override;
-    bool isTabShareable(const QVariant& context) override;
-    bool isTabExclusive(const QVariant& context) override;
+    bool isTabShareable(const QVariant&) override { return false; }
+    bool isTabExclusive(const QVariant&) override { return false; }
 };

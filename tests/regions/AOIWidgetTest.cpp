@@ -113,8 +113,8 @@ private slots:
             const QRect inFields(
                 int(p.field("spinLeft")->value()), int(p.field("spinTop")->value()),
                 int(p.field("spinWidth")->value()), int(p.field("spinHeight")->value()));
-            QCOMPARE(text(inFields), text(p.onCamera()));
-            QCOMPARE(text(p.label->region()), text(inFields));
+            QCOMPARE(inFields, p.onCamera());
+            QCOMPARE(p.label->region(), inFields);
         });
         const Action type = [](const AOIPage& p) {
             p.field("spinWidth")->setValue(640);

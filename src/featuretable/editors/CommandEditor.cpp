@@ -18,11 +18,6 @@ bool CommandEditor::showValue(const QVariant& value)
     return true;
 }
 
-QVariant CommandEditor::enteredValue()
-{
-    return m_value;
-}
-
 void CommandEditor::confirm()
 {
     touch();

@@ -12,7 +12,7 @@ public:
 
 protected:
     bool showValue(const QVariant& value) override;
-    QVariant enteredValue() override;
+    QVariant enteredValue() override { return m_value; }
     void confirm() override;
 
 private:

@@ -9,8 +9,6 @@
 #include <QLineEdit>
 #include <QWheelEvent>
 
-#include <utility>
-
 namespace {
 
 bool isReturn(const QKeyEvent& event)
@@ -54,11 +52,6 @@ QVariant DelegateWidget::takeNewValue()
     m_knownValue = value;
     m_touched = false;
     return value;
-}
-
-bool DelegateWidget::end()
-{
-    return !std::exchange(m_ended, true);
 }
 
 void DelegateWidget::confirm()

@@ -5,6 +5,8 @@
 #include <QVector>
 #include <QWidget>
 
+#include <utility>
+
 /// The editor in a value cell; one derived class for each kind. It knows the cell's record and
 /// nothing of the camera: it asks to be committed through its signals, each of the first four once.
 ///
@@ -32,7 +34,7 @@ public:
     /// Commits what was entered, as far as it is acceptable, and asks to be closed.
     void finish();
     /// Ends the editing without a signal. False when it had ended before.
-    bool end();
+    bool end() { return !std::exchange(m_ended, true); }
     bool hasEnded() const { return m_ended; }
 
 signals:

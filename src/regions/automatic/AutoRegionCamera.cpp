@@ -1,7 +1,5 @@
 #include "regions/automatic/AutoRegionCamera.h"
 
-#include "features/FeatureManager.h"
-#include "features/FeatureNames.h"
 #include "features/NumberConversion.h"
 #include "features/SdkValues.h"
 #include "sensor/PixelRect.h"
@@ -40,16 +38,6 @@ bool AutoRegionCamera::hasAutoRegion(FeatureManager& manager)
 {
     return manager.HasFeature(Name::aoiOffsetX, Name::dspLeft)
         || manager.HasFeature(Name::autoModeHeight);
-}
-
-bool AutoRegionCamera::has(const QString& name) const
-{
-    return m_manager.HasFeature(name);
-}
-
-QStringList AutoRegionCamera::featureNames() const
-{
-    return m_manager.GetFeatureNames();
 }
 
 std::vector<RegionNumber> AutoRegionCamera::numbers() const
@@ -93,11 +81,6 @@ double AutoRegionCamera::write(RegionNumber number, double value)
     return this->value(number);
 }
 
-void AutoRegionCamera::writeImageSize(const QString& name, double value)
-{
-    m_manager.SetValue(name, value);
-}
-
 AutoRegion AutoRegionCamera::region() const
 {
     return regionOf([this](RegionNumber number) { return value(number); });
@@ -121,11 +104,6 @@ void AutoRegionCamera::readOrigin()
 {
     for (const QString& name : m_originNames)
         read(name);
-}
-
-bool AutoRegionCamera::isAutoMode() const
-{
-    return nameOf(RegionNumber::Left) == Name::autoModeOffsetX;
 }
 
 QRect AutoRegionCamera::drawn() const

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "features/FeatureReader.h"
+#include "features/FeatureManager.h"
+#include "features/FeatureNames.h"
 #include "regions/automatic/AutoRegionRules.h"
 
 #include <QHash>
@@ -13,8 +14,6 @@
 #include <optional>
 #include <utility>
 #include <vector>
-
-class FeatureManager;
 
 /// The numbers that describe a region: four of them, by edges or by offset and size.
 enum class RegionNumber {
@@ -52,9 +51,9 @@ public:
 
     static bool hasAutoRegion(FeatureManager& manager);
 
-    bool has(const QString& name) const;
+    bool has(const QString& name) const { return m_manager.HasFeature(name); }
     /// All that the camera has by now, for who asks for many.
-    QStringList featureNames() const;
+    QStringList featureNames() const { return m_manager.GetFeatureNames(); }
     bool usesEdges() const { return m_usesEdges; }
     bool usesSizes() const { return m_usesSizes; }
 
@@ -98,9 +97,9 @@ public:
     std::optional<QSizeF> readLimits();
     Reading<double> read(const QString& name, int parts = FeatureReader::Whole);
     double readValue(const QString& name, const QString& alternative = {});
-    void writeImageSize(const QString& name, double value);
+    void writeImageSize(const QString& name, double value) { m_manager.SetValue(name, value); }
     /// Whether offset and size are those of "AutoModeRegion...".
-    bool isAutoMode() const;
+    bool isAutoMode() const { return nameOf(RegionNumber::Left) == FeatureNames::autoModeOffsetX; }
 
     /// The sensor area after binning.
     QSize readSensorSize();

@@ -43,25 +43,10 @@ void RubberBandLabel::setRegion(int top, int left, int width, int height)
     UpdateGeometryAfterResize();
 }
 
-void RubberBandLabel::setSensorSize(int width, int height)
-{
-    setSensor({width, height});
-}
-
 void RubberBandLabel::showBackground(std::shared_ptr<QPixmap> image, QSize sensorSize, QRect crop)
 {
     setPicture({image, sensorSize, crop}, shownSize(), shownSize());
     QApplication::restoreOverrideCursor();
-}
-
-QSize RubberBandLabel::sizeHint() const
-{
-    return {width(), heightForWidth(width())};
-}
-
-int RubberBandLabel::heightForWidth(int width) const
-{
-    return ::heightForWidth(width, sensorSize());
 }
 
 void RubberBandLabel::UpdateGeometryAfterResize()
@@ -174,9 +159,4 @@ void RubberBandLabel::paintEvent(QPaintEvent* event)
     if (isPlain())
         paintPixmap(painter, pixmap(Qt::ReturnByValue), event->region());
     m_band->paint(painter, event->region());
-}
-
-LabelGeometry RubberBandLabel::labelGeometry() const
-{
-    return {size(), sensorSize(), shownSize()};
 }

@@ -22,7 +22,7 @@ public:
     /// With a negative top the region counts as missing when the label is shown: the band fills the
     /// label's width, as it does before the first call.
     void setRegion(int top, int left, int width, int height);
-    void setSensorSize(int width, int height);
+    void setSensorSize(int width, int height) { setSensor({width, height}); }
 
     /// Without an image the placeholder. Takes back one override cursor, of whoever announced it.
     /// @param crop the part to show of the sensor area; all when empty
@@ -31,8 +31,8 @@ public:
     /// An empty one until the first setRegion().
     QRect region() const { return m_region.value_or(QRect()); }
 
-    QSize sizeHint() const override;
-    int heightForWidth(int width) const override;
+    QSize sizeHint() const override { return {width(), heightForWidth(width())}; }
+    int heightForWidth(int width) const override { return ::heightForWidth(width, sensorSize()); }
 
 signals:
     void SendGeometry(int top, int left, int width, int height);
@@ -58,7 +58,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    LabelGeometry labelGeometry() const;
+    LabelGeometry labelGeometry() const { return {size(), sensorSize(), shownSize()}; }
 
     std::optional<QRect> m_region;
     std::optional<EdgeDrag> m_drag;
