@@ -35,19 +35,17 @@ void CameraLink::told(const QString& feature, ZebErrorType result, Milliseconds 
     m_nextQuestion = Clock::now() + (m_questions < questionsInQuickSuccession ? pause : laterPause);
 }
 
-std::shared_ptr<void> CameraLink::memory()
+CameraLink::Lasting CameraLink::counted(int& count)
 {
-    ++m_memories;
-    return {this, [this](void*) {
-                if (--m_memories == 0)
-                    m_known.clear();
-            }};
+    ++count;
+    return {nullptr, [&count](void*) { --count; }};
 }
 
-void CameraLink::remember(const Question& question, const std::any& answer)
+CameraLink::Lasting CameraLink::memory()
 {
-    if (m_memories > 0)
-        m_known[question] = answer;
+    if (m_memories == 0)
+        m_known.clear();
+    return counted(m_memories);
 }
 
 bool CameraLink::mayPart() const

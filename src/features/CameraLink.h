@@ -21,7 +21,7 @@ public:
     using Clock = std::chrono::steady_clock;
     using Milliseconds = std::chrono::milliseconds;
 
-    class ManyReads;
+    using Lasting = std::shared_ptr<void>;        ///< the link must outlive it
     using Question = std::pair<const void*, int>; ///< of a feature
 
     /// What may go into failing calls while observers are registered or let go.
@@ -46,12 +46,21 @@ public:
     bool mayPart() const;
     void parted(ZebErrorType result, Milliseconds duration);
 
-    /// While it lives, what the camera has told is not asked again until something is written. The
-    /// link must outlive it.
-    std::shared_ptr<void> memory();
+    /// While it lives, look-ups and reads by way of a manager end at the loss: nothing more is
+    /// asked, and what was not told counts as not known.
+    Lasting manyReads() { return counted(m_manyReads); }
+    /// While it lives, what the camera has told is not asked again until something is written.
+    Lasting memory();
     /// Empty when it is to be asked.
-    std::any remembered(const Question& question) const { return m_known.value(question); }
-    void remember(const Question& question, const std::any& answer);
+    std::any remembered(const Question& question) const
+    {
+        return m_memories > 0 ? m_known.value(question) : std::any();
+    }
+    void remember(const Question& question, const std::any& answer)
+    {
+        if (m_memories > 0)
+            m_known[question] = answer;
+    }
     /// One feature may change others.
     ZebErrorType written(ZebErrorType result)
     {
@@ -66,6 +75,8 @@ public:
     }
 
 private:
+    static Lasting counted(int& count);
+
     bool m_isLost = false;
     bool m_isDoubtful = false;
     bool m_isLossTaken = false;
@@ -79,21 +90,4 @@ private:
     Clock::time_point m_firstParting;
     Milliseconds m_parting{0};
     Milliseconds m_lastParting{0};
-};
-
-/// While it lives, look-ups and reads by way of a manager end at the loss; the rest is not known.
-class CameraLink::ManyReads
-{
-public:
-    explicit ManyReads(CameraLink& link)
-        : m_link(link)
-    {
-        ++m_link.m_manyReads;
-    }
-    ~ManyReads() { --m_link.m_manyReads; }
-    ManyReads(const ManyReads&) = delete;
-    ManyReads& operator=(const ManyReads&) = delete;
-
-private:
-    CameraLink& m_link;
 };

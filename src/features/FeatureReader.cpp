@@ -71,19 +71,14 @@ QString FeatureReader::text(TextGetter getter) const
         : QString();
 }
 
-QStringList FeatureReader::entries()
+QStringList FeatureReader::entries() const
 {
-    const CameraLink::Question question(m_feature.get(), Entries);
-    const std::any known = m_link->remembered(question);
-    if (const auto* entries = std::any_cast<QStringList>(&known))
-        return *entries;
     std::vector<std::string> values;
     if (!m_feature || m_feature->GetValues(values) != Sdk::success)
         return {};
     QStringList entries;
     for (const std::string& value : values)
         entries.append(QString::fromStdString(value));
-    m_link->remember(question, entries);
     return entries;
 }
 

@@ -19,8 +19,7 @@ public:
         Access = 8,
         Whole = Value | Range | Increment | Access,
         Readability = 16,
-        Stepping = 32,
-        Entries = 64
+        Stepping = 32
     };
     using TextGetter = ZebErrorType (ZebFeatureWrapper::*)(std::string&);
 
@@ -37,7 +36,7 @@ public:
     // From the SDK's memory; empty, or the unknown type, when it fails.
     ZebFeatureDataType dataType();
     QString text(TextGetter getter) const;
-    QStringList entries();
+    QStringList entries() const;
 
     // From the camera, Whole or a set of parts. A value that fails slowly ends the reading.
     /// Of an integer, a double or a bool as the camera has it, of a QString for any type of

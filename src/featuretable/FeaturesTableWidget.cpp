@@ -88,7 +88,7 @@ FeaturesTableWidget::FeaturesTableWidget(const QStringList& features, FeatureMan
     connect(m_table, &QTableWidget::cellDoubleClicked, this, endAnnouncement, Qt::QueuedConnection);
 
     setUpTable(features.size());
-    const CameraLink::ManyReads reads(*m_manager->link());
+    const auto reads = m_manager->link()->manyReads();
     for (int row = 0; row < features.size(); ++row)
         addRow(row, features.at(row), features);
     m_table->setItemDelegateForColumn(NameColumn, new FeatureNameDelegate(m_table));
@@ -139,9 +139,9 @@ void FeaturesTableWidget::setFilter(const QString& filter)
 
 void FeaturesTableWidget::updateFeatures(const QStringList& features)
 {
-    std::optional<CameraLink::ManyReads> reads;
+    CameraLink::Lasting reads;
     if (features.size() > 1) // a single one may be the read-back of an edit
-        reads.emplace(*m_manager->link());
+        reads = m_manager->link()->manyReads();
     for (const QString& name : features) {
         if (const int row = rowOf(name); row >= 0)
             updateRow(row, name);

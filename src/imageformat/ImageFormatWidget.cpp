@@ -47,7 +47,7 @@ ImageFormatWidget::ImageFormatWidget(const FeatureList& camera, QWidget* parent)
     }
     m_ui->btnImageFormat->setContent(m_ui->frmImageFormat);
     connectImageSource();
-    const std::shared_ptr<void> memory = featureManager->link()->memory();
+    const auto memory = featureManager->link()->memory();
     addRegionPages();
 
     m_ui->tabWidget->setCurrentIndex(0);
@@ -103,7 +103,7 @@ template <typename Page> Page* ImageFormatWidget::addRegionPage()
     connect(this, &ImageFormatWidget::acquisitionRunning, page.get(), &Page::camIsStreaming);
     connect(m_ui->imageReaderWidget, &ImageReaderWidget::imageChanged, page.get(),
             [this, page = page.get()](const std::shared_ptr<QPixmap>& image) {
-                const CameraLink::ManyReads manyReads(*featureManager->link());
+                const auto manyReads = featureManager->link()->manyReads();
                 page->setBackgroundImage(image);
             });
     m_ui->tabWidget->addTab(page.get(), page->accessibleName());

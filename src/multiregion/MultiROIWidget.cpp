@@ -366,9 +366,9 @@ QStringList MultiROIWidget::refresh(const Changes& changes)
 
 void MultiROIWidget::refreshRegions(const QStringList& names)
 {
-    m_tabs->refreshSettings(names);
-    if (Changes{false, names}.any(Name::subRegion))
-        m_writer->readSelected(names.contains(Name::subRegionMode));
+    const QStringList ofTable = Name::subRegion + Name::multipleRegionSwitches;
+    if (Changes{false, names}.any(ofTable + QStringList{Name::multipleRegionArrangement}))
+        m_writer->readSelected();
     m_writer->readUntold();
     m_writer->lookIfDue();
 }

@@ -1,6 +1,5 @@
 #include "multiregion/RegionTabs.h"
 
-#include "features/FeatureNames.h"
 #include "multiregion/RegionLabelWidget.h"
 #include "multiregion/RegionTableWidget.h"
 #include "multiregion/label/MultiRubberBandLabel.h"
@@ -56,15 +55,6 @@ void RegionTabs::finishEditing()
 {
     if (has(current()))
         tab(current()).table->finishEditing();
-}
-
-void RegionTabs::refreshSettings(const QStringList& names)
-{
-    for (const QString& name : FeatureNames::multipleRegionSwitches
-             + QStringList{FeatureNames::multipleRegionArrangement}) {
-        if (has(current()) && names.contains(name))
-            tab(current()).table->updateFeatures({name});
-    }
 }
 
 void RegionTabs::setMode(const QString& mode)

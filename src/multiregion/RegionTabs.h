@@ -45,8 +45,6 @@ public:
     // Of the open tab's table:
     bool isEditing() const;
     void finishEditing();
-    /// What it shows beside its region's own features.
-    void refreshSettings(const QStringList& names);
 
     /// The arrangement's name.
     QString mode() const { return m_mode; }

@@ -23,38 +23,25 @@ RegionWriter::RegionWriter(RegionCamera& camera, RegionTabs& tabs, CameraLink& l
 RegionWriter::Call::Call(RegionWriter& writer)
     : m_writer(&writer)
 {
-    if (writer.m_calls == 0)
-        writer.begin();
-    ++writer.m_calls;
+    if (writer.m_calls++ > 0)
+        return;
+    writer.m_tabs.silence(true);
+    writer.m_memory = writer.m_link.memory();
+    writer.m_selected.reset();
+    writer.m_heardBefore = writer.m_link.heard();
 }
 
 RegionWriter::Call::~Call()
 {
-    if (!m_writer)
+    if (!m_writer || m_writer->m_calls-- > 1)
         return;
-    if (m_writer->m_calls == 1)
-        m_writer->end();
-    if (--m_writer->m_calls > 0)
-        return;
+    m_writer->readTable();
+    m_writer->m_held.reset();
+    m_writer->m_memory.reset();
     m_writer->m_tabs.silence(false);
     m_writer->m_tabs.announce(); // whose receivers may let the page go
     if (m_writer)
         m_writer->deliver();
-}
-
-void RegionWriter::begin()
-{
-    m_tabs.silence(true);
-    m_memory = m_link.memory();
-    m_selected.reset();
-    m_heardBefore = m_link.heard();
-}
-
-void RegionWriter::end()
-{
-    readTable();
-    m_held.reset();
-    m_memory.reset();
 }
 
 void RegionWriter::readTable()
@@ -62,7 +49,7 @@ void RegionWriter::readTable()
     const int region = m_tabs.current();
     if (m_selected != region || !m_moved.remove(region))
         return;
-    const CameraLink::ManyReads many(m_link);
+    const auto many = m_link.manyReads();
     const bool isTold = m_tabs.refreshTable();
     // Most of it has just been told to the table.
     const std::optional<RegionState> state = m_camera.read(true);
@@ -214,7 +201,7 @@ void RegionWriter::readUntold()
 
 void RegionWriter::readRegion(int region)
 {
-    const CameraLink::ManyReads many(m_link);
+    const auto many = m_link.manyReads();
     // A valid region is on: follow() shows it where it was not shown before.
     if (!selectUnlessLost(region) || follow(region))
         return;
@@ -237,11 +224,11 @@ void RegionWriter::returnToCurrent()
         select(m_tabs.current());
 }
 
-void RegionWriter::readSelected(bool withMode)
+void RegionWriter::readSelected()
 {
     const Call call(*this);
     m_selected = m_camera.readSelected();
-    if (!m_selected || !m_tabs.has(*m_selected) || (withMode && follow(*m_selected)))
+    if (!m_selected || !m_tabs.has(*m_selected) || follow(*m_selected))
         return;
     m_moved << *m_selected;
     if (m_tabs.isActive(*m_selected))

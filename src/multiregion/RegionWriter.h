@@ -71,8 +71,8 @@ public:
     /// Reads all when the work is done, and not before.
     void load(const std::function<void()>& work);
     void readUntold();
-    /// The camera's selected region; with its mode, which another client may have changed.
-    void readSelected(bool withMode);
+    /// The region that the camera has selected.
+    void readSelected();
     /// Looks for regions that another client has switched, when that is due; asked once a second.
     void lookIfDue();
 
@@ -89,8 +89,6 @@ signals:
     void regionActivated(int regionNo, bool active);
 
 private:
-    void begin();
-    void end();
     void readTable();
     bool selectUnlessLost(int region);
     void returnToCurrent();

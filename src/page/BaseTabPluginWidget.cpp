@@ -172,8 +172,8 @@ void BaseTabPluginWidget::refreshWhileAnswered()
 {
     const QPointer<BaseTabPluginWidget> page = this;
     const std::shared_ptr<CameraLink> link = featureManager->link();
-    const CameraLink::ManyReads manyReads(*link);
-    const std::shared_ptr<void> memory = link->memory();
+    const auto manyReads = link->manyReads();
+    const auto memory = link->memory();
     refreshFeatures();
     if (page && link->isLost())
         m_wasLost = true;

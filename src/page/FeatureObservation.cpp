@@ -22,7 +22,7 @@ ZebErrorType FeatureObservation::start(const QStringList& names,
 {
     m_isRunning = true;
     m_observer = std::move(observer);
-    const CameraLink::ManyReads manyReads(*m_manager.link());
+    const auto manyReads = m_manager.link()->manyReads();
     const auto found = m_manager.FindAll(names);
     // What is left of an earlier observation is registered again, or waits for the next stop.
     const auto former = std::exchange(m_registrations, found);

@@ -36,7 +36,7 @@ private slots:
             QCOMPARE(link.takeLoss(), isLost);
             QVERIFY(!link.takeLoss());
             QVERIFY(!link.isClosed());
-            const CameraLink::ManyReads manyReads(link);
+            const auto manyReads = link.manyReads();
             QCOMPARE(link.isClosed(), isLost);
         });
         row("nothing read", "", false);

@@ -147,6 +147,73 @@ private slots:
         }
     }
 
+    /// Each question takes a real camera a millisecond. What is asked is enough, also where the
+    /// camera tells of nothing by itself.
+    void asksLittle_data()
+    {
+        using Action = std::function<void(const MultiROIPage&)>;
+        const DataTable row([](const QByteArray& mode, std::size_t most, const Action& action) {
+            for (const bool isSilent : {false, true}) {
+                const MultiROIPage open("multi-region", mode);
+                open.loadDefaults();
+                open.tabs->setCurrentIndex(3);
+                open.settle();
+                if (isSilent)
+                    open.camera->setNotifications(sim::NotificationSettings::off());
+                open.camera->journal().clear();
+                action(open);
+                QCOMPARE(open.contradiction(), QString());
+                open.settle();
+                const std::size_t questions = open.camera->journal().questions();
+                QVERIFY2(questions <= most, qPrintable(QString::number(questions)));
+                for (int region = 0; region < 4; ++region) {
+                    open.tabs->setCurrentIndex(region);
+                    QCOMPARE(open.cell(region, "SubRegionStatus")->text().toStdString(),
+                             open.camera->feature("SubRegionStatus").text());
+                    const auto info = open.cell(region, "SubRegionWidth")->data(Qt::UserRole);
+                    QCOMPARE(recordIn(info)->cameraMaximum,
+                             FeatureValue(2592 - std::int64_t{open.onCamera(region).x()}));
+                }
+            }
+        });
+        const auto save = [](const MultiROIPage& open) {
+            open.page->saveNewRegionGeometry(3, {1200, 300, 400, 600});
+        };
+        const auto switchOn = [](const MultiROIPage& open) {
+            open.camera->forceAt("SubRegionMode", 3, "Off");
+            open.page->hide();
+            open.page->show();
+            open.settle();
+            open.tabs->setCurrentIndex(0);
+            open.camera->journal().clear();
+            open.button(3)->click();
+        };
+        row("nothing", "Free", 0, [](const MultiROIPage&) {});
+        row("another tab", "Free", 28,
+            [](const MultiROIPage& open) { open.tabs->setCurrentIndex(1); });
+        row("the same tab", "Free", 1,
+            [](const MultiROIPage& open) { open.page->selectRegionTab(3); });
+        row("a release", "Free", 66, save);
+        row("a region on", "Vertical", 118, switchOn);
+        row("a shared width", "Vertical", 82, [](const MultiROIPage& open) {
+            open.page->setFeatureValue(1, 0, "SubRegionWidth", 640);
+        });
+        row("defaults", "Tile", 265, [](const MultiROIPage& open) { open.loadDefaults(); });
+    }
+    void asksLittle() { runRow(); }
+
+    /// Whoever waits for many questions sees how far it is.
+    void paintsBetweenRegions()
+    {
+        for (const char* model : {"multi-region-2", "multi-region-256"}) {
+            const MultiROIPage open(model, "Free");
+            const PaintWatch watch(open);
+            Answers yes({"Yes"});
+            open.page->loadDefaultConfiguration();
+            QCOMPARE(watch.isPainted, open.tabs->count() > 2);
+        }
+    }
+
     /// The viewer may close the page, or take its label, in any receiver of its signals.
     void endsInAnySignal_data()
     {
@@ -215,6 +282,29 @@ private slots:
     void endsInAnySignal() { runRow(); }
 
 private:
+    /// Whether the label is painted once something is written.
+    class PaintWatch : public QObject
+    {
+    public:
+        explicit PaintWatch(const MultiROIPage& open)
+            : m_journal(open.camera->journal())
+        {
+            open.label->installEventFilter(this);
+        }
+        bool isPainted = false;
+
+    protected:
+        bool eventFilter(QObject*, QEvent* event) override
+        {
+            isPainted
+                = isPainted || (event->type() == QEvent::Paint && !m_journal.writes().empty());
+            return false;
+        }
+
+    private:
+        const sim::Journal& m_journal;
+    };
+
     /// The features written since it was asked last, but for the selector.
     static QString written(const MultiROIPage& open)
     {

@@ -94,6 +94,7 @@ void readTexts(FeatureReader& feature, FeatureInfo& info)
 bool readFeatureInfo(FeatureManager& manager, FeatureInfo& info)
 {
     const FeatureInfo before = info;
+    const auto memory = manager.link()->memory();
     FeatureReader feature = manager.Read(QString::fromStdString(info.name));
     const bool isWhole = readValue(feature, info);
     if (feature && !manager.link()->isDoubtful()) {
