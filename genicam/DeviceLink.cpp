@@ -14,6 +14,28 @@ constexpr auto patience = 500ms;
 
 } // namespace
 
+DeviceLink::Turn::Turn(DeviceLink& link, const Patience& patience)
+    : m_link(link)
+{
+    std::unique_lock lock(link.m_mutex);
+    const auto isFree = [&link] { return !link.m_isInUse; };
+    if (patience)
+        m_hasCome = link.m_isFree.wait_for(lock, *patience, isFree);
+    else
+        link.m_isFree.wait(lock, isFree);
+    if (m_hasCome)
+        link.m_isInUse = true;
+}
+
+DeviceLink::Turn::~Turn()
+{
+    if (!m_hasCome)
+        return;
+    const std::lock_guard lock(m_link.m_mutex);
+    m_link.m_isInUse = false;
+    m_link.m_isFree.notify_one();
+}
+
 DeviceLink::DeviceLink(ArvDevice* device)
     : m_device(device)
     , m_genicam(arv_device_get_genicam(device))
@@ -55,15 +77,14 @@ bool DeviceLink::isOld(Reading& last)
 
 ZebErrorType DeviceLink::perform(const Work& work, Reading* last, bool isPatient)
 {
-    std::unique_lock lock(m_mutex, std::defer_lock);
-    if (m_state == Answering) {
-        if (isPatient)
-            lock.lock();
-        else if (!lock.try_lock_for(patience))
-            lose();
-    }
-    if (m_state != Answering) // by now: another call was waited for
-        return isClosed() ? ZebErrorBadHandle : ZebErrorTimeout;
+    const auto refusal = [this] { return isClosed() ? ZebErrorBadHandle : ZebErrorTimeout; };
+    if (m_state != Answering)
+        return refusal();
+    const Turn turn(*this, isPatient ? Patience() : patience);
+    if (!turn.hasCome())
+        lose();
+    if (m_state != Answering || !turn.hasCome()) // by now: another call was waited for
+        return refusal();
     if (!last || isOld(*last))
         setCache(false);
     GError* error = nullptr;
@@ -86,7 +107,7 @@ ArvGcFeatureNode* DeviceLink::node(const char* name) const
 
 bool DeviceLink::ask()
 {
-    const std::lock_guard lock(m_mutex);
+    const Turn turn(*this, {});
     if (m_state != Lost)
         return m_state == Answering;
     GError* error = nullptr;
@@ -105,9 +126,7 @@ bool DeviceLink::ask()
 void DeviceLink::close()
 {
     const State before = m_state.exchange(Closed);
-    const bool isFree = m_mutex.try_lock();
-    if (isFree)
-        m_mutex.unlock();
+    const bool isFree = Turn(*this, 0ms).hasCome();
     if (isFree && before == Answering)
         release();
     else
@@ -116,7 +135,7 @@ void DeviceLink::close()
 
 void DeviceLink::release()
 {
-    const std::lock_guard lock(m_mutex);
+    const Turn turn(*this, {});
     if (!m_device)
         return;
     g_signal_handlers_disconnect_by_data(m_device.get(), this);

@@ -4,8 +4,10 @@
 
 #include <atomic>
 #include <chrono>
+#include <condition_variable>
 #include <functional>
 #include <mutex>
+#include <optional>
 
 namespace genicam {
 
@@ -60,12 +62,32 @@ private:
         Closed
     };
 
+    using Patience = std::optional<std::chrono::milliseconds>;
+
+    /// Device and nodes for one thread, as std::timed_mutex gives them, whose waiting for a time
+    /// ThreadSanitizer does not know. Without an end of its patience it waits for its turn.
+    class Turn
+    {
+    public:
+        Turn(DeviceLink& link, const Patience& patience);
+        ~Turn();
+        Turn(const Turn&) = delete;
+        Turn& operator=(const Turn&) = delete;
+        bool hasCome() const { return m_hasCome; }
+
+    private:
+        DeviceLink& m_link;
+        bool m_hasCome = true;
+    };
+
     bool isOld(Reading& last);
     void lose();
     void release();
     void setCache(bool isOn);
 
-    std::timed_mutex m_mutex;
+    std::mutex m_mutex;
+    std::condition_variable m_isFree;
+    bool m_isInUse = false;
     std::atomic<State> m_state{Answering};
     std::atomic<std::uint64_t> m_age{0};
     GObjectPtr<ArvDevice> m_device;

@@ -39,7 +39,7 @@ std::string pickModel(Random& random)
 {
     auto models = sim::modelNames();
 #ifdef WITH_GENICAM
-    models.insert(models.end(), 3, "genicam");
+    models.insert(models.end(), 6, "genicam"); // so that a minute meets some
 #endif
     const std::string model = random.pick(models);
     // With hundreds of regions a session takes as long as dozens of others.
@@ -86,6 +86,9 @@ Session::Session(const Run& run, std::uint64_t seed, const std::string& model)
 void Session::run()
 {
     const std::int64_t memory = largestMemory();
+    if (m_run.isVerbose)
+        std::fprintf(stderr, "seed %llu, camera %s\n", static_cast<unsigned long long>(m_seed),
+                     m_model.c_str());
     openPage();
     const int steps = random.between(10, 80);
     for (m_step = 1; m_step <= steps && m_page; ++m_step) {
