@@ -3,7 +3,8 @@
 namespace {
 
 constexpr int darkLightness = 128;
-constexpr int readableLightness = 150;
+constexpr int leastOnDark = 150;
+constexpr int mostOnLight = 110;
 
 } // namespace
 
@@ -24,9 +25,10 @@ void FeatureNameDelegate::initStyleOption(QStyleOptionViewItem* option,
 {
     QStyledItemDelegate::initStyleOption(option, index);
     QColor text = option->palette.color(QPalette::Text);
-    if (option->palette.color(QPalette::Base).lightness() >= darkLightness
-        || text.lightness() >= readableLightness)
-        return;
-    text.setHsl(text.hslHue(), text.hslSaturation() / 2, readableLightness);
+    const bool isDark = option->palette.color(QPalette::Base).lightness() < darkLightness;
+    if (isDark && text.lightness() < leastOnDark)
+        text.setHsl(text.hslHue(), text.hslSaturation() / 2, leastOnDark);
+    else if (!isDark && text.lightness() > mostOnLight)
+        text.setHsl(text.hslHue(), text.hslSaturation(), mostOnLight);
     option->palette.setColor(QPalette::Text, text);
 }

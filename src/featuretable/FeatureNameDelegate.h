@@ -3,8 +3,8 @@
 #include <QFont>
 #include <QStyledItemDelegate>
 
-/// Draws the feature names. Their dark green is meant for light backgrounds and is lightened on a
-/// dark one. Every name asks for the width of the longest, so that the column keeps its width while
+/// Draws the feature names, whose colours are as light or dark as it takes to read them on the
+/// table. Every name asks for the width of the longest, so that the column keeps its width while
 /// rows are scrolled or filtered. To be installed when the names are in the model.
 class FeatureNameDelegate : public QStyledItemDelegate
 {

@@ -11,6 +11,7 @@
 #include <QColor>
 #include <QDebug>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QPointer>
 #include <QScopedValueRollback>
 #include <QSignalBlocker>
@@ -185,6 +186,20 @@ void FeaturesTableWidget::onDataChanged(const QModelIndex& topLeft, const QModel
     onClosingEditor();
 }
 
+bool FeaturesTableWidget::eventFilter(QObject* watched, QEvent* event)
+{
+    const int key = event->type() == QEvent::KeyPress ? static_cast<QKeyEvent*>(event)->key() : 0;
+    if (key != Qt::Key_Return && key != Qt::Key_Enter && key != Qt::Key_F2)
+        return QWidget::eventFilter(watched, event);
+    const QModelIndex cell = m_table->currentIndex().siblingAtColumn(ValueColumn);
+    if (cell.flags().testFlag(Qt::ItemIsEditable)) {
+        onCellEdit(cell.row(), ValueColumn);
+        m_table->edit(cell);
+        m_announced.clear();
+    }
+    return true;
+}
+
 void FeaturesTableWidget::onCellEdit(int row, int column)
 {
     const QVariant record = m_table->model()->index(row, column).data(Qt::UserRole);
@@ -260,6 +275,8 @@ void FeaturesTableWidget::showValue(const QString& name, const FeatureValue& val
 void FeaturesTableWidget::setUpTable(int rowCount)
 {
     m_table->setEditTriggers(QAbstractItemView::DoubleClicked);
+    m_table->setTabKeyNavigation(false); // Tab leaves the table
+    m_table->installEventFilter(this);
     QHeaderView* header = m_table->horizontalHeader();
     header->setStretchLastSection(true);
     header->setSectionResizeMode(QHeaderView::ResizeToContents);

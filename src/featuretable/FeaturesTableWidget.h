@@ -84,6 +84,10 @@ protected:
     /// Replaces the record of a row. This is not an edit, and an open editor keeps what it shows.
     void storeFeatureInfo(int row, const FeatureInfo& info);
 
+    /// Return, Enter and F2 open the editor of the current row, as a double click on its value
+    /// does.
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
     void setUpTable(int rowCount);
     void addRow(int row, const QString& name, const QStringList& features);

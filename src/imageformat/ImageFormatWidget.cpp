@@ -8,6 +8,7 @@
 #include "regions/AOIWidget.h"
 #include "regions/AutoROIWidget.h"
 #include "ui_ImageFormatWidget.h"
+#include "widgets/Theme.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -56,6 +57,7 @@ ImageFormatWidget::ImageFormatWidget(const FeatureList& camera, QWidget* parent)
 
     bindFields();
     updateIcon();
+    outlineControls(this);
     // Last: a page that is refused leaves the viewer's widget as it was.
     if (parent)
         parent->setAccessibleName(accessibleName());

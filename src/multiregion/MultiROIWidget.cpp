@@ -32,6 +32,8 @@ MultiROIWidget::MultiROIWidget(const FeatureList& camera, QWidget* parent)
     m_ui = std::make_unique<Ui::MultiROIWidget>();
     m_ui->setupUi(this);
     m_ui->lblWarning->setStyleSheet(regionTextStyle(isDarkMode()));
+    m_ui->frameWarning->setStyleSheet(isDarkMode() ? "#frameWarning { background: black }"
+                                                   : "#frameWarning { background: white }");
 
     observedFeatures = Name::multipleRegionSwitches + QStringList{Name::multipleRegionArrangement}
         + Name::pictureGeometry + QStringList{Name::subRegionMode, Name::subRegionStatus}
@@ -65,6 +67,7 @@ void MultiROIWidget::createLabel()
     m_label
         = new MultiRubberBandLabel(sensor.width(), sensor.height(), regionDefaultColor(),
                                    m_ui->cmbMultipleRegionArrangement->currentText(), m_ui->grpROI);
+    m_label->setAccessibleName(accessibleName());
     m_ui->horizontalLayout->insertWidget(0, m_label, 1);
 
     using Label = MultiRubberBandLabel;

@@ -1,16 +1,17 @@
 #include "multiregion/RegionLabelWidget.h"
 
 #include "ui_RegionLabelWidget.h"
+#include "widgets/Theme.h"
 
 #include <algorithm>
 
 namespace {
 
-/// Equal style sheets are set once, for each setting restyles the label.
-void setStyleOnce(QLabel* label, const QString& styleSheet)
+/// Equal style sheets are set once, for each setting restyles the widget.
+void setStyleOnce(QWidget* widget, const QString& styleSheet)
 {
-    if (label->styleSheet() != styleSheet)
-        label->setStyleSheet(styleSheet);
+    if (widget->styleSheet() != styleSheet)
+        widget->setStyleSheet(styleSheet);
 }
 
 void setWeight(QLabel* label, QFont::Weight weight)
@@ -29,6 +30,7 @@ RegionLabelWidget::RegionLabelWidget(int regionNo, const QRect& regionRect, cons
     , m_ui(std::make_unique<Ui::RegionLabelWidget>())
 {
     m_ui->setupUi(this);
+    setAttribute(Qt::WA_StyledBackground);
     setRegionGeometry(regionRect);
     updateColor(m_regionNo, color);
     m_ui->lbl_Size->adjustSize();
@@ -69,6 +71,8 @@ void RegionLabelWidget::updateColor(int regionNo, const QColor& color)
         = QStringLiteral("QLabel { color: %1; border-color: %1 }").arg(color.name());
     setStyleOnce(m_ui->lbl_ID, styleSheet);
     setStyleOnce(m_ui->lbl_Size, styleSheet);
+    setStyleOnce(this,
+                 QStringLiteral("#RegionLabelWidget { background: %1 }").arg(plateFor(color)));
 }
 
 void RegionLabelWidget::highlightIfSelected(int selectedRegion)

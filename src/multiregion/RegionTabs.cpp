@@ -30,11 +30,16 @@ void RegionTabs::add(RegionTableWidget* table, const QColor& color)
             new RegionLabelWidget(region, QRect(), color, m_form.scrollRegionLabelsContents)};
     tab.button->setObjectName(QStringLiteral("btnRegion%1").arg(region));
     tab.button->setAccessibleName(title);
+    table->findChild<QWidget*>(QStringLiteral("tblFeatures"))->setAccessibleName(title);
     tab.label->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     m_form.verticalLayout_6->addWidget(tab.label);
     tab.label->setVisible(false);
     m_form.tabRegions->addTab(table, title);
     bar->setTabButton(region, QTabBar::LeftSide, tab.button);
+    if (region > 0)
+        QWidget::setTabOrder(m_tabs.back().button, tab.button);
+    else
+        QWidget::setTabOrder(bar, tab.button);
     m_tabs.push_back(tab);
 
     using Label = MultiRubberBandLabel;

@@ -6,6 +6,7 @@
 #include "page/FeatureObservation.h"
 #include "page/TENotSupported.h"
 #include "widgets/SilentFields.h"
+#include "widgets/Theme.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -91,6 +92,7 @@ BaseTabPluginWidget::BaseTabPluginWidget(const FeatureList& features, QWidget* p
     changedFeatures = &m_changes->list();
 
     connect(qApp, &QGuiApplication::paletteChanged, this, [this] {
+        restyle(this);
         QEvent event(QEvent::PaletteChange);
         onPaletteChanged(&event);
     });

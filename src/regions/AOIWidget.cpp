@@ -70,6 +70,7 @@ void AOIWidget::createLabel()
     m_label
         = new RubberBandLabel(toInt(m_horizontal->readMaximum()), toInt(m_vertical->readMaximum()),
                               QColor(0, 100, 255, 255), m_ui->gb_AOI);
+    m_label->setAccessibleName(accessibleName());
     m_ui->gb_AOI->layout()->addWidget(m_label);
     connect(m_label, SIGNAL(SendGeometry(int, int, int, int)), this,
             SLOT(OnSendGeometry(int, int, int, int)));

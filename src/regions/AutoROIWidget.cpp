@@ -110,7 +110,8 @@ void AutoROIWidget::connectLabel()
 {
     using Label = RubberBandLabel;
     using Page = AutoROIWidget;
-    const Label* const label = m_picture->label();
+    Label* const label = m_picture->label();
+    label->setAccessibleName(m_ui->gb_AutoROI->title());
     connect(label, &Label::SendGeometry, this, &Page::OnSendGeometry);
     connect(label, &Label::UpdateGeometry, this, &Page::OnUpdateGeometry);
     connect(label, &Label::GeometryChangeStarted, this, &Page::OnGeometryChangeStarted);

@@ -33,6 +33,19 @@ bool takesMouse(const SensorLabel& label, QObject* object, const QEvent& event)
 
 } // namespace
 
+QString spokenRegion(const QString& name, const QRect& region)
+{
+    return name
+        + QString::asprintf(" (%d, %d) %d x %d", region.x(), region.y(), region.width(),
+                            region.height());
+}
+
+void describe(QWidget* widget, const QString& text)
+{
+    if (widget->accessibleDescription() != text)
+        widget->setAccessibleDescription(text);
+}
+
 SensorLabel::SensorLabel(const QSize& sensor, const QColor& color, QWidget* parent)
     : QLabel(parent)
     , m_color(color)
@@ -134,8 +147,11 @@ void SensorLabel::resizeEvent(QResizeEvent* event)
 void SensorLabel::showEvent(QShowEvent* event)
 {
     QLabel::showEvent(event);
-    if (m_pictureWaits)
-        showBackground();
+    if (!m_pictureWaits)
+        return;
+    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    showBackground();
+    QGuiApplication::restoreOverrideCursor();
 }
 
 /// What Qt or the page does to the label goes on behind this, so that the signal waits.

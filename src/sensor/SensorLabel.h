@@ -4,6 +4,11 @@
 
 #include <QLabel>
 
+/// A region and its sensor pixels for those who do not see them.
+QString spokenRegion(const QString& name, const QRect& region);
+/// Describes a widget to them, and tells when that has changed.
+void describe(QWidget* widget, const QString& text);
+
 /// The sensor area, a tinted placeholder or a picture in the label's top left corner, scaled to
 /// fit, with bands on it that are dragged with the mouse.
 ///

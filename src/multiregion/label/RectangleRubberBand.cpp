@@ -33,6 +33,7 @@ RectangleRubberBand::RectangleRubberBand(int regionNo, const QRect& geometry,
 {
     m_limits.minimum = minimumSize;
     setGeometry(geometry);
+    setAccessibleName(QStringLiteral("Region%1").arg(regionNo));
     applyColor();
     prepareNumber();
 }

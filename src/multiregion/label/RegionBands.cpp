@@ -60,11 +60,15 @@ void RegionBands::select(int region)
 void RegionBands::arrange(const RegionDrag& drag)
 {
     const std::vector<RectangleRubberBand*> bands = m_regions->bands();
+    QStringList spoken;
     for (RectangleRubberBand* band : bands) {
+        spoken << spokenRegion(band->accessibleName(), m_regions->at(band->regionNo()).rectangle);
+        describe(band, spoken.last());
         if (!drag.holds(band->regionNo()))
             band->setGeometry(m_regions->placed(band->regionNo()));
         band->setSizeLimits(m_regions->limitsOfBand(band->regionNo()));
     }
+    describe(m_label, spoken.join(QLatin1Char('\n')));
     updateLines();
     for (RectangleRubberBand* band : bands) {
         const auto conflict = m_regions->intersecting(band->regionNo(), band->geometry());

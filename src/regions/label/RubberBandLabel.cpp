@@ -31,7 +31,12 @@ RubberBandLabel::RubberBandLabel(int sensorWidth, int sensorHeight, const QColor
     : SensorLabel({sensorWidth, sensorHeight}, color, parent)
     , m_band(new LabelBand(this))
 {
-    setOpaqueColor(Qt::black); // from now on: the first placeholder is grey
+    QColor highlight = color;
+    highlight.setAlpha(bandAlpha);
+    QPalette palette;
+    palette.setBrush(QPalette::Highlight, highlight);
+    m_band->setPalette(palette); // before a style sheet, which gives back what it has found
+    setOpaqueColor(Qt::black);   // from now on: the first placeholder is grey
     m_settleTimer.setSingleShot(true);
     m_settleTimer.setInterval(settleTimeMs);
     connect(&m_settleTimer, &QTimer::timeout, this, &RubberBandLabel::UpdateGeometryAfterResize);
@@ -51,8 +56,11 @@ void RubberBandLabel::showBackground(std::shared_ptr<QPixmap> image, QSize senso
 
 void RubberBandLabel::UpdateGeometryAfterResize()
 {
+    if (isDragging())
+        return;
+    describeRegion();
     const LabelGeometry current = labelGeometry();
-    if (!isDragging() && canPlaceBand(current))
+    if (canPlaceBand(current))
         m_band->setGeometry(m_region ? bandForRegion(*m_region, current)
                                      : bandWithoutRegion(current));
 }
@@ -90,6 +98,7 @@ void RubberBandLabel::release(const QPoint& point)
     const QRect region = releasedRegion(*m_drag, m_band->geometry(), point, labelGeometry());
     m_drag.reset();
     m_region = region;
+    describeRegion();
     emit SendGeometry(region.y(), region.x(), region.width(), region.height());
 }
 
@@ -142,13 +151,14 @@ void RubberBandLabel::showEvent(QShowEvent* event)
         m_band->setGeometry(bandWithoutRegion(labelGeometry()));
     else
         UpdateGeometryAfterResize();
-
-    QColor highlight = color();
-    highlight.setAlpha(bandAlpha);
-    QPalette palette;
-    palette.setBrush(QPalette::Highlight, highlight);
-    m_band->setPalette(palette);
     m_band->show();
+}
+
+void RubberBandLabel::describeRegion()
+{
+    const QString text = m_region ? spokenRegion(accessibleName(), *m_region) : QString();
+    describe(this, text);
+    describe(m_band, text);
 }
 
 void RubberBandLabel::paintEvent(QPaintEvent* event)

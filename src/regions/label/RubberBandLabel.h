@@ -59,6 +59,7 @@ protected:
 
 private:
     LabelGeometry labelGeometry() const { return {size(), sensorSize(), shownSize()}; }
+    void describeRegion();
 
     std::optional<QRect> m_region;
     std::optional<EdgeDrag> m_drag;
