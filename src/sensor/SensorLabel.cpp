@@ -187,7 +187,9 @@ void SensorLabel::fitBackground(const QSize& bounds)
 void SensorLabel::showBackground()
 {
     m_pictureWaits = false;
-    setPixmap(m_background.scaled(m_shown));
+    QPixmap picture = m_background.scaled(m_shown * devicePixelRatioF());
+    picture.setDevicePixelRatio(devicePixelRatioF());
+    setPixmap(picture);
     coverWithPicture();
 }
 
@@ -196,5 +198,6 @@ void SensorLabel::coverWithPicture()
 {
     const QPixmap picture = pixmap(Qt::ReturnByValue);
     setAttribute(Qt::WA_OpaquePaintEvent,
-                 isPlain() && picture.size() == size() && !picture.hasAlphaChannel());
+                 isPlain() && picture.size() == size() * devicePixelRatioF()
+                     && !picture.hasAlphaChannel());
 }

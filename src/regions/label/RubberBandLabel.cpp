@@ -17,9 +17,9 @@ constexpr int bandAlpha = 80;
 // What QLabel paints, rectangle by rectangle: one clip of them all takes several times as long.
 void paintPixmap(QPainter& painter, const QPixmap& pixmap, const QRegion& region)
 {
-    for (const QRect& part : region& pixmap.rect()) {
+    for (const QRect& part : region) {
         painter.setClipRect(part);
-        painter.drawPixmap(part, pixmap, part);
+        painter.drawPixmap(0, 0, pixmap);
     }
     painter.setClipping(false);
 }
