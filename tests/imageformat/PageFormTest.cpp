@@ -76,7 +76,11 @@ struct Page
         page->show();
         tabs = find<QTabWidget>("tabWidget");
         tabs->setCurrentIndex(tab);
-        QTest::qWait(250); // bands are placed 200 ms after the last resize
+        QImage before;
+        do { // bands are placed 200 ms after the last resize
+            before = picture();
+            QTest::qWait(250);
+        } while (picture() != before);
     }
     ~Page() { setTheme(false); }
 
