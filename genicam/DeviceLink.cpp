@@ -14,13 +14,13 @@ constexpr auto patience = 500ms;
 
 } // namespace
 
-DeviceLink::Turn::Turn(DeviceLink& link, const Patience& patience)
+DeviceLink::Turn::Turn(DeviceLink& link, const Patience& longestWait)
     : m_link(link)
 {
     std::unique_lock lock(link.m_mutex);
     const auto isFree = [&link] { return !link.m_isInUse; };
-    if (patience)
-        m_hasCome = link.m_isFree.wait_for(lock, *patience, isFree);
+    if (longestWait)
+        m_hasCome = link.m_isFree.wait_for(lock, *longestWait, isFree);
     else
         link.m_isFree.wait(lock, isFree);
     if (m_hasCome)

@@ -69,7 +69,7 @@ private:
     class Turn
     {
     public:
-        Turn(DeviceLink& link, const Patience& patience);
+        Turn(DeviceLink& link, const Patience& longestWait);
         ~Turn();
         Turn(const Turn&) = delete;
         Turn& operator=(const Turn&) = delete;
