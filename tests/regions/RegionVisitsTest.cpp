@@ -36,7 +36,7 @@ Fields fieldsOf(const AutoROIPage& p)
         return sizedFields(p.camera->has("AutofunctionAOIWidth") ? "AutofunctionAOI"
                                                                  : "AutoModeRegion");
     Fields fields;
-    for (const QString edge : {"Left", "Top", "Right", "Bottom"})
+    for (const QString& edge : QStringList{"Left", "Top", "Right", "Bottom"})
         fields.append({"spin" + edge, "DSPSubregion" + edge});
     return fields;
 }

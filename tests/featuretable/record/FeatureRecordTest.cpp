@@ -8,7 +8,6 @@
 namespace {
 
 constexpr qint64 twoTo53 = qint64{1} << 53;
-constexpr qint64 highest = std::numeric_limits<qint64>::max();
 constexpr qint64 lowest = std::numeric_limits<qint64>::lowest();
 
 FeatureInfo infoOf(const FeatureValue& value, const FeatureValue& minimum,
