@@ -1,5 +1,6 @@
 #include "regions/AutoROIWidget.h"
 
+#include "features/CameraLink.h"
 #include "features/FeatureNames.h"
 #include "regions/automatic/AutoRegionForm.h"
 #include "regions/automatic/AutoRegionPicture.h"
@@ -138,6 +139,7 @@ void AutoROIWidget::OnSpinEditingFinished()
     if (!m_ui)
         return;
     // The field has missed what the camera told while it was being typed in.
+    const auto reads = featureManager->link()->manyReads();
     if (!isAtWork() && isVisible())
         m_view->refresh();
     readSoon({});
