@@ -1,5 +1,6 @@
 #include "regions/image/RegionAxis.h"
 
+#include "features/CameraLink.h"
 #include "features/FeatureManager.h"
 #include "features/FeatureNames.h"
 #include "features/FeatureWriting.h"
@@ -72,6 +73,7 @@ double RegionAxis::readMaximum()
 // Another feature stands in for a maximum that is missing, or that was never told.
 bool RegionAxis::readLargest()
 {
+    const auto reads = m_manager.link()->manyReads();
     bool isTold = true;
     for (const QString& name : {m_maximumName, m_sensorName}) {
         const Reading<double> extent = m_manager.Read(name).number(FeatureReader::Value);
@@ -107,6 +109,7 @@ double RegionAxis::sensor()
 // Where it matters for what is kept beside @p offset.
 bool RegionAxis::readPixelFormat(const QString& offset)
 {
+    const auto reads = m_manager.link()->manyReads();
     QString& category = m_categories[offset];
     if (category.isEmpty())
         category = m_manager.GetCategory(offset);
@@ -124,8 +127,10 @@ bool RegionAxis::needsEven(const QString& offset) const
     return needsEvenSize(m_categories.value(offset), m_pixelFormat);
 }
 
+// What is read before a write is not asked of a lost camera; the write and its answer are.
 Reading<double> RegionAxis::read(Number& number, int parts)
 {
+    const auto reads = m_manager.link()->manyReads();
     const Reading<double> reading = m_manager.Read(number.name).number(parts);
     number.exists = reading.exists;
     number.isTold = number.isTold || reading.value || (!reading.exists && reading.isComplete);
@@ -204,8 +209,7 @@ void RegionAxis::write(Number& number, double value, int limits)
          limits | (number.limits.isWritable ? 0 : FeatureReader::Access)
              | (number.limits.increment ? 0 : FeatureReader::Increment));
     FeatureReader feature = m_manager.Read(number.name);
-    if (!m_manager.link()->isDoubtful())
-        FeatureWriting::writeNumber(feature, number.name, value, number.limits);
+    FeatureWriting::writeNumber(feature, number.name, value, number.limits);
     const double taken = feature.value().value_or(number.onCamera);
     if (std::exchange(number.onCamera, taken) != taken)
         m_written << number.name;
