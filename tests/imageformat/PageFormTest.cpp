@@ -285,7 +285,7 @@ private slots:
         const DataTable table(std::function([](Qt::Key key) {
             const Page p(2);
             auto* cells = p.find<QTableWidget>("tblFeatures");
-            cells->setCurrentItem(cells->findItems("SubRegionHeight", Qt::MatchExactly)[0]);
+            cells->setCurrentItem(cells->findItems("SubRegionHeight", Qt::MatchExactly).value(0));
             QTest::keyClick(cells, key);
             const QPointer<DelegateWidget> editor = p.find<DelegateWidget>();
             QVERIFY(editor);
