@@ -176,8 +176,10 @@ void MultiROIWidget::onRegionButtonToggled()
     const auto handling = m_senders.handling(sender());
     m_toggling = std::make_shared<RegionWriter::Call>(*m_writer);
     m_tabs->open(region);
-    m_writer->tellCurrent(region);
-    m_activation->toggle(region, activate);
+    if (page)
+        m_writer->tellCurrentAtOnce(region);
+    if (page)
+        m_activation->toggle(region, activate);
     if (page)
         m_toggling.reset();
     if (page)

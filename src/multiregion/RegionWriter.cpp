@@ -314,6 +314,12 @@ void RegionWriter::tellCurrent(int region)
     tell([=] { emit currentRegionChanged(region); });
 }
 
+void RegionWriter::tellCurrentAtOnce(int region)
+{
+    m_selected.reset(); // the receiver may select another
+    emit currentRegionChanged(region);
+}
+
 void RegionWriter::tellColor(int region, const QColor& color)
 {
     tell([=] { emit regionColorChanged(region, color); });

@@ -79,6 +79,8 @@ public:
     // When no call is under way any more:
     void tell(const std::function<void()>& emission);
     void tellCurrent(int region);
+    /// Also within a call: before anything is written.
+    void tellCurrentAtOnce(int region);
     void tellColor(int region, const QColor& color);
     void log(const QString& text);
 

@@ -90,7 +90,13 @@ private slots:
         open.settle();
         QVERIFY(!open.button(2)->isEnabled());
         QSignalSpy activated(open.page.get(), &MultiROIWidget::regionActivated);
+        // The region is told before anything is written, and after each write of it.
+        QVector<bool> wasOn;
+        const auto told = connect(open.page.get(), &MultiROIWidget::currentRegionChanged, this,
+                                  [&] { wasOn << open.isOn(1); });
         open.button(1)->click();
+        disconnect(told);
+        QVERIFY(!wasOn.value(0, true));
         // Shrunk first, it is placed one increment behind region 0 at the minimum.
         QCOMPARE(open.onCamera(1).x(), 640 + 8);
         QCOMPARE(open.onCamera(1).height(), 480);
