@@ -172,10 +172,10 @@ public:
     /// Any kind of value, or runs a command. True when the camera took it.
     virtual bool SetVariantValue(const QString& name, const QVariant& value);
 
-    FeatureReader Read(const QString& name, const QString& alternative1 = {},
-                       const QString& alternative2 = {}) const;
+    virtual FeatureReader Read(const QString& name, const QString& alternative1 = {},
+                               const QString& alternative2 = {}) const;
     /// All features of those names, in the camera's order, by one look-up.
-    QVector<FeatureReader> FindAll(const QStringList& names) const;
+    virtual QVector<FeatureReader> FindAll(const QStringList& names) const;
 
     const Wrappers& features() const { return m_features; }
     const std::shared_ptr<CameraLink>& link() const { return m_link; }

@@ -136,6 +136,8 @@ template <typename Type> Reading<Type> FeatureReader::read(int parts)
     if (!isOf<Type>()) {
         // That there is no such feature, or none of the type, is known as well.
         reading.isComplete = m_feature ? m_type.has_value() : m_isKnown;
+        if (reading.isComplete)
+            reading.isWritable = false;
         return reading;
     }
     bool isComplete = true;
@@ -146,9 +148,8 @@ template <typename Type> Reading<Type> FeatureReader::read(int parts)
         isComplete = reading.value || !flag(Readability).value_or(true);
     }
     if ((parts & Access) != 0) {
-        const auto isWritable = flag(Access);
-        reading.isWritable = isWritable.value_or(false);
-        isComplete = isComplete && isWritable;
+        reading.isWritable = flag(Access);
+        isComplete = isComplete && reading.isWritable;
     }
     if constexpr (isNumber<Type>)
         isComplete = readLimits(reading, parts) && isComplete;

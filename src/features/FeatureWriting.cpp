@@ -108,7 +108,7 @@ bool writeNumber(FeatureReader& feature, const QString& name, double value)
 bool writeNumber(FeatureReader& feature, const QString& name, double value,
                  const Reading<double>& limits)
 {
-    if (!limits.isWritable)
+    if (!limits.isWritable.value_or(false))
         return false;
     if (feature.dataType() == Sdk::floatType)
         return writeFloat(feature, name, value, limits);

@@ -10,7 +10,7 @@ template <class N> struct Reading
     std::optional<N> maximum;
     std::optional<N> increment;
     bool exists = false;
-    bool isWritable = false;
+    std::optional<bool> isWritable = std::nullopt;
     /// Nothing was kept back that the camera has: that there is no such feature, no increment or
     /// nothing to read is known as well. Otherwise what is shown stays, and is to be read again.
     bool isComplete = false;

@@ -17,6 +17,8 @@
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 
+#include <utility>
+
 namespace {
 
 /// A value cell: display value and FeatureInfo are stored, the accessible text follows from them.
@@ -239,7 +241,10 @@ void FeaturesTableWidget::save(const FeatureInfo& info, const QVariant& value)
         return;
     // As the owner may have refreshed it.
     FeatureInfo saved = featureInfo(rowOf(name));
-    saved.value = toFeatureValue(value);
+    FeatureValue taken = toFeatureValue(value);
+    if (taken.index() != saved.value.index())
+        return; // a number set as text, say, which the next refresh brings
+    saved.value = std::move(taken);
     storeFeatureInfo(rowOf(name), saved);
 }
 

@@ -84,8 +84,8 @@ bool FeatureBinder::showReading(QWidget* field, FeatureReader& feature, Entries 
     const auto take = [field, &told](const auto& reading) {
         if (reading.value)
             told = *reading.value;
-        if (reading.isWritable || reading.isComplete)
-            field->setEnabled(reading.isWritable);
+        if (reading.isWritable)
+            field->setEnabled(*reading.isWritable);
         return reading.isComplete;
     };
 

@@ -15,6 +15,7 @@
 #include <QSpinBox>
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace Name = FeatureNames;
@@ -143,14 +144,14 @@ void ImageFormatWidget::bindFields()
     }
 }
 
-// The region pages' fields without a feature are theirs to disable.
 bool ImageFormatWidget::bind(QWidget* field, const QStringList& existing)
 {
     const QString feature = FeatureBinder::featureOf(field);
     const bool isBound = existing.contains(feature) && m_binder->bind(field);
     if (isBound) {
         observedFeatures.append(feature);
-    } else if (m_ui->frmImageFormat->isAncestorOf(field)) {
+    } else if (feature == Name::reverseX || feature == Name::reverseY
+               || feature == Name::binningSelector) {
         field->setEnabled(false);
         field->setToolTip(tr("Feature '%1' is not available in the camera.").arg(feature));
     }
@@ -211,7 +212,8 @@ void ImageFormatWidget::refreshFeatures()
     const auto isGeometry
         = [](const QString& name) { return Name::pictureGeometry.contains(name); };
     if (std::any_of(names.cbegin(), names.cend(), isGeometry)) {
-        names += Name::pictureGeometry;
+        std::copy_if(observedFeatures.cbegin(), observedFeatures.cend(), std::back_inserter(names),
+                     isGeometry);
         names.removeDuplicates();
     }
     const auto geometry = [this] {

@@ -51,6 +51,7 @@ void ImageReaderWidget::onComboBoxItemActivated(int index)
     closeDialog();
     if (index == NoImage) {
         m_fileImage.reset();
+        m_fileFault.clear();
         emit imageChanged(m_fileImage);
     } else if (index == LastAcquiredImage) {
         emit requestFrame();

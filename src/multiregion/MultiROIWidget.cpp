@@ -270,6 +270,9 @@ void MultiROIWidget::setFeatureValue(int regionNo, int, QString featureName, QVa
     if (!isRegion(regionNo))
         return;
     const auto handling = m_senders.handling(sender());
+    // The camera's notification finds nobody while the page writes.
+    if (!Name::subRegion.contains(featureName))
+        readAgain({featureName});
     m_writer->setFeature(sharingRegions(m_tabs->groups(), regionNo, featureName), featureName,
                          value);
 }

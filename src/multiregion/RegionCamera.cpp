@@ -143,6 +143,13 @@ std::optional<bool> RegionCamera::readOn() const
     return mode.isComplete ? std::optional<bool>(mode.value == onEntry) : std::nullopt;
 }
 
+bool RegionCamera::readIsValid() const
+{
+    const auto isEnabled = readKnown(m_manager, Name::multipleRegionsEnable);
+    return isEnabled.value_or(0.0) == 0.0
+        || m_manager.GetStringValue(Name::subRegionStatus) == QLatin1String("Valid");
+}
+
 std::optional<RegionState> RegionCamera::read(bool withLimits) const
 {
     const AxisReading x(m_manager, Qt::Horizontal, withLimits);

@@ -48,6 +48,8 @@ public:
 
     // Of the selected region:
     std::optional<bool> readOn() const;
+    /// Of a region that is on: only cameras with the older switch tell that one is not valid.
+    bool readIsValid() const;
     std::optional<RegionState> read(bool withLimits) const;
     std::optional<QRect> readGeometry() const;
     std::optional<QSize> readSize() const;

@@ -27,7 +27,7 @@ std::optional<bool> RegionSettings::refreshSwitch()
         return std::nullopt;
     const bool isEnabled = enabled.value.value_or(0.0) > 0.0;
     showChecked(m_form.chkMultipleRegionEnable, isEnabled);
-    m_form.chkMultipleRegionEnable->setEnabled(enabled.isWritable);
+    m_form.chkMultipleRegionEnable->setEnabled(enabled.isWritable.value_or(false));
     return isEnabled;
 }
 

@@ -68,12 +68,14 @@ void RegionTableWidget::onDataChanged(const QModelIndex& topLeft, const QModelIn
                                       const QVector<int>& roles)
 {
     const QVariant record = topLeft.siblingAtColumn(ValueColumn).data(Qt::UserRole);
-    if (isEdit(roles) && !recordIn(record))
+    // No role stands for all of them.
+    const QVector<int> changed = roles.isEmpty() ? QVector<int>{Qt::DisplayRole} : roles;
+    if (isEdit(changed) && !recordIn(record))
         emit loggingMessage(ZebViewerLogMultiRegion,
                             tr("tblFeatures.data(%1) cannot be converted to FeatureInfo: %2")
                                 .arg(QString::number(topLeft.row()), record.toString()));
     else
-        FeaturesTableWidget::onDataChanged(topLeft, bottomRight, roles);
+        FeaturesTableWidget::onDataChanged(topLeft, bottomRight, changed);
 }
 
 void RegionTableWidget::addConstraints(int regionNo, QStringList features)

@@ -62,9 +62,13 @@ void RegionTabs::finishEditing()
         tab(current()).table->finishEditing();
 }
 
+QString RegionTabs::mode() const
+{
+    return m_form.cmbMultipleRegionArrangement->currentText();
+}
+
 void RegionTabs::setMode(const QString& mode)
 {
-    m_mode = mode;
     if (m_label)
         m_label->setArrangementMode(mode);
     updateButtons();
@@ -82,7 +86,7 @@ void RegionTabs::updateButtons()
     for (const Tab& tab : m_tabs)
         checked << (tab.button && tab.button->isChecked());
     const auto states
-        = regionButtonStates(arrangementMode(m_mode), active(), checked, m_isStreaming);
+        = regionButtonStates(arrangementMode(mode()), active(), checked, m_isStreaming);
     for (int region = 0; region < count(); ++region) {
         if (RoundButton* button = tab(region).button) {
             button->setEnabled(states[region].enabled);
@@ -119,7 +123,7 @@ QVector<ConstraintGroup> RegionTabs::groups() const
         if (isActive(region))
             shown << region;
     }
-    return constraintGroups(arrangementMode(m_mode), shown);
+    return constraintGroups(arrangementMode(mode()), shown);
 }
 
 int RegionTabs::current() const

@@ -47,7 +47,7 @@ public:
     void finishEditing();
 
     /// The arrangement's name.
-    QString mode() const { return m_mode; }
+    QString mode() const;
     void setMode(const QString& mode);
     void setStreaming(bool streaming);
     /// After every change of a button: which of them may be clicked.
@@ -82,6 +82,5 @@ private:
     const Ui::MultiROIWidget& m_form;
     const QPointer<MultiRubberBandLabel> m_label;
     std::vector<Tab> m_tabs;
-    QString m_mode;
     bool m_isStreaming = false;
 };

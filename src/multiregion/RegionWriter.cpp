@@ -254,7 +254,7 @@ bool RegionWriter::follow(int region)
     const std::optional<bool> isOn = m_camera.readOn();
     if (!isOn)
         keepUntold(region);
-    if (!isOn || *isOn == m_tabs.isActive(region))
+    if (!isOn || *isOn == m_tabs.isActive(region) || (*isOn && !m_camera.readIsValid()))
         return false;
     tellActive(region, *isOn);
     m_moved << region;

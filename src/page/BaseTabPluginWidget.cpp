@@ -116,7 +116,7 @@ void BaseTabPluginWidget::OnFeatureChanged(const QString& name, const QString&)
 {
     // A notification from another thread may be under way when the page hides. While it observes,
     // sender() is not asked: it would wait for a lock that the notifying thread still holds.
-    if (m_observation->isRunning() || sender() != observer.get())
+    if (!m_observation->isOver() || sender() != observer.get())
         m_changes->note(name);
 }
 

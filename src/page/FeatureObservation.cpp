@@ -21,6 +21,7 @@ ZebErrorType FeatureObservation::start(const QStringList& names,
                                        std::shared_ptr<PluginFeatureObserver> observer)
 {
     m_isRunning = true;
+    m_isOver = false;
     m_observer = std::move(observer);
     const auto manyReads = m_manager.link()->manyReads();
     const auto found = m_manager.FindAll(names);
@@ -46,6 +47,7 @@ ZebErrorType FeatureObservation::start(const QStringList& names,
 
 ZebErrorType FeatureObservation::stop()
 {
+    m_isOver = m_isOver || m_isRunning;
     m_isRunning = false;
     ZebErrorType result = Sdk::success;
     const auto registrations = std::exchange(m_registrations, {});

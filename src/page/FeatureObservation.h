@@ -20,11 +20,13 @@ public:
     ZebErrorType stop();
 
     bool isRunning() const { return m_isRunning; }
-    QStringList names() const; ///< of the features that hold the observer
+    bool isOver() const { return m_isOver; } ///< it was running
+    QStringList names() const;               ///< of the features that hold the observer
 
 private:
     FeatureManager& m_manager;
     ZebCPP::IFeatureObserverPtr m_observer;
     QVector<FeatureReader> m_registrations;
     bool m_isRunning = false;
+    bool m_isOver = false;
 };

@@ -43,8 +43,7 @@ bool NumberField::show(const Reading<double>& reading)
 {
     if (isBeingTyped())
         return false;
-    if (reading.isComplete || reading.isWritable)
-        m_isWritable = reading.isWritable;
+    m_isWritable = reading.isWritable.value_or(m_isWritable);
     setEnabled(m_isEnabled);
     const bool hasRange = reading.minimum && reading.maximum;
     setRangeAndValue(hasRange ? *reading.minimum : m_box->minimum(),

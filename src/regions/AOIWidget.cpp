@@ -211,15 +211,18 @@ QStringList AOIWidget::refresh(const Changes& changes)
         && std::all_of(written.begin(), written.end(),
                        [&](const QString& name) { return changes.names.contains(name); });
     const Changes news{changes.all && !isOwn, changes.names};
-    const auto partsAfter = [=](const QStringList& writes) {
-        return isOwn && !writes.isEmpty() ? RegionAxis::moved : FeatureReader::Whole;
-    };
-    // The vertical increment too becomes the step of the horizontal field.
     QStringList untold;
-    if (news.any({Name::offsetY, Name::height, Name::heightMax}))
-        untold += m_vertical->read(m_ui->spinLeft, partsAfter(vertical));
-    if (news.any({Name::offsetX, Name::width, Name::widthMax}))
-        untold += m_horizontal->read(m_ui->spinLeft, partsAfter(horizontal));
+    const auto readAxis = [&](RegionAxis& axis, bool isNews, const QStringList& writes) {
+        // The vertical increment too becomes the step of the horizontal field.
+        if (isNews)
+            untold
+                += axis.read(m_ui->spinLeft,
+                             isOwn && !writes.isEmpty() ? RegionAxis::moved : FeatureReader::Whole);
+        else if (axis.isWidened())
+            untold += axis.read(m_ui->spinLeft, FeatureReader::Value | FeatureReader::Range);
+    };
+    readAxis(*m_vertical, news.any({Name::offsetY, Name::height, Name::heightMax}), vertical);
+    readAxis(*m_horizontal, news.any({Name::offsetX, Name::width, Name::widthMax}), horizontal);
     if (news.any(Name::multipleRegionSwitches))
         readMultipleRegions();
     // Only when they were not told: a picture is scaled for them.

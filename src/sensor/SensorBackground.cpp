@@ -106,7 +106,7 @@ SensorBackground::SensorBackground(const SensorPicture& picture, const QSize& ke
 
 QSize SensorBackground::fittedSize(const QSize& bounds) const
 {
-    return m_size.isEmpty() || bounds.isEmpty() ? QSize() : fittedInto(m_size, bounds);
+    return m_size.isEmpty() || bounds.isEmpty() ? QSize(0, 0) : fittedInto(m_size, bounds);
 }
 
 QPixmap SensorBackground::scaled(const QSize& size)

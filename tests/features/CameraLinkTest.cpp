@@ -68,7 +68,7 @@ private slots:
             for (const auto& number :
                  {reading.value, reading.minimum, reading.maximum, reading.increment})
                 texts.append(number ? QString::number(*number) : QString("-"));
-            QCOMPARE(texts.join(' ') + (reading.isWritable ? " rw" : ""), text);
+            QCOMPARE(texts.join(' ') + (reading.isWritable == true ? " rw" : ""), text);
         });
         const Operations none;
         row("integer", "Width", none, true, "640 16 1023 16 rw");

@@ -181,7 +181,10 @@ private slots:
         open.writeAsOther("MultipleRegionArrangement", "Horizontal");
         open.settle();
         QCOMPARE(open.cell(2, "MultipleRegionArrangement")->text(), QString("Horizontal"));
-        open.writeAsOther("MultipleRegionArrangement", "Free");
+        // Typed into the table, while nobody observes the camera.
+        open.page->setFeatureValue(2, -1, "MultipleRegionArrangement", "Free");
+        open.settle();
+        QVERIFY(open.button(3)->isEnabled());
         // Elsewhere than where the page looks.
         open.switchAsOther(1, "On");
         open.writeAsOther("SubRegionSelector", "Region2");
@@ -195,6 +198,20 @@ private slots:
         open.settle();
         QVERIFY(open.page->findChild<QWidget*>("frameWarning")->isVisible());
         QVERIFY(!open.tabs->isVisible());
+    }
+
+    /// The older switch, while on, has regions show by their status; this one overlaps another.
+    void followsValidRegions()
+    {
+        for (const bool isEnabled : {false, true}) {
+            const MultiROIPage open("multi-region-3", "Free");
+            open.camera->writeAsOtherClient("MultipleRegionsEnable", isEnabled);
+            for (const char* offset : {"SubRegionOffsetX", "SubRegionOffsetY"})
+                open.camera->forceAt(offset, 1, open.camera->feature(offset).valueAt(0));
+            open.switchAsOther(1, "On");
+            open.settle();
+            QCOMPARE(open.label->isRegionShown(1), !isEnabled);
+        }
     }
 
     void changedUnderABox()

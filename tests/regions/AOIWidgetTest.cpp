@@ -115,6 +115,10 @@ private slots:
                 int(p.field("spinWidth")->value()), int(p.field("spinHeight")->value()));
             QCOMPARE(inFields, p.onCamera());
             QCOMPARE(p.label->region(), inFields);
+            QCOMPARE(p.field("spinTop")->maximum(),
+                     double(p.camera->feature("OffsetY").range().maximum));
+            QCOMPARE(p.field("spinLeft")->maximum(),
+                     double(p.camera->feature("OffsetX").range().maximum));
         });
         const Action type = [](const AOIPage& p) {
             p.field("spinWidth")->setValue(640);
@@ -126,7 +130,7 @@ private slots:
         };
         const Action preset = [](const AOIPage& p) { p.click("btnHalf"); };
         row("typed width", false, 15, type);
-        row("release", false, 24, release);
+        row("release", false, 28, release);
         row("preset", false, 29, preset);
         row("typed width, silent", true, 28, type);
         row("release, silent", true, 37, release);

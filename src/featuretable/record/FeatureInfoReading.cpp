@@ -32,8 +32,7 @@ template <typename Type> bool take(const Reading<Type>& reading, FeatureInfo& in
     if (reading.value || !info.isKnown)
         info.value = toValue(reading.value.value_or(Type()));
     info.isKnown = info.isKnown || reading.value;
-    if (reading.isComplete)
-        info.writable = reading.isWritable;
+    info.writable = reading.isWritable.value_or(info.writable);
     return reading.isComplete;
 }
 

@@ -29,8 +29,7 @@ AutoRegionCamera::AutoRegionCamera(FeatureManager& manager)
     m_usesEdges = nameOf(RegionNumber::Top) == Name::dspTop;
     m_usesSizes = has(RegionNumber::Height);
     for (const QString& name : {Name::autoModeOffsetX, Name::autoModeOffsetY})
-        if (existing.contains(name) && name != nameOf(RegionNumber::Left)
-            && name != nameOf(RegionNumber::Top))
+        if (existing.contains(name))
             m_originNames << name;
 }
 
@@ -103,7 +102,7 @@ QPointF AutoRegionCamera::origin() const
 void AutoRegionCamera::readOrigin()
 {
     for (const QString& name : m_originNames)
-        read(name);
+        read(name, FeatureReader::Value);
 }
 
 QRect AutoRegionCamera::drawn() const

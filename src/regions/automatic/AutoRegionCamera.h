@@ -120,7 +120,7 @@ private:
     std::array<QString, regionNumbers.size()> m_names; ///< empty: the camera has no such number
     bool m_usesEdges = false;
     bool m_usesSizes = false;
-    QStringList m_originNames; ///< which are not the region's own
+    QStringList m_originNames;
     QHash<QString, double> m_values;
     QSizeF m_limits{0.0, 0.0};
     QSizeF m_imageSize; ///< of which they were taken

@@ -24,6 +24,7 @@ RegionAxis::RegionAxis(FeatureManager& manager, const RegionAxisNames& names,
 QStringList RegionAxis::read(QDoubleSpinBox* stepField, int parts)
 {
     QStringList untold;
+    m_isWidened = false;
     if (parts == FeatureReader::Whole)
         forgetMaximum();
     readMaximum();
@@ -165,6 +166,7 @@ void RegionAxis::widen()
 {
     m_offset.field.limitTo(readMaximum());
     m_size.field.limitTo(readMaximum());
+    m_isWidened = true;
 }
 
 void RegionAxis::commit()
@@ -206,7 +208,7 @@ void RegionAxis::putSize(double value)
 void RegionAxis::write(Number& number, double value, int limits)
 {
     read(number,
-         limits | (number.limits.isWritable ? 0 : FeatureReader::Access)
+         limits | (number.limits.isWritable.value_or(false) ? 0 : FeatureReader::Access)
              | (number.limits.increment ? 0 : FeatureReader::Increment));
     FeatureReader feature = m_manager.Read(number.name);
     FeatureWriting::writeNumber(feature, number.name, value, number.limits);

@@ -62,6 +62,7 @@ public:
     void showProvisional(const Span<double>& span);
     /// Lets both fields take any value up to the maximum, as a drag shows them.
     void widen();
+    bool isWidened() const { return m_isWidened; } ///< until the next read
     void commit();
 
     /// At or next above @p value, as the camera can take it beside the other; shows what it took.
@@ -103,6 +104,7 @@ private:
     double m_sensor = 0.0;
     bool m_isMaximumFresh = false;
     bool m_hasOffsetStep = false;
+    bool m_isWidened = false;
     QHash<QString, QString> m_categories; ///< they do not change
     QString m_pixelFormat;
     QStringList m_written;
