@@ -13,6 +13,7 @@
 #include "SimulatedSource.h"
 #include "ViewerPalette.h"
 #include "WorkNotice.h"
+#include "widgets/Theme.h"
 
 #include <QApplication>
 #include <QDockWidget>
@@ -50,6 +51,8 @@ MainWindow::MainWindow(const QString& modulePath, std::unique_ptr<CameraFinder> 
     resize(firstSize(*screen()));
     createPanes();
     createMenus();
+    outlineControls(this);
+    connect(qApp, &QGuiApplication::paletteChanged, this, [this] { outlineControls(this); });
     if (m_finder)
         connectFinder();
     if (!m_plugin->failure().isEmpty())

@@ -3,6 +3,7 @@
 #include <QAbstractSpinBox>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QLineEdit>
 #include <QPalette>
 #include <QPushButton>
 
@@ -36,7 +37,8 @@ void outlineControls(const QWidget* page)
         outlined.setColor(group, QPalette::Window, isDark ? Qt::lightGray : Qt::gray);
     for (QWidget* control : page->findChildren<QWidget*>()) {
         if (qobject_cast<QAbstractSpinBox*>(control) || qobject_cast<QComboBox*>(control)
-            || qobject_cast<QCheckBox*>(control) || qobject_cast<QPushButton*>(control))
+            || qobject_cast<QCheckBox*>(control) || qobject_cast<QPushButton*>(control)
+            || qobject_cast<QLineEdit*>(control))
             control->setPalette(outlined);
     }
 }

@@ -6,12 +6,14 @@
 #include "simulator/Model.h"
 
 #include <QAbstractScrollArea>
+#include <QAbstractSpinBox>
 #include <QAction>
 #include <QDockWidget>
 #include <QFile>
 #include <QFontInfo>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QPushButton>
 #include <QScrollBar>
 #include <QSettings>
 #include <QTableView>
@@ -180,6 +182,28 @@ private slots:
     void filterNarrowsTheCameras()
     {
         runRow();
+    }
+
+    /// Three to one beside the window's colour is a grey of 119.
+    void outlinesItsControlsInTheDark()
+    {
+        Fixture f("current");
+        MainWindow::setDark(true);
+        const QImage picture = f.window.grab().toImage();
+        MainWindow::setDark(false);
+        const auto controls = f.window.findChildren<QWidget*>();
+        for (const QWidget* control : controls) {
+            const bool hasOutline = qobject_cast<const QLineEdit*>(control)
+                || qobject_cast<const QPushButton*>(control);
+            if (!hasOutline || !control->isEnabled() || control->visibleRegion().isEmpty()
+                || qobject_cast<QAbstractSpinBox*>(control->parentWidget()))
+                continue;
+            const QPoint left = control->mapTo(&f.window, QPoint(0, control->height() / 2));
+            int brightest = 0;
+            for (int x = 0; x < 3; ++x)
+                brightest = qMax(brightest, picture.pixelColor(left + QPoint(x, 0)).lightness());
+            QVERIFY2(brightest >= 119, qPrintable(control->objectName()));
+        }
     }
 
     void offersEachModel()
