@@ -1,14 +1,11 @@
 #pragma once
 
-#include "MessageHandlerGuard.h"
-#include "SimulatedCamera.h"
+#include "CameraPage.h"
 #include "multiregion/MultiROIWidget.h"
 #include "multiregion/RegionLabelWidget.h"
 #include "multiregion/RegionTableWidget.h"
 #include "multiregion/label/MultiRubberBandLabel.h"
 #include "widgets/RoundButton.h"
-
-#include "simulator/Model.h"
 
 #include <QComboBox>
 #include <QLabel>
@@ -17,8 +14,6 @@
 #include <QTableWidget>
 #include <QtTest>
 
-#include <functional>
-#include <memory>
 #include <utility>
 
 /// Answers the message boxes that come up, each by a button's text and then by Escape, and notes
@@ -40,14 +35,15 @@ public:
 protected:
     void timerEvent(QTimerEvent*) override
     {
-        if (!QApplication::activeModalWidget())
-            return;
-        if (m_underBox)
-            std::exchange(m_underBox, {})();
-        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        const QPointer<QMessageBox> box
+            = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
         if (!box)
             return;
         texts << box->text();
+        if (m_underBox)
+            std::exchange(m_underBox, {})();
+        if (!box)
+            return;
         const QString wanted = buttons.isEmpty() ? "Escape" : buttons.takeFirst();
         for (QAbstractButton* button : box->buttons()) {
             if (button->text().remove('&') != wanted)
@@ -62,19 +58,19 @@ private:
     std::function<void()> m_underBox;
 };
 
-/// A page over a simulated camera, shown.
-struct MultiROIPage
+/// The page of several regions, shown.
+struct MultiROIPage : CameraPage<MultiROIWidget>
 {
     explicit MultiROIPage(const QByteArray& model, const QByteArray& mode = "Vertical")
-        : camera(sim::createCamera(model.toStdString()))
+        : CameraPage(model,
+                     [&](sim::Camera& own) {
+                         own.writeAsOtherClient("MultipleRegionArrangement", mode.toStdString());
+                     })
+        , label(find<MultiRubberBandLabel>())
+        , tabs(find<QTabWidget>("tabRegions"))
     {
-        camera->setNotifications(sim::NotificationSettings::synchronous());
-        writeAsOther("MultipleRegionArrangement", mode);
-        page = std::make_unique<MultiROIWidget>(featureList(*camera), nullptr);
         QObject::connect(page.get(), &MultiROIWidget::loggingMessage, page.get(),
                          [this](ZebViewerLogCategory, const QString& line) { log << line; });
-        label = page->findChild<MultiRubberBandLabel*>();
-        tabs = page->findChild<QTabWidget*>("tabRegions");
         page->resize(700, 806);
         page->show();
         settle();
@@ -108,7 +104,7 @@ struct MultiROIPage
         writeAsOther("SubRegionMode", mode);
     }
 
-    void choose(const QString& mode) const { page->findChild<QComboBox*>()->setCurrentText(mode); }
+    void choose(const QString& mode) const { find<QComboBox>()->setCurrentText(mode); }
     void switchOff(int region) const { page->setFeatureValue(region, -1, "SubRegionMode", "Off"); }
     RoundButton* button(int region) const
     {
@@ -183,10 +179,7 @@ struct MultiROIPage
         return {};
     }
 
-    const MessageHandlerGuard guard;
-    std::unique_ptr<sim::Camera> camera;
-    std::unique_ptr<MultiROIWidget> page;
-    MultiRubberBandLabel* label = nullptr;
-    QTabWidget* tabs = nullptr;
+    MultiRubberBandLabel* label;
+    QTabWidget* tabs;
     QStringList log;
 };

@@ -128,18 +128,19 @@ private slots:
         const AutoROIPage p("current", [](sim::Camera& camera) {
             camera.writeAsOtherClient("SubRegionSelector", "Region2");
         });
-        p.page->setBackgroundImage(picture(Qt::red));
+        const auto picture = std::make_shared<QPixmap>(8, 8);
+        p.page->setBackgroundImage(picture);
         p.camera->writeAsOtherClient("MultipleRegionEnable", true);
         p.page->setBackgroundImage(nullptr);
         QVERIFY(p.writes().isEmpty());
-        p.page->setBackgroundImage(picture(Qt::red));
+        p.page->setBackgroundImage(picture);
         const QStringList selection("SubRegionSelector Region0");
         QCOMPARE(p.writes(), selection);
 
         p.camera->journal().clear();
         const QPoint middle = p.band().center();
         press(p.label, middle);
-        p.page->setBackgroundImage(picture(Qt::red));
+        p.page->setBackgroundImage(picture);
         QVERIFY(p.writes().isEmpty());
         release(p.label, middle);
         QCOMPARE(p.writes().filter("Selector"), selection);

@@ -57,6 +57,32 @@ class AutoRegionEditingTest : public QObject
     Q_OBJECT
 
 private slots:
+    void writesDrawnRegions_data()
+    {
+        const DataTable row(
+            [](const QByteArray& model, const QRect& drawn, const QString& expected) {
+                const AutoROIPage p(model, [](sim::Camera& camera) {
+                    if (camera.has("DSPSubregionLeft"))
+                        setRegion(camera, dsp, {648, 486, 1944, 1458});
+                });
+                p.page->OnSendGeometry(drawn.y(), drawn.x(), drawn.width(), drawn.height());
+                QVERIFY(!p.anyRefused());
+                static const QRegularExpression family("AutofunctionAOI|DSPSubregion");
+                QCOMPARE(p.writes().join(", ").remove(family), expected);
+            });
+        row("offsets, then sizes", "aoi", QRect(201, 101, 640, 480),
+            "OffsetX 204, OffsetY 102, Height 480, Width 640");
+        row("taken only beside the new size", "aoi", QRect(2500, 1900, 640, 480),
+            "OffsetX 1296, OffsetY 972, Height 44, Width 88, OffsetX 2500, OffsetY 1900");
+        row("down and right", "dsp", QRect(800, 600, 1296, 972),
+            "Right 2096, Left 800, Bottom 1572, Top 600");
+        row("up and left", "dsp", QRect(200, 100, 1296, 972),
+            "Left 200, Right 1496, Top 100, Bottom 1072");
+        row("without extent", "dsp", QRect(200, 100, 0, 0),
+            "Left 200, Right 201, Top 100, Bottom 101");
+    }
+    void writesDrawnRegions() { runRow(); }
+
     /// Offsets are taken only beside the new size; an edge must not pass its opposite on the way.
     void presets_data()
     {
