@@ -109,25 +109,20 @@ private slots:
 
     void clearsTheImageAfterGeometryChanges_data()
     {
-        const DataTable row([](bool clears) {
+        const DataTable row([](const char* property, const QVariant& value, bool clears) {
             const OpenPage p;
             QSignalSpy images(p.source(), &ImageReaderWidget::imageChanged);
             p.source()->setCurrentIndex(ImageReaderWidget::LastAcquiredImage);
-            auto* const field = p.field<QWidget>(QTest::currentDataTag());
-            if (auto* const spinBox = qobject_cast<QSpinBox*>(field))
-                spinBox->setValue(2);
-            else if (auto* const checkBox = qobject_cast<QCheckBox*>(field))
-                checkBox->click();
-            else
-                p.format()->setCurrentIndex(1);
+            QVERIFY(p.field<QWidget>(QTest::currentDataTag())->setProperty(property, value));
             QCOMPARE(p.source()->currentIndex() == ImageReaderWidget::NoImage, clears);
             p.page->updateTimer(); // the notification of the page's own write changes nothing more
             QCOMPARE(images.size() == 1, clears);
         });
-        for (const char* field :
-             {"spbBinningHorizontal", "spbBinningVertical", "chkReverseX", "chkReverseY"})
-            row(field, true);
-        row("cmbPixelFormat", false);
+        row("spbBinningHorizontal", "value", 2, true);
+        row("spbBinningVertical", "value", 2, true);
+        row("chkReverseX", "checked", true, true);
+        row("chkReverseY", "checked", true, true);
+        row("cmbPixelFormat", "currentIndex", 1, false);
     }
     void clearsTheImageAfterGeometryChanges() { runRow(); }
 

@@ -5,7 +5,6 @@
 #include "UserInput.h"
 #include "simulator/Model.h"
 
-#include <QAbstractScrollArea>
 #include <QAbstractSpinBox>
 #include <QAction>
 #include <QDockWidget>
@@ -14,9 +13,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
-#include <QScrollBar>
 #include <QSettings>
-#include <QTableView>
 #include <QTemporaryDir>
 #include <QTextStream>
 
@@ -35,9 +32,6 @@ struct Fixture
         QApplication::setActiveWindow(&window);
         QTest::qWait(1);
     }
-
-    QWidget* page() const { return window.findChild<QWidget*>("ImageFormatWidget"); }
-    QWindow* windowHandle() const { return window.windowHandle(); }
 
     template <typename Widget = QWidget> Widget* find(const char* name) const
     {
@@ -132,34 +126,6 @@ private slots:
         runRow();
     }
 
-    /// The page is what the window is for.
-    void pageHasTheRoom()
-    {
-        const Fixture f("multi-region-6");
-        const auto select = [&](const char* tab) {
-            QCOMPARE(selectTab(f.page(), tab), QString());
-            QTest::qWait(50);
-        };
-        select("AOIWidget");
-        int pictureHeight = 0;
-        const auto widgets = f.page()->findChildren<QWidget*>();
-        for (const QWidget* widget : widgets)
-            if (widget->inherits("RubberBandLabel") && widget->isVisible())
-                pictureHeight = widget->height();
-        QVERIFY2(pictureHeight >= 300, qPrintable(QString::number(pictureHeight)));
-        select("MultiROIWidget");
-        const auto* table = f.find<QTableView>("tblFeatures");
-        QVERIFY(table->viewport()->height() >= 4 * table->rowHeight(0));
-
-        const Fixture automatic("current");
-        QCOMPARE(selectTab(automatic.page(), "AutoROIWidget"), QString());
-        QTest::qWait(50);
-        const auto areas = automatic.page()->findChildren<QAbstractScrollArea*>();
-        for (const QAbstractScrollArea* area : areas)
-            QVERIFY2(!area->isVisible() || area->verticalScrollBar()->maximum() == 0,
-                     qPrintable(area->objectName()));
-    }
-
     void filterNarrowsTheCameras_data()
     {
         const DataTable row([](const QString& filter, int shown, const QString& current) {
@@ -223,7 +189,7 @@ private slots:
             f.find("cmbPixelFormat")->setFocus();
             QStringList names;
             for (int step = 0; step < passed.size(); ++step) {
-                QTest::keyClick(f.windowHandle(), Qt::Key_F6, modifiers);
+                QTest::keyClick(f.window.windowHandle(), Qt::Key_F6, modifiers);
                 const QWidget* part = QApplication::focusWidget();
                 while (!qobject_cast<const QDockWidget*>(part) && part->parentWidget())
                     part = part->parentWidget();
