@@ -211,6 +211,17 @@ private slots:
             open.switchAsOther(1, "On");
             open.settle();
             QCOMPARE(open.label->isRegionShown(1), !isEnabled);
+            // They overlap, which is seen in any theme.
+            const QPalette light = QApplication::palette();
+            QApplication::setPalette(QPalette(Qt::black));
+            QApplication::setPalette(light);
+            const auto bands = open.label->findChildren<QRubberBand*>();
+            QCOMPARE(std::count_if(bands.begin(), bands.end(),
+                                   [](const QRubberBand* band) {
+                                       return band->palette().color(QPalette::Highlight).red()
+                                           == 255;
+                                   }),
+                     isEnabled ? 0 : 1);
         }
     }
 

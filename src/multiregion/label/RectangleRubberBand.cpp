@@ -159,6 +159,10 @@ void RectangleRubberBand::changeEvent(QEvent* event)
 {
     QRubberBand::changeEvent(event);
     m_image.reset();
+    // A style sheet brings the palette back that it was set under.
+    if (event->type() == QEvent::PaletteChange
+        && palette().color(QPalette::Highlight) != highlight())
+        applyHighlight();
 }
 
 void RectangleRubberBand::paintEvent(QPaintEvent* event)
@@ -200,12 +204,23 @@ void RectangleRubberBand::showIfAllowed(const QRect& band)
 
 void RectangleRubberBand::applyColor()
 {
-    QColor highlight = shownColor();
-    setStyleSheet(QStringLiteral("QLabel { color: %1; border-color: %1 }").arg(highlight.name()));
-    highlight.setAlpha(bandAlpha);
+    setStyleSheet(
+        QStringLiteral("QLabel { color: %1; border-color: %1 }").arg(shownColor().name()));
+    applyHighlight();
+}
+
+void RectangleRubberBand::applyHighlight()
+{
     QPalette colors = palette();
-    colors.setBrush(QPalette::Highlight, highlight);
+    colors.setBrush(QPalette::Highlight, highlight());
     setPalette(colors);
+}
+
+QColor RectangleRubberBand::highlight() const
+{
+    QColor color = shownColor();
+    color.setAlpha(bandAlpha);
+    return color;
 }
 
 QString RectangleRubberBand::numberText() const

@@ -65,6 +65,8 @@ protected:
 private:
     void showIfAllowed(const QRect& band);
     void applyColor();
+    void applyHighlight();
+    QColor highlight() const;
     QString numberText() const;
     void prepareNumber();
     void drawNumber(const QRect& area);
