@@ -6,39 +6,24 @@
 #include <QVBoxLayout>
 #include <QWidget>
 
-#include <string>
-
 namespace {
 
-// The viewer's names of its members, each a SIGNAL() or SLOT() text. Empty names are left to
-// QObject::connect(), which leaves that one connection out.
-struct ConnectionNames
+/// By the viewer's names of its members, each a SIGNAL() or SLOT() text. Empty names are left to
+/// QObject::connect(), which leaves that one connection out.
+void connectToHost(QObject* host, ImageFormatWidget* widget,
+                   const QMap<QString, QVariant>& connections)
 {
-    std::string streamingSignal;
-    std::string loggingSlot;
-    std::string frameSignal;
-    std::string requestFrameSlot;
-};
-
-ConnectionNames readConnectionNames(const QMap<QString, QVariant>* connections)
-{
-    if (!connections)
-        return {};
-    const auto name = [connections](const char* key) {
-        return connections->value(QLatin1String(key)).toString().toStdString();
+    const auto name = [&connections](const char* key) {
+        return connections.value(QLatin1String(key)).toString().toStdString();
     };
-    return {name("connectWidgetToSignal"), name("connectLoggingSlot"),
-            name("connectSendFrameSignal"), name("connectRequestFrameSlot")};
-}
-
-void connectToHost(QObject* host, ImageFormatWidget* widget, const ConnectionNames& names)
-{
-    QObject::connect(host, names.streamingSignal.c_str(), widget, SLOT(camIsStreaming(bool)));
+    QObject::connect(host, name("connectWidgetToSignal").c_str(), widget,
+                     SLOT(camIsStreaming(bool)));
     QObject::connect(widget, SIGNAL(loggingMessage(ZebViewerLogCategory, const QString&)), host,
-                     names.loggingSlot.c_str());
-    QObject::connect(host, names.frameSignal.c_str(), widget,
+                     name("connectLoggingSlot").c_str());
+    QObject::connect(host, name("connectSendFrameSignal").c_str(), widget,
                      SIGNAL(receiveFrameSignal(const QPixmap&)));
-    QObject::connect(widget, SIGNAL(requestFrameSignal()), host, names.requestFrameSlot.c_str());
+    QObject::connect(widget, SIGNAL(requestFrameSignal()), host,
+                     name("connectRequestFrameSlot").c_str());
 }
 
 } // namespace
@@ -54,9 +39,8 @@ qint32 TabExtensionPlugin::createTab(const FeatureList& features, QWidget* page,
 try {
     auto* const widget = new ImageFormatWidget(features, page);
     QObject* const host = page->parent();
-    const ConnectionNames names = readConnectionNames(connections);
-    if (host)
-        connectToHost(host, widget, names);
+    if (host && connections)
+        connectToHost(host, widget, *connections);
 
     auto* const layout = new QVBoxLayout;
     layout->addWidget(widget);
