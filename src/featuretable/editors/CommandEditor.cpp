@@ -22,6 +22,5 @@ void CommandEditor::confirm()
 {
     touch();
     forgetKnownValue();
-    if (end())
-        emit newIntValueToSet(m_value.toLongLong());
+    finish();
 }
