@@ -52,13 +52,7 @@ MultiROIWidget::MultiROIWidget(const FeatureList& camera, QWidget* parent)
 
 MultiROIWidget::~MultiROIWidget()
 {
-    if (!m_ui)
-        return;
-    // A closing editor would report to a page half gone.
-    const QList<QWidget*> children = findChildren<QWidget*>();
-    for (QWidget* child : children)
-        child->disconnect(this);
-    observer->disconnect(this);
+    disconnectChildren(); // senders that are sheltered may be open editors
 }
 
 void MultiROIWidget::createLabel()
@@ -217,7 +211,6 @@ void MultiROIWidget::selectRegionTab(int regionNo)
 
 void MultiROIWidget::camIsStreaming(bool streaming)
 {
-    setStreaming(streaming);
     if (isReady())
         m_tabs->setStreaming(streaming);
 }
@@ -246,11 +239,8 @@ void MultiROIWidget::setBackgroundImage(std::shared_ptr<QPixmap> image)
 
 void MultiROIWidget::updateDragArea()
 {
-    if (!isReady())
-        return;
-    const RegionWriter::Call call(*m_writer);
-    if (const std::optional<QSize> sensor = m_regions.readSensorSize())
-        m_label->setSensorSize(*sensor);
+    if (isReady())
+        refreshSensor();
 }
 
 void MultiROIWidget::onDragAreaResized()
@@ -304,7 +294,7 @@ std::optional<Answer> MultiROIWidget::ask(Question question)
     if (!page)
         return std::nullopt;
     const QString modeBefore = m_tabs->mode();
-    const bool wasStreaming = isStreaming();
+    const bool wasStreaming = m_tabs->isStreaming();
     const bool wasVisible = isVisible();
     ++m_questions;
     const Answer answer = askUser(question, modeBefore, this);
@@ -318,7 +308,7 @@ std::optional<Answer> MultiROIWidget::ask(Question question)
     refreshArrangement();
     if (!page)
         return std::nullopt;
-    const bool isUnchanged = isStreaming() == wasStreaming && m_tabs->mode() == modeBefore;
+    const bool isUnchanged = m_tabs->isStreaming() == wasStreaming && m_tabs->mode() == modeBefore;
     return isUnchanged ? std::optional<Answer>(answer) : std::nullopt;
 }
 
@@ -342,25 +332,18 @@ QStringList MultiROIWidget::refresh(const Changes& changes)
         return {};
     const RegionWriter::Call call(*m_writer);
     QStringList untold;
-    const auto readAgainUnless = [&untold](bool isTold, const QStringList& names) {
-        if (!isTold)
+    const auto take = [&](const QStringList& names, const auto& isTold) {
+        if (changes.any(names) && !isTold())
             untold += names;
     };
-    if (changes.any(Name::multipleRegionSwitches))
-        readAgainUnless(refreshSwitch(), Name::multipleRegionSwitches);
-    if (changes.any({Name::multipleRegionArrangement}))
-        readAgainUnless(refreshArrangement(), {Name::multipleRegionArrangement});
-    if (changes.any(Name::pictureGeometry))
-        readAgainUnless(m_settings->testCompatibility(), Name::pictureGeometry);
+    take(Name::multipleRegionSwitches, [this] { return refreshSwitch(); });
+    take({Name::multipleRegionArrangement}, [this] { return refreshArrangement(); });
+    take(Name::pictureGeometry, [this] { return m_settings->testCompatibility(); });
     if (changes.any({Name::subRegionSelector}))
         followSelector();
-    std::optional<QSize> sensor = m_label->sensorSize();
-    if (changes.any(Name::sizeLimits))
-        sensor = m_regions.readSensorSize();
-    readAgainUnless(sensor.has_value(), Name::sizeLimits);
-    const bool isSensorNew = sensor && *sensor != m_label->sensorSize();
-    if (isSensorNew)
-        m_label->setSensorSize(*sensor);
+    const QSize formerSensor = m_label->sensorSize();
+    take(Name::sizeLimits, [this] { return refreshSensor(); });
+    const bool isSensorNew = m_label->sensorSize() != formerSensor;
     // A page that nobody sees leaves the camera's selector alone.
     if (changes.all && !isVisible())
         readAllNext();
@@ -391,6 +374,15 @@ void MultiROIWidget::followSelector()
 }
 
 // Each of the following answers whether the camera has told it.
+
+bool MultiROIWidget::refreshSensor()
+{
+    const RegionWriter::Call call(*m_writer);
+    const std::optional<QSize> sensor = m_regions.readSensorSize();
+    if (sensor)
+        m_label->setSensorSize(*sensor);
+    return sensor.has_value();
+}
 
 bool MultiROIWidget::refreshSwitch()
 {

@@ -77,6 +77,7 @@ private:
     std::shared_ptr<void> hold();
     std::optional<Answer> ask(Question question);
     void onEnableToggled(bool enabled);
+    bool refreshSensor();
     bool refreshSwitch();
     bool refreshArrangement();
     void followSelector();

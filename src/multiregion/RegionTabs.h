@@ -49,6 +49,7 @@ public:
     /// The arrangement's name.
     QString mode() const;
     void setMode(const QString& mode);
+    bool isStreaming() const { return m_isStreaming; }
     void setStreaming(bool streaming);
     /// After every change of a button: which of them may be clicked.
     void updateButtons();

@@ -25,8 +25,11 @@ InnerPage::InnerPage(const FeatureList& camera, QWidget* parent)
 
 InnerPage::~InnerPage()
 {
-    // A page that is deleted while it is visible is hidden later, when its parts are gone: a drag
-    // then ends, and a field gives up what was typed.
+    disconnectChildren();
+}
+
+void InnerPage::disconnectChildren()
+{
     const auto children = findChildren<QObject*>();
     for (QObject* child : children)
         disconnect(child, nullptr, this, nullptr);

@@ -41,10 +41,11 @@ protected:
     void readAllSoon();
 
     void guardFieldsAgainstWheel();
+    /// For destructors: a page that is deleted while it is visible is hidden later, when its parts
+    /// are gone. A drag then ends, an editor closes, and a field gives up what was typed.
+    void disconnectChildren();
 
     bool isRefreshing() const { return m_isRefreshing; }
-    bool isStreaming() const { return m_isStreaming; }
-    void setStreaming(bool isStreaming) { m_isStreaming = isStreaming; }
 
     void onPaletteChanged(QEvent*) override { }
     void refreshFeatures() final;
@@ -54,5 +55,4 @@ private:
     bool m_readsAll = true;
     QTimer* m_soonTimer;
     bool m_isRefreshing = false;
-    bool m_isStreaming = false;
 };

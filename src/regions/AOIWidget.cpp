@@ -293,7 +293,6 @@ QString AOIWidget::problemText(bool isTooWide, bool isTooHigh)
 
 void AOIWidget::camIsStreaming(bool streaming)
 {
-    setStreaming(streaming);
     if (!m_ui)
         return;
     m_ui->gb_AOI->setEnabled(!streaming);

@@ -92,6 +92,7 @@ private:
     std::unique_ptr<AutoRegionWriter> m_writer;
     std::unique_ptr<AutoRegionPicture> m_picture;
     std::unique_ptr<ExposureLimits> m_exposure;
+    bool m_isStreaming = false;
     bool m_isTrusted = false;   ///< a drag was just written; what it passes through is no error
     bool m_isJustShown = false; ///< which counts every feature as changed
 };
