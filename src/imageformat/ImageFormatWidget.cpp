@@ -106,8 +106,7 @@ template <typename Page> Page* ImageFormatWidget::addRegionPage()
     connect(this, &ImageFormatWidget::acquisitionRunning, page.get(), &Page::camIsStreaming);
     connect(m_ui->imageReaderWidget, &ImageReaderWidget::imageChanged, page.get(),
             [this, page = page.get()](const std::shared_ptr<QPixmap>& image) {
-                const auto manyReads = featureManager->link()->manyReads();
-                page->setBackgroundImage(image);
+                visit([&] { page->setBackgroundImage(image); });
             });
     m_ui->tabWidget->addTab(page.get(), page->accessibleName());
     return page.release();

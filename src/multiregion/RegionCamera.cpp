@@ -152,6 +152,7 @@ bool RegionCamera::readIsValid() const
 
 std::optional<RegionState> RegionCamera::read(bool withLimits) const
 {
+    const auto manyReads = m_manager.link()->manyReads();
     const AxisReading x(m_manager, Qt::Horizontal, withLimits);
     const AxisReading y(m_manager, Qt::Vertical, withLimits);
     if (!x.isComplete() || !y.isComplete())

@@ -49,7 +49,6 @@ void RegionWriter::readTable()
     const int region = m_tabs.current();
     if (m_selected != region || !m_moved.remove(region))
         return;
-    const auto many = m_link.manyReads();
     const bool isTold = m_tabs.refreshTable();
     // Most of it has just been told to the table.
     const std::optional<RegionState> state = m_camera.read(true);
@@ -201,7 +200,6 @@ void RegionWriter::readUntold()
 
 void RegionWriter::readRegion(int region)
 {
-    const auto many = m_link.manyReads();
     // A valid region is on: follow() shows it where it was not shown before.
     if (!selectUnlessLost(region) || follow(region))
         return;

@@ -138,7 +138,7 @@ void BaseTabPluginWidget::updateTimer()
         registerObservers(true);
     }
     ChangedNames::Hold hold(m_changes);
-    refreshWhileAnswered();
+    visit([this] { refreshFeatures(); });
     hold.handled();
 }
 
@@ -170,13 +170,13 @@ void BaseTabPluginWidget::reportLoss(const QString& message)
         m_outerPage->reportLoss(message);
 }
 
-void BaseTabPluginWidget::refreshWhileAnswered()
+void BaseTabPluginWidget::visit(const std::function<void()>& work)
 {
     const QPointer<BaseTabPluginWidget> page = this;
     const std::shared_ptr<CameraLink> link = featureManager->link();
     const auto manyReads = link->manyReads();
     const auto memory = link->memory();
-    refreshFeatures();
+    work();
     if (page && link->isLost())
         m_wasLost = true;
 }
@@ -202,7 +202,7 @@ void BaseTabPluginWidget::showEvent(QShowEvent* event)
     const QPointer<BaseTabPluginWidget> page = this;
     const ChangedNames::Hold hold(m_changes);
     if (hold.isOutermost() && !isCameraLost())
-        refreshWhileAnswered();
+        visit([this] { refreshFeatures(); });
     if (page && m_suspensions == 0)
         startUpdates(true);
 }

@@ -9,6 +9,7 @@
 #include <QStringList>
 #include <QWidget>
 
+#include <functional>
 #include <memory>
 
 class ChangedNames;
@@ -79,6 +80,8 @@ protected:
     void suspendUpdates();
     void resumeUpdates(bool markChanged);
 
+    /// Does @p work, which reads many values to show them: a loss ends the reading.
+    void visit(const std::function<void()>& work);
     /// What could not be read stays pending until the next tick.
     void readAgain(const QStringList& names);
 
@@ -100,7 +103,6 @@ protected:
 private:
     bool hasFeatures() const;
     bool isCameraLost();
-    void refreshWhileAnswered();
     void startUpdates(bool markChanged);
     void stopUpdates();
 

@@ -1,6 +1,5 @@
 #include "regions/AutoROIWidget.h"
 
-#include "features/CameraLink.h"
 #include "features/FeatureNames.h"
 #include "regions/automatic/AutoRegionForm.h"
 #include "regions/automatic/AutoRegionPicture.h"
@@ -139,9 +138,8 @@ void AutoROIWidget::OnSpinEditingFinished()
     if (!m_ui)
         return;
     // The field has missed what the camera told while it was being typed in.
-    const auto reads = featureManager->link()->manyReads();
     if (!isAtWork() && isVisible())
-        m_view->refresh();
+        visit([this] { m_view->refresh(); });
     readSoon({});
 }
 
@@ -287,8 +285,7 @@ void AutoROIWidget::camIsStreaming(bool streaming)
 {
     if (!m_ui || !m_camera->has(Name::autoModeWidth))
         return;
-    enableControls(!isStreaming());
-    setStreaming(streaming);
+    enableControls(!std::exchange(m_isStreaming, streaming));
 }
 
 void AutoROIWidget::enableControls(bool enabled)
@@ -348,7 +345,7 @@ QStringList AutoROIWidget::refresh(const Changes& changes)
         untold += m_exposure->refresh();
     if (!changes.isEmpty())
         fitColumns(*m_ui);
-    enableControls(!isStreaming());
+    enableControls(!m_isStreaming);
     return untold + m_camera->takeUntold();
 }
 

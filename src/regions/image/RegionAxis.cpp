@@ -74,10 +74,9 @@ double RegionAxis::readMaximum()
 // Another feature stands in for a maximum that is missing, or that was never told.
 bool RegionAxis::readLargest()
 {
-    const auto reads = m_manager.link()->manyReads();
     bool isTold = true;
     for (const QString& name : {m_maximumName, m_sensorName}) {
-        const Reading<double> extent = m_manager.Read(name).number(FeatureReader::Value);
+        const Reading<double> extent = readNumber(name, FeatureReader::Value);
         if (extent.value.value_or(0.0) >= 1.0) {
             m_maximum = std::trunc(*extent.value);
             return isTold;
@@ -96,7 +95,7 @@ bool RegionAxis::readLargest()
 
 bool RegionAxis::readSensor()
 {
-    const auto sensor = m_manager.Read(m_sensorName).number(FeatureReader::Value);
+    const Reading<double> sensor = readNumber(m_sensorName, FeatureReader::Value);
     m_sensor = sensor.value.value_or(m_sensor);
     return sensor.isComplete;
 }
@@ -129,10 +128,15 @@ bool RegionAxis::needsEven(const QString& offset) const
 }
 
 // What is read before a write is not asked of a lost camera; the write and its answer are.
-Reading<double> RegionAxis::read(Number& number, int parts)
+Reading<double> RegionAxis::readNumber(const QString& name, int parts) const
 {
     const auto reads = m_manager.link()->manyReads();
-    const Reading<double> reading = m_manager.Read(number.name).number(parts);
+    return m_manager.Read(name).number(parts);
+}
+
+Reading<double> RegionAxis::read(Number& number, int parts)
+{
+    const Reading<double> reading = readNumber(number.name, parts);
     number.exists = reading.exists;
     number.isTold = number.isTold || reading.value || (!reading.exists && reading.isComplete);
     number.onCamera = reading.value.value_or(number.onCamera);

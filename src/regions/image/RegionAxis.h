@@ -88,6 +88,7 @@ private:
     bool readLargest();
     bool readPixelFormat(const QString& offset);
     bool needsEven(const QString& offset) const;
+    Reading<double> readNumber(const QString& name, int parts) const;
     Reading<double> read(Number& number, int parts);
     bool showOffset(QDoubleSpinBox* stepField, int parts);
     bool showSize(int parts);
