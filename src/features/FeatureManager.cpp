@@ -224,12 +224,6 @@ bool FeatureManager::HasFeature(const QString& name, const QString& alternative1
     return bool(Read(name, alternative1, alternative2));
 }
 
-bool FeatureManager::IsFeatureWritable(const QString& name, const QString& alternative1,
-                                       const QString& alternative2)
-{
-    return IsWritable(name, alternative1, alternative2);
-}
-
 bool FeatureManager::IsFloatFeature(const QString& name, const QString& alternative1,
                                     const QString& alternative2)
 {

@@ -119,7 +119,10 @@ public:
     }
     virtual bool HasFeature(const QString& name) { return HasFeature(name, {}); }
     virtual bool IsFeatureWritable(const QString& name, const QString& alternative1,
-                                   const QString& alternative2);
+                                   const QString& alternative2)
+    {
+        return IsWritable(name, alternative1, alternative2);
+    }
     virtual bool IsFeatureWritable(const QString& name, const QString& alternative)
     {
         return IsFeatureWritable(name, alternative, {});

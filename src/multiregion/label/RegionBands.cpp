@@ -6,7 +6,6 @@
 #include "multiregion/label/RegionDrag.h"
 #include "multiregion/label/RegionStore.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace {

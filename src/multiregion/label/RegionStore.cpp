@@ -2,7 +2,6 @@
 
 #include "multiregion/label/RectangleRubberBand.h"
 
-#include <algorithm>
 #include <utility>
 
 const KnownRegion& RegionStore::at(int region) const
