@@ -45,7 +45,8 @@ void outlineControls(const QWidget* page)
 
 void restyle(QWidget* page)
 {
-    // A style sheet keeps the palette that it was set under.
+    // A style sheet keeps the palette that it was set under; set again it tells polished widgets.
+    page->ensurePolished();
     page->setStyleSheet(page->styleSheet());
     outlineControls(page);
 }

@@ -1,12 +1,6 @@
 #include "features/CameraLink.h"
 #include "DataTable.h"
-#include "SimulatedCamera.h"
-#include "features/FeatureManager.h"
-
-#include <QStringList>
-
-using sim::Failure;
-using sim::Operation;
+#include "features/SdkValues.h"
 
 namespace {
 
@@ -49,39 +43,6 @@ private slots:
         row("lost again", "A B =A B A", true);
     }
     void countsAsLost() { runRow(); }
-
-    /// What was refused is not known; what the camera does not have is.
-    void knowsWhatItRead_data()
-    {
-        using Operations = sim::Operations;
-        const DataTable row([](const QString& name, const Operations& refused, bool isComplete,
-                               const QString& text) {
-            sim::Camera camera(
-                {sim::integerFeature("Width", 640).between(sim::IntegerRange{16, 1023, 16}),
-                 sim::floatFeature("Gain", 1.5).between(sim::FloatRange(0.0, 2.0)),
-                 sim::booleanFeature("ReverseX", true)});
-            FeatureManager manager(wrappers(camera));
-            camera.failures().add("*", refused, Failure::refuse());
-            const auto reading = manager.Read(name).number();
-            QCOMPARE(reading.isComplete, isComplete);
-            QStringList texts;
-            for (const auto& number :
-                 {reading.value, reading.minimum, reading.maximum, reading.increment})
-                texts.append(number ? QString::number(*number) : QString("-"));
-            QCOMPARE(texts.join(' ') + (reading.isWritable == true ? " rw" : ""), text);
-        });
-        const Operations none;
-        row("integer", "Width", none, true, "640 16 1023 16 rw");
-        row("no increment", "Gain", none, true, "1.5 0 2 - rw");
-        row("boolean", "ReverseX", none, true, "1 - - - rw");
-        row("missing", "NoSuch", none, true, "- - - -");
-        row("value", "Width", Operation::GetValue, false, "- 16 1023 16 rw");
-        row("range", "Width", Operation::GetRange, false, "640 - - 16 rw");
-        row("increment", "Width", Operation::GetIncrement, false, "640 16 1023 - rw");
-        row("access", "Width", Operation::IsWritable, false, "640 16 1023 16");
-        row("type", "Width", Operation::GetDataType, false, "- - - -");
-    }
-    void knowsWhatItRead() { runRow(); }
 };
 
 QTEST_GUILESS_MAIN(CameraLinkTest)

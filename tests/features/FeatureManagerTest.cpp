@@ -13,9 +13,16 @@ using sim::Operation;
 
 namespace {
 
+sim::FeatureDescriptions someNumbers()
+{
+    return {sim::integerFeature("Width", 640).between(IntegerRange{16, 1023, 16}),
+            sim::floatFeature("Gain", 1.5).between(FloatRange(0.0, 2.0)),
+            sim::booleanFeature("ReverseX", true), sim::stringFeature("Name", "x")};
+}
+
 struct Fixture
 {
-    explicit Fixture(sim::FeatureDescriptions features)
+    explicit Fixture(sim::FeatureDescriptions features = someNumbers())
         : camera(std::move(features))
         , manager(wrappers(camera))
     {
@@ -100,9 +107,7 @@ private slots:
     {
         using Numbers = QVector<double>; // value, minimum, maximum, increment
         const DataTable row([](const QString& name, const Numbers& state, const Numbers& range) {
-            Fixture f({sim::integerFeature("Width", 640).between(IntegerRange{16, 1023, 16}),
-                       sim::floatFeature("Gain", 1.5).between(FloatRange(0.0, 2.0)),
-                       sim::stringFeature("Name", "x")});
+            Fixture f;
             bool writable = false;
             Numbers n{7.0, 7.0, 7.0, 7.0};
             n[0] = f.manager.GetValueState(name, writable, n[1], n[2], n[3]);
@@ -120,10 +125,38 @@ private slots:
     }
     void fillsStateAndFieldRange() { runRow(); }
 
+    /// What was refused is not known; what the camera does not have is.
+    void knowsWhatItRead_data()
+    {
+        using Operations = sim::Operations;
+        const DataTable row([](const QString& name, const Operations& refused, bool isComplete,
+                               const QString& text) {
+            Fixture f;
+            f.camera.failures().add("*", refused, Failure::refuse());
+            const auto reading = f.manager.Read(name).number();
+            QCOMPARE(reading.isComplete, isComplete);
+            QStringList texts;
+            for (const auto& number :
+                 {reading.value, reading.minimum, reading.maximum, reading.increment})
+                texts.append(number ? QString::number(*number) : QString("-"));
+            QCOMPARE(texts.join(' ') + (reading.isWritable == true ? " rw" : ""), text);
+        });
+        const Operations none;
+        row("integer", "Width", none, true, "640 16 1023 16 rw");
+        row("no increment", "Gain", none, true, "1.5 0 2 - rw");
+        row("boolean", "ReverseX", none, true, "1 - - - rw");
+        row("missing", "NoSuch", none, true, "- - - -");
+        row("value", "Width", Operation::GetValue, false, "- 16 1023 16 rw");
+        row("range", "Width", Operation::GetRange, false, "640 - - 16 rw");
+        row("increment", "Width", Operation::GetIncrement, false, "640 16 1023 - rw");
+        row("access", "Width", Operation::IsWritable, false, "640 16 1023 16");
+        row("type", "Width", Operation::GetDataType, false, "- - - -");
+    }
+    void knowsWhatItRead() { runRow(); }
+
     void answersDefaults()
     {
-        Fixture f({sim::integerFeature("Width", 640).between(IntegerRange{16, 1023, 16}),
-                   sim::booleanFeature("ReverseX", true)});
+        Fixture f;
         const QString width = "Width";
         QCOMPARE(f.manager.GetDataType(width), ZebFeatureDataInt);
         f.camera.failures().add(

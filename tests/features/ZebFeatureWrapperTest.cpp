@@ -25,14 +25,11 @@ class ZebFeatureWrapperTest : public QObject
 private slots:
     void readsTexts_data()
     {
-        const DataTable row([](const sim::Failure& failure, int result, const QByteArray& value,
+        const DataTable row([](const Failure& failure, int result, const QByteArray& value,
                                const QByteArray& name) {
-            const sim::Camera camera({sim::stringFeature("DeviceUserID", "left")});
+            sim::Camera camera({sim::stringFeature("DeviceUserID", "left")});
+            camera.failures().add("*", sim::Operations::all(), failure);
             const auto feature = wrap(camera);
-            auto& failures = const_cast<sim::Camera&>(camera).failures();
-            failures.add("DeviceUserID", sim::Operations(Operation::GetValue) | Operation::GetName,
-                         failure);
-
             std::string readValue = "kept";
             QCOMPARE(int(feature->GetValue(readValue)), result);
             QCOMPARE(QByteArray::fromStdString(readValue), value);

@@ -1,12 +1,9 @@
 #include "imageformat/ImageFormatWidget.h"
+#include "CameraPage.h"
 #include "DataTable.h"
-#include "MessageHandlerGuard.h"
-#include "SimulatedCamera.h"
 #include "WheelEvent.h"
 #include "imageformat/ImageReaderWidget.h"
 #include "page/TabExtensionException.h"
-
-#include "simulator/Model.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -22,33 +19,23 @@
 namespace {
 
 /// A page over a model's camera, shown, with one refresh done.
-struct OpenPage
+struct OpenPage : CameraPage<ImageFormatWidget>
 {
     explicit OpenPage(const char* model = "current")
-        : camera(sim::createCamera(model))
-        , page(std::make_unique<ImageFormatWidget>(featureList(*camera), nullptr))
+        : CameraPage(model)
     {
-        camera->setNotifications(sim::NotificationSettings::synchronous());
         page->show();
         page->updateTimer();
     }
 
-    template <typename Field> Field* field(const char* name) const
-    {
-        return page->findChild<Field*>(name);
-    }
-    QSpinBox* binning() const { return field<QSpinBox>("spbBinningHorizontal"); }
-    QComboBox* format() const { return field<QComboBox>("cmbPixelFormat"); }
-    ImageReaderWidget* source() const { return field<ImageReaderWidget>("imageReaderWidget"); }
+    QSpinBox* binning() const { return find<QSpinBox>("spbBinningHorizontal"); }
+    QComboBox* format() const { return find<QComboBox>("cmbPixelFormat"); }
+    ImageReaderWidget* source() const { return find<ImageReaderWidget>("imageReaderWidget"); }
     int value(const char* feature) const { return int(camera->feature(feature).integer()); }
     void refuse(sim::Operations operations) const
     {
         camera->failures().add("*", operations, sim::Failure::refuse());
     }
-
-    const MessageHandlerGuard guard;
-    std::unique_ptr<sim::Camera> camera;
-    std::unique_ptr<ImageFormatWidget> page;
 };
 
 } // namespace
@@ -79,8 +66,8 @@ private slots:
     {
         const OpenPage p;
         QCOMPARE(p.binning()->maximum(), 4);
-        QVERIFY(!p.field<QLabel>("lblIcon")->pixmap(Qt::ReturnByValue).isNull());
-        auto* const reverse = p.field<QCheckBox>("chkReverseX");
+        QVERIFY(!p.find<QLabel>("lblIcon")->pixmap(Qt::ReturnByValue).isNull());
+        auto* const reverse = p.find<QCheckBox>("chkReverseX");
         p.binning()->setValue(2);
         QCOMPARE(p.value("BinningHorizontal"), 2);
         p.format()->setCurrentIndex(1);
@@ -113,7 +100,7 @@ private slots:
             const OpenPage p;
             QSignalSpy images(p.source(), &ImageReaderWidget::imageChanged);
             p.source()->setCurrentIndex(ImageReaderWidget::LastAcquiredImage);
-            QVERIFY(p.field<QWidget>(QTest::currentDataTag())->setProperty(property, value));
+            QVERIFY(p.find<QWidget>(QTest::currentDataTag())->setProperty(property, value));
             QCOMPARE(p.source()->currentIndex() == ImageReaderWidget::NoImage, clears);
             p.page->updateTimer(); // the notification of the page's own write changes nothing more
             QCOMPARE(images.size() == 1, clears);
@@ -157,12 +144,12 @@ private slots:
             p.camera->journal().clear();
             p.page->updateTimer();
             if (refused.contains(sim::Operation::GetValue))
-                QCOMPARE(p.field<QSpinBox>("spbBinningVertical")->value(), 1);
+                QCOMPARE(p.find<QSpinBox>("spbBinningVertical")->value(), 1);
             p.camera->failures().clear();
             p.page->updateTimer();
             QCOMPARE(images.size(), 1);
-            QCOMPARE(p.field<QSpinBox>("spbBinningVertical")->value(), 2);
-            QVERIFY(p.field<QCheckBox>("chkReverseY")->isChecked());
+            QCOMPARE(p.find<QSpinBox>("spbBinningVertical")->value(), 2);
+            QVERIFY(p.find<QCheckBox>("chkReverseY")->isChecked());
             QCOMPARE(p.format()->currentText(), QString("Mono12"));
             QVERIFY(!p.binning()->isEnabled());
             QVERIFY(p.format()->isEnabled());
@@ -188,11 +175,11 @@ private slots:
             const QString text = "Feature '" + feature + "' is not available in the camera.";
             const bool isNamed
                 = isMissing && (feature.startsWith("Reverse") || feature == "BinningSelector");
-            QCOMPARE(p.field<QWidget>(name)->isEnabled(), !isNamed);
-            QCOMPARE(p.field<QWidget>(name)->toolTip(), isNamed ? text : QString());
+            QCOMPARE(p.find<QWidget>(name)->isEnabled(), !isNamed);
+            QCOMPARE(p.find<QWidget>(name)->toolTip(), isNamed ? text : QString());
             p.page->OnFeatureChanged(feature, QString());
             p.page->updateTimer();
-            QCOMPARE(p.field<QWidget>(name)->isEnabled(), !isMissing);
+            QCOMPARE(p.find<QWidget>(name)->isEnabled(), !isMissing);
         }
         QVERIFY(!p.camera->has("BinningHorizontal") && p.camera->has("PixelFormat"));
         QCOMPARE(images.size(), 0);
@@ -256,7 +243,7 @@ private slots:
         const OpenPage p;
         p.page->resize(300, 120);
         QApplication::setActiveWindow(p.page.get());
-        const auto* const scrollBar = p.field<QScrollArea>("scrollArea")->verticalScrollBar();
+        const auto* const scrollBar = p.find<QScrollArea>("scrollArea")->verticalScrollBar();
         QVERIFY(scrollBar->maximum() > 0);
         sendWheel(p.binning());
         QVERIFY(scrollBar->value() > 0);

@@ -1,9 +1,6 @@
+#include "CameraPage.h"
 #include "DataTable.h"
-#include "MessageHandlerGuard.h"
-#include "SimulatedCamera.h"
 #include "imageformat/ImageFormatWidget.h"
-
-#include "simulator/Model.h"
 
 #include <QDoubleSpinBox>
 #include <QSpinBox>
@@ -20,9 +17,10 @@ namespace {
 constexpr std::chrono::milliseconds wait{101};
 
 /// The viewer's page, open on a camera of four pages, with the loss not noticed yet.
-struct LostPage
+struct LostPage : CameraPage<ImageFormatWidget>
 {
     LostPage(bool isWhole, int tab)
+        : CameraPage("current")
     {
         page->show();
         tabs->setCurrentIndex(tab);
@@ -45,9 +43,6 @@ struct LostPage
         }));
     }
 
-    std::unique_ptr<sim::Camera> camera = sim::createCamera("current");
-    std::unique_ptr<ImageFormatWidget> page
-        = std::make_unique<ImageFormatWidget>(featureList(*camera), nullptr);
     QTabWidget* tabs = page->findChild<QTabWidget*>();
     QSignalSpy log{page.get(), &ImageFormatWidget::loggingMessage};
 };
@@ -120,9 +115,6 @@ private slots:
         QCOMPARE(f.log.size(), 1);
         QCOMPARE(f.log.first().first().value<ZebViewerLogCategory>(), ZebViewerLogMultiRegion);
     }
-
-private:
-    MessageHandlerGuard m_guard;
 };
 
 QTEST_MAIN(LostCameraTest)

@@ -1,14 +1,11 @@
+#include "CameraPage.h"
 #include "DataTable.h"
-#include "MessageHandlerGuard.h"
-#include "SimulatedCamera.h"
 #include "TestEvents.h"
 #include "featuretable/editors/DelegateWidget.h"
 #include "imageformat/ImageFormatWidget.h"
 #include "multiregion/label/MultiRubberBandLabel.h"
 #include "regions/AOIWidget.h"
 #include "regions/label/RubberBandLabel.h"
-
-#include "simulator/Model.h"
 
 #include <QAbstractSpinBox>
 #include <QAccessible>
@@ -65,14 +62,13 @@ bool isControl(const QWidget* widget)
 }
 
 /// A page as large as it is in a window of 1400 x 900, with a tab open.
-struct Page
+struct Page : CameraPage<ImageFormatWidget>
 {
-    explicit Page(int tab, bool isDark = false, const char* model = "current")
-        : camera(sim::createCamera(model))
+    explicit Page(int tab, bool isDark = false, bool isMadeDark = false,
+                  const char* model = "current")
+        : CameraPage(model, [=](sim::Camera&) { setTheme(isMadeDark); })
     {
         setTheme(isDark);
-        camera->setNotifications(sim::NotificationSettings::synchronous());
-        page = std::make_unique<ImageFormatWidget>(featureList(*camera), nullptr);
         page->resize(800, 800);
         page->show();
         tabs = find<QTabWidget>("tabWidget");
@@ -124,9 +120,6 @@ struct Page
             {contrast(at(0), at(-2)), contrast(at(1), at(-2)), contrast(at(2), at(-2))});
     }
 
-    const MessageHandlerGuard guard;
-    std::unique_ptr<sim::Camera> camera;
-    std::unique_ptr<ImageFormatWidget> page;
     QTabWidget* tabs = nullptr;
 };
 
@@ -142,7 +135,7 @@ private slots:
     void showsAllOfATab_data()
     {
         const DataTable table([](const char* model, int tab, bool isMultiple) {
-            const Page p(tab, false, model);
+            const Page p(tab, false, false, model);
             if (isMultiple) {
                 p.page->resize(800, 620);
                 p.camera->writeAsOtherClient("MultipleRegionEnable", true);
@@ -188,11 +181,12 @@ private slots:
                  before);
     }
 
-    /// Also when the theme has changed while the page was open.
+    /// Also when the theme has changed before the page was shown, or while it was.
     void canBeReadAndSeen_data()
     {
         const DataTable table([](int tab, bool isDark, bool isBinned) {
-            const QImage fresh = Page(tab, isDark).picture();
+            const QImage fresh = Page(tab, isDark, isDark).picture();
+            QCOMPARE(Page(tab, isDark, !isDark).picture(), fresh);
             const Page p(tab, !isDark);
             setTheme(isDark);
             p.settle();

@@ -12,11 +12,7 @@ namespace {
 class Probe : public InnerPage
 {
 public:
-    explicit Probe(const sim::Camera& camera)
-        : InnerPage(featureList(camera), nullptr)
-    {
-    }
-
+    using InnerPage::InnerPage;
     using InnerPage::readAgain;
     using InnerPage::readAllSoon;
     using InnerPage::readSoon;
@@ -34,18 +30,15 @@ protected:
     }
 };
 
-struct ProbePage
+struct ProbePage : CameraPage<Probe>
 {
     ProbePage()
+        : CameraPage("aoi")
     {
-        page.show();
-        page.updateTimer();
-        page.refreshes.clear();
+        page->show();
+        page->updateTimer();
+        page->refreshes.clear();
     }
-
-    const MessageHandlerGuard guard;
-    std::unique_ptr<sim::Camera> camera = sim::createCamera("aoi");
-    Probe page{*camera};
 };
 
 /// Runs a check on each region page.
@@ -98,36 +91,36 @@ private slots:
     void keepsWhatIsUntold()
     {
         ProbePage p;
-        p.page.untold = QStringList{"Width"};
-        p.page.OnFeatureChanged("Height", {});
-        p.page.updateTimer();
-        p.page.untold.clear();
-        p.page.updateTimer();
-        p.page.updateTimer();
-        QCOMPARE(p.page.refreshes.size(), 3);
-        QCOMPARE(p.page.refreshes[0].names, QStringList("Height"));
-        QVERIFY(!p.page.refreshes[0].all);
-        QCOMPARE(p.page.refreshes[1].names, QStringList("Width"));
-        QVERIFY(p.page.refreshes[2].isEmpty());
-        p.page.readSoon({"Width"});
-        p.page.readAllSoon();
-        QTRY_COMPARE_WITH_TIMEOUT(p.page.refreshes.size(), 4, 400);
-        QVERIFY(p.page.refreshes[3].all);
+        p.page->untold = QStringList{"Width"};
+        p.page->OnFeatureChanged("Height", {});
+        p.page->updateTimer();
+        p.page->untold.clear();
+        p.page->updateTimer();
+        p.page->updateTimer();
+        QCOMPARE(p.page->refreshes.size(), 3);
+        QCOMPARE(p.page->refreshes[0].names, QStringList("Height"));
+        QVERIFY(!p.page->refreshes[0].all);
+        QCOMPARE(p.page->refreshes[1].names, QStringList("Width"));
+        QVERIFY(p.page->refreshes[2].isEmpty());
+        p.page->readSoon({"Width"});
+        p.page->readAllSoon();
+        QTRY_COMPARE_WITH_TIMEOUT(p.page->refreshes.size(), 4, 400);
+        QVERIFY(p.page->refreshes[3].all);
     }
 
     void waitsWhileAtWork()
     {
         ProbePage p;
-        p.page.isDragging = true;
-        p.page.OnFeatureChanged("Width", {});
-        p.page.updateTimer();
-        p.page.readAgain({"Height"});
-        p.page.updateTimer();
-        QVERIFY(p.page.refreshes.isEmpty());
-        p.page.isDragging = false;
-        p.page.updateTimer();
-        QCOMPARE(p.page.refreshes.size(), 1);
-        QCOMPARE(p.page.refreshes[0].names, (QStringList{"Width", "Height"}));
+        p.page->isDragging = true;
+        p.page->OnFeatureChanged("Width", {});
+        p.page->updateTimer();
+        p.page->readAgain({"Height"});
+        p.page->updateTimer();
+        QVERIFY(p.page->refreshes.isEmpty());
+        p.page->isDragging = false;
+        p.page->updateTimer();
+        QCOMPARE(p.page->refreshes.size(), 1);
+        QCOMPARE(p.page->refreshes[0].names, (QStringList{"Width", "Height"}));
     }
 
     void survivesWithoutItsFeatures()
