@@ -7,6 +7,7 @@
 #include <QDebug>
 
 #include <algorithm>
+#include <set>
 #include <utility>
 
 namespace {
@@ -124,11 +125,15 @@ FeatureReader FeatureManager::Read(const QString& name, const QString& alternati
 
 QVector<FeatureReader> FeatureManager::FindAll(const QStringList& names) const
 {
+    if (names.isEmpty())
+        return {};
+    std::set<std::string> wanted;
+    for (const QString& name : names)
+        wanted.insert(name.toStdString());
     QVector<FeatureReader> found;
-    walk(QStringLiteral("all"), [&](const ZebFeatureWrapperPtr& feature, const std::string& text) {
-        const QString name = QString::fromStdString(text);
-        if (names.contains(name))
-            found.append({feature, name, m_link});
+    walk(QStringLiteral("all"), [&](const ZebFeatureWrapperPtr& feature, const std::string& name) {
+        if (wanted.count(name) > 0)
+            found.append({feature, QString::fromStdString(name), m_link});
         return false;
     });
     return found;

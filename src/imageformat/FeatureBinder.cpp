@@ -55,14 +55,26 @@ bool FeatureBinder::bind(QWidget* field)
     return bool(feature);
 }
 
-bool FeatureBinder::show(QWidget* field)
+QStringList FeatureBinder::show(const QStringList& features)
 {
-    FeatureReader feature = m_manager.Read(featureOf(field));
-    if (feature)
-        return showReading(field, feature, Entries::Refilled);
-    if (feature.isKnown())
-        field->setEnabled(false);
-    return feature.isKnown();
+    const auto found = m_manager.FindAll(features);
+    const auto read = [this, &found](const QString& name) {
+        const auto isNamed = [&](const FeatureReader& feature) { return feature.name() == name; };
+        const auto feature = std::find_if(found.begin(), found.end(), isNamed);
+        // A look-up of its own tells a missing feature from one that was kept back.
+        return feature == found.end() || m_manager.link()->isClosed() ? m_manager.Read(name)
+                                                                      : *feature;
+    };
+    QStringList untold;
+    const auto fields = boundTo(features);
+    for (QWidget* const field : fields) {
+        FeatureReader feature = read(featureOf(field));
+        if (!feature && feature.isKnown())
+            field->setEnabled(false);
+        else if (!feature || !showReading(field, feature, Entries::Refilled))
+            untold.append(featureOf(field));
+    }
+    return untold;
 }
 
 bool FeatureBinder::write(QWidget* field, const QVariant& value)

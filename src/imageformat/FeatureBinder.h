@@ -22,20 +22,20 @@ public:
 
     /// Shows the field. False, and the field is left alone, when the camera lacks the feature.
     bool bind(QWidget* field);
-    /// By one look-up. False when it is to be shown once more, for not all of it was told.
-    bool show(QWidget* field);
-    /// Shows what the camera made of the value. False as above; also when the camera holds no entry
-    /// of the combo box, which then selects nothing.
+    /// The fields of these features, in their order, by one look-up. Answers which are to be shown
+    /// once more, for not all was told.
+    QStringList show(const QStringList& features);
+    /// Shows what the camera made of the value. False when not all was told; also when the camera
+    /// holds no entry of the combo box, which then selects nothing.
     bool write(QWidget* field, const QVariant& value);
-
-    /// In the features' order; none of a derived class, which has rules of its own.
-    QList<QWidget*> boundTo(const QStringList& features) const;
 
 private:
     enum class Entries {
         Refilled,
         Kept
     };
+    /// In the features' order; none of a derived class, which has rules of its own.
+    QList<QWidget*> boundTo(const QStringList& features) const;
     bool showReading(QWidget* field, FeatureReader& feature, Entries entries);
 
     QWidget& m_form;

@@ -221,11 +221,7 @@ void ImageFormatWidget::refreshFeatures()
     };
     // A change made on this page, which its field shows already, resets the image no second time.
     const auto formerGeometry = geometry();
-    const auto fields = m_binder->boundTo(names);
-    for (QWidget* const field : fields) {
-        if (!m_binder->show(field))
-            readAgain({FeatureBinder::featureOf(field)});
-    }
+    readAgain(m_binder->show(names));
     if (geometry() != formerGeometry)
         resetImageSource();
 }
