@@ -41,6 +41,7 @@ LINT_PACKAGES=(
 # What the benchmarks take besides building.
 BENCH_PACKAGES=(
     libbenchmark-dev
+    valgrind
     xvfb
     xauth
 )

@@ -40,7 +40,7 @@ try {
         return Sdk::resources;
 
     std::array<char, shortTextBytes> shortBuffer;
-    std::string longBuffer(length > shortTextBytes ? length : 0, '\0');
+    std::vector<char> longBuffer(length > shortTextBytes ? length : 0);
     char* const buffer = longBuffer.empty() ? shortBuffer.data() : longBuffer.data();
     char* const end = buffer + length;
     std::fill(buffer, end, '\0');
