@@ -178,9 +178,13 @@ private slots:
     {
         FeaturesTable f;
         const int width = f.table->columnWidth(nameColumn);
-        f.features->setFilter("EXPOSED");
-        for (const QString& name : f.names)
-            QCOMPARE(f.table->isRowHidden(f.names.indexOf(name)), name != "ExposureTime");
+        for (const auto& [filter, match] :
+             {std::pair("SENSOR IS", "ExposureTime"), std::pair(" the count ", "Count"),
+              std::pair("steps", "Steps")}) {
+            f.features->setFilter(filter);
+            for (const QString& name : f.names)
+                QCOMPARE(f.table->isRowHidden(f.names.indexOf(name)), name != match);
+        }
         f.features->grab();
         QCOMPARE(f.table->columnWidth(nameColumn), width);
         f.features->setFilter({});

@@ -63,33 +63,27 @@ private slots:
     }
     void fileIsAnnounced() { runRow(); }
 
-    void refusesWhatIsNoPicture_data()
+    void refusesWhatIsNoPicture()
     {
-        const DataTable row([this](const QByteArray& content) {
-            const QString name = m_folder.filePath(QTest::currentDataTag());
+        QFile large(m_folder.filePath("900 megapixels"));
+        QVERIFY(large.open(QIODevice::WriteOnly));
+        large.write("P5\n30000 30000 255\n");
+        large.close();
+        const QString pipe = m_folder.filePath("pipe");
 #ifdef Q_OS_UNIX
-            if (content.isEmpty()) // opening a pipe for reading waits for a writer
-                QCOMPARE(mkfifo(qPrintable(name), 0600), 0);
+        mkfifo(qPrintable(pipe), 0600); // opening it for reading waits for a writer
 #endif
-            QFile file(name);
-            if (!content.isEmpty())
-                QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) > 0 && file.flush());
+        for (const QString& name : {large.fileName(), pipe}) {
             const PictureFile loaded = PictureFile::load(name);
             QVERIFY(loaded.picture.isNull());
             QVERIFY(loaded.fault.contains(name));
-        });
-        row("900 megapixels", "P5\n30000 30000 255\n");
-        row("pipe", {});
-    }
-    void refusesWhatIsNoPicture()
-    {
-        runRow();
+        }
     }
 
     // The list is reset by the page while its dialog is on, or about to be.
-    void laterChoiceEndsTheDialog_data()
+    void laterChoiceEndsTheDialog()
     {
-        const DataTable row([this](bool isOpen) {
+        for (const bool isOpen : {true, false}) {
             ImageReaderWidget selector(nullptr);
             const auto images = announcedBy(selector);
             const auto reset
@@ -113,13 +107,7 @@ private slots:
             QTest::qWait(300);
             QVERIFY(!isLeft);
             QCOMPARE(*images, QVector<ImagePtr>{nullptr});
-        });
-        row("open", true);
-        row("about to open", false);
-    }
-    void laterChoiceEndsTheDialog()
-    {
-        runRow();
+        }
     }
 
     void wheelChoosesWithFocusOnly()

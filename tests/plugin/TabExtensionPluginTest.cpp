@@ -11,7 +11,6 @@
 #include <QMetaMethod>
 #include <QPluginLoader>
 #include <QProcess>
-#include <QSpinBox>
 
 /// The built module, loaded as the viewer loads it.
 class TabExtensionPluginTest : public QObject
@@ -103,7 +102,6 @@ private slots:
             QCOMPARE(!page->findChild<QWidget*>("frmImageFormat")->isEnabled(), isConnected);
             delete page;
         });
-        row("all", true, "", true);
         row("no table", false, "", false);
         row("one key missing", true, "connectWidgetToSignal", false);
         row("another key missing", true, "connectLoggingSlot", true);

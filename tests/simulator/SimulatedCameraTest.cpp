@@ -107,22 +107,16 @@ private slots:
             "WidthMax 1296, OffsetX 296, Width 1000, HeightMax 1944");
         row("offset and size bound each other", "plain",
             "!OffsetX 4, Width 2584, !OffsetX 16, OffsetX 8, !Width 2592", "OffsetX 8");
-        row("entries come and go", "older-names",
-            "PixelFormat BayerRG8, BinningVertical 2, !PixelFormat BayerRG8", "PixelFormat Mono8");
         row("selectors keep values", "current",
             "BinningHorizontal 2, BinningSelector Digital, BinningHorizontal 3, "
             "BinningSelector Sensor",
             "BinningHorizontal 2, WidthMax 432");
         row("regions follow the picture", "mixed-aoi-dsp", "Width 640",
             "AutofunctionAOIWidth 640, AutofunctionAOIOffsetX 0, DSPSubregionRight 640");
-        row("a region that is switched off", "aoi-gated",
-            "AutofunctionAOIEnable false, !AutofunctionAOIWidth 64", "");
         row("edges stay ordered", "dsp",
             "DSPSubregionRight 100, !DSPSubregionLeft 100, DSPSubregionLeft 99, "
             "!DSPSubregionRight 99",
             "DSPSubregionLeft 99, DSPSubregionRight 100");
-        row("exposure limits follow the timebase", "aoi-plain", "ExposureAutoTimebase 1ms",
-            "ExposureAutoMin 1000");
         row("regions under older names", "multi-region-older",
             "MultipleRegionsEnable true, SubRegionSelector Region2, Width 640, OffsetX 400, "
             "SubRegionMode On, SubRegionSelector Region0",
@@ -133,10 +127,9 @@ private slots:
     void regionStatus_data()
     {
         // An empty rectangle is switched off; a digit of "valid" stands for each region.
-        const DataTable row([](const QString& arrangement, const QVector<QRect>& regions,
-                               const QString& valid) {
-            for (const char* model : {"multi-region", "multi-region-integer"}) {
-                const auto camera = createCamera(model);
+        const DataTable row(
+            [](const QString& arrangement, const QVector<QRect>& regions, const QString& valid) {
+                const auto camera = createCamera("multi-region");
                 camera->force("MultipleRegionArrangement", arrangement.toStdString());
                 for (int i = 0; i < regions.size(); ++i) {
                     camera->forceAt("SubRegionMode", i, regions[i].isEmpty() ? "Off" : "On");
@@ -149,8 +142,7 @@ private slots:
                 for (int i = 0; i < regions.size(); ++i)
                     result += camera->feature("SubRegionStatus").textAt(i) == "Valid" ? '1' : '0';
                 QCOMPARE(result, valid);
-            }
-        });
+            });
         const QRect a(0, 0, 160, 80);
         const QRect right(160, 0, 80, 80);
         const QRect below(0, 80, 160, 60);
@@ -164,29 +156,6 @@ private slots:
         row("tile, rows differ", "Tile", {a, right, below, {160, 80, 80, 62}}, "1110");
     }
     void regionStatus() { runRow(); }
-
-    void everyModelIsSound()
-    {
-        QVERIFY(!createCamera("unheard of"));
-        for (const sim::Model& model : sim::models()) {
-            const auto camera = createCamera(model.name);
-            for (const ZebCPP::FeaturePtr& feature : camera->features()) {
-                std::uint32_t length = 99;
-                std::string name(length, '\0');
-                QCOMPARE(feature->GetName(name.data(), length), ZebErrorSuccess);
-                const auto probe = camera->feature(name.c_str()); // throws for a double name
-                const sim::Value value = probe.value();
-                const auto type = probe.description().type;
-                const bool isLegal = type == ZebFeatureDataInt
-                    ? sim::isLegal(probe.range(), value.toInteger())
-                    : type == ZebFeatureDataFloat
-                    ? sim::isLegal(probe.realRange(), value.toNumber())
-                    : type != ZebFeatureDataEnum || probe.isAvailable(value.toText());
-                QVERIFY2(isLegal, (model.name + " " + name).c_str());
-                QCOMPARE(probe.pointer(), feature);
-            }
-        }
-    }
 
     void tellsOnTheRightThread()
     {

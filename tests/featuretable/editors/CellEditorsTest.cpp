@@ -1,10 +1,8 @@
 #include "DataTable.h"
 #include "TestEvents.h"
-#include "WheelEvent.h"
 #include "featuretable/FeaturesTable.h"
 
 #include <QComboBox>
-#include <QScrollBar>
 
 using sim::Failure;
 using sim::Operation;
@@ -154,10 +152,6 @@ private slots:
                 f.features->updateFeatures({"Run"});
         }
         QCOMPARE(int(f.camera.journal().count(Operation::RunCommand)), 3);
-        f.camera.failures().add("Run", Operation::RunCommand, Failure::refuse());
-        QSignalSpy logged(f.features, &FeaturesTableWidget::loggingMessage);
-        click(f, f.open("Run"));
-        QCOMPARE(logged.at(0).at(1).toString(), QString("Saving feature 'Run' to value=0 failed."));
     }
 
     void logsARefusedWrite()

@@ -120,17 +120,6 @@ private slots:
         QCOMPARE(stepped(2.0, 2.01, {1.0, 10.0, 0.0, true}), 2.01);
     }
     void snaps() { runRow(); }
-
-    void filters()
-    {
-        FeatureInfo info;
-        info.name = "ExposureTimeAbs";
-        info.displayName = "Exposure Time (abs)";
-        info.description = "Time that the sensor is exposed.";
-        for (const char* filter : {"", "exposuretime", " time (abs) ", "SENSOR"})
-            QVERIFY2(matchesFilter(info, filter), filter);
-        QVERIFY(!matchesFilter(info, "Expo.*Time") && !matchesFilter(info, "gain"));
-    }
 };
 
 QTEST_MAIN(FeatureRecordTest)
