@@ -58,6 +58,17 @@ inline const QString exposureTime = QStringLiteral("ExposureTime");
 inline const QString exposureTimeAbs = QStringLiteral("ExposureTimeAbs");
 inline const QString intensityControllerRegion = QStringLiteral("IntensityControllerRegion");
 
+/// One direction of the image region.
+struct ImageAxis
+{
+    QString offset;
+    QString size;
+    QString maximum; ///< the maximum size
+    QString sensor;  ///< stands in for a missing maximum
+};
+inline const ImageAxis imageColumns{offsetX, width, widthMax, sensorWidth};
+inline const ImageAxis imageRows{offsetY, height, heightMax, sensorHeight};
+
 inline const QStringList autoRegion{
     dspTop,     dspLeft,    dspRight,       dspBottom,     aoiHeight,       aoiWidth,
     aoiOffsetX, aoiOffsetY, autoModeHeight, autoModeWidth, autoModeOffsetX, autoModeOffsetY};

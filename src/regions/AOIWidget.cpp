@@ -3,7 +3,6 @@
 #include "features/FeatureNames.h"
 #include "features/NumberConversion.h"
 #include "regions/image/AxisRules.h"
-#include "regions/image/RegionAxis.h"
 #include "regions/label/RubberBandLabel.h"
 #include "ui_AOIWidget.h"
 #include "widgets/Theme.h"
@@ -13,6 +12,7 @@
 #include <QSignalBlocker>
 
 #include <algorithm>
+#include <functional>
 #include <utility>
 
 namespace Name = FeatureNames;
@@ -54,14 +54,10 @@ AOIWidget::~AOIWidget() = default;
 
 void AOIWidget::createAxes()
 {
-    m_vertical = std::make_unique<RegionAxis>(
-        *featureManager,
-        RegionAxisNames{Name::offsetY, Name::height, Name::heightMax, Name::sensorHeight},
-        m_ui->spinTop, m_ui->spinHeight);
-    m_horizontal = std::make_unique<RegionAxis>(
-        *featureManager,
-        RegionAxisNames{Name::offsetX, Name::width, Name::widthMax, Name::sensorWidth},
-        m_ui->spinLeft, m_ui->spinWidth);
+    m_vertical = std::make_unique<RegionAxis>(*featureManager, Name::imageRows, m_ui->spinTop,
+                                              m_ui->spinHeight);
+    m_horizontal = std::make_unique<RegionAxis>(*featureManager, Name::imageColumns, m_ui->spinLeft,
+                                                m_ui->spinWidth);
     readAgain(m_vertical->read(m_ui->spinLeft) + m_horizontal->read(m_ui->spinLeft));
 }
 
@@ -97,20 +93,11 @@ void AOIWidget::connectForm()
 }
 
 // Nothing is written during a drag, whose end sets all four.
-void AOIWidget::writeOffset(const std::unique_ptr<RegionAxis>& axis, double value)
+void AOIWidget::write(const std::unique_ptr<RegionAxis>& axis, Number number, double value)
 {
     if (!m_ui || isAtWork())
         return;
-    axis->writeOffset(value);
-    readAllNext();
-    showRegion();
-}
-
-void AOIWidget::writeSize(const std::unique_ptr<RegionAxis>& axis, double value)
-{
-    if (!m_ui || isAtWork())
-        return;
-    axis->writeSize(value);
+    std::invoke(number, *axis, value);
     readAllNext();
     showRegion();
 }

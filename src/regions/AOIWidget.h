@@ -1,13 +1,12 @@
 #pragma once
 
 #include "page/InnerPage.h"
-#include "sensor/Span.h"
+#include "regions/image/RegionAxis.h"
 
 #include <QPixmap>
 
 #include <memory>
 
-class RegionAxis;
 class RubberBandLabel;
 
 namespace Ui {
@@ -27,10 +26,19 @@ public:
     ~AOIWidget() override;
 
 public slots:
-    void OnSpinTopValueChanged(double value) { writeOffset(m_vertical, value); }
-    void OnSpinLeftValueChanged(double value) { writeOffset(m_horizontal, value); }
-    void OnSpinWidthValueChanged(double value) { writeSize(m_horizontal, value); }
-    void OnSpinHeightValueChanged(double value) { writeSize(m_vertical, value); }
+    void OnSpinTopValueChanged(double value) { write(m_vertical, &RegionAxis::writeOffset, value); }
+    void OnSpinLeftValueChanged(double value)
+    {
+        write(m_horizontal, &RegionAxis::writeOffset, value);
+    }
+    void OnSpinWidthValueChanged(double value)
+    {
+        write(m_horizontal, &RegionAxis::writeSize, value);
+    }
+    void OnSpinHeightValueChanged(double value)
+    {
+        write(m_vertical, &RegionAxis::writeSize, value);
+    }
     void OnSpinEditingFinished() { readAllSoon(); }
     void OnSendGeometry(int top, int left, int width, int height);
     void OnUpdateGeometry(int top, int left, int width, int height);
@@ -51,8 +59,8 @@ private:
     void createLabel();
     void connectForm();
 
-    void writeOffset(const std::unique_ptr<RegionAxis>& axis, double value);
-    void writeSize(const std::unique_ptr<RegionAxis>& axis, double value);
+    using Number = void (RegionAxis::*)(double);
+    void write(const std::unique_ptr<RegionAxis>& axis, Number number, double value);
     void applyPreset(const Span<double>& horizontal, const Span<double>& vertical);
     void applyCentredPreset(double factor);
     void commitTyping();

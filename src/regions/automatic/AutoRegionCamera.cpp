@@ -52,11 +52,6 @@ Reading<double> AutoRegionCamera::readForField(RegionNumber number)
     return noted(name, m_manager.Read(name).fieldNumber());
 }
 
-Reading<double> AutoRegionCamera::read(const QString& name, int parts)
-{
-    return noted(name, m_manager.Read(name).number(parts));
-}
-
 Reading<double> AutoRegionCamera::noted(const QString& name, const Reading<double>& reading)
 {
     if (reading.value)
@@ -78,11 +73,6 @@ double AutoRegionCamera::write(RegionNumber number, double value)
     if (taken >= 0.0)
         m_values[nameOf(number)] = taken;
     return this->value(number);
-}
-
-AutoRegion AutoRegionCamera::region() const
-{
-    return regionOf([this](RegionNumber number) { return value(number); });
 }
 
 bool AutoRegionCamera::isRegionTold() const
@@ -157,19 +147,17 @@ std::optional<QSizeF> AutoRegionCamera::readLimits()
 
 QSize AutoRegionCamera::readSensorSize()
 {
-    return {readSensorExtent(Name::sensorWidth, Name::widthMax, Name::width, Name::offsetX),
-            readSensorExtent(Name::sensorHeight, Name::heightMax, Name::height, Name::offsetY)};
+    return {readSensorExtent(Name::imageColumns), readSensorExtent(Name::imageRows)};
 }
 
-int AutoRegionCamera::readSensorExtent(const QString& sensor, const QString& maximum,
-                                       const QString& size, const QString& offset)
+int AutoRegionCamera::readSensorExtent(const Name::ImageAxis& axis)
 {
-    read(sensor);
-    read(maximum);
-    if (!m_values.contains(sensor) && !m_values.contains(maximum))
-        return toInt(read(size).maximum.value_or(0.0) + readValue(offset));
-    const double known = m_values.value(sensor, m_values.value(maximum));
-    return toInt(std::min(known, m_values.value(maximum, known)));
+    read(axis.sensor);
+    read(axis.maximum);
+    if (!m_values.contains(axis.sensor) && !m_values.contains(axis.maximum))
+        return toInt(read(axis.size).maximum.value_or(0.0) + readValue(axis.offset));
+    const double known = m_values.value(axis.sensor, m_values.value(axis.maximum));
+    return toInt(std::min(known, m_values.value(axis.maximum, known)));
 }
 
 QRect AutoRegionCamera::readImageRegion(bool hasImage)

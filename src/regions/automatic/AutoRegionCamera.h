@@ -69,7 +69,10 @@ public:
 
     /// As read last.
     double value(RegionNumber number) const { return m_values.value(nameOf(number)); }
-    AutoRegion region() const;
+    AutoRegion region() const
+    {
+        return regionOf([this](RegionNumber number) { return value(number); });
+    }
     /// As region(), of what @p valueOf answers for each of the four.
     template <typename ValueOf> AutoRegion regionOf(const ValueOf& valueOf) const
     {
@@ -95,7 +98,10 @@ public:
     void readOrigin();
     /// What the camera would allow by now; nothing unless it told all of it.
     std::optional<QSizeF> readLimits();
-    Reading<double> read(const QString& name, int parts = FeatureReader::Whole);
+    Reading<double> read(const QString& name, int parts = FeatureReader::Whole)
+    {
+        return noted(name, m_manager.Read(name).number(parts));
+    }
     double readValue(const QString& name, const QString& alternative = {});
     void writeImageSize(const QString& name, double value) { m_manager.SetValue(name, value); }
     /// Whether offset and size are those of "AutoModeRegion...".
@@ -113,8 +119,7 @@ public:
 private:
     const QString& nameOf(RegionNumber number) const { return m_names[std::size_t(number)]; }
     Reading<double> noted(const QString& name, const Reading<double>& reading);
-    int readSensorExtent(const QString& sensor, const QString& maximum, const QString& size,
-                         const QString& offset);
+    int readSensorExtent(const FeatureNames::ImageAxis& axis);
 
     FeatureManager& m_manager;
     std::array<QString, regionNumbers.size()> m_names; ///< empty: the camera has no such number

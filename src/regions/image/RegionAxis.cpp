@@ -2,7 +2,6 @@
 
 #include "features/CameraLink.h"
 #include "features/FeatureManager.h"
-#include "features/FeatureNames.h"
 #include "features/FeatureWriting.h"
 #include "regions/image/AxisRules.h"
 
@@ -11,13 +10,12 @@
 #include <algorithm>
 #include <cmath>
 
-RegionAxis::RegionAxis(FeatureManager& manager, const RegionAxisNames& names,
+RegionAxis::RegionAxis(FeatureManager& manager, const FeatureNames::ImageAxis& names,
                        QDoubleSpinBox* offsetField, QDoubleSpinBox* sizeField)
     : m_manager(manager)
+    , m_names(names)
     , m_offset{names.offset, NumberField(offsetField)}
     , m_size{names.size, NumberField(sizeField)}
-    , m_maximumName(names.maximum)
-    , m_sensorName(names.sensor)
 {
 }
 
@@ -29,7 +27,7 @@ QStringList RegionAxis::read(QDoubleSpinBox* stepField, int parts)
         forgetMaximum();
     readMaximum();
     if (!m_isMaximumFresh)
-        untold << m_maximumName;
+        untold << m_names.maximum;
     if (!showOffset(stepField, parts))
         untold << m_offset.name;
     if (!showSize(parts))
@@ -75,7 +73,7 @@ double RegionAxis::readMaximum()
 bool RegionAxis::readLargest()
 {
     bool isTold = true;
-    for (const QString& name : {m_maximumName, m_sensorName}) {
+    for (const QString& name : {m_names.maximum, m_names.sensor}) {
         const Reading<double> extent = readNumber(name, FeatureReader::Value);
         if (extent.value.value_or(0.0) >= 1.0) {
             m_maximum = std::trunc(*extent.value);
@@ -95,7 +93,7 @@ bool RegionAxis::readLargest()
 
 bool RegionAxis::readSensor()
 {
-    const Reading<double> sensor = readNumber(m_sensorName, FeatureReader::Value);
+    const Reading<double> sensor = readNumber(m_names.sensor, FeatureReader::Value);
     m_sensor = sensor.value.value_or(m_sensor);
     return sensor.isComplete;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "features/FeatureNames.h"
 #include "features/FeatureReader.h"
 #include "page/NumberField.h"
 #include "sensor/Span.h"
@@ -10,14 +11,6 @@
 #include <utility>
 
 class FeatureManager;
-
-struct RegionAxisNames
-{
-    QString offset;
-    QString size;
-    QString maximum; ///< the maximum size
-    QString sensor;  ///< stands in for a missing maximum
-};
 
 struct AxisPlan
 {
@@ -31,8 +24,8 @@ struct AxisPlan
 class RegionAxis
 {
 public:
-    RegionAxis(FeatureManager& manager, const RegionAxisNames& names, QDoubleSpinBox* offsetField,
-               QDoubleSpinBox* sizeField);
+    RegionAxis(FeatureManager& manager, const FeatureNames::ImageAxis& names,
+               QDoubleSpinBox* offsetField, QDoubleSpinBox* sizeField);
 
     /// What a write to one of the numbers moves of both.
     static constexpr int moved
@@ -97,10 +90,9 @@ private:
     void write(Number& number, double value, int limits);
 
     FeatureManager& m_manager;
+    const FeatureNames::ImageAxis m_names;
     Number m_offset;
     Number m_size;
-    QString m_maximumName;
-    QString m_sensorName;
     double m_maximum = 0.0;
     double m_sensor = 0.0;
     bool m_isMaximumFresh = false;
