@@ -42,7 +42,6 @@ MultiROIWidget::MultiROIWidget(const FeatureList& camera, QWidget* parent)
     m_settings->refreshArrangement();
     createLabel();
     createRegions();
-    connectRegions();
     refreshSwitch();
     refreshArrangement();
     m_settings->testCompatibility();
@@ -97,8 +96,15 @@ void MultiROIWidget::createRegions()
     // only: the first refresh reads them all. These are those of the region that is selected.
     const auto state = m_regions.read(true);
     for (int region = 0; region < count; ++region) {
-        m_tabs->add(new RegionTableWidget(region, this, features, m_ui->tabRegions),
-                    regionDefaultColor());
+        const RegionTabs::Tab& tab = m_tabs->add(
+            new RegionTableWidget(region, this, features, m_ui->tabRegions), regionDefaultColor());
+        connect(tab.button, &RoundButton::toggled, this, &MultiROIWidget::onRegionButtonToggled);
+        connect(tab.table, &RegionTableWidget::saveSubRegionFeatureToCamera, this,
+                &MultiROIWidget::setFeatureValue);
+        connect(tab.table, &RegionTableWidget::loggingMessage, this,
+                &MultiROIWidget::loggingMessage);
+        connect(tab.table, &RegionTableWidget::cellEditorActive, this,
+                &MultiROIWidget::onFeatureEditorActivated);
         if (state)
             m_label->setRegionLimits(region, *state->limits);
     }
@@ -113,20 +119,6 @@ void MultiROIWidget::createRegions()
     const int selected = m_regions.readSelected().value_or(0);
     m_tabs->open(isRegion(selected) ? selected : 0);
     m_label->selectRegion(m_tabs->current());
-}
-
-void MultiROIWidget::connectRegions()
-{
-    using Table = RegionTableWidget;
-    for (int region = 0; region < m_tabs->count(); ++region) {
-        const RegionTabs::Tab& tab = m_tabs->tab(region);
-        connect(tab.button, &RoundButton::toggled, this, &MultiROIWidget::onRegionButtonToggled);
-        connect(tab.table, &Table::saveSubRegionFeatureToCamera, this,
-                &MultiROIWidget::setFeatureValue);
-        connect(tab.table, &Table::loggingMessage, this, &MultiROIWidget::loggingMessage);
-        connect(tab.table, &Table::cellEditorActive, this,
-                &MultiROIWidget::onFeatureEditorActivated);
-    }
 }
 
 void MultiROIWidget::connectForm()

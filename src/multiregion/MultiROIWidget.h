@@ -68,7 +68,6 @@ private:
 
     void createLabel();
     void createRegions();
-    void connectRegions();
     void connectForm();
     /// The camera has regions, and nobody has deleted the label.
     bool isReady() const { return m_ui && !m_label.isNull(); }

@@ -21,7 +21,7 @@ RegionTabs::RegionTabs(const Ui::MultiROIWidget& form, MultiRubberBandLabel* lab
     m_form.tabRegions->clear();
 }
 
-void RegionTabs::add(RegionTableWidget* table, const QColor& color)
+const RegionTabs::Tab& RegionTabs::add(RegionTableWidget* table, const QColor& color)
 {
     const int region = count();
     const QString title = RegionText::tr("Region%1").arg(region);
@@ -49,6 +49,7 @@ void RegionTabs::add(RegionTableWidget* table, const QColor& color)
                      &RegionTableWidget::onRegionRangeChanged);
     QObject::connect(m_label, &Label::highlightSelectedRegion, tab.label,
                      &RegionLabelWidget::highlightIfSelected);
+    return m_tabs.back();
 }
 
 bool RegionTabs::isEditing() const
@@ -97,8 +98,7 @@ void RegionTabs::updateButtons()
 
 void RegionTabs::showColor(int region, const QColor& color)
 {
-    if (has(region))
-        tab(region).label->updateColor(region, color);
+    tab(region).label->updateColor(region, color);
 }
 
 void RegionTabs::fitLabels()

@@ -32,7 +32,7 @@ public:
     };
 
     /// Tables and labels follow the sensor area from now on.
-    void add(RegionTableWidget* table, const QColor& color);
+    const Tab& add(RegionTableWidget* table, const QColor& color);
     const Tab& tab(int region) const { return m_tabs[static_cast<std::size_t>(region)]; }
 
     int count() const { return static_cast<int>(m_tabs.size()); }
