@@ -2,7 +2,6 @@
 
 #include "features/FeatureInformation.h"
 #include "features/FeatureWriting.h"
-#include "features/SdkValues.h"
 
 #include <QDebug>
 
@@ -26,6 +25,16 @@ double untold(FeatureReader& reader)
 Reading<double> limitedNumber(FeatureReader reader, int parts)
 {
     return reader.dataType() == Sdk::booleanType ? Reading<double>() : reader.number(parts);
+}
+
+/// Logs when there is none.
+FeatureReader readOrLog(const FeatureManager& manager, const char* operation, const QString& name)
+{
+    const FeatureReader feature = manager.Read(name);
+    const QByteArray caller = QByteArray("Error: FeatureManager::") + operation;
+    if (!feature)
+        qDebug() << (caller + "() - cannot get ZebFeatureWrapperPtr for ").constData() << name;
+    return feature;
 }
 
 double answer(const Reading<double>& reading, double& minimum, double& maximum)
@@ -146,42 +155,10 @@ double FeatureManager::GetValue(const QString& name, const QString& alternative1
     return reader.value().value_or(untold(reader));
 }
 
-QString FeatureManager::GetStringValue(const QString& name, const QString& alternative)
-{
-    return Read(name, alternative).textValue().value_or(QString());
-}
-
-bool FeatureManager::IsWritable(const QString& name, const QString& alternative1,
-                                const QString& alternative2)
-{
-    return Read(name, alternative1, alternative2).isWritable();
-}
-
-bool FeatureManager::IsReadable(const QString& name)
-{
-    return Read(name).flag(FeatureReader::Readability).value_or(false);
-}
-
 double FeatureManager::GetIncrement(const QString& name, const QString& alternative)
 {
     const auto reading = limitedNumber(Read(name, alternative), FeatureReader::Increment);
     return reading.increment.value_or(missingNumber);
-}
-
-QString FeatureManager::GetExistingName(const QStringList& candidates)
-{
-    return readFirst(candidates).text(&ZebFeatureWrapper::GetName);
-}
-
-QString FeatureManager::GetDisplayName(const QString& name, const QString& alternative1,
-                                       const QString& alternative2)
-{
-    return Read(name, alternative1, alternative2).text(&ZebFeatureWrapper::GetDisplayName);
-}
-
-QString FeatureManager::GetDisplayName(const QStringList& candidates)
-{
-    return readFirst(candidates).text(&ZebFeatureWrapper::GetDisplayName);
 }
 
 double FeatureManager::GetValueState(const QString& name, const QString& alternative1,
@@ -218,23 +195,6 @@ QString FeatureManager::GetWritableStringValue(const QString& name)
     return reader.isWritable() ? reader.textValue().value_or(QString()) : QString();
 }
 
-QStringList FeatureManager::GetEnumEntries(const QString& name, const QString& alternative)
-{
-    return Read(name, alternative).entries();
-}
-
-bool FeatureManager::HasFeature(const QString& name, const QString& alternative1,
-                                const QString& alternative2)
-{
-    return bool(Read(name, alternative1, alternative2));
-}
-
-bool FeatureManager::IsFloatFeature(const QString& name, const QString& alternative1,
-                                    const QString& alternative2)
-{
-    return Read(name, alternative1, alternative2).dataType() == Sdk::floatType;
-}
-
 QString FeatureManager::SetStringValue(const QString& name, const QString& alternative1,
                                        const QString& alternative2, const QString& value)
 {
@@ -260,11 +220,6 @@ bool FeatureManager::RunCommand(const QString& name)
 {
     FeatureReader feature = Read(name);
     return feature && feature.run() == Sdk::success;
-}
-
-QString FeatureManager::GetCategory(const QString& name)
-{
-    return Read(name).text(&ZebFeatureWrapper::GetCategory);
 }
 
 bool FeatureManager::IsValueAvailable(const QString& name, const QString& value)
@@ -293,40 +248,23 @@ QStringList FeatureManager::GetSelectedFeatureNames(const QString& name)
 
 ZebFeatureDataType FeatureManager::GetDataType(const QString& name)
 {
-    FeatureReader reader = Read(name);
-    if (!reader)
-        qDebug() << "Error: FeatureManager::GetDataType() - cannot get ZebFeatureWrapperPtr for "
-                 << name;
-    return reader.dataType();
+    return readOrLog(*this, "GetDataType", name).dataType();
 }
 
 QString FeatureManager::GetRepresentation(const QString& name)
 {
-    const FeatureReader feature = Read(name);
-    if (!feature) {
-        qDebug()
-            << "Error: FeatureManager::GetRepresentation() - cannot get ZebFeatureWrapperPtr for "
-            << name;
-        return {};
-    }
+    const FeatureReader feature = readOrLog(*this, "GetRepresentation", name);
     std::string representation;
-    if (feature->GetRepresentation(representation) != Sdk::success) {
+    if (feature && feature->GetRepresentation(representation) != Sdk::success)
         qDebug() << "Error: FeatureManager::GetRepresentation() cannot get representaion for "
                  << name;
-        return {};
-    }
     return QString::fromStdString(representation);
 }
 
 QString FeatureManager::GetInformation(const QString& name)
 {
-    FeatureReader reader = Read(name);
-    if (!reader) {
-        qDebug() << "Error: FeatureManager::GetInformation() - cannot get ZebFeatureWrapperPtr for "
-                 << name;
-        return {};
-    }
-    return featureInformation(reader);
+    FeatureReader feature = readOrLog(*this, "GetInformation", name);
+    return feature ? featureInformation(feature) : QString();
 }
 
 QStringList FeatureManager::GetFeatureNames()

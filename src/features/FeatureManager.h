@@ -1,6 +1,7 @@
 #pragma once
 
 #include "features/FeatureReader.h"
+#include "features/SdkValues.h"
 #include "features/ZebFeatureWrapper.h"
 
 #include <QSharedPointer>
@@ -38,28 +39,46 @@ public:
     virtual double GetValue(const QString& name, const QString& alternative1,
                             const QString& alternative2);
     virtual QString GetStringValue(const QString& name) { return GetStringValue(name, {}); }
-    virtual QString GetStringValue(const QString& name, const QString& alternative);
+    virtual QString GetStringValue(const QString& name, const QString& alternative)
+    {
+        return Read(name, alternative).textValue().value_or(QString());
+    }
     virtual bool IsWritable(const QString& name) { return IsWritable(name, {}); }
     virtual bool IsWritable(const QString& name, const QString& alternative)
     {
         return IsWritable(name, alternative, {});
     }
     virtual bool IsWritable(const QString& name, const QString& alternative1,
-                            const QString& alternative2);
-    virtual bool IsReadable(const QString& name);
+                            const QString& alternative2)
+    {
+        return Read(name, alternative1, alternative2).isWritable();
+    }
+    virtual bool IsReadable(const QString& name)
+    {
+        return Read(name).flag(FeatureReader::Readability).value_or(false);
+    }
     /// -1 for a feature that is no number.
     virtual double GetIncrement(const QString& name) { return GetIncrement(name, {}); }
     virtual double GetIncrement(const QString& name, const QString& alternative);
     /// The camera's own name of the first candidate that exists.
-    virtual QString GetExistingName(const QStringList& candidates);
+    virtual QString GetExistingName(const QStringList& candidates)
+    {
+        return readFirst(candidates).text(&ZebFeatureWrapper::GetName);
+    }
     virtual QString GetDisplayName(const QString& name) { return GetDisplayName(name, {}); }
     virtual QString GetDisplayName(const QString& name, const QString& alternative)
     {
         return GetDisplayName(name, alternative, {});
     }
     virtual QString GetDisplayName(const QString& name, const QString& alternative1,
-                                   const QString& alternative2);
-    virtual QString GetDisplayName(const QStringList& candidates);
+                                   const QString& alternative2)
+    {
+        return Read(name, alternative1, alternative2).text(&ZebFeatureWrapper::GetDisplayName);
+    }
+    virtual QString GetDisplayName(const QStringList& candidates)
+    {
+        return readFirst(candidates).text(&ZebFeatureWrapper::GetDisplayName);
+    }
 
     /// Value, writability, range and increment as the camera reports them. A missing feature
     /// leaves the outputs untouched, one that is no number sets the numbers to -1.
@@ -110,9 +129,15 @@ public:
     virtual QString GetWritableStringValue(const QString& name);
     /// All entries, those that the camera does not offer at present included.
     virtual QStringList GetEnumEntries(const QString& name) { return GetEnumEntries(name, {}); }
-    virtual QStringList GetEnumEntries(const QString& name, const QString& alternative);
+    virtual QStringList GetEnumEntries(const QString& name, const QString& alternative)
+    {
+        return Read(name, alternative).entries();
+    }
     virtual bool HasFeature(const QString& name, const QString& alternative1,
-                            const QString& alternative2);
+                            const QString& alternative2)
+    {
+        return bool(Read(name, alternative1, alternative2));
+    }
     virtual bool HasFeature(const QString& name, const QString& alternative)
     {
         return HasFeature(name, alternative, {});
@@ -134,7 +159,10 @@ public:
         return IsFloatFeature(name, alternative, {});
     }
     virtual bool IsFloatFeature(const QString& name, const QString& alternative1,
-                                const QString& alternative2);
+                                const QString& alternative2)
+    {
+        return Read(name, alternative1, alternative2).dataType() == Sdk::floatType;
+    }
 
     /// Writes a text or an enumeration entry and answers what the camera then reports under the
     /// primary name, also when an alternative was written. Empty when none exists.
@@ -162,7 +190,10 @@ public:
                             const QString& alternative2, double value);
 
     virtual bool RunCommand(const QString& name);
-    virtual QString GetCategory(const QString& name);
+    virtual QString GetCategory(const QString& name)
+    {
+        return Read(name).text(&ZebFeatureWrapper::GetCategory);
+    }
     virtual bool IsValueAvailable(const QString& name, const QString& value);
     /// The names of the features whose values depend on this selector's.
     virtual QStringList GetSelectedFeatureNames(const QString& name);
