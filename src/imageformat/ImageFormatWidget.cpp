@@ -10,10 +10,6 @@
 #include "ui_ImageFormatWidget.h"
 #include "widgets/Theme.h"
 
-#include <QCheckBox>
-#include <QComboBox>
-#include <QSpinBox>
-
 #include <algorithm>
 #include <iterator>
 #include <utility>
@@ -164,21 +160,6 @@ void ImageFormatWidget::camIsStreaming(bool streaming)
     m_ui->imageReaderWidget->setDisabled(streaming);
 }
 
-void ImageFormatWidget::OnChangeSpinbox(int value)
-{
-    write(QSpinBox::staticMetaObject, value);
-}
-
-void ImageFormatWidget::OnChangeComboboxSelection(const QString& currentText)
-{
-    write(QComboBox::staticMetaObject, currentText);
-}
-
-void ImageFormatWidget::OnChangeCheckbox(int state)
-{
-    write(QCheckBox::staticMetaObject, state);
-}
-
 // The field is what sent the current signal.
 void ImageFormatWidget::write(const QMetaObject& fieldType, const QVariant& value)
 {
@@ -230,11 +211,6 @@ void ImageFormatWidget::updateIcon()
 {
     m_ui->lblIcon->setPixmap(
         QPixmap(isDarkMode() ? ":/images/image-darkmode.png" : ":/images/image.png"));
-}
-
-void ImageFormatWidget::reportLoss(const QString& message)
-{
-    emit loggingMessage(ZebViewerLogMultiRegion, message);
 }
 
 void ImageFormatWidget::onPaletteChanged(QEvent*)

@@ -2,6 +2,10 @@
 
 #include "page/BaseTabPluginWidget.h"
 
+#include <QCheckBox>
+#include <QComboBox>
+#include <QSpinBox>
+
 #include <memory>
 
 class FeatureBinder;
@@ -31,14 +35,20 @@ signals:
 
 public slots:
     void camIsStreaming(bool streaming);
-    void OnChangeSpinbox(int value);
-    void OnChangeComboboxSelection(const QString& currentText);
-    void OnChangeCheckbox(int state);
+    void OnChangeSpinbox(int value) { write(QSpinBox::staticMetaObject, value); }
+    void OnChangeComboboxSelection(const QString& currentText)
+    {
+        write(QComboBox::staticMetaObject, currentText);
+    }
+    void OnChangeCheckbox(int state) { write(QCheckBox::staticMetaObject, state); }
 
 protected:
     void refreshFeatures() override;
     void onPaletteChanged(QEvent* event) override;
-    void reportLoss(const QString& message) override;
+    void reportLoss(const QString& message) override
+    {
+        emit loggingMessage(ZebViewerLogMultiRegion, message);
+    }
 
 private:
     void connectImageSource();

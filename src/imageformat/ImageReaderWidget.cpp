@@ -22,11 +22,6 @@ ImageReaderWidget::ImageReaderWidget(QWidget* parent)
             [this] { onComboBoxItemActivated(ImageFromFile); });
 }
 
-ImageReaderWidget::~ImageReaderWidget()
-{
-    closeDialog();
-}
-
 // The list still has a signal to emit after this one, and the camera may be closed, and the list
 // with it, while the file dialog is open: the dialog waits until the list is done.
 void ImageReaderWidget::activate(int index)

@@ -25,7 +25,7 @@ public:
     };
 
     explicit ImageReaderWidget(QWidget* parent);
-    ~ImageReaderWidget() override;
+    ~ImageReaderWidget() override { closeDialog(); }
 
     /// As if it were cancelled, if there is one.
     void closeDialog();

@@ -307,23 +307,8 @@ void RegionWriter::tellActive(int region, bool active)
     tell([=] { emit regionActivated(region, active); });
 }
 
-void RegionWriter::tellCurrent(int region)
-{
-    tell([=] { emit currentRegionChanged(region); });
-}
-
 void RegionWriter::tellCurrentAtOnce(int region)
 {
     m_selected.reset(); // the receiver may select another
     emit currentRegionChanged(region);
-}
-
-void RegionWriter::tellColor(int region, const QColor& color)
-{
-    tell([=] { emit regionColorChanged(region, color); });
-}
-
-void RegionWriter::log(const QString& text)
-{
-    tell([=] { emit loggingMessage(ZebViewerLogMultiRegion, text); });
 }

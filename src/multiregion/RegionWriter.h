@@ -78,11 +78,20 @@ public:
 
     // When no call is under way any more:
     void tell(const std::function<void()>& emission);
-    void tellCurrent(int region);
+    void tellCurrent(int region)
+    {
+        tell([=] { emit currentRegionChanged(region); });
+    }
     /// Also within a call: before anything is written.
     void tellCurrentAtOnce(int region);
-    void tellColor(int region, const QColor& color);
-    void log(const QString& text);
+    void tellColor(int region, const QColor& color)
+    {
+        tell([=] { emit regionColorChanged(region, color); });
+    }
+    void log(const QString& text)
+    {
+        tell([=] { emit loggingMessage(ZebViewerLogMultiRegion, text); });
+    }
 
 signals:
     void loggingMessage(ZebViewerLogCategory category, const QString& text);

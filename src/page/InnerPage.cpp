@@ -23,11 +23,6 @@ InnerPage::InnerPage(const FeatureList& camera, QWidget* parent)
     connect(m_soonTimer, &QTimer::timeout, this, &InnerPage::updateTimer);
 }
 
-InnerPage::~InnerPage()
-{
-    disconnectChildren();
-}
-
 void InnerPage::disconnectChildren()
 {
     const auto children = findChildren<QObject*>();

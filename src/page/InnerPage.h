@@ -21,7 +21,7 @@ class InnerPage : public BaseTabPluginWidget
 
 public:
     InnerPage(const FeatureList& camera, QWidget* parent);
-    ~InnerPage() override;
+    ~InnerPage() override { disconnectChildren(); }
 
     /// A wrapped warning must not make all that is around the page as high as it would like to be.
     bool hasHeightForWidth() const override { return false; }

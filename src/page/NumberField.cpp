@@ -3,7 +3,6 @@
 #include "features/NumberConversion.h"
 #include "widgets/QSpinBoxMouseEventFilter.h"
 
-#include <QDoubleSpinBox>
 #include <QSignalBlocker>
 
 #include <algorithm>
@@ -27,16 +26,6 @@ NumberField::NumberField(QDoubleSpinBox* box)
     , m_filter(new QSpinBoxMouseEventFilter(box))
 {
     box->installEventFilter(m_filter);
-}
-
-double NumberField::value() const
-{
-    return m_box->value();
-}
-
-FieldGrid NumberField::grid() const
-{
-    return {m_box->minimum(), m_box->singleStep()};
 }
 
 bool NumberField::show(const Reading<double>& reading)

@@ -2,7 +2,8 @@
 
 #include "features/Reading.h"
 
-class QDoubleSpinBox;
+#include <QDoubleSpinBox>
+
 class QSpinBoxMouseEventFilter;
 
 /// A field's minimum and step, which are its feature's. Both count truncated to int.
@@ -24,8 +25,8 @@ public:
     explicit NumberField(QDoubleSpinBox* box);
 
     QDoubleSpinBox* box() const { return m_box; }
-    double value() const;
-    FieldGrid grid() const;
+    double value() const { return m_box->value(); }
+    FieldGrid grid() const { return {m_box->minimum(), m_box->singleStep()}; }
 
     /// Range, access and value, which is cut to the range. False when something is left as it was:
     /// the camera did not tell it, or the user is typing.

@@ -261,18 +261,6 @@ template <typename Preset> void AutoROIWidget::applyPreset(const Preset& preset)
     readAllSoon();
 }
 
-void AutoROIWidget::writeLimit(ExposureLimits::Which which, double value)
-{
-    if (m_ui)
-        readAgain(m_exposure->write(which, value));
-}
-
-void AutoROIWidget::useTime(ExposureLimits::Which which)
-{
-    if (m_ui)
-        m_exposure->useTime(which);
-}
-
 void AutoROIWidget::OnExpAutoTimebaseChanged(const QString& timebase)
 {
     if (!m_ui || !m_camera->has(Name::exposureAutoTimebase))

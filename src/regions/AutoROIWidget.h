@@ -74,8 +74,16 @@ private:
     void writeNumber(RegionNumber number, double value);
     template <typename Preset> void applyPreset(const Preset& preset);
     void applyCentredPreset(double factor);
-    void writeLimit(ExposureLimits::Which which, double value);
-    void useTime(ExposureLimits::Which which);
+    void writeLimit(ExposureLimits::Which which, double value)
+    {
+        if (m_ui)
+            readAgain(m_exposure->write(which, value));
+    }
+    void useTime(ExposureLimits::Which which)
+    {
+        if (m_ui)
+            m_exposure->useTime(which);
+    }
     void writeEntry(QComboBox* comboBox, const QString& name, const QString& entry);
     bool pumpEvents();
     void commitTyping();

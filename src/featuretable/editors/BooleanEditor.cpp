@@ -1,7 +1,5 @@
 #include "featuretable/editors/BooleanEditor.h"
 
-#include <QCheckBox>
-
 BooleanEditor::BooleanEditor(const FeatureInfo& info, QWidget* parent)
     : DelegateWidget(info, parent)
     , m_box(new QCheckBox(this))
@@ -19,9 +17,4 @@ bool BooleanEditor::showValue(const QVariant& value)
 {
     m_box->setChecked(value.toBool());
     return value.canConvert<bool>();
-}
-
-QVariant BooleanEditor::enteredValue()
-{
-    return m_box->isChecked();
 }

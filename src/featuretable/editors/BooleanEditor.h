@@ -2,7 +2,7 @@
 
 #include "featuretable/editors/DelegateWidget.h"
 
-class QCheckBox;
+#include <QCheckBox>
 
 class BooleanEditor : public DelegateWidget
 {
@@ -13,7 +13,7 @@ public:
 
 protected:
     bool showValue(const QVariant& value) override;
-    QVariant enteredValue() override;
+    QVariant enteredValue() override { return m_box->isChecked(); }
 
 private:
     QCheckBox* m_box;

@@ -38,11 +38,6 @@ RectangleRubberBand::RectangleRubberBand(int regionNo, const QRect& geometry,
     prepareNumber();
 }
 
-QColor RectangleRubberBand::shownColor() const
-{
-    return m_inConflict ? QColor(QStringLiteral("red")) : m_color;
-}
-
 void RectangleRubberBand::setOwnColor(const QColor& color)
 {
     if (color == m_color)
@@ -221,11 +216,6 @@ QColor RectangleRubberBand::highlight() const
     QColor color = shownColor();
     color.setAlpha(bandAlpha);
     return color;
-}
-
-QString RectangleRubberBand::numberText() const
-{
-    return m_selected ? QStringLiteral("[ %1 ]").arg(m_regionNo) : QString::number(m_regionNo);
 }
 
 /// Around the origin.

@@ -29,7 +29,7 @@ public:
 
     int regionNo() const { return m_regionNo; }
     /// Red in a conflict, else the region's own.
-    QColor shownColor() const;
+    QColor shownColor() const { return m_inConflict ? QColor(Qt::red) : m_color; }
     void setOwnColor(const QColor& color);
     void setSizeLimits(const BandSizeLimits& limits) { m_limits = limits; }
 
@@ -67,7 +67,10 @@ private:
     void applyColor();
     void applyHighlight();
     QColor highlight() const;
-    QString numberText() const;
+    QString numberText() const
+    {
+        return m_selected ? QStringLiteral("[ %1 ]").arg(m_regionNo) : QString::number(m_regionNo);
+    }
     void prepareNumber();
     void drawNumber(const QRect& area);
 

@@ -2,6 +2,7 @@
 
 #include "features/FeatureNames.h"
 #include "multiregion/rules/ConstraintGroups.h"
+#include "sensor/Span.h"
 
 #include <algorithm>
 
@@ -45,14 +46,12 @@ ConstrainedRange constrainedRange(const QString& feature, const QRect& range,
     const auto axis = axisOf(feature);
     if (!axis)
         return {};
-    const bool isVertical = *axis == Qt::Vertical;
-    const std::int64_t begin = isVertical ? range.y() : range.x();
-    const std::int64_t end = begin + (isVertical ? range.height() : range.width());
+    const auto area = spanOf<std::int64_t>(range, *axis);
     ConstrainedRange result;
-    if (isOffset(feature) && begin != ownBound)
-        result.minimum = begin;
-    if (counterpart && end - *counterpart != ownBound) {
-        const std::int64_t maximum = end - *counterpart;
+    if (isOffset(feature) && area.start != ownBound)
+        result.minimum = area.start;
+    if (counterpart && area.end() - *counterpart != ownBound) {
+        const std::int64_t maximum = area.end() - *counterpart;
         result.maximum = maximum - maximum % std::max<std::int64_t>(1, increment);
     }
     return result;

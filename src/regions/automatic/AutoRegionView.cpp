@@ -1,7 +1,5 @@
 #include "regions/automatic/AutoRegionView.h"
 
-#include <QDoubleSpinBox>
-
 #include <algorithm>
 #include <limits>
 
@@ -25,12 +23,6 @@ bool AutoRegionView::isRegionWritable() const
     });
 }
 
-void AutoRegionView::setEnabled(bool isEnabled)
-{
-    for (NumberField& each : m_fields)
-        each.setEnabled(isEnabled);
-}
-
 void AutoRegionView::showProvisional(const AutoRegion& region)
 {
     const auto show = [this](const AxisNumbers& axis, const Span<double>& span) {
@@ -40,12 +32,6 @@ void AutoRegionView::showProvisional(const AutoRegion& region)
     };
     show(verticalNumbers, region.vertical);
     show(horizontalNumbers, region.horizontal);
-}
-
-void AutoRegionView::commit()
-{
-    for (NumberField& each : m_fields)
-        each.commit();
 }
 
 void AutoRegionView::load()

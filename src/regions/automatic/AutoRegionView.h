@@ -19,7 +19,11 @@ public:
     const NumberField& field(RegionNumber number) const { return m_fields[std::size_t(number)]; }
     AutoRegion shown() const;
     bool isRegionWritable() const;
-    void setEnabled(bool isEnabled);
+    void setEnabled(bool isEnabled)
+    {
+        for (NumberField& each : m_fields)
+            each.setEnabled(isEnabled);
+    }
 
     void load();
     /// Ranges and values; not of a field being typed in. The size of a held field keeps to the
@@ -28,7 +32,11 @@ public:
     void refreshField(RegionNumber number);
     /// The ranges stay, and clamp the values: drawn regions pass over what the camera takes.
     void showProvisional(const AutoRegion& region);
-    void commit();
+    void commit()
+    {
+        for (NumberField& each : m_fields)
+            each.commit();
+    }
 
 private:
     void showDerived(RegionNumber number, const Span<double>& range, double value);

@@ -87,9 +87,3 @@ void ExposureLimits::useTime(Which which)
     if (const auto time = m_manager.Read(Name::exposureTime, Name::exposureTimeAbs).value())
         m_limits[which].field.box()->setValue(*time);
 }
-
-void ExposureLimits::commit()
-{
-    for (Limit& limit : m_limits)
-        limit.field.commit();
-}

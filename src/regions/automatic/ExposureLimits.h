@@ -30,7 +30,11 @@ public:
     QStringList write(Which which, double value);
     /// The current exposure time, if the camera tells it; the field emits.
     void useTime(Which which);
-    void commit();
+    void commit()
+    {
+        for (Limit& limit : m_limits)
+            limit.field.commit();
+    }
 
 private:
     struct Limit
