@@ -141,6 +141,15 @@ struct MultiROIPage : CameraPage<MultiROIWidget>
         return nullptr;
     }
 
+    /// The control of an editor that is opened in the current region's table.
+    template <typename Control> Control* edit(const QString& feature, const QString& name) const
+    {
+        QTableWidgetItem* const own = cell(tabs->currentIndex(), feature);
+        own->tableWidget()->setCurrentItem(own);
+        QTest::keyClick(own->tableWidget(), Qt::Key_F2);
+        return own->tableWidget()->findChild<Control*>(name);
+    }
+
     QRect inTable(int region) const
     {
         const auto value = [this, region](const char* name) {
@@ -167,11 +176,9 @@ struct MultiROIPage : CameraPage<MultiROIWidget>
             if (label->regionRectangle(region) != rect)
                 return QString("label of %1").arg(region);
             const auto* const size = labels[region]->findChild<QLabel*>("lbl_Size");
-            const auto number = [](int value) { return QString("%1").arg(value, 4); };
             if (size->text()
-                != QString("(%1, %2)\n%3 x %4")
-                       .arg(number(rect.x()), number(rect.y()), number(rect.width()),
-                            number(rect.height())))
+                != QString::asprintf("(%4d, %4d)\n%4d x %4d", rect.x(), rect.y(), rect.width(),
+                                     rect.height()))
                 return QString("region label of %1: %2").arg(region).arg(size->text());
             if (!size->styleSheet().contains(label->shownColor(region).name()))
                 return QString("color of %1").arg(region);

@@ -6,6 +6,16 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QSpinBox>
+#include <qwt_slider.h>
+
+namespace {
+
+FeatureInfo infoIn(const QTableWidgetItem* cell)
+{
+    return cell->data(Qt::UserRole).value<FeatureInfo>();
+}
+
+} // namespace
 
 class MultiROIWidgetTest : public QObject
 {
@@ -26,10 +36,6 @@ private slots:
                 }
                 QCOMPARE(open.contradiction(), QString());
                 QCOMPARE(open.log.size(), open.active().isEmpty() ? 1 : 0);
-                // At rest the page leaves the camera alone.
-                open.camera->journal().clear();
-                open.settle();
-                QCOMPARE(open.camera->journal().writes().size(), 0u);
             });
         const QByteArrayList modes{"Vertical", "Horizontal", "Tile", "Free"};
         for (const QByteArray& mode : modes) {
@@ -124,13 +130,7 @@ private slots:
     {
         const MultiROIPage open("multi-region", "Horizontal");
         open.loadDefaults();
-        QTableWidgetItem* const cell = open.cell(0, "SubRegionHeight");
-        QTableWidget* const table = cell->tableWidget();
-        table->scrollToItem(cell);
-        const QPoint center = table->visualItemRect(cell).center();
-        QTest::mouseClick(table->viewport(), Qt::LeftButton, {}, center);
-        QTest::mouseDClick(table->viewport(), Qt::LeftButton, {}, center);
-        auto* const field = table->findChild<QSpinBox*>("editorField");
+        auto* const field = open.edit<QSpinBox>("SubRegionHeight", "editorField");
         QVERIFY(field);
         field->selectAll();
         QTest::keyClicks(field, "600");
@@ -149,21 +149,53 @@ private slots:
         QCOMPARE(open.contradiction(), QString());
     }
 
+    void followsASlider()
+    {
+        const MultiROIPage open("multi-region", "Free");
+        open.loadDefaults();
+        QwtSlider* const slider = open.edit<QwtSlider>("SubRegionWidth", "editorSlider");
+        QVERIFY(slider);
+        const QVariant before = open.cell(0, "SubRegionWidth")->data(Qt::DisplayRole);
+        const QPoint handle(slider->transform(slider->value()), slider->height() / 2);
+        press(slider, handle);
+        sendMouse(slider, QEvent::MouseMove, {handle.x() - 20, handle.y()});
+        // What the next editors go by follows at once, also what depends on it.
+        const int width = open.onCamera(0).width();
+        QVERIFY(width != before.toInt());
+        QCOMPARE(toInteger(infoIn(open.cell(0, "SubRegionWidth")).value),
+                 std::optional<std::int64_t>(width));
+        const auto sensor = open.camera->snapshot().maximum.width;
+        const auto increment = *toInteger(infoIn(open.cell(0, "SubRegionOffsetX")).increment);
+        QCOMPARE(toInteger(infoIn(open.cell(0, "SubRegionOffsetX")).maximum),
+                 std::optional<std::int64_t>((sensor - width) / increment * increment));
+        // The page waits as long as the editor is open.
+        const QVariant enabled = open.cell(0, "MultipleRegionEnable")->data(Qt::DisplayRole);
+        open.camera->writeAsOtherClient("MultipleRegionEnable", !enabled.toBool());
+        open.settle();
+        QCOMPARE(open.cell(0, "MultipleRegionEnable")->data(Qt::DisplayRole), enabled);
+        release(slider, {handle.x() - 20, handle.y()});
+        open.settle();
+        QVERIFY(open.cell(0, "MultipleRegionEnable")->data(Qt::DisplayRole) != enabled);
+        QCOMPARE(open.contradiction(), QString());
+    }
+
     /// The bounds that an editor offers follow the neighbours.
     void boundsTables()
     {
         const MultiROIPage open("multi-region", "Tile");
         open.loadDefaults();
-        const auto maximum = [&open](int region, const QString& name) {
+        const auto boundsOf = [&open](int region, const QString& name) {
             open.tabs->setCurrentIndex(region);
-            const auto info = open.cell(region, name)->data(Qt::UserRole).value<FeatureInfo>();
-            return toInteger(info.maximum).value_or(-1);
+            const FeatureInfo info = infoIn(open.cell(region, name));
+            return QString("%1 to %2").arg(*toInteger(info.minimum)).arg(*toInteger(info.maximum));
         };
         // Region 1 shares its row with region 0 and must not grow into region 3's.
-        QCOMPARE(maximum(1, "SubRegionHeight"), std::int64_t{980 - 10});
-        QCOMPARE(maximum(2, "SubRegionWidth"), std::int64_t{1332 - 40 - (1332 - 40) % 8});
+        QCOMPARE(boundsOf(1, "SubRegionHeight"), QString("8 to 970"));
+        QCOMPARE(boundsOf(2, "SubRegionWidth"), QString("16 to 1288"));
+        QCOMPARE(boundsOf(3, "SubRegionOffsetX"), QString("1256 to 1376"));
         open.choose("Free");
-        QCOMPARE(maximum(1, "SubRegionHeight"), std::int64_t{1944 - 10});
+        QCOMPARE(boundsOf(1, "SubRegionHeight"), QString("8 to 1934"));
+        QCOMPARE(boundsOf(3, "SubRegionOffsetX"), QString("0 to 1376"));
     }
 
     void followsOthers()

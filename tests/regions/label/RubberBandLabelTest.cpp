@@ -1,9 +1,15 @@
 #include "regions/label/RubberBandLabel.h"
 #include "DataTable.h"
+#include "Pictures.h"
 #include "TestEvents.h"
 
+#include <QPainter>
+#include <QRandomGenerator>
 #include <QRubberBand>
-#include <limits>
+#include <QScreen>
+#include <QStyleFactory>
+#include <QStyleOption>
+
 #include <memory>
 
 using Act = std::function<void(RubberBandLabel&)>;
@@ -161,7 +167,67 @@ private slots:
         QCOMPARE(m_band->geometry(), QRect(0, 0, 393, 300));
     }
 
+    /// In one layer instead of several, each of which would round.
+    void looksAsTheStyleDrawsIt()
+    {
+        showNoise();
+        for (const QString& style : QStyleFactory::keys()) {
+            QApplication::setStyle(style);
+            for (const QSize& size : {QSize(150, 90), QSize(2, 40), QSize(30, 1)}) {
+                m_band->setGeometry(QRect(QPoint(40, 50), size));
+                QImage expected = m_label->pixmap(Qt::ReturnByValue).toImage();
+                QStyleOptionRubberBand option;
+                option.initFrom(m_band);
+                option.shape = QRubberBand::Rectangle;
+                option.opaque = true;
+                QPainter painter(&expected);
+                painter.translate(m_band->pos());
+                if (!m_band->mask().isEmpty())
+                    painter.setClipRegion(m_band->mask());
+                m_band->style()->drawControl(QStyle::CE_RubberBand, &option, &painter, m_band);
+                painter.end();
+                const int difference = largestDifference(m_label->grab().toImage(), expected);
+                QVERIFY2(difference <= 2, qPrintable(style));
+            }
+        }
+    }
+
+    /// What has reached the window so far is what a painting of all would give.
+    void updatesAllThatChanges()
+    {
+        showNoise();
+        QPalette palette;
+        palette.setBrush(QPalette::Highlight, QColor(255, 0, 0, 80));
+        QVector<std::function<void()>> changes{[] {}};
+        for (const QRect& next :
+             {QRect(90, 65, 200, 140), QRect(60, 50, 120, 100), QRect(70, 60, 0, 0),
+              QRect(70, 60, 2, 40), QRect(30, 20, 350, 250), QRect(50, 50, 100, 100)})
+            changes << [this, next] { m_band->setGeometry(next); };
+        changes << [&] { m_band->setPalette(palette); } << [&] { m_band->hide(); }
+                << [&] { m_band->show(); } << [&] { m_label->setEnabled(false); }
+                << [&] { m_label->setEnabled(true); };
+        QImage before;
+        for (const auto& change : changes) {
+            change();
+            const auto inWindow = [this] {
+                return QGuiApplication::primaryScreen()->grabWindow(m_label->winId()).toImage();
+            };
+            QTRY_COMPARE(largestDifference(inWindow(), m_label->grab().toImage()), 0);
+            const QImage now = inWindow();
+            QVERIFY(now != std::exchange(before, now));
+        }
+    }
+
 private:
+    void showNoise()
+    {
+        QImage image(400, 300, QImage::Format_RGB32);
+        auto* const pixels = reinterpret_cast<QRgb*>(image.bits());
+        QRandomGenerator::global()->fillRange(pixels, image.width() * image.height());
+        const auto noise = std::make_shared<QPixmap>(QPixmap::fromImage(image));
+        m_label->showBackground(noise, {1600, 1200}, {});
+        QCoreApplication::processEvents();
+    }
     QString takeEvents() { return std::exchange(m_events, {}).join(", "); }
 
     std::unique_ptr<RubberBandLabel> m_label;
