@@ -130,6 +130,8 @@ struct MultiROIPage : CameraPage<MultiROIWidget>
         return {at("OffsetX"), at("OffsetY"), at("Width"), at("Height")};
     }
 
+    QPoint onLabel(const QPoint& point) const { return point * label->shownSize().height() / 1944; }
+
     /// The value cell of a feature in a region's table; null without one.
     QTableWidgetItem* cell(int region, const QString& feature) const
     {

@@ -18,7 +18,7 @@ private slots:
     void keepsInStep_data()
     {
         const DataTable row([](const QByteArray& mode) {
-            const MultiROIPage open("multi-region", mode);
+            MultiROIPage open("multi-region", mode);
             open.loadDefaults();
             QRandomGenerator random(2);
             Answers answers({});
@@ -29,7 +29,13 @@ private slots:
                 const int region = random.bounded(4);
                 const QString& feature = geometry[random.bounded(4)];
                 const bool wasInLine = outOfLine(open).isEmpty();
-                bool mayLeaveLine = false;
+                // Now and then a read is refused; what is shown stays.
+                const bool isRefusing = action < 3 && random.bounded(3) == 0;
+                if (isRefusing)
+                    open.camera->failures().add(sim::FailureInjector::anyFeature,
+                                                sim::Operation::GetValue, sim::Failure::refuse(),
+                                                sim::Occurrence::randomly(0.05, step));
+                bool mayLeaveLine = isRefusing;
                 if (action == 0) {
                     // Escape keeps what the arrangement needs; a button may stay without a place.
                     open.button(region)->click();
@@ -54,6 +60,10 @@ private slots:
                     dragSomewhere(open, random, action < 8);
                 }
                 open.settle();
+                QVERIFY(open.label->regionRectangle(region).width() > 0);
+                open.camera->failures().clear();
+                if (isRefusing)
+                    open.log.clear();
                 open.settle();
                 QString wrong = open.contradiction();
                 if (wasInLine && !mayLeaveLine)

@@ -134,8 +134,7 @@ private slots:
         QVERIFY(field);
         field->selectAll();
         QTest::keyClicks(field, "600");
-        const QPoint band
-            = QPoint(open.onCamera(0).center().x(), 300) * open.label->shownSize().height() / 1944;
+        const QPoint band = open.onLabel({open.onCamera(0).center().x(), 300});
         press(open.label, band);
         QCOMPARE(open.onCamera(3).height(), 600);
         open.camera->journal().clear();

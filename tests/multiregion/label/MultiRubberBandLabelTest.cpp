@@ -37,8 +37,6 @@ private slots:
         row("not over the neighbour", "Free", {122, 75}, {300, 75}, {"0: 100,100 400x400"});
         row("a member stays in the row", "Horizontal", {275, 75}, {285, 95},
             {"1: 940,100 400x400"});
-        row("the master takes the row along", "Horizontal", {75, 75}, {85, 95},
-            {"0: 140,180 400x400", "1: 900,180 400x400"});
         row("line", "Horizontal", {350, 124}, {350, 155},
             {"0: 100,100 400x528", "1: 900,100 400x528"});
         row("a thin band between its lines", "Horizontal thin", {75, 30}, {75, 40},
@@ -94,7 +92,6 @@ private slots:
                 label->setEnabled(false);
                 label->setEnabled(true);
             });
-        row("goes on after a frame", "Free", inside, {moved}, movedBand, frame);
         row("comes near no other in a smaller label", "Free", {75, 75}, {"0: 144,184 400x400"},
             {18, 23, 50, 50}, [](Label* label) { label->resize(200, 150); });
         const QStringList grown{"0: 100,100 400x484", "1: 900,100 400x484"};
@@ -226,33 +223,6 @@ private slots:
         QCOMPARE(m_events, QStringList("drop"));
     }
 
-    /// The viewer may close the page in answer to any signal, the first or a later one. (Only the
-    /// one that belongs to a resize leaves Qt with a deleted label.)
-    void survivesDeletion_data()
-    {
-        const DataTable row([this](const QByteArray& signal) {
-            int told = 0;
-            do {
-                makeLabel("Horizontal", {});
-                m_untilDeletion = ++told;
-                connect(m_label.get(), signal.constData(), this, SLOT(deleteLabel()));
-                doAll();
-            } while (!m_label);
-            QVERIFY(told > 1);
-        });
-        row("press", SIGNAL(rubberChangeStarted(QPoint)));
-        row("move", SIGNAL(mouseMoved(QPoint)));
-        row("release", SIGNAL(rubberChangeFinished(QPoint)));
-        row("selection", SIGNAL(regionSelected(int)));
-        row("highlight", SIGNAL(highlightSelectedRegion(int)));
-        row("report", SIGNAL(regionGeometryChanged(int, QRect)));
-        row("constraints", SIGNAL(constraintsActivated(int, QStringList)));
-        row("range", SIGNAL(regionRangeChanged(int, QRect)));
-        row("color", SIGNAL(regionColorChanged(int, QColor)));
-        row("activation", SIGNAL(regionActivated(int, bool)));
-    }
-    void survivesDeletion() { runRow(); }
-
     void showsCursors()
     {
         makeLabel("Horizontal");
@@ -284,44 +254,6 @@ private slots:
     }
 
 private:
-    Q_SLOT void deleteLabel()
-    {
-        if (--m_untilDeletion == 0)
-            m_label.reset();
-    }
-
-    /// Until the label is deleted.
-    void doAll()
-    {
-        using Step = std::function<void(Label*)>;
-        QVector<Step> steps;
-        const auto tell = [](int region, int x) {
-            return [=](Label* label) {
-                label->onRegionGeometryChanged(region, {x, 100, 400, 400});
-            };
-        };
-        for (int region = 0; region < 3; ++region)
-            steps << tell(region, 100 + 550 * region)
-                  << [region](Label* label) { label->onRegionActivated(region, true); };
-        steps << tell(2, 900) << [](Label* label) { label->announceRegions(); };
-        for (const QPoint& from : {QPoint(75, 75), QPoint(150, 124)}) {
-            const Step grab = [from](Label* label) { press(label, from); };
-            const Step move = [from](Label* label) {
-                sendMouse(label, QEvent::MouseMove, from + QPoint(5, 10));
-            };
-            steps << grab << move << [from](Label* label) { release(label, from); } << grab << move
-                  << [](Label* label) { label->setEnabled(false); }
-                  << [](Label* label) { label->setEnabled(true); };
-        }
-        steps << tell(1, 100) << [](Label* label) { label->removeRectangle(0); }
-              << [](Label* label) { label->setArrangementMode("Vertical"); };
-        for (const Step& step : qAsConst(steps)) {
-            if (m_label)
-                step(m_label.get());
-            QCoreApplication::processEvents();
-        }
-    }
-
     void makeLabel(const QString& mode,
                    const QVector<QRect>& regions = {{100, 100, 400, 400}, {900, 100, 400, 400}})
     {
@@ -371,7 +303,6 @@ private:
     }
 
     std::unique_ptr<Label> m_label;
-    int m_untilDeletion = 1;
     bool m_sawRed = false;
     QStringList m_events;
     QMap<int, QStringList> m_constraints;
