@@ -3,7 +3,6 @@
 #include "DataTable.h"
 #include "WheelEvent.h"
 #include "imageformat/ImageReaderWidget.h"
-#include "page/TabExtensionException.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -45,23 +44,6 @@ class ImageFormatWidgetTest : public QObject
     Q_OBJECT
 
 private slots:
-    void writesNothingByItself()
-    {
-        for (const std::string& model : sim::modelNames()) {
-            const auto camera = sim::createCamera(model);
-            try {
-                ImageFormatWidget page(featureList(*camera), nullptr);
-                page.show();
-                page.updateTimer();
-                page.hide();
-            } catch (const TabExtensionException&) {
-                continue;
-            }
-            QVERIFY2(camera->journal().writes().empty(), model.c_str());
-            QCOMPARE(int(camera->observerCount()), 0);
-        }
-    }
-
     void writesAndShowsWhatTheCameraTook()
     {
         const OpenPage p;

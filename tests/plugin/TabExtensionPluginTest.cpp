@@ -1,4 +1,3 @@
-#include "DataTable.h"
 #include "Host.h"
 #include "MessageHandlerGuard.h"
 #include "SimulatedCamera.h"
@@ -11,6 +10,7 @@
 #include <QMetaMethod>
 #include <QPluginLoader>
 #include <QProcess>
+#include <QtTest>
 
 /// The built module, loaded as the viewer loads it.
 class TabExtensionPluginTest : public QObject
@@ -87,28 +87,21 @@ private slots:
         delete page;
     }
 
-    void connectsWhatIsNamed_data()
+    void connectsWhatIsNamed()
     {
-        const DataTable row([this](bool withTable, const QString& missingKey, bool isConnected) {
+        for (const QString missing : {"connectWidgetToSignal", "connectLoggingSlot", "all"}) {
             const auto camera = sim::createCamera("current");
             Host host;
             auto* const page = new QWidget(&host);
             auto connections = Host::connections();
-            connections.remove(missingKey);
-            QCOMPARE(
-                m_plugin->createTab(featureList(*camera), page, withTable ? &connections : nullptr),
-                0);
+            connections.remove(missing);
+            const auto* const table = missing == "all" ? nullptr : &connections;
+            QCOMPARE(m_plugin->createTab(featureList(*camera), page, table), 0);
             emit host.streaming(true);
-            QCOMPARE(!page->findChild<QWidget*>("frmImageFormat")->isEnabled(), isConnected);
+            QCOMPARE(page->findChild<QWidget*>("frmImageFormat")->isEnabled(),
+                     missing != "connectLoggingSlot");
             delete page;
-        });
-        row("no table", false, "", false);
-        row("one key missing", true, "connectWidgetToSignal", false);
-        row("another key missing", true, "connectLoggingSlot", true);
-    }
-    void connectsWhatIsNamed()
-    {
-        runRow();
+        }
     }
 
     void refusesAndLeavesNothing()

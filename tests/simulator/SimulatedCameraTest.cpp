@@ -1,15 +1,11 @@
 #include "DataTable.h"
 #include "simulator/Camera.h"
 
-#include <atomic>
 #include <limits>
-#include <thread>
 
-using namespace std::chrono_literals;
 using sim::Camera;
 using sim::createCamera;
 using sim::IntegerRange;
-using sim::NotificationSettings;
 
 namespace {
 
@@ -28,30 +24,9 @@ ZebErrorType write(const Camera& camera, const QString& text)
     }
 }
 
-class Observer : public ZebCPP::IFeatureObserver
-{
-public:
-    void FeatureChanged(const ZebCPP::FeaturePtr&) override
-    {
-        thread = std::this_thread::get_id();
-        ++calls;
-    }
-
-    std::atomic<std::thread::id> thread;
-    std::atomic<int> calls{0};
-};
-
-std::shared_ptr<Observer> observe(const Camera& camera, const char* name)
-{
-    auto observer = std::make_shared<Observer>();
-    camera.feature(name).pointer()->RegisterObserver(observer);
-    return observer;
-}
-
 } // namespace
 
-/// What a camera makes of its clients' writes, what it tells of itself, and whom and on which
-/// thread; QtTest's own timeout is the watchdog.
+/// What a camera makes of its clients' writes.
 class SimulatedCameraTest : public QObject
 {
     Q_OBJECT
@@ -156,72 +131,6 @@ private slots:
         row("tile, rows differ", "Tile", {a, right, below, {160, 80, 80, 62}}, "1110");
     }
     void regionStatus() { runRow(); }
-
-    void tellsOnTheRightThread()
-    {
-        for (const bool isOwn : {true, false}) {
-            const auto camera = createCamera("current");
-            camera->setNotifications(isOwn ? NotificationSettings::asynchronous(2ms)
-                                           : NotificationSettings::synchronous());
-            const auto observer = observe(*camera, "Gamma");
-            camera->feature("Gamma").pointer()->SetValue(2.0);
-            camera->flushNotifications();
-            QCOMPARE(int(observer->calls), 1);
-            QCOMPARE(observer->thread != std::this_thread::get_id(), isOwn);
-        }
-    }
-
-    void cascades()
-    {
-        const auto camera = createCamera("current");
-        NotificationSettings settings = NotificationSettings::synchronous();
-        camera->setNotifications(settings);
-        // Written, computed from it, moved inside, with another range, and not concerned.
-        std::vector<std::shared_ptr<Observer>> observers;
-        for (const char* name : {"BinningHorizontal", "WidthMax", "Width", "OffsetX", "HeightMax"})
-            observers.push_back(observe(*camera, name));
-        const auto calls = [&observers] {
-            QVector<int> result;
-            for (const auto& observer : observers)
-                result << observer->calls;
-            return result;
-        };
-        camera->writeAsOtherClient("Width", 2592); // as it is
-        camera->writeAsOtherClient("Width", 2591); // refused
-        camera->writeAsOtherClient("BinningHorizontal", 2);
-        QCOMPARE(calls(), (QVector<int>{1, 1, 1, 1, 0}));
-        camera->writeAsOtherClient("BinningSelector", "Digital"); // with a factor of its own
-        QCOMPARE(calls().mid(0, 3), (QVector<int>{2, 1, 1}));
-        camera->setStreaming(true); // locks
-        QCOMPARE(calls().at(2), 2);
-        settings.cascades = false;
-        camera->setNotifications(settings);
-        camera->setStreaming(false);
-        const int before = calls().at(1);
-        camera->writeAsOtherClient("BinningHorizontal", 3);
-        QCOMPARE(calls().at(1), before);
-    }
-
-    void closingWhileInUse()
-    {
-        auto camera = createCamera("current");
-        const auto width = camera->feature("Width").pointer();
-        const std::weak_ptr<Observer> observer = observe(*camera, "Width");
-        std::atomic<bool> isClosed{false};
-        std::thread client([&] {
-            std::int64_t value = 640;
-            while (width->SetValue(value) != ZebErrorBadHandle || !isClosed)
-                value = value == 640 ? 800 : 640;
-        });
-        std::this_thread::sleep_for(20ms);
-        camera.reset();
-        isClosed = true;
-        client.join();
-        std::uint32_t length = 0;
-        QCOMPARE(width->RegisterObserver(std::make_shared<Observer>()), ZebErrorBadHandle);
-        QCOMPARE(width->GetName(nullptr, length), ZebErrorBadHandle);
-        QVERIFY(observer.expired());
-    }
 };
 
 QTEST_APPLESS_MAIN(SimulatedCameraTest)

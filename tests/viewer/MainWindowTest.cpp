@@ -3,7 +3,6 @@
 #include "DataTable.h"
 #include "SimulatedModels.h"
 #include "UserInput.h"
-#include "simulator/Model.h"
 
 #include <QAbstractSpinBox>
 #include <QAction>
@@ -172,15 +171,6 @@ private slots:
                 brightest = qMax(brightest, picture.pixelColor(left + QPoint(x, 0)).lightness());
             QVERIFY2(brightest >= 119, qPrintable(control->objectName()));
         }
-    }
-
-    void offersEachModel()
-    {
-        std::vector<std::string> ids;
-        const auto models = SimulatedModels::all();
-        for (const CameraEntry& model : models)
-            ids.push_back(model.id.toStdString());
-        QCOMPARE(ids, sim::modelNames());
     }
 
     /// Panes behind others come forward; what has no control for the keyboard is passed over.
