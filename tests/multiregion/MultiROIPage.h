@@ -143,6 +143,11 @@ struct MultiROIPage : CameraPage<MultiROIWidget>
         return nullptr;
     }
 
+    FeatureInfo record(int region, const QString& feature) const
+    {
+        return cell(region, feature)->data(Qt::UserRole).value<FeatureInfo>();
+    }
+
     /// The control of an editor that is opened in the current region's table.
     template <typename Control> Control* edit(const QString& feature, const QString& name) const
     {

@@ -101,8 +101,7 @@ private slots:
             open.camera->failures().add(untold, sim::Operation::GetValue, sim::Failure::refuse());
             const bool isMode = changed == "SubRegionMode";
             open.camera->forceAt(changed, 2, isMode ? sim::Value("Off") : 320);
-            open.page->hide();
-            open.page->show();
+            open.comeBack();
             open.page->updateTimer();
             for (int second = 0; second < 9; ++second) {
                 open.camera->journal().clear();
@@ -147,8 +146,7 @@ private slots:
                     open.tabs->setCurrentIndex(region);
                     QCOMPARE(open.cell(region, "SubRegionStatus")->text().toStdString(),
                              open.camera->feature("SubRegionStatus").text());
-                    const auto info = open.cell(region, "SubRegionWidth")->data(Qt::UserRole);
-                    QCOMPARE(recordIn(info)->cameraMaximum,
+                    QCOMPARE(open.record(region, "SubRegionWidth").cameraMaximum,
                              FeatureValue(2592 - std::int64_t{open.onCamera(region).x()}));
                 }
             }
@@ -158,8 +156,7 @@ private slots:
         };
         const auto switchOn = [](const MultiROIPage& open) {
             open.camera->forceAt("SubRegionMode", 3, "Off");
-            open.page->hide();
-            open.page->show();
+            open.comeBack();
             open.settle();
             open.tabs->setCurrentIndex(0);
             open.camera->journal().clear();

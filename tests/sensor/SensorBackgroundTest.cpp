@@ -61,7 +61,6 @@ private slots:
                          qPrintable(QString::number(difference)));
             });
         const QSize sensor(640, 480);
-        row("fits", sensor, 1.0, {}, {200, 150});
         row("device pixel ratio", sensor, 2.0, {}, {200, 150});
         row("cut", {900, 700}, 1.0, {}, {200, 150});
         row("black margins", {320, 240}, 1.0, {}, {160, 120});
@@ -101,14 +100,6 @@ private slots:
         }
         QCOMPARE(background.fittedSize(SensorBackground::largestLabel), QSize(2048, 1535));
         QCOMPARE(image.use_count(), 1);
-    }
-
-    void knowsOldWindows()
-    {
-        using System = QOperatingSystemVersion;
-        QVERIFY(needsOpaquePlaceholder(System(System::Windows, 6, 1, 7601)));
-        QVERIFY(!needsOpaquePlaceholder(System(System::Windows, 6, 2)));
-        QVERIFY(!needsOpaquePlaceholder(System(System::Android, 6, 1)));
     }
 };
 

@@ -56,26 +56,6 @@ private slots:
     }
     void hits() { runRow(); }
 
-    void moves_data()
-    {
-        const DataTable row(
-            [](const QPoint& delta, const MoveConstraints& constraints, const QPoint& expected) {
-                QCOMPARE(movedRegionBand({50, 60, 100, 50}, delta, {400, 300}, constraints),
-                         QRect(expected, QSize(100, 50)));
-            });
-        using D = MoveDirection;
-        const MoveConstraints none;
-        const MoveConstraints sideways{{D::Up, D::Down}, {-1, -1}};
-        const MoveConstraints left{{D::Left}, {-1, -1}};
-        const MoveConstraints bound{{}, {30, 40}};
-        row("to the far border", {900, 900}, none, {300, 250});
-        row("one pixel over the near border", {-900, -900}, none, {-1, -1});
-        row("along a row", {5, 7}, sideways, {55, 60});
-        row("not back", {-5, 7}, left, {50, 67});
-        row("to the bound", {-90, -90}, bound, {30, 40});
-    }
-    void moves() { runRow(); }
-
     /// Band (50, 60) to (149, 109); minimum 20 x 10, maximum 200 x 80.
     void resizes_data()
     {
@@ -149,33 +129,6 @@ private slots:
         row("between neighbours", 8, {98, 100, 106, 108}, "xxxxxxx....xxxxxxxx");
     }
     void grabsLines() { runRow(); }
-
-    /// The band of region 1 at rows 100 to 149, the line of a group of 0 and 1, of 1 and 2, or of
-    /// others.
-    void linesConstrain_data()
-    {
-        const DataTable row([](const QVector<int>& members, BandEdge edge, int position,
-                               std::size_t blocked, const QPoint& bound) {
-            const MoveConstraints rows = constraintsFromLine({ConstraintGroup::Row, members}, edge,
-                                                             position, 1, {30, 100, 40, 50});
-            QCOMPARE(rows.blocked.size(), blocked);
-            QCOMPARE(rows.lowerBound, bound);
-            const MoveConstraints columns = constraintsFromLine(
-                {ConstraintGroup::Column, members}, edge, position, 1, {100, 30, 50, 40});
-            QCOMPARE(combined(columns, rows).blocked.size(), 2 * blocked);
-            QCOMPARE(columns.lowerBound, QPoint(bound.y(), -1));
-        });
-        const QPoint none(-1, -1);
-        const QVector<int> member{0, 1};
-        const QVector<int> other{2, 3};
-        row("aligned within a pixel", member, leading, 101, 2, none);
-        row("misaligned", member, leading, 102, 0, none);
-        row("master", {1, 2}, leading, 100, 0, none);
-        row("before", other, trailing, 60, 0, {-1, 62});
-        row("across", other, trailing, 99, 0, none);
-        row("leading", other, leading, 60, 0, none);
-    }
-    void linesConstrain() { runRow(); }
 };
 
 QTEST_GUILESS_MAIN(HandleDragTest)

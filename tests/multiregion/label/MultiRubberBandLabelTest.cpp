@@ -32,6 +32,7 @@ private slots:
             QVERIFY(!m_label->isDragging());
         });
         row("move", "Free", {75, 75}, {85, 95}, {"0: 140,180 400x400"});
+        row("move over the border", "Free", {75, 75}, {-300, 75}, {"0: 0,100 400x400"});
         row("click inside", "Free", {75, 75}, {75, 75}, {});
         row("click on an edge", "Free", {25, 75}, {25, 75}, {"0: 100,100 400x400"});
         row("not over the neighbour", "Free", {122, 75}, {300, 75}, {"0: 100,100 400x400"});
