@@ -6,7 +6,6 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QSpinBox>
-#include <qwt_slider.h>
 
 class MultiROIWidgetTest : public QObject
 {
@@ -134,26 +133,6 @@ private slots:
         for (int region = 0; region < 4; ++region)
             QCOMPARE(open.onCamera(region).height(), 600);
         QVERIFY(open.onCamera(3).y() > 10);
-        QCOMPARE(open.contradiction(), QString());
-    }
-
-    /// What the next editors go by follows at once, also what depends on it.
-    void followsASlider()
-    {
-        const MultiROIPage open("multi-region", "Free");
-        open.loadDefaults();
-        auto* const slider = open.edit<QwtSlider>("SubRegionWidth", "editorSlider");
-        QVERIFY(slider);
-        const int before = open.onCamera(0).width();
-        const QPoint handle(slider->transform(slider->value()), slider->height() / 2);
-        press(slider, handle);
-        sendMouse(slider, QEvent::MouseMove, {handle.x() - 20, handle.y()});
-        const std::int64_t width = open.onCamera(0).width();
-        QVERIFY(width != before);
-        QCOMPARE(open.record(0, "SubRegionWidth").value, FeatureValue(width));
-        QCOMPARE(open.record(0, "SubRegionOffsetX").maximum, FeatureValue(2592 - width));
-        release(slider, {handle.x() - 20, handle.y()});
-        open.settle();
         QCOMPARE(open.contradiction(), QString());
     }
 
