@@ -56,8 +56,6 @@ private slots:
                                           sim::Failure::refuse());
             });
             QCOMPARE(p.label->sensorSize().width(), expected);
-            p.page->setBackgroundImage(std::make_shared<QPixmap>(8, 8));
-            QVERIFY(!p.label->pixmap(Qt::ReturnByValue).isNull());
         });
         row("missing", {"WidthMax"}, true, 2592);
         row("unreadable", {"WidthMax"}, false, 2592);

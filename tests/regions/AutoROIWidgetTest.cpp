@@ -13,28 +13,18 @@ namespace {
 
 using Numbers = QVector<int>;
 
-const char* const dsp = "DSPSubregion";
-
-/// The features that tell the region: left, top, right, bottom, or left, top, width, height.
-QStringList features(const QString& family)
-{
-    QStringList names = family == dsp ? QStringList{"Left", "Top", "Right", "Bottom"}
-                                      : QStringList{"OffsetX", "OffsetY", "Width", "Height"};
-    return names.replaceInStrings(QRegularExpression("^"), family);
-}
-
-Numbers region(const AutoROIPage& p, const QString& family)
+Numbers region(const AutoROIPage& p)
 {
     Numbers numbers;
-    for (const QString& feature : features(family))
-        numbers << p.value(feature);
+    for (const auto& field : regionFields(*p.camera, true))
+        numbers << p.value(field.second);
     return numbers;
 }
 
-void setRegion(sim::Camera& camera, const QString& family, const Numbers& numbers)
+void setRegion(sim::Camera& camera, const Numbers& numbers)
 {
     for (int i = 0; i < 4; ++i)
-        camera.force(features(family).at(i).toStdString(), numbers[i]);
+        camera.force(regionFields(camera, true)[i].second.toStdString(), numbers[i]);
 }
 
 /// The edges of an axis bound each other.
@@ -212,7 +202,7 @@ private slots:
             [](const QByteArray& model, const QRect& drawn, const QString& expected) {
                 const AutoROIPage p(model, [](sim::Camera& camera) {
                     if (camera.has("DSPSubregionLeft"))
-                        setRegion(camera, dsp, {648, 486, 1944, 1458});
+                        setRegion(camera, {648, 486, 1944, 1458});
                 });
                 p.page->OnSendGeometry(drawn.y(), drawn.x(), drawn.width(), drawn.height());
                 QVERIFY(!p.anyRefused());
@@ -235,31 +225,28 @@ private slots:
     /// Offsets are taken only beside the new size; an edge must not pass its opposite on the way.
     void presets_data()
     {
-        const DataTable row([](const QString& family, const Numbers& before, const Numbers& half,
-                               const Numbers& quarter) {
+        const DataTable row([](const Numbers& before, const Numbers& half, const Numbers& quarter) {
             const AutoROIPage p(QTest::currentDataTag(), [&](sim::Camera& camera) {
-                setRegion(camera, family, before);
-                if (family != dsp)
+                setRegion(camera, before);
+                if (!camera.has("DSPSubregionLeft"))
                     return;
                 boundEdges(camera, "DSPSubregionLeft", "DSPSubregionRight", "Width");
                 boundEdges(camera, "DSPSubregionTop", "DSPSubregionBottom", "Height");
             });
             p.click("btnHalf");
-            QCOMPARE(region(p, family), half);
+            QCOMPARE(region(p), half);
             p.click("btnQuarter");
-            QCOMPARE(region(p, family), quarter);
+            QCOMPARE(region(p), quarter);
             p.click("btnFull");
-            QCOMPARE(region(p, family), (Numbers{0, 0, 2592, 1944}));
+            QCOMPARE(region(p), (Numbers{0, 0, 2592, 1944}));
             QVERIFY(!p.anyRefused());
             QVERIFY(p.message()->isHidden());
         });
         const Numbers full{0, 0, 2592, 1944};
-        const Numbers half{648, 486, 1296, 972};
         const Numbers quarter{972, 729, 1620, 1215};
-        row("aoi", "AutofunctionAOI", full, half, {972, 728, 648, 484});
-        row("aoi-plain", "AutofunctionAOI", full, half, {972, 728, 648, 484});
-        row("dsp", dsp, {0, 0, 100, 80}, {648, 486, 1944, 1458}, quarter);
-        row("dsp", dsp, {2500, 1900, 2592, 1944}, {648, 486, 1944, 1458}, quarter);
+        row("aoi", full, {648, 486, 1296, 972}, {972, 728, 648, 484});
+        row("dsp", {0, 0, 100, 80}, {648, 486, 1944, 1458}, quarter);
+        row("dsp", {2500, 1900, 2592, 1944}, {648, 486, 1944, 1458}, quarter);
     }
     void presets() { runRow(); }
 
@@ -278,11 +265,11 @@ private slots:
         for (int times = 1; times <= 2; ++times) { // counted from where the region is
             p.click("btnHalf");
             p.settle();
-            QCOMPARE(region(p, "AutoModeRegion").mid(2), (Numbers{1296, 972}));
+            QCOMPARE(region(p).mid(2), (Numbers{1296, 972}));
         }
         p.click("btnFull");
         p.settle();
-        QCOMPARE(region(p, "AutoModeRegion"), (Numbers{0, 0, 2592, 1944}));
+        QCOMPARE(region(p), (Numbers{0, 0, 2592, 1944}));
         QVERIFY(!p.anyRefused());
         p.camera->writeAsOtherClient("Width", std::int64_t{1296});
         p.settle();
@@ -292,9 +279,9 @@ private slots:
     /// What is not told is no invalid region, and none of width 0.
     void waitsUntilTheRegionIsTold()
     {
-        for (const QString& family : {QString("AutofunctionAOI"), QString(dsp)}) {
-            const std::string name = features(family).at(2).toStdString();
-            const AutoROIPage p(family == dsp ? "dsp" : "aoi", [&](sim::Camera& camera) {
+        for (const char* model : {"aoi", "dsp"}) {
+            const AutoROIPage p(model, [](sim::Camera& camera) {
+                const std::string name = regionFields(camera, true)[2].second.toStdString();
                 camera.failures().add(name, sim::Operation::GetValue, sim::Failure::refuse());
             });
             QCOMPARE(p.constructionWrites.join(", "), QString());
@@ -309,7 +296,7 @@ private slots:
     {
         for (const bool isStrict : {true, false}) {
             const AutoROIPage p("dsp", [&](sim::Camera& camera) {
-                setRegion(camera, dsp, {100, 100, 400, 400});
+                setRegion(camera, {100, 100, 400, 400});
                 if (!isStrict)
                     camera.modify("DSPSubregionLeft", [](auto& left) { left.accepts = nullptr; });
             });

@@ -12,6 +12,26 @@
 #include <QRubberBand>
 #include <QtTest>
 
+/// What the fields of the automatic region, or of the image region, are called and the features
+/// behind them: left and top, and right and bottom or width and height.
+inline QVector<QPair<QString, QString>> regionFields(const sim::Camera& camera, bool isAutomatic)
+{
+    QString family;
+    for (const char* name : {"AutoModeRegion", "AutofunctionAOI", "DSPSubregion"})
+        if (isAutomatic
+            && (camera.has(name + std::string("Width")) || camera.has(name + std::string("Left"))))
+            family = name;
+    const bool tellsEdges = family == "DSPSubregion";
+    const QStringList fields = tellsEdges ? QStringList{"Left", "Top", "Right", "Bottom"}
+                                          : QStringList{"Left", "Top", "Width", "Height"};
+    const QStringList features
+        = tellsEdges ? fields : QStringList{"OffsetX", "OffsetY", "Width", "Height"};
+    QVector<QPair<QString, QString>> result;
+    for (int i = 0; i < 4; ++i)
+        result.append({"spin" + fields[i], family + features[i]});
+    return result;
+}
+
 /// A page with one region, shown.
 template <typename Page> struct RegionPage : CameraPage<Page>
 {

@@ -9,36 +9,9 @@ using sim::Operation;
 
 namespace {
 
-/// Left or top, and so on, with the feature behind each.
-using Fields = QVector<QPair<QString, QString>>;
-
 bool tellsEdges(const sim::Camera& camera)
 {
     return camera.has("DSPSubregionLeft");
-}
-
-Fields sizedFields(const QString& family)
-{
-    return {{"spinLeft", family + "OffsetX"},
-            {"spinTop", family + "OffsetY"},
-            {"spinWidth", family + "Width"},
-            {"spinHeight", family + "Height"}};
-}
-
-Fields fieldsOf(const AOIPage&)
-{
-    return sizedFields({});
-}
-
-Fields fieldsOf(const AutoROIPage& p)
-{
-    if (!tellsEdges(*p.camera))
-        return sizedFields(p.camera->has("AutofunctionAOIWidth") ? "AutofunctionAOI"
-                                                                 : "AutoModeRegion");
-    Fields fields;
-    for (const QString& edge : QStringList{"Left", "Top", "Right", "Bottom"})
-        fields.append({"spin" + edge, "DSPSubregion" + edge});
-    return fields;
 }
 
 /// The region on the label, by what the camera has.
@@ -52,7 +25,7 @@ QRect drawn(const AutoROIPage& p)
     const QSize sensor = p.label->sensorSize();
     const QSizeF limits(sensor);
     QVector<double> bound;
-    for (const auto& field : fieldsOf(p))
+    for (const auto& field : regionFields(*p.camera, true))
         bound << p.value(field.second);
     if (tellsEdges(*p.camera))
         return drawnByEdges({spanBetween(bound[0], bound[2]), spanBetween(bound[1], bound[3])},
@@ -67,7 +40,7 @@ template <typename Page> class Visitor
 public:
     Visitor(RegionPage<Page>& page, unsigned seed)
         : m_page(page)
-        , m_fields(fieldsOf(page))
+        , m_fields(regionFields(*page.camera, std::is_same_v<Page, AutoROIWidget>))
         , m_random(seed)
     {
     }
@@ -167,7 +140,7 @@ private:
     }
 
     RegionPage<Page>& m_page;
-    const Fields m_fields;
+    const QVector<QPair<QString, QString>> m_fields;
     std::mt19937 m_random;
 };
 

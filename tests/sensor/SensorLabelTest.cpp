@@ -1,8 +1,8 @@
+#include "sensor/SensorLabel.h"
 #include "DataTable.h"
 #include "Pictures.h"
 #include "TestEvents.h"
 #include "sensor/SensorBackground.h"
-#include "sensor/SensorLabel.h"
 
 #include <QDialog>
 #include <QMenu>

@@ -282,11 +282,6 @@ private slots:
         QCOMPARE(after(102), (QStringList{"0: 0,0 1296x651", "1: 1296,0 1296x651"}));
         QCOMPARE(after(90), (QStringList{"0: 0,0 1296x576", "1: 1296,0 1296x576"}));
         QVERIFY(after(100).isEmpty());
-        // So does the edge of a member, for the sake of the other one.
-        QVector<ShownRegion> apart = dragged(regions, 0, {0, 0, 200, 102});
-        apart[2].rectangle = {0, 800, 1296, 640};
-        QCOMPARE(texts(changesAfterBandDrag(apart, tile, mapping, 0)),
-                 (QStringList{"0: 0,0 1296x651", "1: 1296,0 1296x651"}));
     }
 
     void membersNeedRoomToFollow()
