@@ -255,8 +255,8 @@ void MultiROIWidget::setFeatureValue(int regionNo, int, QString featureName, QVa
     // The camera's notification finds nobody while the page writes.
     if (!Name::subRegion.contains(featureName))
         readAgain({featureName});
-    m_writer->setFeature(sharingRegions(m_tabs->groups(), regionNo, featureName), featureName,
-                         value);
+    m_writer->writeFeature(sharingRegions(m_tabs->groups(), regionNo, featureName), featureName,
+                           value);
 }
 
 void MultiROIWidget::onFeatureEditorActivated(bool status)

@@ -26,7 +26,7 @@ void RegionActivation::toggle(int region, bool on)
     if (toggle.kind == Toggle::Place)
         place(region, toggle.axis);
     else if (toggle.kind == Toggle::SwitchOn)
-        m_writer.setActive(region, true);
+        m_writer.writeActive(region, true);
     else
         switchOff(region, toggle);
 }
@@ -49,7 +49,7 @@ void RegionActivation::switchOff(int region, const Toggle& toggle)
     }
     const RegionWriter::Call call(m_writer);
     for (const int each : qAsConst(off))
-        m_writer.setActive(each, false);
+        m_writer.writeActive(each, false);
 }
 
 /// The button stays as it is where the region finds no place.
@@ -59,7 +59,7 @@ void RegionActivation::place(int region, Qt::Orientation axis)
     std::optional<QRect> placed;
     {
         const RegionWriter::Call call(m_writer);
-        placed = placement(region, axis);
+        placed = readPlacement(region, axis);
         if (!placed)
             m_tabs.setChecked(region, m_tabs.isActive(region));
         else if (!placed->isNull())
@@ -84,10 +84,10 @@ void RegionActivation::completeTile(int region, const QRect& placed)
     const RegionWriter::Call call(m_writer);
     const bool isColumn = question == Question::ColumnOn;
     // Either may have been switched off by another client meanwhile.
-    const bool areOn = isOn(isColumn ? 2 : 1) && isOn(region);
+    const bool areOn = readOn(isColumn ? 2 : 1) && readOn(region);
     const std::optional<QRect> test = !areOn ? std::nullopt
-        : isColumn                           ? placement(3, Qt::Horizontal)
-                                             : placement(2, Qt::Vertical);
+        : isColumn                           ? readPlacement(3, Qt::Horizontal)
+                                             : readPlacement(2, Qt::Vertical);
     if (test && !test->isNull())
         write(region, QRect(placed.topLeft(), QSize(1, 1)), placed);
     else
@@ -96,7 +96,7 @@ void RegionActivation::completeTile(int region, const QRect& placed)
 
 /// Where a region may be activated, null for nowhere; leaves it selected. Region 0 has no
 /// predecessor and is never placed. Nothing when the camera does not tell or refuses a selection.
-std::optional<QRect> RegionActivation::placement(int region, Qt::Orientation axis)
+std::optional<QRect> RegionActivation::readPlacement(int region, Qt::Orientation axis)
 {
     if (region < 1 || !m_tabs.has(region))
         return QRect();
@@ -120,7 +120,7 @@ std::optional<QRect> RegionActivation::placement(int region, Qt::Orientation axi
     return placed;
 }
 
-bool RegionActivation::isOn(int region)
+bool RegionActivation::readOn(int region)
 {
     return m_writer.select(region) && m_camera.readOn().value_or(false);
 }
@@ -156,7 +156,7 @@ void RegionActivation::applyDefaults(const QColor& color)
         return;
     for (int region = m_tabs.count() - 1; region >= 0; --region) {
         m_writer.save(region, {});
-        m_writer.setActive(region, false);
+        m_writer.writeActive(region, false);
         if (m_writer.isCameraLost())
             return;
     }

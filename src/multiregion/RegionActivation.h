@@ -34,8 +34,8 @@ private:
     void switchOff(int region, const struct Toggle& toggle);
     void place(int region, Qt::Orientation axis);
     void completeTile(int region, const QRect& placed);
-    std::optional<QRect> placement(int region, Qt::Orientation axis);
-    bool isOn(int region);
+    std::optional<QRect> readPlacement(int region, Qt::Orientation axis);
+    bool readOn(int region);
     void write(int region, const QRect& first, const QRect& placed);
     void applyDefaults(const QColor& color);
 

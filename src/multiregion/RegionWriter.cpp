@@ -86,8 +86,8 @@ void RegionWriter::open(int region)
     select(region);
     if (region != m_tabs.current() || region == m_opened)
         return;
-    if (m_moved.contains(m_opened))
-        keepUntold(m_opened);
+    if (m_opened && m_moved.contains(*m_opened))
+        keepUntold(*m_opened);
     m_moved << region;
     m_opened = region;
 }
@@ -115,7 +115,7 @@ void RegionWriter::save(int region, const QRect& rect)
     tellCurrent(region);
 }
 
-void RegionWriter::setActive(int region, bool on)
+void RegionWriter::writeActive(int region, bool on)
 {
     const Call call(*this);
     const bool wasShown = m_tabs.isActive(region);
@@ -135,8 +135,8 @@ void RegionWriter::setActive(int region, bool on)
         show(region);
 }
 
-void RegionWriter::setFeature(const QVector<int>& regions, const QString& name,
-                              const QVariant& value)
+void RegionWriter::writeFeature(const QVector<int>& regions, const QString& name,
+                                const QVariant& value)
 {
     const Call call(*this);
     bool isLost = false;

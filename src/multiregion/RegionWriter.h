@@ -62,8 +62,8 @@ public:
 
     /// @param rect sensor pixels; the null one shrinks the region and does not activate it
     void save(int region, const QRect& rect);
-    void setActive(int region, bool on);
-    void setFeature(const QVector<int>& regions, const QString& name, const QVariant& value);
+    void writeActive(int region, bool on);
+    void writeFeature(const QVector<int>& regions, const QString& name, const QVariant& value);
 
     /// Also what no write of the page's can have moved.
     void readWhole();
@@ -116,9 +116,9 @@ private:
     const Hold m_hold;
     ModeWatch m_watch;
     std::deque<std::function<void()>> m_signals;
-    QVector<int> m_untold; ///< regions, in the order in which they are read again
-    QSet<int> m_moved;     ///< regions of which more than the numbers is to be read
-    int m_opened = -1;     ///< the region whose table was opened last
+    QVector<int> m_untold;       ///< regions, in the order in which they are read again
+    QSet<int> m_moved;           ///< regions of which more than the numbers is to be read
+    std::optional<int> m_opened; ///< the region whose table was opened last
     int m_calls = 0;
     bool m_isLoading = false;
 

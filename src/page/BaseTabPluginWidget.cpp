@@ -129,7 +129,7 @@ void BaseTabPluginWidget::readAgain(const QStringList& names)
 void BaseTabPluginWidget::updateTimer()
 {
     // Without an answer there is nothing to show: the page keeps what it shows, and the names.
-    if (m_changes->isHeld() || m_suspensions > 0 || isCameraLost())
+    if (m_changes->isHeld() || m_suspensions > 0 || readIsLost())
         return;
     if (m_wasLost && refreshTimer->isActive()) {
         // A camera that is back may have lost the observers, and anything may have changed.
@@ -143,7 +143,7 @@ void BaseTabPluginWidget::updateTimer()
 }
 
 /// Asks a lost camera now and then, each time for another feature: one alone may not answer.
-bool BaseTabPluginWidget::isCameraLost()
+bool BaseTabPluginWidget::readIsLost()
 {
     CameraLink& link = *featureManager->link();
     const QStringList names = observedFeatures + QStringList{FeatureNames::deviceVendorName};
@@ -201,7 +201,7 @@ void BaseTabPluginWidget::showEvent(QShowEvent* event)
     QWidget::showEvent(event);
     const QPointer<BaseTabPluginWidget> page = this;
     const ChangedNames::Hold hold(m_changes);
-    if (hold.isOutermost() && !isCameraLost())
+    if (hold.isOutermost() && !readIsLost())
         visit([this] { refreshFeatures(); });
     if (page && m_suspensions == 0)
         startUpdates(true);

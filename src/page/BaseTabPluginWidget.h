@@ -102,7 +102,7 @@ protected:
 
 private:
     bool hasFeatures() const;
-    bool isCameraLost();
+    bool readIsLost();
     void startUpdates(bool markChanged);
     void stopUpdates();
 

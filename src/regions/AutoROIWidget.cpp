@@ -238,7 +238,7 @@ void AutoROIWidget::SetFullArea()
     if (!m_ui)
         return;
     readAllNext();
-    m_writer->setFullArea();
+    m_writer->writeFullArea();
 }
 
 void AutoROIWidget::OnROIFull()
@@ -255,6 +255,8 @@ template <typename Preset> void AutoROIWidget::applyPreset(const Preset& preset)
 {
     if (!m_ui || isAtWork())
         return;
+    m_view->refresh(); // the fields emit what differs from the camera
+    m_writer->writeFullArea();
     preset();
     showEdgeProblems(*m_ui, *m_camera, m_view->shown());
     showRegion();
@@ -286,7 +288,7 @@ void AutoROIWidget::setBackgroundImage(std::shared_ptr<QPixmap> image)
 {
     if (!m_ui)
         return;
-    m_picture->setImage(std::move(image));
+    m_picture->showImage(std::move(image));
     readAgain(m_camera->takeUntold());
 }
 

@@ -95,12 +95,6 @@ void AutoRegionCamera::readOrigin()
         read(name, FeatureReader::Value);
 }
 
-QRect AutoRegionCamera::drawn() const
-{
-    return m_usesEdges ? drawnByEdges(region(), m_limits)
-                       : drawnBySize(region(), origin(), m_limits);
-}
-
 bool AutoRegionCamera::followImage(bool isSizeTold)
 {
     const QSizeF imageSize(readValue(Name::width), readValue(Name::height));

@@ -89,7 +89,11 @@ public:
     QPointF origin() const;
     const QSizeF& limits() const { return m_limits; }
     /// The region on the label.
-    QRect drawn() const;
+    QRect drawn() const
+    {
+        return m_usesEdges ? drawnByEdges(region(), m_limits)
+                           : drawnBySize(region(), origin(), m_limits);
+    }
 
     /// Whether the limits changed. They are read for a new image size only, or when one is told:
     /// where size and offset bound each other they would shrink with each move.

@@ -18,7 +18,7 @@ AutoRegionPicture::AutoRegionPicture(AutoRegionCamera& camera, QLayout& layout)
     layout.addWidget(m_label);
 }
 
-void AutoRegionPicture::setImage(std::shared_ptr<QPixmap> image)
+void AutoRegionPicture::showImage(std::shared_ptr<QPixmap> image)
 {
     m_image = std::move(image);
     m_imageWaits = m_label->isDragging();

@@ -18,7 +18,7 @@ public:
     RubberBandLabel* label() const { return m_label; }
 
     /// During a drag, in which nothing may be written, the image waits for showWaitingImage().
-    void setImage(std::shared_ptr<QPixmap> image);
+    void showImage(std::shared_ptr<QPixmap> image);
     void showWaitingImage();
     /// Once more, when the camera did not tell where the image lies.
     void retryImage();

@@ -73,7 +73,7 @@ void AutoRegionWriter::settleOffset(RegionNumber offset, double wanted)
         write(offset, wanted);
 }
 
-void AutoRegionWriter::setFullArea()
+void AutoRegionWriter::writeFullArea()
 {
     const QSizeF current = m_camera.readLimits().value_or(m_camera.limits());
     growImage(FeatureNames::height, current.height(), m_camera.limits().height());
@@ -97,8 +97,6 @@ void AutoRegionWriter::growImage(const QString& name, double current, double for
 
 void AutoRegionWriter::presetFull()
 {
-    m_view.refresh(); // the fields emit what differs from the camera
-    setFullArea();
     const double left = m_view.field(RegionNumber::Left).grid().minimum;
     const double top = m_view.field(RegionNumber::Top).grid().minimum;
     const QSizeF limits = m_camera.limits();
@@ -112,8 +110,6 @@ void AutoRegionWriter::presetFull()
 
 void AutoRegionWriter::presetCentred(double factor)
 {
-    m_view.refresh(); // the fields emit what differs from the camera
-    setFullArea();
     AutoRegion wanted{centredSpan(m_camera.limits().width(), factor),
                       centredSpan(m_camera.limits().height(), factor)};
     wanted.horizontal.start += m_camera.origin().x();

@@ -19,9 +19,9 @@ public:
     bool writeDrawn(const QRect& region);
 
     /// Lets the image and the size fields grow to what the camera allows now.
-    void setFullArea();
+    void writeFullArea();
 
-    // The presets set the fields; the page writes each one that changes.
+    // The presets set the fields, which show the camera; the page writes each one that changes.
     void presetFull();
     void presetCentred(double factor);
 

@@ -95,13 +95,8 @@ bool RegionAxis::readSensor()
 {
     const Reading<double> sensor = readNumber(m_names.sensor, FeatureReader::Value);
     m_sensor = sensor.value.value_or(m_sensor);
+    readMaximum();
     return sensor.isComplete;
-}
-
-double RegionAxis::sensor()
-{
-    const double maximum = readMaximum();
-    return m_sensor >= 1.0 ? std::min(m_sensor, maximum) : maximum;
 }
 
 // Where it matters for what is kept beside @p offset.
@@ -145,11 +140,6 @@ Reading<double> RegionAxis::read(Number& number, int parts)
     keep(number.limits.maximum, reading.maximum);
     keep(number.limits.increment, reading.increment);
     return reading;
-}
-
-bool RegionAxis::isWritable() const
-{
-    return m_size.field.isWritable() && (m_offset.field.isWritable() || !m_offset.exists);
 }
 
 bool RegionAxis::isBeyondMaximum() const

@@ -8,6 +8,7 @@
 #include <QHash>
 #include <QStringList>
 
+#include <algorithm>
 #include <utility>
 
 class FeatureManager;
@@ -41,14 +42,17 @@ public:
     double readMaximum();
     void forgetMaximum() { m_isMaximumFresh = false; }
 
-    /// False when the camera keeps back the sensor's extent that it has.
+    /// With a maximum that is not known. False when the camera keeps back an extent that it has.
     bool readSensor();
     /// At most the maximum size.
-    double sensor();
+    double sensor() const { return m_sensor >= 1.0 ? std::min(m_sensor, m_maximum) : m_maximum; }
 
     Span<double> onCamera() const { return {m_offset.onCamera, m_size.onCamera}; }
     bool isTold() const { return m_offset.isTold && m_size.isTold && m_maximum > 0.0; }
-    bool isWritable() const;
+    bool isWritable() const
+    {
+        return m_size.field.isWritable() && (m_offset.field.isWritable() || !m_offset.exists);
+    }
     /// Whether camera or fields reach beyond the maximum size.
     bool isBeyondMaximum() const;
 
