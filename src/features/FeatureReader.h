@@ -29,7 +29,6 @@ public:
 
     explicit operator bool() const { return m_feature != nullptr; }
     ZebFeatureWrapper* operator->() const { return m_feature.get(); }
-    const ZebFeatureWrapperPtr& feature() const { return m_feature; }
     const QString& name() const { return m_name; }
     bool isKnown() const { return m_isKnown; }
 

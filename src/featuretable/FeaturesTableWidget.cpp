@@ -248,11 +248,6 @@ void FeaturesTableWidget::save(const FeatureInfo& info, const QVariant& value)
     storeFeatureInfo(rowOf(name), saved);
 }
 
-bool FeaturesTableWidget::isEdit(const QVector<int>& roles) const
-{
-    return !m_refreshing && !roles.contains(Qt::UserRole) && roles.contains(Qt::DisplayRole);
-}
-
 FeatureInfo FeaturesTableWidget::featureInfo(int row) const
 {
     const QTableWidgetItem* item = m_table->item(row, ValueColumn);

@@ -73,7 +73,10 @@ protected:
 
     /// Whether a dataChanged() with these roles comes from an editor: changes that the table makes
     /// itself do not, nor those of the record or without a display value.
-    bool isEdit(const QVector<int>& roles) const;
+    bool isEdit(const QVector<int>& roles) const
+    {
+        return !m_refreshing && !roles.contains(Qt::UserRole) && roles.contains(Qt::DisplayRole);
+    }
 
     /// -1 when the feature has no row.
     int rowOf(const QString& name) const { return m_rows.value(name, -1); }
