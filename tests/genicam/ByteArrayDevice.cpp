@@ -13,21 +13,10 @@ namespace {
 constexpr std::uint32_t firstOfRegions = 0x200;
 constexpr std::uint32_t regionDistance = 0x20;
 
-/// The description's lines, one for a node.
-std::vector<std::string> readLines()
-{
-    std::vector<std::string> lines;
-    std::ifstream file(DESCRIPTION_FILE);
-    for (std::string line; std::getline(file, line);)
-        lines.push_back(line);
-    return lines;
-}
-
 struct TestDevice
 {
     ArvDevice parent;
     std::shared_ptr<ByteArrayDevice>* memory;
-    std::string* description;
     ArvGc* genicam;
 };
 
@@ -43,18 +32,15 @@ TestDevice* self(void* device)
     return static_cast<TestDevice*>(device);
 }
 
-bool refuses(ByteArrayDevice& memory, guint64 address, guint32 size, GError** error)
+bool refuses(ByteArrayDevice& memory, GError** error)
 {
     static const int codes[] = {0, ARV_DEVICE_ERROR_TIMEOUT, ARV_DEVICE_ERROR_PROTOCOL_ERROR_BUSY,
                                 ARV_DEVICE_ERROR_PROTOCOL_ERROR_ACCESS_DENIED,
                                 ARV_DEVICE_ERROR_PROTOCOL_ERROR_WRITE_PROTECT};
     std::this_thread::sleep_for(memory.delay.load());
-    const bool isOutside = address + size > memory.bytes.size();
-    if (!isOutside && memory.failure == ByteArrayDevice::None)
+    if (memory.failure == ByteArrayDevice::None)
         return false;
-    g_set_error(error, ARV_DEVICE_ERROR,
-                isOutside ? ARV_DEVICE_ERROR_PROTOCOL_ERROR_INVALID_ADDRESS : codes[memory.failure],
-                "refused by the test");
+    g_set_error(error, ARV_DEVICE_ERROR, codes[memory.failure], "refused by the test");
     return true;
 }
 
@@ -62,7 +48,7 @@ gboolean readMemory(ArvDevice* device, guint64 address, guint32 size, void* buff
 {
     ByteArrayDevice& memory = **self(device)->memory;
     ++memory.reads;
-    if (refuses(memory, address, size, error))
+    if (refuses(memory, error))
         return FALSE;
     const std::lock_guard lock(memory.mutex);
     std::memcpy(buffer, memory.bytes.data() + address, size);
@@ -72,7 +58,7 @@ gboolean readMemory(ArvDevice* device, guint64 address, guint32 size, void* buff
 gboolean writeMemory(ArvDevice* device, guint64 address, guint32 size, void* buffer, GError** error)
 {
     ByteArrayDevice& memory = **self(device)->memory;
-    if (refuses(memory, address, size, error))
+    if (refuses(memory, error))
         return FALSE;
     memory.takeWrite(address, buffer, size);
     return TRUE;
@@ -82,7 +68,6 @@ void finalize(GObject* object)
 {
     g_clear_object(&self(object)->genicam);
     delete self(object)->memory;
-    delete self(object)->description;
     G_OBJECT_CLASS(test_device_parent_class)->finalize(object);
 }
 
@@ -98,13 +83,16 @@ void test_device_class_init(TestDeviceClass* type)
 
 } // namespace
 
-ByteArrayDevice::ByteArrayDevice()
+ByteArrayDevice::ByteArrayDevice(const std::string& missing)
 {
     const std::regex node("Name=\"(\\w+?)(Reg)?\">.*<Address>(0x\\w+)<");
     std::smatch parts;
-    for (const std::string& line : readLines()) {
+    std::ifstream file(DESCRIPTION_FILE);
+    for (std::string line; std::getline(file, line);) { // one for a node
         if (std::regex_search(line, parts, node))
             m_addresses[parts[1]] = static_cast<std::uint32_t>(std::stoul(parts[3], nullptr, 16));
+        if (missing.empty() || line.find('"' + missing + '"') == std::string::npos)
+            description += line;
     }
     const std::pair<const char*, std::uint32_t> values[]
         = {{"TriggerSource", 99},    {"Width", 2592},        {"Height", 1944},
@@ -119,18 +107,12 @@ ByteArrayDevice::ByteArrayDevice()
     }
 }
 
-ArvDevice* ByteArrayDevice::open(const std::shared_ptr<ByteArrayDevice>& memory,
-                                 const std::string& missing)
+ArvDevice* ByteArrayDevice::open(const std::shared_ptr<ByteArrayDevice>& memory)
 {
     auto* const device = self(g_object_new(test_device_get_type(), nullptr));
     device->memory = new std::shared_ptr<ByteArrayDevice>(memory);
-    device->description = new std::string;
-    for (const std::string& line : readLines()) {
-        if (missing.empty() || line.find('"' + missing + '"') == std::string::npos)
-            *device->description += line;
-    }
     device->genicam
-        = arv_gc_new(&device->parent, device->description->data(), device->description->size());
+        = arv_gc_new(&device->parent, memory->description.data(), memory->description.size());
     return &device->parent;
 }
 

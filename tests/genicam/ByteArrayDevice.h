@@ -26,11 +26,11 @@ struct ByteArrayDevice
     };
     static constexpr int regionCount = 4;
 
-    ByteArrayDevice();
+    /// The description lacks the node @p missing.
+    explicit ByteArrayDevice(const std::string& missing = {});
 
-    /// May be closed after this is gone. The description lacks the node @p missing.
-    static ArvDevice* open(const std::shared_ptr<ByteArrayDevice>& memory,
-                           const std::string& missing = {});
+    /// May be closed after this is gone.
+    static ArvDevice* open(const std::shared_ptr<ByteArrayDevice>& memory);
 
     // As the camera itself, or another client.
     std::uint32_t read(const std::string& feature, int region = 0);
@@ -42,6 +42,7 @@ struct ByteArrayDevice
     /// The features that clients wrote since the last call.
     std::vector<std::string> takeWrites();
 
+    std::string description;
     std::mutex mutex;
     std::vector<std::uint8_t> bytes = std::vector<std::uint8_t>(0x1000);
     std::atomic<Failure> failure{None};

@@ -1,41 +1,37 @@
 #include "Actions.h"
 
-#include "DragActions.h"
 #include "UserInput.h"
+#include "WheelEvent.h"
 
-#include <QAbstractSpinBox>
-#include <QBitmap>
-#include <QComboBox>
-#include <QMenu>
-#include <QPushButton>
-#include <QScrollBar>
-#include <QTabBar>
-#include <QTableView>
-#include <QWheelEvent>
+#include <QtWidgets>
 
 namespace {
 
-QString anyNumber(Random& random)
+void typeNumber(Random& random, QWidget* field)
 {
-    if (random.oneIn(8))
-        return random.pick({"-", "abc", "1e9", "99999999999", ""});
-    return QString::number(random.below(random.pick({10, 200, 3000, 20000})));
+    const int limit = random.pick({10, 200, 3000, 20000});
+    QTest::keyClicks(field,
+                     random.oneIn(8) ? random.pick({"-", "abc", "1e9", "99999999999", ""})
+                                     : QString::number(random.below(limit)));
 }
 
+// Or takes a step from there.
 void endEntry(Random& random, QWidget* field)
 {
-    sendKey(field, random.pick<int>({Qt::Key_Return, Qt::Key_Return, Qt::Key_Tab, Qt::Key_Escape}));
+    QTest::keyClick(field,
+                    random.pick({Qt::Key_Return, Qt::Key_Return, Qt::Key_Tab, Qt::Key_Escape,
+                                 Qt::Key_Up, Qt::Key_PageDown}));
 }
 
 QPointer<QWidget> typeIntoField(Session& session)
 {
-    const QPointer<QAbstractSpinBox> field = anyUsable<QAbstractSpinBox>(session);
+    auto* const field = anyUsable<QAbstractSpinBox>(session);
     if (!field)
         return {};
     field->setFocus(Qt::MouseFocusReason);
     field->selectAll();
-    typeText(field.data(), anyNumber(session.random));
-    return field.data();
+    typeNumber(session.random, field);
+    return field;
 }
 
 void type(Session& session)
@@ -46,13 +42,6 @@ void type(Session& session)
         session.pass(random.pick({50, 1200}));
     if (field && !random.oneIn(8))
         endEntry(random, field);
-}
-
-void stepField(Session& session)
-{
-    const QPointer<QAbstractSpinBox> field = anyUsable<QAbstractSpinBox>(session);
-    for (int i = session.random.between(1, 5); i > 0 && field; --i)
-        sendKey(field.data(), session.random.pick<int>({Qt::Key_Up, Qt::Key_Down, Qt::Key_PageUp}));
 }
 
 void clickButton(Session& session)
@@ -76,8 +65,7 @@ void chooseEntry(Session& session)
         session.pass(60);
     }
     for (int i = random.between(1, 3); i > 0 && box; --i) {
-        sendKey(box.data(),
-                random.pick<int>({Qt::Key_Down, Qt::Key_Down, Qt::Key_Up, Qt::Key_Home}));
+        QTest::keyClick(box, random.pick({Qt::Key_Down, Qt::Key_Down, Qt::Key_Up, Qt::Key_Home}));
         session.pass(0);
     }
     if (box)
@@ -93,15 +81,10 @@ void switchTab(Session& session)
 void scroll(Session& session)
 {
     Random& random = session.random;
-    if (auto* const bar = anyUsable<QScrollBar>(session); bar && random.oneIn(2)) {
+    if (auto* const bar = anyUsable<QScrollBar>(session); bar && random.oneIn(2))
         bar->setValue(random.between(bar->minimum(), bar->maximum()));
-    } else if (auto* const widget = anyUsable<QWidget>(session)) {
-        const QPoint position = widget->rect().center();
-        QWheelEvent event(position, widget->mapToGlobal(position), {},
-                          {0, random.pick({-120, 120, 30})}, Qt::NoButton, Qt::NoModifier,
-                          Qt::NoScrollPhase, false);
-        QApplication::sendEvent(widget, &event);
-    }
+    else if (auto* const widget = anyUsable<QWidget>(session))
+        sendWheel(widget, random.pick({-120, 120, 30}));
 }
 
 /// Null when none opens.
@@ -135,7 +118,7 @@ void editCell(Session& session)
         session.closePage();
         return;
     }
-    typeText(editor, anyNumber(random));
+    typeNumber(random, editor);
     session.pass(random.pick({0, 50, 1200}));
     if (editor && !random.oneIn(4))
         endEntry(random, editor);
@@ -148,7 +131,7 @@ void pickPicture(Session& session)
     if (!list || !list->isVisible() || !list->isEnabled())
         return;
     list->setFocus(Qt::MouseFocusReason);
-    sendKey(list, session.random.oneIn(4) ? Qt::Key_Home : Qt::Key_End);
+    QTest::keyClick(list, session.random.oneIn(4) ? Qt::Key_Home : Qt::Key_End);
     session.pass(0);
 }
 
@@ -202,8 +185,7 @@ void reopen(Session& session)
 }
 
 const Action actions[]{
-    {"typing", 14, type},
-    {"stepping a field", 6, stepField},
+    {"typing", 20, type},
     {"dragging", 26, dragRegion},
     {"clicking", 14, clickButton},
     {"choosing an entry", 8, chooseEntry},
@@ -211,10 +193,13 @@ const Action actions[]{
     {"picking a picture", 3, pickPicture},
     {"switching tabs", 8, switchTab, Action::Quick},
     {"scrolling", 3, scroll},
-    {"resizing", 3, [](Session& s) { s.resizeByChance(50, 1600, 1200); }, Action::InDrag},
+    {"resizing", 3,
+     [](Session& s) {
+         s.resize({s.random.between(50, 1600), s.random.between(50, 1200)});
+     },
+     Action::InDrag},
     {"changing the theme", 1,
      [](Session& s) { QApplication::setPalette(s.random.oneIn(2) ? Qt::black : Qt::white); }},
-    {"leaving a field", 4, [](Session&) { leaveField(); }},
     {"a menu", 1, openMenu, Action::InDrag | Action::TakesMouse},
     {"hiding and showing", 2, hideAndShow, Action::InDrag},
     {"reopening", 2, reopen, Action::InDrag},
@@ -223,31 +208,36 @@ const Action actions[]{
     {"another client", 8, writeFromOutside, Action::InDrag | Action::ChangesCamera},
     {"distorting the camera", 4,
      [](Session& s) {
-         if (!s.character().isHonest && !s.isLost())
+         if (!s.camera().character().isHonest && !s.camera().isLost())
              s.camera().distort();
      }},
     {"a burst", 1,
      [](Session& s) {
          s.camera().burst(s.random.pick({500, 500, 100000}));
      }},
-    {"losing the camera", 1, [](Session& s) { s.loseCamera(); }},
+    {"losing the camera", 1,
+     [](Session& s) {
+         if (!s.camera().character().isHonest && s.random.oneIn(2))
+             s.camera().lose(std::chrono::milliseconds(300));
+     }},
 };
 
 } // namespace
 
 void leaveTyped(Session& session)
 {
-    if (const QPointer<QWidget> editor = openCell(session); editor)
-        typeText(editor, anyNumber(session.random));
+    if (QWidget* const editor = openCell(session))
+        typeNumber(session.random, editor);
     else
         typeIntoField(session);
 }
 
 const Action& pickAction(Random& random, int flags)
 {
-    const Action* action = nullptr;
-    do {
-        action = &random.pickWeighted(actions);
-    } while ((action->flags & flags) != flags);
-    return *action;
+    QVector<const Action*> lots; // each as often as its weight says
+    for (const Action& action : actions) {
+        if ((action.flags & flags) == flags)
+            lots.insert(lots.size(), action.weight, &action);
+    }
+    return *random.pick(lots);
 }

@@ -24,3 +24,7 @@ const Action& pickAction(Random& random, int flags = 0);
 
 /// Leaves a number typed into a field or a cell, not entered.
 void leaveTyped(Session& session);
+
+/// Drags a band or a line on a region's picture, with disturbances; nothing may be written before
+/// the release.
+void dragRegion(Session& session);

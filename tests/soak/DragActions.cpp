@@ -1,5 +1,3 @@
-#include "DragActions.h"
-
 #include "Actions.h"
 #include "Invariants.h"
 #include "UserInput.h"
@@ -41,14 +39,6 @@ QPoint pressPoint(Random& random, const QLabel& picture, bool isInside)
     return {along(band.x(), band.width()), along(band.y(), band.height())};
 }
 
-// A tile may lie over another while its neighbour is off, and a refused write may leave an overlap.
-bool mustNotOverlap(Session& session)
-{
-    const char* const arrangement = "MultipleRegionArrangement";
-    return session.character().isStrict && session.camera().has(arrangement)
-        && session.camera().text(arrangement) != "Tile";
-}
-
 } // namespace
 
 void dragRegion(Session& session)
@@ -67,16 +57,14 @@ void dragRegion(Session& session)
     if (!picture || !picture->isVisible() || !picture->isEnabled()
         || !picture->findChild<QRubberBand*>())
         return;
-    const QPoint from = pressPoint(random, *picture, isTyped);
-    sendMouse(picture, QEvent::MouseMove, from, Qt::NoButton);
+    QPoint to = pressPoint(random, *picture, isTyped);
+    sendMouse(picture, QEvent::MouseMove, to, Qt::NoButton);
     if (!picture)
         return;
-    sendMouse(picture, QEvent::MouseButtonPress, from);
+    sendMouse(picture, QEvent::MouseButtonPress, to);
     session.takeWrites(); // a press may select a region
     const int overlaps = Invariants::countOverlaps(session);
-    bool isAlone = true;
-    bool isDropped = false;
-    QPoint to = from;
+    int meanwhile = 0;
     for (int moves = random.below(8); moves > 0 && picture; --moves) {
         to = random.oneIn(3) ? anyPoint(random, picture->size())
                              : to + QPoint(random.between(-20, 20), random.between(-20, 20));
@@ -85,22 +73,15 @@ void dragRegion(Session& session)
             session.pass(random.pick({0, 0, 0, 20, 300, 1100}));
         if (!picture || !random.oneIn(4))
             continue;
-        const Action& meanwhile = pickAction(random, Action::InDrag);
-        meanwhile.perform(session);
-        isAlone = isAlone && !(meanwhile.flags & Action::ChangesCamera);
-        isDropped = isDropped || meanwhile.flags & Action::TakesMouse;
+        const Action& action = pickAction(random, Action::InDrag);
+        action.perform(session);
+        meanwhile |= action.flags;
     }
-    const auto findWrites = [&session](const char* text) {
-        // A region outside switches the function off; a press beside all lets them be read on.
-        const QString writes = session.takeWrites({"AutofunctionAOIEnable", "SubRegionSelector"});
-        if (session.character().isHonest && session.page() && !writes.isEmpty())
-            session.find(QString(text).arg(writes));
-    };
-    findWrites("a drag wrote %1 before its release");
+    session.checkWrites("before its release a drag", Invariants::readersWrites);
     if (picture)
         release(picture, to);
-    if (isDropped)
-        findWrites("a drag that had lost the mouse wrote %1");
-    if (isAlone && mustNotOverlap(session) && Invariants::countOverlaps(session) > overlaps)
+    if (meanwhile & Action::TakesMouse)
+        session.checkWrites("a drag that had lost the mouse", Invariants::readersWrites);
+    if (!(meanwhile & Action::ChangesCamera) && Invariants::countOverlaps(session) > overlaps)
         session.find("a drag made regions overlap");
 }

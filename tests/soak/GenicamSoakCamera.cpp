@@ -1,4 +1,4 @@
-#include "GenicamSoakCamera.h"
+#include "SoakCamera.h"
 
 #include "genicam/ByteArrayDevice.h"
 #include "genicam/GenicamCamera.h"
@@ -9,125 +9,120 @@ std::shared_ptr<ByteArrayDevice> deviceThatCrops()
 {
     auto device = std::make_shared<ByteArrayDevice>();
     device->reaction = [memory = device.get()](const std::string& feature) {
-        const bool isHorizontal = feature == "BinningHorizontal";
-        if (!isHorizontal && feature != "BinningVertical")
+        if (feature.rfind("Binning", 0) != 0)
             return;
-        const char* const size = isHorizontal ? "Width" : "Height";
-        const auto room = isHorizontal ? 2592 / memory->read(feature) / 8 * 8
-                                       : 1944 / memory->read(feature) / 2 * 2;
-        memory->write(isHorizontal ? "OffsetX" : "OffsetY", 0);
-        memory->write(size, std::min(memory->read(size), room));
+        for (const char* offset : {"OffsetX", "OffsetY"})
+            memory->write(offset, 0);
+        const auto crop = [=](const char* size, std::uint32_t room) {
+            memory->write(size, std::min(memory->read(size), room));
+        };
+        crop("Width", 2592 / memory->read("BinningHorizontal") / 8 * 8);
+        crop("Height", 1944 / memory->read("BinningVertical") / 2 * 2);
     };
     return device;
 }
 
-} // namespace
-
-GenicamSoakCamera::GenicamSoakCamera(Random& random)
-    : m_random(random)
-    , m_device(deviceThatCrops())
-    , m_camera(std::make_unique<genicam::GenicamCamera>(
-          ByteArrayDevice::open(m_device), genicam::GenicamCamera::Options{"Brontax", [](bool) {}}))
+/// Over registers in memory. It crops its region when binning leaves less than that.
+class GenicamSoakCamera : public SoakCamera
 {
-    m_character.isHonest = m_character.isStrict = random.oneIn(2);
-    m_character.hasThreads = true;
-}
+public:
+    GenicamSoakCamera(Random& random, Report& report)
+        : m_random(random)
+        , m_report(report)
+    {
+        m_character.isHonest = m_character.isStrict = random.oneIn(2);
+        m_character.hasThreads = true;
+    }
 
-GenicamSoakCamera::~GenicamSoakCamera() = default;
+    ~GenicamSoakCamera() override
+    {
+        if (genicam::criticalCount() > 0)
+            m_report.find("GLib found a fault");
+    }
 
-std::vector<ZebCPP::FeaturePtr> GenicamSoakCamera::features() const
-{
-    return m_camera->features();
-}
+    std::vector<ZebCPP::FeaturePtr> features() const override { return m_camera.features(); }
+    std::size_t observerCount() const override { return m_camera.observerCount(); }
+    void behave() override { m_device->fail(ByteArrayDevice::None); }
 
-std::size_t GenicamSoakCamera::observerCount() const
-{
-    return m_camera->observerCount();
-}
+    QString text(const QString& feature, int region) const override
+    {
+        const std::string name = feature.toStdString();
+        return region == selectedRegion ? QString::fromStdString(m_camera.readText(name))
+                                        : QString::number(m_device->read(name, region));
+    }
 
-bool GenicamSoakCamera::has(const QString& feature) const
-{
-    return m_camera->feature(feature.toStdString()) != nullptr;
-}
-
-QString GenicamSoakCamera::text(const QString& feature) const
-{
-    return QString::fromStdString(m_camera->readText(feature.toStdString()));
-}
-
-QString GenicamSoakCamera::textOfRegion(const QString& feature, int region) const
-{
-    return QString::number(m_device->read(feature.toStdString(), region));
-}
-
-sim::Snapshot GenicamSoakCamera::state() const
-{
-    const auto number = [this](const char* feature) { return text(feature).toLongLong(); };
-    sim::Snapshot state;
-    state.maximum = {number("WidthMax"), number("HeightMax")};
-    state.hasMultipleRegions = m_device->read("MultipleRegionEnable") != 0;
-    if (!state.hasMultipleRegions) {
-        state.regions = {{number("OffsetX"), number("OffsetY"), number("Width"), number("Height")}};
+    sim::Snapshot state() const override
+    {
+        sim::Snapshot state;
+        state.maximum = {text("WidthMax", selectedRegion).toLongLong(),
+                         text("HeightMax", selectedRegion).toLongLong()};
+        // Binning leaves multiple regions where they are.
+        const bool isValid = state.maximum.width == 2592 && state.maximum.height == 1944;
+        const auto regionOf = [&](const std::string& prefix, int number) -> sim::Snapshot::Region {
+            const auto held
+                = [&](const char* name) { return m_device->read(prefix + name, number); };
+            return {held("OffsetX"), held("OffsetY"), held("Width"),
+                    held("Height"),  number,          isValid};
+        };
+        state.hasMultipleRegions = m_device->read("MultipleRegionEnable") != 0;
+        if (!state.hasMultipleRegions)
+            state.regions = {regionOf("", 0)};
+        for (int i = 0; state.hasMultipleRegions && i < ByteArrayDevice::regionCount; ++i) {
+            if (m_device->read("SubRegionMode", i) != 0)
+                state.regions.push_back(regionOf("SubRegion", i));
+        }
         return state;
     }
-    for (int region = 0; region < ByteArrayDevice::regionCount; ++region) {
-        const auto held = [&](const char* feature) { return m_device->read(feature, region); };
-        // Binning leaves them where they are.
-        if (held("SubRegionMode") != 0)
-            state.regions.push_back({held("SubRegionOffsetX"), held("SubRegionOffsetY"),
-                                     held("SubRegionWidth"), held("SubRegionHeight"), region,
-                                     number("WidthMax") == 2592 && number("HeightMax") == 1944});
+
+    QStringList takeWrites(std::uint64_t&) override
+    {
+        QStringList writes = std::exchange(m_writes, {});
+        for (const std::string& feature : m_device->takeWrites())
+            writes << QString::fromStdString(feature) + "=";
+        return writes;
     }
-    return state;
-}
 
-SoakCamera::Account GenicamSoakCamera::takeAccount()
-{
-    Account account{std::exchange(m_writes, {}), 0};
-    for (const std::string& feature : m_device->takeWrites())
-        account.writes << QString::fromStdString(feature) + "=";
-    return account;
-}
+    void writeFromOutside() override
+    {
+        const auto name = m_random.pick<std::string>(
+            {"Width", "Height", "OffsetX", "OffsetY", "BinningHorizontal", "BinningVertical",
+             "Gain", "SubRegionOffsetX", "SubRegionOffsetY", "SubRegionWidth", "SubRegionHeight"});
+        std::int64_t minimum = 0;
+        std::int64_t maximum = 0;
+        if (m_camera.feature(name)->GetRange(minimum, maximum) != ZebErrorSuccess)
+            return;
+        m_writes = takeWrites(m_report["SDK calls"]); // the module's
+        const int step = maximum < 16 ? 1 : 8;
+        const int steps = static_cast<int>(maximum - minimum) / step;
+        const std::int64_t value = minimum + step * m_random.below(std::max(steps, 0) + 1);
+        m_camera.writeAsOtherClient(name, std::to_string(value));
+        m_device->takeWrites();
+    }
 
-void GenicamSoakCamera::tellFigures(Report& report) const
-{
-    report["cameras that speak GenICam"] += 1;
-    report["GenICam registers read"] += static_cast<std::uint64_t>(m_device->reads);
-    if (genicam::criticalCount() > 0)
-        report.find("GLib found a fault");
-}
+    void distort() override
+    {
+        m_device->fail(m_random.pick({ByteArrayDevice::None, ByteArrayDevice::Busy,
+                                      ByteArrayDevice::AccessDenied,
+                                      ByteArrayDevice::WriteProtected, ByteArrayDevice::Timeout}));
+    }
 
-void GenicamSoakCamera::writeFromOutside()
-{
-    const std::string name = m_random.pick(
-        {"Width", "Height", "OffsetX", "OffsetY", "BinningHorizontal", "BinningVertical", "Gain",
-         "SubRegionOffsetX", "SubRegionOffsetY", "SubRegionWidth", "SubRegionHeight"});
-    ZebCPP::Feature& feature = *m_camera->feature(name);
-    std::int64_t minimum = 0;
-    std::int64_t maximum = 0;
-    std::int64_t increment = 0;
-    if (feature.GetRange(minimum, maximum) != ZebErrorSuccess
-        || feature.GetIncrement(increment) != ZebErrorSuccess)
-        return;
-    m_writes = takeAccount().writes; // the module's
-    if (const auto value = m_random.onGrid(minimum, maximum, increment))
-        m_camera->writeAsOtherClient(name, std::to_string(*value));
-    m_device->takeWrites();
-}
+    void lose(std::chrono::milliseconds callTime) override
+    {
+        m_isLost = true;
+        m_device->fail(ByteArrayDevice::Timeout, callTime);
+    }
 
-void GenicamSoakCamera::distort()
-{
-    m_device->fail(
-        m_random.pick({ByteArrayDevice::None, ByteArrayDevice::Busy, ByteArrayDevice::AccessDenied,
-                       ByteArrayDevice::WriteProtected, ByteArrayDevice::Timeout}));
-}
+private:
+    Random& m_random;
+    Report& m_report;
+    const std::shared_ptr<ByteArrayDevice> m_device = deviceThatCrops();
+    genicam::GenicamCamera m_camera{ByteArrayDevice::open(m_device), {"Brontax", [](bool) {}}};
+    QStringList m_writes;
+};
 
-void GenicamSoakCamera::lose(std::chrono::milliseconds callTime)
-{
-    m_device->fail(ByteArrayDevice::Timeout, callTime);
-}
+} // namespace
 
-void GenicamSoakCamera::behave()
+std::unique_ptr<SoakCamera> createGenicamCamera(Random& random, Report& report)
 {
-    m_device->fail(ByteArrayDevice::None);
+    return std::make_unique<GenicamSoakCamera>(random, report);
 }

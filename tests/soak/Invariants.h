@@ -5,6 +5,9 @@ class Session;
 /// What holds on an honest camera at any time.
 namespace Invariants {
 
+/// Reading selects regions; a region outside the picture switches the automatic function off.
+constexpr auto readersWrites = "SubRegionSelector|AutofunctionAOIEnable";
+
 /// No region reaches beyond the sensor.
 void checkRegions(Session& session);
 /// How many pairs of the camera's regions overlap.

@@ -1,10 +1,8 @@
 #pragma once
 
-#include <algorithm>
 #include <cstdint>
 #include <initializer_list>
 #include <iterator>
-#include <optional>
 
 /// Numbers that depend on the seed alone, on every platform and library.
 class Random
@@ -35,29 +33,6 @@ public:
     template <typename Item> Item pick(std::initializer_list<Item> items)
     {
         return *std::next(items.begin(), below(static_cast<int>(items.size())));
-    }
-    /// A number of a camera's range; none of a range that is odd.
-    std::optional<std::int64_t> onGrid(std::int64_t minimum, std::int64_t maximum,
-                                       std::int64_t increment)
-    {
-        constexpr std::int64_t far = std::int64_t{1} << 40;
-        if (minimum > maximum || minimum < -far || maximum > far)
-            return {};
-        const std::int64_t step = std::max<std::int64_t>(increment, 1);
-        const std::int64_t steps = (maximum - minimum) / step;
-        return minimum + static_cast<std::int64_t>(next() >> 1) % (steps + 1) * step;
-    }
-    /// Each item as often as its weight says.
-    template <typename Table> const auto& pickWeighted(const Table& items)
-    {
-        int total = 0;
-        for (const auto& item : items)
-            total += item.weight;
-        int place = below(total);
-        auto item = std::begin(items);
-        for (; place >= item->weight; ++item)
-            place -= item->weight;
-        return *item;
     }
 
 private:

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Watchdog.h"
+
 #include <QString>
 
 #include <cstdint>
@@ -19,6 +21,7 @@ struct Report
     {
         ++findings;
         std::fprintf(stderr, "finding: %s\n", qPrintable(text));
+        Watchdog::tellPlace();
     }
 
     void print() const

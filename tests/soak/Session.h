@@ -23,7 +23,6 @@ public:
         const QStringList& pictures;           ///< paths
         const QStringList& translationFolders; ///< built, missing, broken
         Report& report;
-        bool isVerbose = false;
     };
 
     /// Without the name of a model the seed decides.
@@ -31,33 +30,31 @@ public:
     void run();
     /// Of the calls that the camera got: equal for equal seeds, when no thread takes part.
     std::uint64_t digest() const { return m_digest; }
-    const SoakCamera::Character& character() const { return m_character; }
+    bool hasThreads() const { return m_character.hasThreads; }
 
     // For the actions.
     Random random;
     SoakCamera& camera() { return *m_camera; }
     Host& host() { return *m_host; }
     QWidget* page() const { return m_page; } ///< null when there is none now
-    bool isLost() const { return m_isLost; }
 
-    void pass(int milliseconds);        ///< lets the event loop run
-    void resize(int width, int height); ///< the window and its page
-    void resizeByChance(int least, int mostWidth, int mostHeight);
+    void pass(int milliseconds);    ///< lets the event loop run
+    void resize(const QSize& size); ///< the window and its page
     void openPage();
     void closePage(bool isHiddenFirst = false);
-    void loseCamera(); ///< perhaps
-    /// What the module wrote since the last call, but for @p ignored features.
-    QString takeWrites(const QStringList& ignored = {});
-    void find(const QString& text);
+    /// What the module wrote since the last call.
+    QStringList takeWrites();
+    /// On an honest camera it was nothing but the features that @p allowed matches.
+    void checkWrites(const char* writer, const char* allowed);
+    void find(const QString& text) { m_run.report.find(text); }
 
 private:
+    void setPlace(const char* action);
     void closeCamera();
     void step();
     void checkRefusal();
-    void checkRest(std::int64_t memoryBefore);
+    void checkTime(std::chrono::nanoseconds begin);
     void answerDialog();
-    void checkLostTime(std::chrono::nanoseconds begin);
-    void account();
 
     const Run m_run;
     const std::uint64_t m_seed;
@@ -68,10 +65,7 @@ private:
     TabExtensionInterface::FeatureList m_features;
     QPointer<QWidget> m_page;
     QTimer m_dialogTimer;
-    QStringList m_writes;
-    bool m_isLost = false;
     int m_step = 0;
-    const char* m_action = "opening";
     bool m_isTranslated = true;
     std::uint64_t m_digest = 0;
 };

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Random.h"
 #include "Report.h"
 
 #include "simulator/Snapshot.h"
@@ -9,6 +10,7 @@
 #include <QStringList>
 
 #include <chrono>
+#include <memory>
 #include <vector>
 
 /// A camera of these sessions: what the module gets of it, and what a session sees and does past
@@ -23,28 +25,24 @@ public:
         bool hasThreads = false;
         bool countsObservers = true; ///< their registration never fails
     };
-    struct Account
-    {
-        QStringList writes; ///< as "feature=value"
-        std::uint64_t calls = 0;
-    };
+    static constexpr int selectedRegion = -1;
 
     SoakCamera() = default;
     virtual ~SoakCamera() = default;
     Q_DISABLE_COPY_MOVE(SoakCamera)
 
     const Character& character() const { return m_character; }
+    bool isLost() const { return m_isLost; }
     virtual std::vector<ZebCPP::FeaturePtr> features() const = 0;
     virtual std::size_t observerCount() const = 0;
 
     // Direct sight.
-    virtual bool has(const QString& feature) const = 0;
-    virtual QString text(const QString& feature) const = 0;
-    virtual QString textOfRegion(const QString& feature, int region) const = 0;
+    /// Empty when there is no such feature.
+    virtual QString text(const QString& feature, int region = selectedRegion) const = 0;
+    bool has(const QString& feature) const { return !text(feature).isEmpty(); }
     virtual sim::Snapshot state() const = 0;
-    /// What reached it since the last call.
-    virtual Account takeAccount() = 0;
-    virtual void tellFigures(Report&) const { }
+    /// As "feature=value", since the last call; adds all calls that reached the camera.
+    virtual QStringList takeWrites(std::uint64_t& calls) = 0;
 
     // What happens to it.
     virtual void setStreaming(bool) { }
@@ -54,9 +52,15 @@ public:
     /// From four threads, while the module works on.
     virtual void burst(int) { }
     virtual void behave() = 0; ///< from now on
-    virtual bool notifies() const { return true; }
-    virtual void flushNotifications() { }
+    /// Waits for those under way; false when it never sends any.
+    virtual bool flushNotifications() { return true; }
 
 protected:
     Character m_character;
+    bool m_isLost = false;
 };
+
+std::unique_ptr<SoakCamera> createMisbehavingCamera(const std::string& model, Random& random,
+                                                    Report& report);
+/// One that speaks GenICam.
+std::unique_ptr<SoakCamera> createGenicamCamera(Random& random, Report& report);

@@ -3,19 +3,18 @@
 #include "Session.h"
 #include "TestEvents.h"
 
-#include <QKeyEvent>
+#include <QTest>
 
 /// The page's widgets that a person can see and use now.
 template <typename Widget> QList<Widget*> usable(const Session& session)
 {
-    QList<Widget*> widgets;
-    if (!session.page())
-        return widgets;
-    const auto all = session.page()->findChildren<Widget*>();
-    for (Widget* widget : all) {
-        if (widget->isVisible() && widget->isEnabled())
-            widgets.append(widget);
-    }
+    QList<Widget*> widgets
+        = session.page() ? session.page()->findChildren<Widget*>() : QList<Widget*>();
+    widgets.erase(std::remove_if(widgets.begin(), widgets.end(),
+                                 [](const QWidget* widget) {
+                                     return !widget->isVisible() || !widget->isEnabled();
+                                 }),
+                  widgets.end());
     return widgets;
 }
 
@@ -30,21 +29,6 @@ inline void leaveField()
 {
     if (QWidget* const field = QApplication::focusWidget())
         field->clearFocus();
-}
-
-inline void sendKey(const QPointer<QWidget>& target, int key, const QString& text = {})
-{
-    for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
-        QKeyEvent event(type, key, Qt::NoModifier, text);
-        if (target)
-            QApplication::sendEvent(target, &event);
-    }
-}
-
-inline void typeText(const QPointer<QWidget>& target, const QString& text)
-{
-    for (const QChar character : text)
-        sendKey(target, character.toUpper().unicode(), QString(character));
 }
 
 inline void click(const QPointer<QWidget>& target, const QPoint& position)

@@ -16,8 +16,6 @@ namespace {
 constexpr std::int64_t perSecond = 1'000'000'000;
 /// Coarse timers are aligned to the second, so each session starts at a whole number of them.
 constexpr std::int64_t startGrid = 1000 * perSecond;
-constexpr std::int64_t fastSpeed = 10;
-constexpr auto qtCore = "libQt5Core.so";
 
 // The clock showed base when the real time was realBase, in nanoseconds; all the owner's alone.
 std::int64_t base = 0;
@@ -26,11 +24,11 @@ std::int64_t speed = 1; ///< 0: it stands still
 std::atomic<std::int64_t> sleepTime{0};
 thread_local bool isOwner = false;
 
-bool isIn(const char* library, void* caller)
+bool isQt(void* caller)
 {
     dl_find_object object{};
     return _dl_find_object(caller, &object) == 0
-        && std::strstr(object.dlfo_link_map->l_name, library);
+        && std::strstr(object.dlfo_link_map->l_name, "libQt5Core.so");
 }
 
 timespec fromNanoseconds(std::int64_t time)
@@ -43,16 +41,9 @@ std::int64_t toNanoseconds(const timespec& time)
     return time.tv_sec * perSecond + time.tv_nsec;
 }
 
-std::int64_t realTime()
-{
-    timespec time{};
-    syscall(SYS_clock_gettime, CLOCK_MONOTONIC, &time);
-    return toNanoseconds(time);
-}
-
 std::int64_t now()
 {
-    return base + (realTime() - realBase) * speed;
+    return base + (VirtualTime::real().count() - realBase) * speed;
 }
 
 } // namespace
@@ -61,13 +52,15 @@ void VirtualTime::start(Pace pace)
 {
     isOwner = true;
     base = (now() / startGrid + 1) * startGrid;
-    realBase = realTime();
-    speed = pace == Pace::Exact ? 0 : fastSpeed;
+    realBase = real().count();
+    speed = static_cast<std::int64_t>(pace);
 }
 
 std::chrono::nanoseconds VirtualTime::real()
 {
-    return std::chrono::nanoseconds(realTime());
+    timespec time{};
+    syscall(SYS_clock_gettime, CLOCK_MONOTONIC, &time);
+    return std::chrono::nanoseconds(toNanoseconds(time));
 }
 
 std::chrono::nanoseconds VirtualTime::slept()
@@ -81,9 +74,7 @@ extern "C" {
 
 SHOWN int clock_gettime(clockid_t clock, timespec* time) noexcept
 {
-    void* const caller = __builtin_return_address(0);
-    if (!isOwner || clock != CLOCK_MONOTONIC
-        || !(isIn(qtCore, caller) || (speed == 0 && isIn("libstdc++.so", caller))))
+    if (!isOwner || clock != CLOCK_MONOTONIC || (speed != 0 && !isQt(__builtin_return_address(0))))
         return static_cast<int>(syscall(SYS_clock_gettime, clock, time));
     *time = fromNanoseconds(now());
     return 0;
@@ -101,7 +92,7 @@ SHOWN int nanosleep(const timespec* time, timespec* rest)
 SHOWN int ppoll(pollfd* descriptors, nfds_t count, const timespec* timeout, const sigset_t* mask)
 {
     static const auto real = reinterpret_cast<decltype(&ppoll)>(dlsym(RTLD_NEXT, "ppoll"));
-    if (!isOwner || !timeout || !isIn(qtCore, __builtin_return_address(0)))
+    if (!isOwner || !timeout)
         return real(descriptors, count, timeout, mask);
     const std::int64_t wanted = toNanoseconds(*timeout);
     const timespec wait = fromNanoseconds(speed == 0 ? 0 : wanted / speed);

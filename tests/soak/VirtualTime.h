@@ -7,10 +7,10 @@
 namespace VirtualTime {
 
 enum class Pace {
-    /// It stands still while code runs and jumps to the next timer, so that a session replays. The
-    /// standard library's does so too, and goes on by the camera's delays.
-    Exact,
-    Fast ///< ten times as fast as the real time: for sessions with threads
+    /// It stands still while code runs and jumps to the next timer, so that a session replays. All
+    /// libraries' clocks do so too, and go on by the camera's delays.
+    Exact = 0,
+    Fast = 10 ///< times as fast as the real time: for sessions with threads
 };
 
 void start(Pace pace);

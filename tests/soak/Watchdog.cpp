@@ -3,11 +3,10 @@
 #include "VirtualTime.h"
 
 #include <array>
-#include <atomic>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
-#include <thread>
+#include <cstring>
 
 #include <pthread.h>
 #include <time.h>
@@ -18,54 +17,30 @@ extern "C" __attribute__((weak)) void __sanitizer_set_death_callback(void (*call
 namespace {
 
 constexpr std::chrono::seconds longestHang{5 * Watchdog::slowdown};
-/// Of the real time: threads wait for each other, without any work.
-constexpr std::chrono::minutes longestLock{10};
+/// Seconds of the real time: it works for ever, or threads wait for each other.
+constexpr unsigned longestSilence = 600;
 
 const pthread_t gui = pthread_self();
-std::atomic<std::chrono::nanoseconds> lastBeat{};
-std::atomic<std::chrono::nanoseconds> lastRealBeat{};
-std::atomic<std::uint64_t> currentSeed{0};
-std::atomic<int> currentStep{0};
-std::atomic<const char*> currentAction{""};
-
-// In a signal handler, so without anything that allocates but in the rarest case.
-void tellPlace()
-{
-    std::array<char, 256> text{};
-    const auto seed = static_cast<unsigned long long>(currentSeed);
-    const int length
-        = std::snprintf(text.data(), text.size(),
-                        "\nseed %llu, step %d (%s)\nreplay with: scripts/soak --replay %llu\n",
-                        seed, currentStep.load(), currentAction.load(), seed);
-    if (length > 0 && write(STDERR_FILENO, text.data(), static_cast<std::size_t>(length)) < 0)
-        std::abort();
-}
+std::chrono::nanoseconds lastBeat{};
+std::array<char, 256> place{}; // a signal's handler can format nothing
+bool tellsAll = false;
 
 void onSignal(int number)
 {
     std::signal(number, SIG_DFL);
-    tellPlace();
+    Watchdog::tellPlace();
     std::raise(number);
-}
-
-void watch()
-{
-    while (Watchdog::guiTime() - lastBeat.load() <= longestHang
-           && VirtualTime::real() - lastRealBeat.load() <= longestLock)
-        std::this_thread::sleep_for(std::chrono::milliseconds(100));
-    std::fputs("\nThe GUI thread hangs.", stderr);
-    std::abort();
 }
 
 } // namespace
 
-void Watchdog::start()
+void Watchdog::start(bool isVerbose)
 {
-    beat();
-    std::thread(watch).detach();
-    std::signal(SIGABRT, onSignal);
+    tellsAll = isVerbose;
+    for (const int number : {SIGABRT, SIGALRM})
+        std::signal(number, onSignal);
     if (__sanitizer_set_death_callback) {
-        __sanitizer_set_death_callback(tellPlace);
+        __sanitizer_set_death_callback(Watchdog::tellPlace);
         return;
     }
     for (const int number : {SIGSEGV, SIGFPE, SIGBUS, SIGILL})
@@ -74,16 +49,29 @@ void Watchdog::start()
 
 void Watchdog::beat()
 {
-    lastBeat = guiTime();
-    lastRealBeat = VirtualTime::real();
+    const auto now = guiTime();
+    if (lastBeat.count() > 0 && now - lastBeat > longestHang) {
+        std::fputs("The GUI thread was away for too long.\n", stderr);
+        std::abort();
+    }
+    lastBeat = now;
+    alarm(longestSilence);
 }
 
-void Watchdog::setPlace(std::uint64_t seed, int step, const char* action)
+void Watchdog::setPlace(std::uint64_t seed, const std::string& camera, int step, const char* action)
 {
     beat();
-    currentSeed = seed;
-    currentStep = step;
-    currentAction = action;
+    std::snprintf(place.data(), place.size(),
+                  "scripts/soak --replay %llu: camera %s, step %d, %s\n",
+                  static_cast<unsigned long long>(seed), camera.c_str(), step, action);
+    if (tellsAll)
+        tellPlace();
+}
+
+void Watchdog::tellPlace()
+{
+    if (write(STDERR_FILENO, place.data(), std::strlen(place.data())) < 0)
+        std::abort();
 }
 
 std::chrono::nanoseconds Watchdog::guiTime()

@@ -9,9 +9,6 @@
 #include <QPluginLoader>
 #include <QTemporaryDir>
 
-#include <cstdlib>
-#include <exception>
-
 namespace {
 
 /// Nothing may come out of the module into the viewer's event loop.
@@ -45,13 +42,12 @@ void runSessions(const Session::Run& run, const QCommandLineParser& options)
     constexpr int enoughFindings = 20;
     const std::chrono::duration<double, std::ratio<60>> length(options.value("minutes").toDouble());
     const auto end = VirtualTime::real() + length;
-    const std::uint64_t firstSeed = options.value("seed").toULongLong();
-    for (std::uint64_t i = 0; VirtualTime::real() < end && run.report.findings < enoughFindings;
-         ++i) {
-        const std::uint64_t seed = Random(firstSeed + i * 0xD1B54A32D192ED03u).next();
+    Random seeds(options.value("seed").toULongLong());
+    while (VirtualTime::real() < end && run.report.findings < enoughFindings) {
+        const std::uint64_t seed = seeds.next();
         Session session(run, seed);
         session.run();
-        if (!options.isSet("check-replay") || session.character().hasThreads)
+        if (!options.isSet("check-replay") || session.hasThreads())
             continue;
         Session again(run, seed);
         again.run();
@@ -81,7 +77,6 @@ int main(int argc, char** argv)
     SoakApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
     QCommandLineParser options;
-    options.addHelpOption();
     options.addOptions({
         {"minutes", "How long to run.", "N", "1"},
         {"seed", "The seed of all sessions.", "S", "1"},
@@ -95,11 +90,9 @@ int main(int argc, char** argv)
 
     QPluginLoader loader(MODULE_PATH);
     auto* const module = qobject_cast<TabExtensionInterface*>(loader.instance());
-    if (!module) {
-        std::fprintf(stderr, "%s\n", qPrintable(loader.errorString()));
-        return EXIT_FAILURE;
-    }
-    Watchdog::start();
+    if (!module)
+        qFatal("%s", qPrintable(loader.errorString()));
+    Watchdog::start(options.isSet("verbose"));
     Report& report = application.report;
     if (options.isSet("cameras")) {
         LongRuns::openAndClose(*module, report, options.value("cameras").toInt());
@@ -108,7 +101,7 @@ int main(int argc, char** argv)
     } else {
         const QStringList pictures = writePictureFiles(home.path());
         const QStringList folders = writeTranslationFolders(home.path());
-        const Session::Run run{*module, pictures, folders, report, options.isSet("verbose")};
+        const Session::Run run{*module, pictures, folders, report};
         warmUp(run);
         if (options.isSet("replay"))
             Session(run, options.value("replay").toULongLong()).run();
