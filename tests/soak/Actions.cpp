@@ -185,10 +185,10 @@ void reopen(Session& session)
 }
 
 const Action actions[]{
-    {"typing", 20, type},
+    {"typing", 20, type, Action::EditsField},
     {"dragging", 26, dragRegion},
-    {"clicking", 14, clickButton},
-    {"choosing an entry", 8, chooseEntry},
+    {"clicking", 14, clickButton, Action::EditsField},
+    {"choosing an entry", 8, chooseEntry, Action::EditsField},
     {"editing a cell", 8, editCell},
     {"picking a picture", 3, pickPicture},
     {"switching tabs", 8, switchTab, Action::Quick},

@@ -10,7 +10,8 @@ struct Action
         Quick = 1, ///< also with a lost camera
         InDrag = 2,
         ChangesCamera = 4,
-        TakesMouse = 8 ///< which ends a drag
+        TakesMouse = 8, ///< which ends a drag
+        EditsField = 16
     };
 
     const char* name;

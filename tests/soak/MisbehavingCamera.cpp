@@ -194,11 +194,11 @@ private:
     // What an honest camera may do, or nothing.
     void tire()
     {
-        const int fault = m_random.below(6);
+        const int fault = m_random.below(5);
         m_character.isStrict = fault > 2;
         for (const std::string& name : m_names) {
             if (fault == 0)
-                failByChance(name, Operations::writes(), Failure::refuse(), 0.1);
+                failByChance(name, Operations::writes(), Failure::refuse(), 0.3);
             if (fault == 1 && name != "DeviceVendorName")
                 failByChance(name, cameraReads, Failure::refuse(), 0.02);
         }

@@ -67,7 +67,7 @@ void Session::run()
     openPage();
     const int steps = random.between(10, 80);
     for (m_step = 1; m_step <= steps && m_page; ++m_step) {
-        step();
+        step(steps - m_step < 5 ? Action::EditsField : 0); // what was refused is soon forgotten
         if (!m_page && random.oneIn(2))
             openPage();
         if (m_camera->isLost() && random.oneIn(4))
@@ -106,9 +106,9 @@ void Session::closeCamera()
     m_camera.reset();
 }
 
-void Session::step()
+void Session::step(int flags)
 {
-    const Action& action = pickAction(random);
+    const Action& action = pickAction(random, flags);
     setPlace(action.name);
     m_run.report["user actions"] += 1;
     const bool isTimed = m_camera->isLost() && action.flags & Action::Quick;

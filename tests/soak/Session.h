@@ -51,7 +51,7 @@ public:
 private:
     void setPlace(const char* action);
     void closeCamera();
-    void step();
+    void step(int flags);
     void checkRefusal();
     void checkTime(std::chrono::nanoseconds begin);
     void answerDialog();
