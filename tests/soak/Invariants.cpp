@@ -92,20 +92,23 @@ private:
             compare(feature, shown.toString(), held);
     }
 
-    // The single region's band, which ends with the picture.
+    // The single region's band ends with the picture, which keeps the rounded aspect ratio of the
+    // size at which it was chosen.
     void compareBand(const QLabel* label)
     {
         if (m_state.regions.empty() || m_state.maximum.isEmpty())
             return;
-        const QSize room = label->pixmap(Qt::ReturnByValue).size();
-        const double scale = double(room.width()) / double(m_state.maximum.width);
+        const double sensorWidth = double(m_state.maximum.width);
+        const double ratio = sensorWidth / double(m_state.maximum.height);
+        const double scale
+            = std::min(label->width(), int(label->height() * ratio + 0.5)) / sensorWidth;
+        const QSizeF room = label->pixmap(Qt::ReturnByValue).size();
         const QRect band = label->findChild<QRubberBand*>()->geometry();
         const QRect region = rectOf(m_state.regions.front());
-        const double right = std::min(scale * (region.x() + region.width()), double(room.width()));
-        const double bottom
-            = std::min(scale * (region.y() + region.height()), double(room.height()));
-        compare("the band's left", band.x(), scale * region.x(), 1.5);
-        compare("the band's top", band.y(), scale * region.y(), 1.5);
+        const double right = std::min(scale * (region.x() + region.width()), room.width());
+        const double bottom = std::min(scale * (region.y() + region.height()), room.height());
+        compare("the band's left", band.x(), scale * region.x(), 1.0);
+        compare("the band's top", band.y(), scale * region.y(), 1.0);
         compare("the band's right", band.x() + band.width(), right, 2.5);
         compare("the band's bottom", band.y() + band.height(), bottom, 2.5);
     }

@@ -198,7 +198,8 @@ private:
         m_character.isStrict = fault > 2;
         for (const std::string& name : m_names) {
             if (fault == 0)
-                failByChance(name, Operations::writes(), Failure::refuse(), 0.3);
+                failByChance(name, Operations::writes(), Failure::refuse(),
+                             m_random.pick({0.1, 1.0}));
             if (fault == 1 && name != "DeviceVendorName")
                 failByChance(name, cameraReads, Failure::refuse(), 0.02);
         }
