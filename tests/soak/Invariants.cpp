@@ -48,8 +48,8 @@ public:
     {
         for (const QWidget* const widget : usable<QWidget>(session)) {
             compareField(widget);
-            if (widget->inherits("RegionTableWidget"))
-                compareTable(static_cast<const QAbstractItemView*>(widget));
+            if (widget->inherits("QTableView") && around(widget, "RegionTableWidget"))
+                compareTable(static_cast<const QTableView*>(widget));
             else if (widget->inherits("MultiRubberBandLabel") && m_state.hasMultipleRegions)
                 compareBands(widget);
             else if (widget->inherits("RubberBandLabel") && around(widget, "AOIWidget"))
@@ -129,7 +129,7 @@ private:
             compare("the number of bands", QString::number(shown), QString::number(least));
     }
 
-    void compareTable(const QAbstractItemView* table)
+    void compareTable(const QTableView* table)
     {
         const auto* const tabs = around<QTabWidget>(table);
         const int region = tabs ? tabs->currentIndex() : 0;
