@@ -226,6 +226,8 @@ void RegionWriter::readSelected()
 {
     const Call call(*this);
     m_selected = m_camera.readSelected();
+    if (!m_selected)
+        keepUntold(m_tabs.current()); // what has changed is told of the selected region alone
     if (!m_selected || !m_tabs.has(*m_selected) || follow(*m_selected))
         return;
     m_moved << *m_selected;

@@ -30,11 +30,11 @@ private slots:
                 const QString& feature = geometry[random.bounded(4)];
                 const bool wasInLine = outOfLine(open).isEmpty();
                 // Now and then a read is refused; what is shown stays.
-                const bool isRefusing = action < 3 && random.bounded(3) == 0;
+                const bool isRefusing = action < 3;
                 if (isRefusing)
                     open.camera->failures().add(sim::FailureInjector::anyFeature,
                                                 sim::Operation::GetValue, sim::Failure::refuse(),
-                                                sim::Occurrence::randomly(0.05, step));
+                                                sim::Occurrence::randomly(0.05, step + 1));
                 bool mayLeaveLine = isRefusing;
                 if (action == 0) {
                     // Escape keeps what the arrangement needs; a button may stay without a place.
