@@ -129,6 +129,8 @@ private slots:
         told.increment = 4.0;
         QCOMPARE(*evenOffsets(told).minimum, 3.0);
         QCOMPARE(*evenOffsets(told).increment, 4.0);
+        QVERIFY(needsEvenSize("/ImageFormat", "YUV422"));
+        QVERIFY(!needsEvenSize("/ImageFormat/AOI", "BayerRG8"));
         QVERIFY(!evenOffsets({}).minimum && !evenOffsets({}).maximum && !evenOffsets({}).increment);
     }
 

@@ -147,6 +147,7 @@ private slots:
         row("Vertical 0 1 on", "below", none, "", "");
         row("Horizontal 012 2 off", "off", none, "2", "");
         row("Horizontal 012 1 off", "off", Question::SubsequentOff, "54321", "");
+        row("Vertical 05 0 off", "off", Question::SubsequentOff, "543210", "");
         row("Tile 012 0 off", "right", none, "", "");
         row("Tile 0 1 on", "right", none, "", "");
         row("Tile 0 2 on", "below", none, "", "");
