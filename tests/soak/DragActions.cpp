@@ -2,21 +2,9 @@
 #include "Invariants.h"
 #include "UserInput.h"
 
-#include <QLabel>
 #include <QRubberBand>
 
 namespace {
-
-// The pictures are the labels that carry bands.
-QPointer<QLabel> anyPicture(Session& session)
-{
-    QList<QLabel*> pictures;
-    for (QLabel* const label : usable<QLabel>(session)) {
-        if (label->findChild<QRubberBand*>())
-            pictures.append(label);
-    }
-    return pictures.isEmpty() ? nullptr : session.random.pick(pictures);
-}
 
 QPoint anyPoint(Random& random, const QSize& size)
 {
@@ -26,7 +14,7 @@ QPoint anyPoint(Random& random, const QSize& size)
 }
 
 // Mostly at an edge, a corner or the middle of a band, and a little beside it.
-QPoint pressPoint(Random& random, const QLabel& picture, bool isInside)
+QPoint pressPoint(Random& random, const QWidget& picture, bool isInside)
 {
     const QRect band = random.pick(picture.findChildren<QRubberBand*>())->geometry();
     if (isInside)
@@ -44,9 +32,10 @@ QPoint pressPoint(Random& random, const QLabel& picture, bool isInside)
 void dragRegion(Session& session)
 {
     Random& random = session.random;
-    const QPointer<QLabel> picture = anyPicture(session);
-    if (!picture)
+    const auto* const anyBand = anyUsable<QRubberBand>(session);
+    if (!anyBand)
         return;
+    const QPointer<QWidget> picture = anyBand->parentWidget();
     // What was typed is written before the drag begins, or when its field is left.
     const bool isTyped = random.oneIn(4);
     if (isTyped)

@@ -8,13 +8,12 @@
 /// The page's widgets that a person can see and use now.
 template <typename Widget> QList<Widget*> usable(const Session& session)
 {
-    QList<Widget*> widgets
-        = session.page() ? session.page()->findChildren<Widget*>() : QList<Widget*>();
-    widgets.erase(std::remove_if(widgets.begin(), widgets.end(),
-                                 [](const QWidget* widget) {
-                                     return !widget->isVisible() || !widget->isEnabled();
-                                 }),
-                  widgets.end());
+    QList<Widget*> widgets;
+    const auto all = session.page() ? session.page()->findChildren<Widget*>() : widgets;
+    for (Widget* const widget : all) {
+        if (widget->isVisible() && widget->isEnabled())
+            widgets.append(widget);
+    }
     return widgets;
 }
 
