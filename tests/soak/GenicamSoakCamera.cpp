@@ -94,8 +94,8 @@ public:
         m_writes = takeWrites(m_report["SDK calls"]); // the module's
         const int step = maximum < 16 ? 1 : 8;
         const int steps = static_cast<int>(maximum - minimum) / step;
-        const std::int64_t value = minimum + step * m_random.below(std::max(steps, 0) + 1);
-        m_camera.writeAsOtherClient(name, std::to_string(value));
+        const int more = step * m_random.below(std::max(steps, 0) + 1);
+        m_camera.writeAsOtherClient(name, std::to_string(minimum + more));
         m_device->takeWrites();
     }
 

@@ -100,8 +100,9 @@ private:
             return;
         const double sensorWidth = double(m_state.maximum.width);
         const double ratio = sensorWidth / double(m_state.maximum.height);
-        const double scale
-            = std::min(label->width(), int(label->height() * ratio + 0.5)) / sensorWidth;
+        const double width
+            = std::min(double(label->width()), std::floor(label->height() * ratio + 0.5));
+        const double scale = width / sensorWidth;
         const QSizeF room = label->pixmap(Qt::ReturnByValue).size();
         const QRect band = label->findChild<QRubberBand*>()->geometry();
         const QRect region = rectOf(m_state.regions.front());

@@ -19,8 +19,8 @@
 
 namespace {
 
-const std::string memory = "KiB of memory";
-const std::string heap = "KiB of heap in use";
+constexpr auto memory = "KiB of memory";
+constexpr auto heap = "KiB of heap in use";
 
 using Holdings = std::map<std::string, long long>;
 
@@ -35,7 +35,7 @@ Holdings lookAndPrint(const std::string& title)
     for (QObject* const object : qApp->findChildren<QObject*>())
         timers += QAbstractEventDispatcher::instance()->registeredTimers(object).size();
     const auto everything = QDir::NoDotAndDotDot | QDir::AllEntries | QDir::System;
-    const Holdings held{
+    Holdings held{
         {memory, pages.readAll().split(' ').value(1).toLongLong() * sysconf(_SC_PAGESIZE) >> 10},
         {heap, static_cast<long long>((blocks.uordblks + blocks.hblkhd) >> 10)},
         {"descriptors", QDir("/proc/self/fd").entryList(everything).size()},
@@ -54,7 +54,7 @@ bool hasGrown(Holdings before, Holdings after)
 {
     constexpr long long tolerance = 1024;
     const bool isLarger = after[memory] - before[memory] > tolerance;
-    for (const std::string& what : {memory, heap})
+    for (const char* what : {memory, heap})
         before[what] = after[what];
     return isLarger || after != before;
 }

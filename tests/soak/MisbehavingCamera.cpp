@@ -89,7 +89,6 @@ public:
         for (std::size_t kind = 0; kind < Failure::kindCount; ++kind)
             m_report["injected failures"]
                 += m_camera->failures().injected(static_cast<Failure::Kind>(kind));
-        m_report["cameras lost"] += m_isLost ? 1 : 0;
         m_report["notifications"] += m_camera->notificationCount();
     }
 

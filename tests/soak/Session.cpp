@@ -101,8 +101,10 @@ void Session::setPlace(const char* action)
 
 void Session::closeCamera()
 {
-    if (m_camera)
-        takeWrites();
+    if (!m_camera)
+        return;
+    takeWrites();
+    m_run.report["cameras lost"] += m_camera->isLost() ? 1 : 0;
     m_camera.reset();
 }
 
@@ -205,7 +207,7 @@ void Session::checkTime(std::chrono::nanoseconds begin)
 QStringList Session::takeWrites()
 {
     std::uint64_t calls = 0;
-    const QStringList writes = m_camera->takeWrites(calls);
+    QStringList writes = m_camera->takeWrites(calls);
     m_digest = (m_digest ^ qHash(writes) ^ calls) * 0x100000001B3u;
     m_run.report["SDK calls"] += calls;
     return writes;
