@@ -2,6 +2,7 @@
 #include "DataTable.h"
 #include "SimulatedCamera.h"
 #include "features/NumberConversion.h"
+#include "features/SdkValues.h"
 
 #include <cmath>
 #include <limits>
@@ -152,6 +153,35 @@ private slots:
     }
     void knowsWhatItRead() { runRow(); }
 
+    /// Each word is a feature, read slowly and in vain; "=" before it: with success, "~": refused
+    /// at once.
+    void cameraIsLost_data()
+    {
+        const DataTable row([](const QString& reads, bool isLost) {
+            CameraLink link;
+            for (QString name : reads.split(' ', Qt::SkipEmptyParts)) {
+                const bool isRead = name.startsWith('=');
+                const bool isQuick = name.startsWith('~');
+                link.told(name.remove('=').remove('~'), isRead ? Sdk::success : Sdk::notFound,
+                          std::chrono::milliseconds(isQuick ? 99 : 100));
+            }
+            QCOMPARE(link.isLost(), isLost);
+            QCOMPARE(link.takeLoss(), isLost);
+            QVERIFY(!link.takeLoss());
+            QVERIFY(!link.isClosed());
+            const auto manyReads = link.manyReads();
+            QCOMPARE(link.isClosed(), isLost);
+        });
+        row("one feature", "A A A", false);
+        row("two features", "A A B", true);
+        row("an answer between", "A =C B", false);
+        row("refused at once", "~A ~B A ~C B", false);
+        row("back", "A B =A", false);
+        row("back with a refusal", "A B ~A", false);
+        row("lost again", "A B =A B A", true);
+    }
+    void cameraIsLost() { runRow(); }
+
     void answersDefaults()
     {
         Fixture f;
@@ -201,7 +231,6 @@ private slots:
         row("description with a place marker", "Trigger",
             "<b>Feature Description:</b> <br/>100 %1 sure<br/><b>Feature Name:</b> Trigger<br/>"
             "<b>Visibility:</b> INVISIBLE<br/><b>Type:</b> Command<br/><b>Category:</b> /<br/>");
-        row("missing", "NoSuch", "");
     }
     void describesFeatures() { runRow(); }
 };

@@ -10,9 +10,9 @@ using sim::Operation;
 
 namespace {
 
-std::shared_ptr<ZebFeatureWrapper> wrap(const sim::Camera& camera, std::size_t index = 0)
+std::shared_ptr<ZebFeatureWrapper> wrap(const sim::Camera& camera)
 {
-    return std::make_shared<ZebFeatureWrapper>(camera.features().at(index));
+    return std::make_shared<ZebFeatureWrapper>(camera.features().front());
 }
 
 } // namespace

@@ -44,6 +44,8 @@ class ImageFormatWidgetTest : public QObject
     Q_OBJECT
 
 private slots:
+    void initTestCase() { QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs); }
+
     void writesAndShowsWhatTheCameraTook()
     {
         const OpenPage p;
@@ -169,7 +171,6 @@ private slots:
 
     void tellsWhyAPictureCannotBeUsed()
     {
-        QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
         const OpenPage p;
         QSignalSpy log(p.page.get(), &ImageFormatWidget::loggingMessage);
         QTemporaryFile file;
@@ -188,7 +189,6 @@ private slots:
     // Its end gives the focus back to a field, which tells the page.
     void outlivesItsPictureDialog()
     {
-        QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
         for (const bool asks : {false, true}) { // that the file is missing
             OpenPage p;
             QPointer<QFileDialog> dialog;

@@ -52,8 +52,6 @@ private slots:
         row("nearer below", 0, 100, 8, 11, false, 8);
         row("half way goes up", 0, 100, 8, 12, false, 16);
         row("above, maximum off the grid", 16, 100, 8, 200, false, 96);
-        row("no increment", 0, 9, 0, 7, true, 7);
-        row("negative minimum", -5, 5, 2, -1, true, -1);
         row("whole 64 bits", lowest, highest, 1, highest, true, highest);
         row("minimum over maximum", 10, 5, 1, 7, false, -99);
     }

@@ -116,7 +116,6 @@ private slots:
         });
         row("German", "de_DE.UTF-8", "de");
         row("French of Canada", "fr_CA.UTF-8", "fr");
-        row("Japanese", "ja_JP.UTF-8", "ja");
         row("Simplified Chinese", "zh_CN.UTF-8", "zh_CN");
         row("Traditional Chinese", "zh_TW.UTF-8", "");
         row("English", "en_US.UTF-8", "");

@@ -1,18 +1,20 @@
 #include "MainWindow.h"
 #include "CameraFinder.h"
+#include "CameraSession.h"
 #include "DataTable.h"
-#include "SimulatedModels.h"
+#include "FeatureTablePane.h"
+#include "SimulatedSource.h"
 #include "UserInput.h"
 
 #include <QAbstractSpinBox>
-#include <QAction>
 #include <QDockWidget>
 #include <QFile>
 #include <QFontInfo>
 #include <QLineEdit>
-#include <QListWidget>
 #include <QPushButton>
 #include <QSettings>
+#include <QSpinBox>
+#include <QTableWidget>
 #include <QTemporaryDir>
 #include <QTextStream>
 
@@ -129,28 +131,6 @@ private slots:
         runRow();
     }
 
-    void filterNarrowsTheCameras()
-    {
-        const Fixture f;
-        const auto* list = f.find<QListWidget>("cameraList");
-        const auto shown = [&](const char* filter) {
-            f.find<QLineEdit>("cameraFilter")->setText(filter);
-            QStringList names;
-            for (int item = 0; item < list->count(); ++item)
-                if (!list->item(item)->isHidden())
-                    names << list->item(item)->text();
-            return names;
-        };
-        QCOMPARE(shown("").size(), SimulatedModels::all().size());
-        QCOMPARE(shown("sTANDARD").size(), 3);
-        QCOMPARE(list->currentItem()->text(), QString("Standard camera, 5 megapixels"));
-        QCOMPARE(shown("single pixels"), QStringList("Colour camera")); // the description
-        QCOMPARE(shown("multi-region-6"), QStringList("Six regions"));  // the ID
-        QCOMPARE(list->currentItem()->text(), QString("Six regions"));
-        QCOMPARE(shown("unheard of"), QStringList());
-        QVERIFY(!list->currentItem());
-    }
-
     /// Three to one beside the window's colour is a grey of 119.
     void outlinesItsControlsInTheDark()
     {
@@ -215,11 +195,46 @@ private slots:
         window.show();
         QVERIFY(logOf(window)->isHidden());
         QCOMPARE(window.size(), QSize(1400, 900));
-        const auto actions = window.findChildren<QAction*>();
-        for (QAction* action : actions)
-            if (action->text() == "&First layout")
-                action->trigger();
-        QVERIFY(!logOf(window)->isHidden());
+    }
+
+    void tableShowsWhatTheCameraMadeOfAnEdit()
+    {
+        CameraSession session({}, std::make_unique<SimulatedSource>(QString("current")));
+        FeatureTablePane pane;
+        pane.setSession(&session);
+        pane.resize(600, 400);
+        pane.show();
+        pane.setSeen(true);
+        QApplication::setActiveWindow(&pane);
+        const auto* table = pane.findChild<QTableWidget*>(QString("tblFeatures"));
+        const auto names = table->model()->match(table->model()->index(0, 0), Qt::UserRole,
+                                                 QString("Width"), 1, Qt::MatchExactly);
+        const auto shown = [&] { return table->item(names.first().row(), 1)->text().toInt(); };
+        const auto open = [&] {
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); // the last one
+            pane.edit(QString("Width"));
+            return table->findChild<QSpinBox*>(QString("editorField"));
+        };
+        QSpinBox* field = open();
+        QVERIFY(field->singleStep() > 1);
+        const int aligned = shown() - field->singleStep();
+        field->setValue(aligned);
+        QTest::keyClick(field, Qt::Key_Return);
+        QCOMPARE(shown(), aligned);
+
+        // The camera keeps its value, so it has nothing to notify of.
+        field = open();
+        field->setValue(aligned + 1);
+        QCOMPARE(field->value(), aligned + 1);
+        QTest::keyClick(field, Qt::Key_Return);
+        QTRY_COMPARE(shown(), aligned);
+
+        field = open();
+        session.camera().writeAsOtherClient(QString("Width"), QString("640"));
+        QTest::qWait(700); // the pane gathers for half a second
+        QCOMPARE(shown(), aligned);
+        QTest::keyClick(field, Qt::Key_Escape);
+        QTRY_COMPARE(shown(), 640);
     }
 
 private:

@@ -6,19 +6,6 @@
 
 #include <QTest>
 
-namespace {
-
-constexpr int tolerance = 8; ///< of antialiased edges
-
-bool isBlack(const QImage& image)
-{
-    QImage black(image.size(), QImage::Format_RGB32);
-    black.fill(Qt::black);
-    return largestDifference(image, black) == 0;
-}
-
-} // namespace
-
 class TestPatternTest : public QObject
 {
     Q_OBJECT
@@ -36,7 +23,6 @@ private slots:
             QCOMPARE(placement.sensor, QRectF(0, 25, 200, 150));
             QCOMPARE(placement.frame, frame);
         });
-        row("whole sensor", {1, 1}, {}, {0, 25, 200, 150});
         row("region", {1, 1}, {100, 60, 40, 20}, {50, 55, 20, 10});
         row("binned", {2, 2}, {}, {50, 62.5, 100, 75});
         row("binned region", {2, 2}, {10, 20, 40, 20}, {55, 72.5, 20, 10});
@@ -54,10 +40,13 @@ private slots:
         camera.writeAsOtherClient(QString("Height"), QString("240"));
         camera.writeAsOtherClient(QString("OffsetX"), QString("640"));
         camera.writeAsOtherClient(QString("OffsetY"), QString("480"));
+        constexpr int tolerance = 8; // of antialiased edges
         const QImage placed = session.lastFrame().toImage();
         QCOMPARE(placed.size(), all.size());
         QVERIFY(largestDifference(placed.copy(region), all.copy(region)) <= tolerance);
-        QVERIFY(isBlack(placed.copy(0, 0, all.width(), region.y())));
+        QImage dark(all.width(), region.y(), QImage::Format_RGB32);
+        dark.fill(Qt::black);
+        QCOMPARE(largestDifference(placed.copy(dark.rect()), dark), 0);
 
         // Reversing mirrors the picture within its region.
         camera.writeAsOtherClient(QString("ReverseX"), QString("true"));
