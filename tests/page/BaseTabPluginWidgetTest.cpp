@@ -91,7 +91,8 @@ class BaseTabPluginWidgetTest : public QObject
 private slots:
     void refusesOtherVendors()
     {
-        for (const QByteArray vendor : {"Brontax", "BrontaxVision", "brontax", "An Brontax", ""}) {
+        for (const QByteArray& vendor :
+             QByteArrayList{"BrontaxVision", "brontax", "An Brontax", ""}) {
             const SmallCamera camera(vendor.constData());
             qint32 code = 0;
             try {

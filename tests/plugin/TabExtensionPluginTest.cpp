@@ -89,17 +89,18 @@ private slots:
 
     void connectsWhatIsNamed()
     {
-        for (const QString missing : {"connectWidgetToSignal", "connectLoggingSlot", "all"}) {
+        for (const QString& key :
+             QStringList{"connectWidgetToSignal", "connectLoggingSlot", "all"}) {
             const auto camera = sim::createCamera("current");
             Host host;
             auto* const page = new QWidget(&host);
             auto connections = Host::connections();
-            connections.remove(missing);
-            const auto* const table = missing == "all" ? nullptr : &connections;
+            connections.remove(key);
+            const auto* const table = key == "all" ? nullptr : &connections;
             QCOMPARE(m_plugin->createTab(featureList(*camera), page, table), 0);
             emit host.streaming(true);
             QCOMPARE(page->findChild<QWidget*>("frmImageFormat")->isEnabled(),
-                     missing != "connectLoggingSlot");
+                     key != "connectLoggingSlot");
             delete page;
         }
     }
