@@ -30,7 +30,7 @@ Reading<double> limitedNumber(FeatureReader reader, int parts)
 /// Logs when there is none.
 FeatureReader readOrLog(const FeatureManager& manager, const char* operation, const QString& name)
 {
-    const FeatureReader feature = manager.Read(name);
+    FeatureReader feature = manager.Read(name);
     const QByteArray caller = QByteArray("Error: FeatureManager::") + operation;
     if (!feature)
         qDebug() << (caller + "() - cannot get ZebFeatureWrapperPtr for ").constData() << name;
