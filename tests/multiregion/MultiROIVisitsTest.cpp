@@ -32,9 +32,10 @@ private slots:
                 // Now and then a read is refused; what is shown stays.
                 const bool isRefusing = action < 3;
                 if (isRefusing)
-                    open.camera->failures().add(sim::FailureInjector::anyFeature,
-                                                sim::Operation::GetValue, sim::Failure::refuse(),
-                                                sim::Occurrence::randomly(0.05, step + 1));
+                    open.camera->failures().add(
+                        sim::FailureInjector::anyFeature, sim::Operation::GetValue,
+                        sim::Failure::refuse(),
+                        sim::Occurrence::randomly(0.05, std::uint64_t(step) + 1));
                 bool mayLeaveLine = isRefusing;
                 if (action == 0) {
                     // Escape keeps what the arrangement needs; a button may stay without a place.

@@ -24,7 +24,7 @@ Numbers region(const AutoROIPage& p)
 void setRegion(sim::Camera& camera, const Numbers& numbers)
 {
     for (int i = 0; i < 4; ++i)
-        camera.force(regionFields(camera, true)[i].second.toStdString(), numbers[i]);
+        camera.force(regionFields(camera, true).at(i).second.toStdString(), numbers[i]);
 }
 
 /// The edges of an axis bound each other.
@@ -281,7 +281,7 @@ private slots:
     {
         for (const char* model : {"aoi", "dsp"}) {
             const AutoROIPage p(model, [](sim::Camera& camera) {
-                const std::string name = regionFields(camera, true)[2].second.toStdString();
+                const std::string name = regionFields(camera, true).at(2).second.toStdString();
                 camera.failures().add(name, sim::Operation::GetValue, sim::Failure::refuse());
             });
             QCOMPARE(p.constructionWrites.join(", "), QString());

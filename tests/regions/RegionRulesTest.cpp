@@ -69,9 +69,9 @@ private slots:
     void judgesEdges()
     {
         const auto isJudged = [](double top, double bottom, const Span<int>& drawn) {
-            const AutoRegion region{{0.0, 10.0}, spanBetween(top, bottom)};
-            const bool isDrawnSo = spanOf(drawnByEdges(region, {10, 20}), Qt::Vertical) == drawn;
-            return isDrawnSo && hasValidEdges(region, {10, 20}) == (drawn.length > 0);
+            const AutoRegion area{{0.0, 10.0}, spanBetween(top, bottom)};
+            const bool isDrawnSo = spanOf(drawnByEdges(area, {10, 20}), Qt::Vertical) == drawn;
+            return isDrawnSo && hasValidEdges(area, {10, 20}) == (drawn.length > 0);
         };
         QVERIFY(isJudged(0, 20, {0, 20}));
         QVERIFY(isJudged(5, 5, {5, 0}));
@@ -96,11 +96,11 @@ private slots:
     void drawsWithoutTheOrigin()
     {
         const QPointF origin(8.0, 4.0);
-        const AutoRegion region = fromLabel({20, 10, 70, 50}, origin);
-        QCOMPARE(region.horizontal.end(), 98.0);
-        QCOMPARE(region.vertical.end(), 64.0);
-        QVERIFY((drawnBySize(region, origin, {60, 100}) == QRect(20, 10, 60, 50)));
-        QVERIFY((drawnBySize(region, origin, {15, 100}) == QRect(15, 10, 15, 50)));
+        const AutoRegion area = fromLabel({20, 10, 70, 50}, origin);
+        QCOMPARE(area.horizontal.end(), 98.0);
+        QCOMPARE(area.vertical.end(), 64.0);
+        QVERIFY((drawnBySize(area, origin, {60, 100}) == QRect(20, 10, 60, 50)));
+        QVERIFY((drawnBySize(area, origin, {15, 100}) == QRect(15, 10, 15, 50)));
     }
 
     void snaps()

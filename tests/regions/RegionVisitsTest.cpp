@@ -159,7 +159,7 @@ void visit(const QByteArray& model, const NotificationSettings& notifications, i
         const bool isRefusing = i % 2 == 1;
         if (isRefusing)
             page.camera->failures().add("*", reads, sim::Failure::refuse(),
-                                        sim::Occurrence::randomly(0.1, i));
+                                        sim::Occurrence::randomly(0.1, std::uint64_t(i)));
         const bool takesAll = visitor.act();
         QVERIFY2(!takesAll || isRefusing || !page.anyRefused(),
                  qPrintable(page.writes().join(", ")));
