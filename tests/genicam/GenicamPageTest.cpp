@@ -186,6 +186,20 @@ private slots:
         QCOMPARE(Page::refusals, 0);
     }
 
+    void survivesTheLossInMidEdit()
+    {
+        auto p = std::make_unique<Page>(false);
+        p->field("spinWidth")->setFocus();
+        QTest::keyClicks(p->field("spinWidth"), "8");
+        p->device->fail(ByteArrayDevice::Timeout, std::chrono::milliseconds(800));
+        QElapsedTimer timer;
+        timer.start();
+        QTest::keyClick(p->field("spinWidth"), Qt::Key_Return);
+        p->page->hide();
+        p.reset();
+        QVERIFY2(timer.elapsed() < 2000, qPrintable(QString::number(timer.elapsed())));
+    }
+
     /// A frame of a region lies at its place in the picture that the page gets.
     void streamsIntoThePage()
     {
