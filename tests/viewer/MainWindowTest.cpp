@@ -7,10 +7,12 @@
 #include "UserInput.h"
 
 #include <QAbstractSpinBox>
+#include <QAction>
 #include <QDockWidget>
 #include <QFile>
 #include <QFontInfo>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QPushButton>
 #include <QSettings>
 #include <QSpinBox>
@@ -153,6 +155,17 @@ private slots:
         }
     }
 
+    void filterNarrowsTheCameras()
+    {
+        const Fixture f;
+        f.find<QLineEdit>("cameraFilter")->setText("the most THAT");
+        const auto* const list = f.window.findChild<QListWidget*>();
+        int shown = 0;
+        for (int row = 0; row < list->count(); ++row)
+            shown += list->item(row)->isHidden() ? 0 : 1;
+        QCOMPARE(shown, 1);
+    }
+
     /// Panes behind others come forward; what has no control for the keyboard is passed over.
     void keyGoesRoundThePanes()
     {
@@ -195,6 +208,11 @@ private slots:
         window.show();
         QVERIFY(logOf(window)->isHidden());
         QCOMPARE(window.size(), QSize(1400, 900));
+        const auto actions = window.findChildren<QAction*>();
+        for (QAction* action : actions)
+            if (action->text() == "&First layout")
+                action->trigger();
+        QVERIFY(!logOf(window)->isHidden());
     }
 
     void tableShowsWhatTheCameraMadeOfAnEdit()
