@@ -331,8 +331,7 @@ QStringList MultiROIWidget::refresh(const Changes& changes)
     take(Name::multipleRegionSwitches, [this] { return refreshSwitch(); });
     take({Name::multipleRegionArrangement}, [this] { return refreshArrangement(); });
     take(Name::pictureGeometry, [this] { return m_settings->testCompatibility(); });
-    if (changes.any({Name::subRegionSelector}))
-        followSelector();
+    take({Name::subRegionSelector}, [this] { return followSelector(); });
     const QSize formerSensor = m_label->sensorSize();
     take(Name::sizeLimits, [this] { return refreshSensor(); });
     const bool isSensorNew = m_label->sensorSize() != formerSensor;
@@ -356,16 +355,17 @@ void MultiROIWidget::refreshRegions(const QStringList& names)
     m_writer->lookIfDue();
 }
 
-void MultiROIWidget::followSelector()
+// Each of the following answers whether the camera has told it.
+
+bool MultiROIWidget::followSelector()
 {
     const std::optional<int> region = m_regions.readSelected();
-    if (!region || !isRegion(*region) || region == m_regions.lastSelected())
-        return;
-    selectRegionTab(*region);
-    m_tabs->setChecked(*region, m_regions.readOn().value_or(m_tabs->isActive(*region)));
+    if (region && isRegion(*region) && region != m_regions.lastSelected()) {
+        selectRegionTab(*region);
+        m_tabs->setChecked(*region, m_regions.readOn().value_or(m_tabs->isActive(*region)));
+    }
+    return region.has_value();
 }
-
-// Each of the following answers whether the camera has told it.
 
 bool MultiROIWidget::refreshSensor()
 {

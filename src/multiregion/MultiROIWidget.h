@@ -79,7 +79,7 @@ private:
     bool refreshSensor();
     bool refreshSwitch();
     bool refreshArrangement();
-    void followSelector();
+    bool followSelector();
     void refreshRegions(const QStringList& names);
 
     std::unique_ptr<Ui::MultiROIWidget> m_ui;
