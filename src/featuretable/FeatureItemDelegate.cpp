@@ -77,6 +77,9 @@ QWidget* FeatureItemDelegate::createEditor(QWidget* parent, const QStyleOptionVi
     }
     using Self = FeatureItemDelegate;
     connect(m_editor, &DelegateWidget::editingFinished, this, &Self::commitAndCloseEditor);
+    connect(m_editor, &DelegateWidget::newBoolValueToSet, this, &Self::commitAndCloseEditor);
+    connect(m_editor, &DelegateWidget::newStringValueToSet, this, &Self::commitAndCloseEditor);
+    connect(m_editor, &DelegateWidget::newIntValueToSet, this, &Self::commitAndCloseEditor);
     connect(m_editor, &DelegateWidget::sliderValueChanged, this, &Self::commitEditor);
     connect(m_editor, &DelegateWidget::editingCancelled, this, &Self::onClose);
     return m_editor;

@@ -10,7 +10,11 @@ BooleanEditor::BooleanEditor(const FeatureInfo& info, QWidget* parent)
     QPalette outlined = palette();
     outlined.setColor(QPalette::Window, outlined.color(QPalette::Disabled, QPalette::Text));
     m_box->setPalette(outlined);
-    connect(m_box, &QCheckBox::clicked, this, &BooleanEditor::confirm);
+    connect(m_box, &QCheckBox::clicked, this, [this](bool checked) {
+        touch();
+        if (end())
+            emit newBoolValueToSet(checked);
+    });
 }
 
 bool BooleanEditor::showValue(const QVariant& value)

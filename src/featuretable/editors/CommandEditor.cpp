@@ -22,5 +22,6 @@ void CommandEditor::confirm()
 {
     touch();
     forgetKnownValue();
-    finish();
+    if (end())
+        emit newIntValueToSet(m_value.toLongLong());
 }

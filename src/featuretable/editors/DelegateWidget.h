@@ -8,7 +8,7 @@
 #include <utility>
 
 /// The editor in a value cell; one derived class for each kind. It knows the cell's record and
-/// nothing of the camera: it asks to be committed through its signals, to be closed but once.
+/// nothing of the camera: it asks to be committed through its signals, each of the first four once.
 ///
 /// A value is new when the user acted on a control or pressed Return, and it differs from the
 /// camera's.
@@ -39,6 +39,9 @@ public:
 
 signals:
     void editingFinished();
+    void newBoolValueToSet(bool value);
+    void newStringValueToSet(const QString& value);
+    void newIntValueToSet(qint64 value);
     void sliderValueChanged(double value);
     void editingCancelled();
 

@@ -42,6 +42,6 @@ bool EnumerationEditor::eventFilter(QObject* watched, QEvent* event)
 void EnumerationEditor::onActivated()
 {
     touch();
-    if (!m_isStepping)
-        finish();
+    if (!m_isStepping && end())
+        emit newStringValueToSet(m_box->currentText());
 }
