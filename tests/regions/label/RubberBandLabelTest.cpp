@@ -223,7 +223,7 @@ private:
     {
         QImage image(400, 300, QImage::Format_RGB32);
         auto* const pixels = reinterpret_cast<QRgb*>(image.bits());
-        QRandomGenerator::global()->fillRange(pixels, image.width() * image.height());
+        QRandomGenerator::global()->fillRange(pixels, qsizetype(image.width()) * image.height());
         const auto noise = std::make_shared<QPixmap>(QPixmap::fromImage(image));
         m_label->showBackground(noise, {1600, 1200}, {});
         QCoreApplication::processEvents();
