@@ -255,7 +255,7 @@ template <typename Preset> void AutoROIWidget::applyPreset(const Preset& preset)
 {
     if (!m_ui || isAtWork())
         return;
-    m_view->refresh(); // the fields emit what differs from the camera
+    visit([this] { m_view->refresh(); }); // the fields emit what differs from the camera
     m_writer->writeFullArea();
     preset();
     showEdgeProblems(*m_ui, *m_camera, m_view->shown());

@@ -12,12 +12,11 @@ namespace Name = FeatureNames;
 
 AutoRegionCamera::AutoRegionCamera(FeatureManager& manager)
     : m_manager(manager)
+    , m_featureNames(manager.GetFeatureNames())
 {
-    const QStringList existing = featureNames();
-    const auto first = [&existing](std::initializer_list<QString> candidates) {
-        const auto found
-            = std::find_if(candidates.begin(), candidates.end(),
-                           [&](const QString& name) { return existing.contains(name); });
+    const auto first = [this](std::initializer_list<QString> candidates) {
+        const auto found = std::find_if(candidates.begin(), candidates.end(),
+                                        [&](const QString& name) { return has(name); });
         return found == candidates.end() ? QString() : *found;
     };
     m_names = {first({Name::dspTop, Name::aoiOffsetY, Name::autoModeOffsetY}),
@@ -29,7 +28,7 @@ AutoRegionCamera::AutoRegionCamera(FeatureManager& manager)
     m_usesEdges = nameOf(RegionNumber::Top) == Name::dspTop;
     m_usesSizes = has(RegionNumber::Height);
     for (const QString& name : {Name::autoModeOffsetX, Name::autoModeOffsetY})
-        if (existing.contains(name))
+        if (has(name))
             m_originNames << name;
 }
 
@@ -112,6 +111,7 @@ bool AutoRegionCamera::followImage(bool isSizeTold)
 std::optional<QSizeF> AutoRegionCamera::readLimits()
 {
     using Number = Reading<double>;
+    const auto reads = m_manager.link()->manyReads();
     bool isTold = true;
     const auto part = [&](const QString& name, int parts, std::optional<double> Number::*which) {
         const Number reading = read(name, parts);

@@ -51,9 +51,8 @@ public:
 
     static bool hasAutoRegion(FeatureManager& manager);
 
-    bool has(const QString& name) const { return m_manager.HasFeature(name); }
-    /// All that the camera has by now, for who asks for many.
-    QStringList featureNames() const { return m_manager.GetFeatureNames(); }
+    bool has(const QString& name) const { return m_featureNames.contains(name); }
+    const QStringList& featureNames() const { return m_featureNames; }
     bool usesEdges() const { return m_usesEdges; }
     bool usesSizes() const { return m_usesSizes; }
 
@@ -126,6 +125,7 @@ private:
     int readSensorExtent(const FeatureNames::ImageAxis& axis);
 
     FeatureManager& m_manager;
+    const QStringList m_featureNames;                  ///< which do not change
     std::array<QString, regionNumbers.size()> m_names; ///< empty: the camera has no such number
     bool m_usesEdges = false;
     bool m_usesSizes = false;
