@@ -196,8 +196,10 @@ private:
         const int fault = m_random.below(5);
         m_character.isStrict = fault > 2;
         for (const std::string& name : m_names) {
+            // A region that cannot be selected cannot be shown.
+            const bool selects = name == "SubRegionSelector";
             if (fault == 0)
-                failByChance(name, Operations::writes(), Failure::refuse(),
+                failByChance(name, selects ? Operations() : Operations::writes(), Failure::refuse(),
                              m_random.pick({0.1, 1.0}));
             if (fault == 1 && name != "DeviceVendorName")
                 failByChance(name, cameraReads, Failure::refuse(), 0.02);
